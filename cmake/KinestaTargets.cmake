@@ -1,0 +1,60 @@
+# One target a module; a module links, and so can include, only what is named here.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+find_package(Threads REQUIRED)
+
+set(KINESTA_SANITIZE "" CACHE STRING "Value for -fsanitize=, empty for none")
+
+add_library(kinesta_options INTERFACE)
+target_compile_options(kinesta_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
+    -Woverloaded-virtual -Wcast-qual -Wformat=2 -Werror
+    # A recording gives the same gestures on every machine, also where products and sums could be fused.
+    -ffp-contract=off
+    # GCC 12 takes `"literal" + std::string()` for a copy onto itself when it inlines it (its bug 105651).
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+target_include_directories(kinesta_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+if(KINESTA_SANITIZE)
+    target_compile_options(kinesta_options INTERFACE
+        -fsanitize=${KINESTA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(kinesta_options INTERFACE -fsanitize=${KINESTA_SANITIZE})
+endif()
+
+# kinesta_module(NAME [SOURCES_DIR dir] [PUBLIC libs...] [PRIVATE libs...]): the static library of src/NAME.
+function(kinesta_module name)
+    cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    string(REPLACE "/" "_" target ${name})
+    if(sources)
+        add_library(kinesta_${target} STATIC ${sources})
+        target_link_libraries(kinesta_${target} PUBLIC kinesta_options Threads::Threads ${ARG_PUBLIC}
+            PRIVATE ${ARG_PRIVATE})
+    else()
+        add_library(kinesta_${target} INTERFACE)
+        target_link_libraries(kinesta_${target} INTERFACE kinesta_options Threads::Threads ${ARG_PUBLIC})
+    endif()
+endfunction()
+
+# kinesta_test(NAME LIBRARIES libs... [TIMEOUT seconds] [SERIAL]): the GoogleTest program of tests/NAME, each
+# test known to CTest. Tests that name the same lock run one after the other.
+function(kinesta_test name)
+    cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "LIBRARIES" ${ARGN})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 60)
+    endif()
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(test_${name} ${sources})
+    target_link_libraries(test_${name} PRIVATE kinesta_test_support ${ARG_LIBRARIES} GTest::gtest_main)
+    target_precompile_headers(test_${name} PRIVATE <gtest/gtest.h>)
+    set(properties TIMEOUT ${ARG_TIMEOUT})
+    if(ARG_SERIAL)
+        list(APPEND properties RUN_SERIAL TRUE)
+    endif()
+    gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX ${name}/ PROPERTIES ${properties})
+endfunction()

@@ -1,0 +1,82 @@
+#include "support/Text.h"
+
+#include <array>
+
+namespace kinesta {
+namespace {
+
+// UTF-8 forms of the code points that count as white space or line break.
+constexpr std::array<std::string_view, 25> kBlanks{" ",      "\t",     "\n",     "\v",     "\f",     "\r",     "\u0085",
+                                                   "\u00A0", "\u1680", "\u2000", "\u2001", "\u2002", "\u2003", "\u2004",
+                                                   "\u2005", "\u2006", "\u2007", "\u2008", "\u2009", "\u200A", "\u2028",
+                                                   "\u2029", "\u202F", "\u205F", "\u3000"};
+
+}  // namespace
+
+std::string_view trimmed(std::string_view text) {
+    for (bool found = true; found;) {
+        found = false;
+        for (const std::string_view blank : kBlanks) {
+            if (text.starts_with(blank)) {
+                text.remove_prefix(blank.size());
+                found = true;
+            }
+            if (text.ends_with(blank)) {
+                text.remove_suffix(blank.size());
+                found = true;
+            }
+        }
+    }
+    return text;
+}
+
+std::string lowerCased(std::string_view text) {
+    std::string result(text);
+    for (char& c : result)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    return result;
+}
+
+bool isUtf8(std::string_view bytes) {
+    for (std::size_t i = 0; i < bytes.size();) {
+        const auto lead = static_cast<unsigned char>(bytes[i++]);
+        if (lead < 0x80)
+            continue;
+        const int continuations = lead < 0xC2 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : lead < 0xF5 ? 3 : 0;
+        if (continuations == 0 || bytes.size() - i < static_cast<std::size_t>(continuations))
+            return false;
+        // The first continuation byte's range rules out overlong forms, surrogates and what is too large.
+        unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+        unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+        for (int left = continuations; left > 0; --left) {
+            const auto byte = static_cast<unsigned char>(bytes[i++]);
+            if (byte < lowest || byte > highest)
+                return false;
+            lowest = 0x80;
+            highest = 0xBF;
+        }
+    }
+    return true;
+}
+
+void appendUtf8(std::string& text, std::uint32_t codePoint) {
+    const auto put = [&text](std::uint32_t byte) { text.push_back(static_cast<char>(byte)); };
+    if (codePoint < 0x80) {
+        put(codePoint);
+    } else if (codePoint < 0x800) {
+        put(0xC0 | codePoint >> 6);
+        put(0x80 | (codePoint & 0x3F));
+    } else if (codePoint < 0x10000) {
+        put(0xE0 | codePoint >> 12);
+        put(0x80 | (codePoint >> 6 & 0x3F));
+        put(0x80 | (codePoint & 0x3F));
+    } else {
+        put(0xF0 | codePoint >> 18);
+        put(0x80 | (codePoint >> 12 & 0x3F));
+        put(0x80 | (codePoint >> 6 & 0x3F));
+        put(0x80 | (codePoint & 0x3F));
+    }
+}
+
+}  // namespace kinesta

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kinesta {
+
+/// The port to the person's stored settings: typed values under string keys. Main thread only.
+///
+/// A reader yields nothing when the key is absent or holds a value of another type; `contains` tells the two
+/// apart. `real` also reads an integer. Writers store at once; a failure to store is reported by the
+/// implementation and leaves the value readable in this process.
+class UserDefaults {
+  public:
+    virtual ~UserDefaults() = default;
+
+    virtual bool contains(std::string_view key) const = 0;
+    virtual std::optional<bool> boolean(std::string_view key) const = 0;
+    virtual std::optional<std::int64_t> integer(std::string_view key) const = 0;
+    virtual std::optional<double> real(std::string_view key) const = 0;
+    virtual std::optional<std::string> string(std::string_view key) const = 0;
+    /// Bytes of any content.
+    virtual std::optional<std::string> data(std::string_view key) const = 0;
+
+    virtual void setBoolean(std::string_view key, bool value) = 0;
+    virtual void setInteger(std::string_view key, std::int64_t value) = 0;
+    virtual void setReal(std::string_view key, double value) = 0;
+    virtual void setString(std::string_view key, std::string value) = 0;
+    virtual void setData(std::string_view key, std::string bytes) = 0;
+    virtual void remove(std::string_view key) = 0;
+};
+
+}  // namespace kinesta

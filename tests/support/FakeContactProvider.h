@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "input/TrackpadContactProviding.h"
+
+namespace kinesta::testing {
+
+/// A source of frames that the test sends itself, also on threads of its own. Tells how it was used.
+class FakeContactProvider final : public TrackpadContactProviding {
+  public:
+    std::vector<std::string> calls;
+    /// What start() leads to.
+    TrackpadContactProviderStatus statusAfterStart = TrackpadContactProviderStatus::listening();
+
+    FrameHandler frameHandler() const override { return m_handler.handler(); }
+    void setFrameHandler(FrameHandler handler) override { m_handler.setHandler(std::move(handler)); }
+    TrackpadContactProviderStatus status() const override { return m_status; }
+    void start() override {
+        calls.push_back("start");
+        m_status = statusAfterStart;
+    }
+    void stop() override {
+        calls.push_back("stop");
+        m_status = TrackpadContactProviderStatus::stopped();
+    }
+
+    /// Hands a frame over, started or not: a driver may be late.
+    void send(const TrackpadContactFrame& frame) const { m_handler.call(frame); }
+
+  private:
+    FrameHandlerSlot m_handler;
+    TrackpadContactProviderStatus m_status;
+};
+
+}  // namespace kinesta::testing

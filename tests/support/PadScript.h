@@ -1,0 +1,133 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+#include "input/RecordingEvent.h"
+
+namespace kinesta::testing {
+
+/// What fingers do on a pad, written down as a recording:
+///
+///     pad.at(0.00).down(1, {0.40, 0.50}).down(2, {0.55, 0.50})
+///        .at(0.10).up(1).at(0.12).up(2);
+///
+/// `at` moves on in time, never back; what follows under one `at` is one frame, in the order of the fingers' coming.
+/// A script that makes no sense fails the test.
+class PadScript {
+  public:
+    PadScript& at(Seconds time) {
+        flush();
+        check(time >= m_time, "at() goes back");
+        m_time = time;
+        return *this;
+    }
+    PadScript& after(Seconds pause) { return at(m_time + pause); }
+
+    PadScript& down(ContactId id, Point position) {
+        check(std::ranges::count(m_fingers, id, &TouchSample::id) == 0, "a finger comes down twice");
+        m_fingers.push_back({id, position});
+        return touch();
+    }
+    PadScript& move(ContactId id, Point position) {
+        find(id)->position = position;
+        return touch();
+    }
+    PadScript& up(ContactId id) {
+        m_fingers.erase(find(id));
+        return touch();
+    }
+    PadScript& upAll() {
+        m_fingers.clear();
+        return touch();
+    }
+    /// Fingers 1, 2 and so on come down side by side.
+    PadScript& land(int count, Point first = {0.4, 0.5}) {
+        for (ContactId id = 1; id <= count; ++id)
+            down(id, {first.x + 0.05 * (id - 1), first.y});
+        return *this;
+    }
+    PadScript& tap(Seconds lift, int fingers = 2) { return at(lift - 0.05).land(fingers).at(lift).upAll(); }
+    /// A frame like the one before.
+    PadScript& hold() { return touch(); }
+
+    /// Moves fingers together by `way` in frames of 8 ms; the last one is at the end of `duration` to the bit.
+    PadScript& glide(const std::vector<ContactId>& ids, Point way, Seconds duration) {
+        const Seconds start = m_time;
+        std::map<ContactId, Point> origins;
+        for (const ContactId id : ids)
+            origins[id] = find(id)->position;
+        const int frames = static_cast<int>(std::ceil(duration / 0.008 - 1e-9));
+        for (int frame = 1; frame <= frames; ++frame) {
+            const double part = frame < frames ? frame * 0.008 / duration : 1;
+            at(start + part * duration);
+            for (const auto& [id, origin] : origins)
+                move(id, {origin.x + part * way.x, origin.y + part * way.y});
+        }
+        return *this;
+    }
+
+    /// The button goes down or up, or deeper, after what the frame of this moment says.
+    PadScript& press() { return add(RecordedPointer::down); }
+    PadScript& release() { return add(RecordedPointer::up); }
+    PadScript& stage(std::int64_t stage) { return add(RecordedPressure{stage}); }
+    PadScript& click(Seconds down, Seconds up) { return at(down).press().at(up).release(); }
+    PadScript& setGestures(bool enabled) { return set(&RecordedSettings::gesturesEnabled, enabled); }
+    PadScript& setTapWaiting(int time) { return set(&RecordedSettings::tapWaitingMilliseconds, time); }
+    PadScript& setPalmRejection(bool enabled) { return set(&RecordedSettings::cornerPalmRejectionEnabled, enabled); }
+    /// Delays the arrival of this moment's frame: uptime against the driver's time.
+    PadScript& receivedAt(Uptime uptime) {
+        m_received = uptime;
+        return touch();
+    }
+
+    std::vector<RecordingEvent> events() const {
+        PadScript copy = *this;
+        copy.flush();
+        return copy.m_events;
+    }
+
+  private:
+    static void check(bool isGood, const char* complaint) {
+        if (!isGood)
+            throw std::logic_error(complaint);
+    }
+    std::vector<TouchSample>::iterator find(ContactId id) {
+        const auto found = std::ranges::find(m_fingers, id, &TouchSample::id);
+        check(found != m_fingers.end(), "no such finger is down");
+        return found;
+    }
+    PadScript& touch() {
+        m_isTouched = true;
+        return *this;
+    }
+    PadScript& add(decltype(RecordingEvent::content) content) {
+        flush();
+        m_events.push_back({m_time, std::move(content)});
+        return *this;
+    }
+    template <typename T>
+    PadScript& set(std::optional<T> RecordedSettings::*setting, T value) {
+        RecordedSettings settings;
+        settings.*setting = value;
+        return add(settings);
+    }
+    void flush() {
+        if (!std::exchange(m_isTouched, false))
+            return;
+        m_events.push_back({m_time, RecordedFrame{TouchSamples(std::span<const TouchSample>(m_fingers)),
+                                                  std::exchange(m_received, std::nullopt)}});
+    }
+
+    Seconds m_time = 0;
+    bool m_isTouched = false;
+    std::optional<Uptime> m_received;
+    std::vector<TouchSample> m_fingers;
+    std::vector<RecordingEvent> m_events;
+};
+
+}  // namespace kinesta::testing
