@@ -1,0 +1,65 @@
+#include "rules/GestureDescription.h"
+
+#include "support/Text.h"
+
+namespace kinesta {
+namespace {
+
+std::string withFingers(std::int64_t count, const std::string& text) {
+    return std::to_string(count) + "-finger " + text;
+}
+
+template <typename E>
+std::string titleOrDots(const std::optional<E>& value) {
+    return value ? lowerCased(title(*value)) : "…";
+}
+
+struct Describe {
+    std::string operator()(const DetectedTap& tap) const {
+        const std::string text = lowerCased(title(tap.gesture));
+        return usesFingerCount(tap.gesture) ? withFingers(tap.fingerCount, text) : text;
+    }
+    std::string operator()(const DetectedEdgeSlide& slide) const {
+        return withFingers(slide.fingerCount,
+                           lowerCased(title(slide.side)) + " edge slide " + (slide.steps >= 1 ? "up" : "down"));
+    }
+    std::string operator()(const DetectedAnchorDraw& draw) const {
+        return lowerCased(title(draw.corner)) + " " + lowerCased(title(draw.pattern));
+    }
+};
+
+}  // namespace
+
+std::string describe(const DetectedGesture& detected) { return std::visit(Describe{}, detected); }
+
+std::string describeTrigger(const GestureRule& rule) {
+    if (!isConfigured(rule.gesture))
+        return "…";
+    std::string text = lowerCased(title(rule.gesture));
+    if (usesFingerCount(rule.gesture))
+        text = (rule.fingerCount ? std::to_string(*rule.fingerCount) : std::string("…")) + "-finger " + text;
+    if (rule.gesture == GestureKind::edgeSlide)
+        text += rule.resolvedEdgeSlideSide() == EdgeSlideSide::both ? ", both edges"
+                                                                    : ", " + titleOrDots(rule.edgeSlideSide) + " edge";
+    if (rule.gesture == GestureKind::anchorDraw)
+        text += ", " + titleOrDots(rule.anchorCorner) + ", " + titleOrDots(rule.drawPattern);
+    return text;
+}
+
+std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected) {
+    for (const GestureRule& rule : rules) {
+        GestureRule completed = rule;
+        completed.isEnabled = true;
+        if (!completed.action.isConfigured())
+            completed.action.kind = ActionKind::middleClick;
+        if (selectRule({&completed, 1}, detected, ShellCommands::allowed) == nullptr)
+            continue;
+        const std::string name = rule.name.empty() ? "a rule for it" : "the rule “" + rule.name + "”";
+        if (!rule.action.isConfigured())
+            return name + " has no complete action";
+        return name + (rule.isEnabled ? " runs a shell command, and those are switched off" : " is off");
+    }
+    return "no rule is bound to it";
+}
+
+}  // namespace kinesta

@@ -1,0 +1,65 @@
+#include "rules/GestureTypeChoice.h"
+
+#include <array>
+
+namespace kinesta {
+
+template <>
+std::span<const EnumRow<GestureTypeChoice>> enumTable() {
+    using enum GestureTypeChoice;
+    static constexpr std::array<EnumRow<GestureTypeChoice>, 9> kTable{{
+        {unconfigured, "unconfigured", "Choose a type…"},
+        {tap, "tap", "Tap"},
+        {physicalClick, "physicalClick", "Physical click (any pressure)"},
+        {softClick, "softClick", "Soft click (stage 1)"},
+        {forceClick, "forceClick", "Force Click (stage 2)"},
+        {tipTapLeft, "tipTapLeft", "Tip-tap left"},
+        {tipTapRight, "tipTapRight", "Tip-tap right"},
+        {edgeSlide, "edgeSlide", "Vertical edge slide"},
+        {anchorDraw, "anchorDraw", "Corner hold and draw (prototype)"},
+    }};
+    return kTable;
+}
+
+GestureKind gestureKind(GestureTypeChoice choice, std::int64_t repetitions) {
+    const std::int64_t count = repetitions >= 1 && repetitions <= 3 ? repetitions : 1;
+    std::optional<GestureKind> kind;
+    switch (choice) {
+        case GestureTypeChoice::unconfigured:
+            break;
+        case GestureTypeChoice::tap:
+            kind = tapGesture(count);
+            break;
+        case GestureTypeChoice::physicalClick:
+            kind = physicalClickGesture(count, std::nullopt);
+            break;
+        case GestureTypeChoice::softClick:
+            kind = physicalClickGesture(count, PhysicalClickPressure::soft);
+            break;
+        case GestureTypeChoice::forceClick:
+            kind = physicalClickGesture(count, PhysicalClickPressure::force);
+            break;
+        case GestureTypeChoice::tipTapLeft:
+            kind = tipTapGesture(count, TipTapDirection::left);
+            break;
+        case GestureTypeChoice::tipTapRight:
+            kind = tipTapGesture(count, TipTapDirection::right);
+            break;
+        case GestureTypeChoice::edgeSlide:
+            kind = GestureKind::edgeSlide;
+            break;
+        case GestureTypeChoice::anchorDraw:
+            kind = GestureKind::anchorDraw;
+            break;
+    }
+    return kind.value_or(GestureKind::unconfigured);
+}
+
+GestureTypeChoice gestureTypeChoice(GestureKind kind) {
+    for (const auto& row : enumTable<GestureTypeChoice>())
+        if (gestureKind(row.value, repetitionCount(kind).value_or(1)) == kind)
+            return row.value;
+    return GestureTypeChoice::unconfigured;
+}
+
+}  // namespace kinesta

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <set>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "rules/GestureRule.h"
+#include "support/Published.h"
+#include "support/UserDefaults.h"
+
+namespace kinesta {
+
+/// What came of an attempt to enable or disable.
+enum class RuleEnablementResult { changed, unchanged, ruleNotReady };
+
+/// The one ordered list of rules, saved after every change. Main thread only.
+class RuleStore {
+  public:
+    static constexpr std::string_view storageKey = "gestureRules.v1";
+
+    /// A read-write view of one rule for an editor. Must not outlive the store.
+    class Binding {
+      public:
+        Binding(RuleStore& store, Uuid id) : m_store(&store), m_id(id) {}
+
+        /// The rule, or the recommended default once the rule is gone.
+        GestureRule get() const;
+        /// Replaces the rule, disabled if it is not ready, and saves. Nothing if the rule is gone.
+        void set(GestureRule rule) const;
+
+      private:
+        RuleStore* m_store;
+        Uuid m_id;
+    };
+
+    /// Loads the stored list; starts with the recommended default rule, unsaved, when there is none that decodes.
+    /// `defaults` must outlive the store.
+    explicit RuleStore(UserDefaults& defaults);
+
+    const Published<std::vector<GestureRule>>& rules() const { return m_rules; }
+
+    /// Appends a blank, disabled rule.
+    Uuid addRule();
+    void deleteRules(const std::set<Uuid>& ids);
+    /// Moves the rules at `fromOffsets` before the rule that was at `toOffset` (the list's length: to the end),
+    /// keeping their order. Offsets beyond the list are ignored.
+    void moveRules(const std::set<std::size_t>& fromOffsets, std::size_t toOffset);
+    RuleEnablementResult setRuleEnabled(const Uuid& id, bool enabled);
+    bool canEnableAllRules() const;
+    RuleEnablementResult enableAllRules();
+    void disableAllRules();
+    /// Replaces the whole list, as an import does; enabled rules that are not ready are switched off.
+    void replaceRules(std::vector<GestureRule> rules);
+    std::optional<Binding> binding(const Uuid& id);
+    /// Reads the stored list again, after another process changed it; publishes only a list that differs. A removed
+    /// list is the default one; one that does not decode leaves the present list as it is.
+    void reload();
+
+    /// The list with every enabled shell-command rule that was not acknowledged switched off.
+    static std::vector<GestureRule> disablingUnacknowledgedShellRules(std::vector<GestureRule> rules);
+
+    void save();
+
+  private:
+    void publishIfChanged(std::vector<GestureRule> rules);
+    void change(std::vector<GestureRule> rules);
+
+    UserDefaults& m_defaults;
+    Published<std::vector<GestureRule>> m_rules;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,268 @@
+#include "rules/RuleStore.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "RuleMaking.h"
+#include "rules/GestureRuleCoding.h"
+#include "support/FakeUserDefaults.h"
+
+namespace kinesta {
+namespace {
+
+using Result = RuleEnablementResult;
+
+constexpr std::string_view kKey = "gestureRules.v1";
+
+GestureRule shellRule(std::optional<bool> acknowledged) {
+    GestureRule rule = makeRule(GestureKind::singleTap, 4, ActionKind::shellCommand);
+    rule.action.value = "ls";
+    rule.action.shellCommandAcknowledged = acknowledged;
+    return rule;
+}
+
+GestureRule disabled(GestureRule rule) {
+    rule.isEnabled = false;
+    return rule;
+}
+
+/// A store over settings that hold a list, and what its observers were told.
+struct Fixture {
+    explicit Fixture(const std::vector<GestureRule>& rules) {
+        defaults.setData(kKey, encodeRules(rules));
+        defaults.writes = 0;
+        start();
+    }
+    explicit Fixture(std::optional<std::string> bytes) {
+        if (bytes)
+            defaults.setData(kKey, *bytes);
+        defaults.writes = 0;
+        start();
+    }
+
+    void start() {
+        store.emplace(defaults);
+        subscription = store->rules().observe([this](const auto&) { ++published; });
+    }
+
+    const std::vector<GestureRule>& rules() const { return store->rules().value(); }
+
+    /// "published/written" since the last call; every written list must be the one in memory.
+    std::string changes() {
+        EXPECT_TRUE(defaults.writes == 0 || defaults.data(kKey) == encodeRules(rules()));
+        std::string text = std::to_string(std::exchange(published, 0)) + "/";
+        return text + std::to_string(std::exchange(defaults.writes, 0));
+    }
+
+    FakeUserDefaults defaults;
+    std::optional<RuleStore> store;
+    Subscription subscription;
+    int published = 0;
+};
+
+TEST(RuleStore, StartsWithTheDefaultRuleAndLeavesTheStoredBytes) {
+    const std::string spoilt =
+        R"([{"id":"11111111-2222-4333-8444-AAAAAAAAAAAA","name":"","isEnabled":true,)"
+        R"("gesture":"singleTipTapLeft","action":{"kind":"middleClick","modifiers":0,"value":""}}])";
+    for (const std::optional<std::string>& bytes :
+         {std::optional<std::string>(), std::optional<std::string>(""), std::optional(spoilt)}) {
+        Fixture fixture(bytes);
+        EXPECT_EQ(fixture.rules(), std::vector{GestureRule::recommendedDefault()});
+        EXPECT_EQ(fixture.defaults.writes, 0);
+        EXPECT_EQ(fixture.defaults.data(kKey), bytes);
+        fixture.store->deleteRules({Uuid::random()});
+        fixture.store->moveRules({}, 0);
+        fixture.store->moveRules({1}, 0);
+        EXPECT_EQ(fixture.changes(), "0/0") << "nothing came of it, so nothing is overwritten";
+        fixture.store->addRule();
+        EXPECT_EQ(fixture.changes(), "1/1");
+        fixture.start();
+        EXPECT_EQ(fixture.rules().size(), 2U);
+    }
+    EXPECT_TRUE(Fixture(std::vector<GestureRule>{}).rules().empty()) << "an empty list is a list";
+}
+
+TEST(RuleStore, UnacknowledgedShellRulesComeBackSwitchedOffAndAreSavedSo) {
+    const std::vector<GestureRule> others{shellRule(true), disabled(shellRule(std::nullopt)),
+                                          makeRule(GestureKind::singleTap), makeRule(GestureKind::unconfigured)};
+    Fixture quiet(others);
+    EXPECT_EQ(quiet.rules(), others) << "a rule that is not ready stays as it was stored";
+    EXPECT_EQ(quiet.changes(), "0/0");
+    for (const std::optional<bool> acknowledged : {std::optional<bool>(), std::optional(false)}) {
+        const GestureRule shell = shellRule(acknowledged);
+        Fixture fixture(std::vector{others[0], shell, others[2]});
+        EXPECT_EQ(fixture.rules(), (std::vector{others[0], disabled(shell), others[2]}));
+        EXPECT_EQ(fixture.changes(), "0/1");
+    }
+}
+
+TEST(RuleStore, AddsABlankRuleAtTheEndAndDeletesByIdentity) {
+    std::vector<GestureRule> rules(5, makeRule(GestureKind::tipTapLeft));
+    for (GestureRule& rule : rules)
+        rule.id = Uuid::random();
+    rules[3].id = rules[1].id;
+    Fixture fixture(rules);
+    GestureRule blank;
+    blank.id = fixture.store->addRule();
+    EXPECT_EQ(fixture.rules().back(), blank);
+    EXPECT_EQ(fixture.changes(), "1/1");
+    fixture.store->deleteRules({blank.id, rules[1].id, Uuid::random()});
+    EXPECT_EQ(fixture.rules(), (std::vector{rules[0], rules[2], rules[4]}));
+    EXPECT_EQ(fixture.changes(), "1/1");
+}
+
+// A mark stands where the rules shall go; they are taken out one by one and put before the mark.
+std::string movedByMark(std::string list, const std::set<std::size_t>& from, std::size_t to) {
+    std::string moved;
+    for (const std::size_t offset : from)
+        moved += list[offset];
+    list.insert(to, "|");
+    std::erase_if(list, [&](char c) { return moved.find(c) != std::string::npos; });
+    return list.replace(list.find('|'), 1, moved);
+}
+
+TEST(RuleStore, MovesAnySelectionAnywhere) {
+    const std::string letters = "abcde";
+    std::vector<GestureRule> rules;
+    for (const char letter : letters) {
+        rules.push_back(makeRule(GestureKind::tipTapLeft));
+        rules.back().name = letter;
+    }
+    Fixture fixture(rules);
+    for (unsigned subset = 0; subset < 32; ++subset) {
+        std::set<std::size_t> from;
+        for (std::size_t i = 0; i < 5; ++i)
+            if ((subset >> i & 1U) != 0)
+                from.insert(i);
+        for (std::size_t to = 0; to <= 7; ++to) {
+            fixture.store->replaceRules(rules);
+            fixture.changes();
+            auto withStray = from;
+            withStray.insert({5, 9});
+            fixture.store->moveRules(withStray, to);
+            std::string names;
+            for (const GestureRule& rule : fixture.rules())
+                names += rule.name;
+            EXPECT_EQ(names, movedByMark(letters, from, std::min<std::size_t>(to, 5))) << subset << " to " << to;
+            EXPECT_EQ(fixture.changes(), from.empty() ? "0/0" : "1/1");
+        }
+    }
+}
+
+TEST(RuleStore, EnablesOneRuleOnlyWhenReady) {
+    const std::vector<GestureRule> rules{makeRule(GestureKind::singleTap, 3),
+                                         disabled(makeRule(GestureKind::singleTap)),
+                                         disabled(makeRule(GestureKind::tipTapLeft))};
+    Fixture fixture(rules);
+    const auto set = [&](const Uuid& id, bool enabled) { return fixture.store->setRuleEnabled(id, enabled); };
+    EXPECT_EQ(set(Uuid::random(), true), Result::unchanged);
+    EXPECT_EQ(set(rules[0].id, true), Result::unchanged);
+    EXPECT_EQ(set(rules[1].id, false), Result::unchanged);
+    EXPECT_EQ(set(rules[1].id, true), Result::ruleNotReady);
+    EXPECT_EQ(fixture.changes(), "0/0");
+    EXPECT_EQ(set(rules[2].id, true), Result::changed);
+    EXPECT_EQ(set(rules[0].id, false), Result::changed);
+    EXPECT_EQ(fixture.changes(), "2/2");
+    EXPECT_FALSE(fixture.rules()[0].isEnabled || fixture.rules()[1].isEnabled);
+    EXPECT_TRUE(fixture.rules()[2].isEnabled);
+}
+
+TEST(RuleStore, EnablesAllThatAreReadyAndDisablesAll) {
+    const GestureRule ready = makeRule(GestureKind::tipTapLeft);
+    const GestureRule unready = makeRule(GestureKind::singleTap);
+    Fixture fixture(std::vector{disabled(ready), disabled(unready), disabled(ready), unready});
+    const auto states = [&] {
+        std::string text;
+        for (const GestureRule& rule : fixture.rules())
+            text += rule.isEnabled ? '1' : '0';
+        return text;
+    };
+    EXPECT_TRUE(fixture.store->canEnableAllRules());
+    EXPECT_EQ(fixture.store->enableAllRules(), Result::changed);
+    EXPECT_EQ(states() + " " + fixture.changes(), "1011 1/1");
+    EXPECT_FALSE(fixture.store->canEnableAllRules());
+    EXPECT_EQ(fixture.store->enableAllRules(), Result::unchanged);
+    EXPECT_EQ(fixture.changes(), "0/0");
+    fixture.store->disableAllRules();
+    EXPECT_EQ(states() + " " + fixture.changes(), "0000 1/1");
+    fixture.store->disableAllRules();
+    EXPECT_EQ(fixture.changes(), "0/0");
+}
+
+TEST(RuleStore, ABindingFollowsItsRule) {
+    const std::vector<GestureRule> rules{makeRule(GestureKind::tipTapLeft), makeRule(GestureKind::tipTapRight)};
+    Fixture fixture(rules);
+    EXPECT_FALSE(fixture.store->binding(Uuid::random()));
+    const auto binding = fixture.store->binding(rules[1].id);
+    ASSERT_TRUE(binding);
+    fixture.store->moveRules({1}, 0);
+    EXPECT_EQ(binding->get(), rules[1]);
+    GestureRule edited = rules[1];
+    edited.name = "Edited";
+    fixture.changes();
+    binding->set(edited);
+    EXPECT_EQ(fixture.rules(), (std::vector{edited, rules[0]}));
+    EXPECT_EQ(fixture.changes(), "1/1");
+    edited.action = {};
+    binding->set(edited);
+    EXPECT_EQ(binding->get(), disabled(edited)) << "cleared, so switched off";
+    fixture.store->deleteRules({edited.id});
+    fixture.changes();
+    EXPECT_EQ(binding->get(), GestureRule::recommendedDefault());
+    binding->set(rules[1]);
+    EXPECT_EQ(fixture.rules(), std::vector{rules[0]});
+    EXPECT_EQ(fixture.changes(), "0/0");
+}
+
+TEST(RuleStore, ReplacesTheListWithTheUnreadySwitchedOff) {
+    const GestureRule ready = makeRule(GestureKind::tipTapLeft);
+    const GestureRule unready = makeRule(GestureKind::singleTap);
+    const GestureRule shell = shellRule(std::nullopt);
+    Fixture fixture(std::vector{ready});
+    fixture.store->replaceRules({shell, shellRule(true), unready, disabled(ready)});
+    EXPECT_EQ(fixture.changes(), "1/1");
+    EXPECT_EQ(fixture.rules()[0], disabled(shell));
+    EXPECT_TRUE(fixture.rules()[1].isEnabled);
+    EXPECT_EQ(fixture.rules()[2], disabled(unready));
+    EXPECT_EQ(fixture.rules()[3], disabled(ready));
+}
+
+TEST(RuleStore, ReloadPublishesOnlyWhatDiffers) {
+    const GestureRule rule = makeRule(GestureKind::tipTapLeft);
+    const GestureRule shell = shellRule(std::nullopt);
+    Fixture fixture(std::vector{rule});
+    const auto reload = [&](const std::string& bytes) {
+        fixture.defaults.setData(kKey, bytes);
+        fixture.defaults.writes = 0;
+        fixture.store->reload();
+        return std::to_string(std::exchange(fixture.published, 0)) + "/" + std::to_string(fixture.defaults.writes);
+    };
+    EXPECT_EQ(reload(encodeRules(std::vector{rule}, RuleListLayout::indented)), "0/0");
+    EXPECT_EQ(reload("[{]"), "0/0");
+    EXPECT_EQ(fixture.rules(), std::vector{rule}) << "a slip in a text editor does not cost the rules at work";
+    EXPECT_EQ(reload(encodeRules(std::vector{shell, rule})), "1/1");
+    EXPECT_EQ(fixture.rules(), (std::vector{disabled(shell), rule}));
+    EXPECT_EQ(reload(encodeRules(std::vector{shell, rule})), "0/1") << "switched off again, which changes nothing here";
+    fixture.defaults.remove(kKey);
+    fixture.store->reload();
+    fixture.store->reload();
+    EXPECT_EQ(fixture.rules(), std::vector{GestureRule::recommendedDefault()});
+    EXPECT_EQ(fixture.published, 1);
+    EXPECT_FALSE(fixture.defaults.contains(kKey));
+}
+
+TEST(RuleStore, AnObserverMayChangeTheListAgain) {
+    const std::vector<GestureRule> rules{disabled(makeRule(GestureKind::tipTapLeft))};
+    Fixture fixture(rules);
+    const auto again = fixture.store->rules().observe([&](const auto& list) {
+        if (list.size() < 4)
+            fixture.store->addRule();
+    });
+    EXPECT_EQ(fixture.store->setRuleEnabled(rules[0].id, true), Result::changed);
+    EXPECT_EQ(fixture.rules().size(), 4U);
+    EXPECT_EQ(fixture.defaults.data(kKey), encodeRules(fixture.rules()));
+}
+
+}  // namespace
+}  // namespace kinesta
