@@ -1,0 +1,68 @@
+// Plays any bytes as the events of a pad. Whatever a driver sends, frames and buttons must keep their promises.
+
+#include <fuzzer/FuzzedDataProvider.h>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+#include "input/ContactIdSet.h"
+#include "input/EvdevFrameAssembler.h"
+
+using namespace kinesta;
+
+namespace {
+
+// What the assembler knows, so that most of what the fuzzer tries means something.
+constexpr std::uint16_t kKnownCodes[] = {0x00,  0x01,  0x02,  0x03,  0x18,  0x2f,  0x30,  0x35,  0x36, 0x39,
+                                         0x110, 0x111, 0x145, 0x148, 0x14a, 0x14d, 0x14e, 0x14f, 0x3f};
+
+class Checker {
+  public:
+    void check(const RecordingEvent& event, Seconds time) {
+        require(event.time == time);
+        if (const auto* pointer = std::get_if<RecordedPointer>(&event.content)) {
+            m_buttonsDown += *pointer == RecordedPointer::down ? 1 : -1;
+            require(m_buttonsDown >= 0 && m_buttonsDown <= 2);
+            return;
+        }
+        const auto* frame = std::get_if<RecordedFrame>(&event.content);
+        require(frame && (m_hadFingers || !frame->samples.empty()));
+        m_hadFingers = !frame->samples.empty();
+        require(ContactIdSet(frame->samples).size() == frame->samples.size());
+        for (const TouchSample& sample : frame->samples)
+            require(sample.id != -1 && isOnPad(sample.position.x) && isOnPad(sample.position.y));
+    }
+
+  private:
+    static void require(bool condition) {
+        if (!condition)
+            std::abort();
+    }
+    static bool isOnPad(double coordinate) { return coordinate >= 0 && coordinate <= 1; }
+
+    bool m_hadFingers = false;
+    int m_buttonsDown = 0;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    EvdevTouchpad touchpad;
+    touchpad.slotCount = input.ConsumeBool() ? input.ConsumeIntegralInRange(-1, 6) : input.ConsumeIntegral<int>();
+    for (EvdevAxisRange* range : {&touchpad.x, &touchpad.y})
+        *range = {input.ConsumeIntegral<std::int32_t>(), input.ConsumeIntegral<std::int32_t>()};
+    EvdevFrameAssembler assembler(touchpad);
+    Checker checker;
+    Seconds time = 0;
+    while (input.remaining_bytes() > 0) {
+        time += 1;
+        EvdevEvent event{.time = time};
+        event.type = input.ConsumeIntegralInRange<std::uint16_t>(0, 4);
+        event.code = input.PickValueInArray(kKnownCodes);
+        event.value = input.ConsumeBool() ? input.ConsumeIntegralInRange<std::int32_t>(-2, 9)
+                                          : input.ConsumeIntegral<std::int32_t>();
+        assembler.process(event, [&](const RecordingEvent& made) { checker.check(made, time); });
+    }
+    return 0;
+}

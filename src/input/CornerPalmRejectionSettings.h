@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string_view>
+
+#include "support/Point.h"
+
+namespace kinesta {
+
+/// The person's choice whether contacts that start in a corner of the pad count as palms, and how large a corner is.
+struct CornerPalmRejectionSettings {
+    static constexpr double defaultSensitivity = 0.5;
+    static constexpr std::string_view enabledStorageKey = "cornerPalmRejectionEnabled.v1";
+    static constexpr std::string_view sensitivityStorageKey = "cornerPalmRejectionSensitivity.v1";
+
+    bool isEnabled = false;
+    /// 0…1: the larger, the larger the corners.
+    double sensitivity = defaultSensitivity;
+
+    /// `value` clamped to 0…1; the default for a value that is not finite.
+    static double clampedSensitivity(double value);
+
+    /// Side of the corner squares in normalized units, 0.03…0.18.
+    double cornerInset() const;
+
+    /// Whether `point` lies in one of the four corner squares, their inner edges included.
+    bool contains(Point point) const;
+
+    friend bool operator==(const CornerPalmRejectionSettings&, const CornerPalmRejectionSettings&) = default;
+};
+
+}  // namespace kinesta

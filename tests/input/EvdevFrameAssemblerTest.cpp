@@ -1,0 +1,192 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <map>
+#include <sstream>
+
+#include "RecordingText.h"
+#include "input/EvdevCodes.h"
+#include "input/EvdevFrameAssembler.h"
+
+namespace kinesta {
+namespace {
+
+constexpr int kLeast = std::numeric_limits<int>::min();
+constexpr int kMost = std::numeric_limits<int>::max();
+
+EvdevTouchpad pad(int slots, EvdevAxisRange x = {0, 1000}, EvdevAxisRange y = {0, 1000}) {
+    return {.name = "pad", .x = x, .y = y, .slotCount = slots};
+}
+
+/// Plays "word value word value / word value /", in which "/" ends a report at the time of its number, and gives what
+/// comes out, joined by "; ".
+std::string play(const EvdevTouchpad& touchpad, const std::string& script) {
+    static const std::map<std::string, std::pair<std::uint16_t, std::uint16_t>> words{
+        {"slot", {evdev::kTypeAbs, evdev::kAbsMtSlot}},
+        {"id", {evdev::kTypeAbs, evdev::kAbsMtTrackingId}},
+        {"x", {evdev::kTypeAbs, evdev::kAbsMtPositionX}},
+        {"y", {evdev::kTypeAbs, evdev::kAbsMtPositionY}},
+        {"major", {evdev::kTypeAbs, evdev::kAbsMtTouchMajor}},
+        {"onlyX", {evdev::kTypeAbs, evdev::kAbsX}},
+        {"onlyY", {evdev::kTypeAbs, evdev::kAbsY}},
+        {"pressure", {evdev::kTypeAbs, evdev::kAbsPressure}},
+        {"touch", {evdev::kTypeKey, evdev::kBtnTouch}},
+        {"one", {evdev::kTypeKey, evdev::kBtnToolFinger}},
+        {"two", {evdev::kTypeKey, evdev::kBtnToolDoubleTap}},
+        {"three", {evdev::kTypeKey, evdev::kBtnToolTripleTap}},
+        {"four", {evdev::kTypeKey, evdev::kBtnToolQuadTap}},
+        {"five", {evdev::kTypeKey, evdev::kBtnToolQuintTap}},
+        {"left", {evdev::kTypeKey, evdev::kBtnLeft}},
+        {"right", {evdev::kTypeKey, evdev::kBtnRight}},
+    };
+    std::string result;
+    EvdevFrameAssembler assembler(touchpad);
+    const auto sink = [&](const RecordingEvent& event) { result += (result.empty() ? "" : "; ") + eventText(event); };
+    Seconds time = 1;
+    std::istringstream input(script);
+    for (std::string word; input >> word;) {
+        EvdevEvent event{.time = time, .type = evdev::kTypeSyn};
+        if (word == "/") {
+            time += 1;
+        } else if (word == "mt") {
+            event.code = evdev::kSynMtReport;
+        } else if (word == "drop") {
+            event.code = evdev::kSynDropped;
+        } else {
+            std::tie(event.type, event.code) = words.at(word);
+            input >> event.value;
+        }
+        assembler.process(event, sink);
+    }
+    return result.empty() ? "nothing" : result;
+}
+
+/// Checks rows "what is special: script => events".
+void check(int slots, const std::string& table) {
+    for (const auto& [left, expected] : tableRows(table))
+        EXPECT_EQ(play(pad(slots), left.substr(left.find(": ") + 2)), expected) << left;
+}
+
+TEST(EvdevFrameAssembler, FollowsSlots) {
+    check(2, R"(
+a finger comes, moves and goes, once: id 5 x 100 y 200 / x 300 / id -1 / / => 1 5@0.1,0.8; 2 5@0.3,0.8; 3 no finger
+the next shares what is not told: id 5 x 100 y 200 / id -1 / id 6 y 300 / => 1 5@0.1,0.8; 2 no finger; 3 6@0.1,0.7
+a finger follows another without a gap: id 5 x 100 y 200 / id 6 / => 1 5@0.1,0.8; 2 6@0.1,0.8
+an identifier moves to another slot: id 5 x 0 y 0 / slot 1 id 5 x 500 y 0 / => 1 5@0,1; 2 5@0.5,1
+any negative identifier is a lift: id 5 x 0 y 0 / id -2147483648 / => 1 5@0,1; 2 no finger
+no such slots: slot 2147483647 id 1 slot -1 id 2 slot 2 id 3 x 9 y 9 / slot 0 id 4 x 0 y 0 / => 2 4@0,1
+places outside the pad: id 5 x 5000 y -5 / x -2147483648 y 2147483647 / => 1 5@1,1; 2 5@0,0
+slot order, not that of arrival: slot 1 id 9 x 0 y 0 / slot 0 id 3 x 500 y 0 / => 1 9@0,1; 2 3@0.5,1 9@0,1
+)");
+}
+
+TEST(EvdevFrameAssembler, CountsFingersBeyondTheSlots) {
+    check(2, R"(
+at the first: slot 1 id 8 x 100 y 0 / slot 0 id 7 x 500 y 0 four 1 / => 1 8@0.1,1; 2 7@0.5,1 8@0.1,1 -2@0.1,1 -3@0.1,1
+three after four: id 7 x 0 y 0 four 1 / four 0 three 1 / => 1 7@0,1 -2@0,1 -3@0,1 -4@0,1; 2 7@0,1 -2@0,1 -3@0,1
+left: id 7 x 0 y 0 slot 1 id 8 x 1000 y 0 three 1 / slot 0 id -1 / => 1 7@0,1 8@1,1 -2@0,1; 2 8@1,1 -2@1,1 -3@1,1
+five, and the highest number holds: id 1 x 0 y 0 five 1 two 1 / => 1 1@0,1 -2@0,1 -3@0,1 -4@0,1 -5@0,1
+fewer than there are: id 1 x 0 y 0 slot 1 id 2 x 500 y 0 one 1 / => 1 1@0,1 2@0.5,1
+fingers that only hover: three 1 / three 0 / => nothing
+a place never told is that of the first: id 7 x 500 y 0 slot 1 id 8 / => 1 7@0.5,1 8@0.5,1
+half a place never told: id 7 x 500 y 250 slot 1 id 8 y 1000 / => 1 7@0.5,0.75 8@0.5,0
+the first's own place never told: id 7 slot 1 id 8 x 0 y 0 three 1 / => 1 7@0.5,0.5 8@0,1 -2@0.5,0.5
+)");
+}
+
+TEST(EvdevFrameAssembler, TellsButtonsAfterTheFrame) {
+    check(2, R"(
+with a finger: left 1 id 5 x 0 y 0 / / left 0 / => 1 5@0,1; 1 down; 2 5@0,1; 3 5@0,1; 3 up
+without: / left 1 / left 0 / => 2 down; 3 up
+both, in their order: right 1 left 1 right 0 / left 0 / => 1 down; 1 down; 1 up; 2 up
+repeats and what is no news: left 0 / left 1 / left 2 / left 1 / left 0 / left 0 / => 2 down; 5 up
+)");
+    std::string storm;
+    std::string expected;
+    for (int i = 0; i < 101; ++i) {
+        storm += i % 2 == 0 ? "left 1 " : "left 0 ";
+        if (i < 32)
+            expected += i % 2 == 0 ? "1 down; " : "1 up; ";
+    }
+    EXPECT_EQ(play(pad(2), storm + "/ left 0 / left 1 / left 0 /"), expected + "3 down; 4 up");
+}
+
+TEST(EvdevFrameAssembler, IgnoresWhatFollowsADrop) {
+    check(2, R"(
+to the end of the report: id 5 x 100 y 0 / drop id -1 x 9 left 1 three 1 / x 200 / => 1 5@0.1,1; 3 5@0.2,1
+what came before it holds: id 5 x 100 y 0 left 1 drop x 900 / / => 2 5@0.1,1; 2 down
+the real state: id 5 x 100 y 0 left 1 / drop / id -1 left 0 one 0 / left 0 / => 1 5@0.1,1; 1 down; 3 no finger; 3 up
+)");
+    check(0, R"(
+half a report: x 100 y 0 mt x 300 y 0 drop y 0 mt / x 100 y 0 mt / drop mt / left 1 / => 2 1@0.1,1; 4 1@0.1,1; 4 down
+)");
+}
+
+TEST(EvdevFrameAssembler, MatchesNamelessContacts) {
+    check(0, R"(
+by place: x 100 y 0 mt x 800 y 0 mt / x 790 y 0 mt x 110 y 0 mt / => 1 1@0.1,1 2@0.8,1; 2 2@0.79,1 1@0.11,1
+the nearest pair first: x 0 y 0 mt x 500 y 0 mt / x 400 y 0 mt / => 1 1@0,1 2@0.5,1; 2 2@0.4,1
+a finger where another has just left: x 800 y 0 mt / x 800 y 0 major 0 mt x 805 y 0 mt / => 1 1@0.8,1; 2 2@0.805,1
+the lift that is an empty contact: x 100 y 0 mt / mt / => 1 1@0.1,1; 2 no finger
+the lift that is told by a key: x 100 y 0 mt touch 1 / touch 0 / => 1 1@0.1,1; 2 no finger
+the lift that is told by the pressure: x 100 y 0 mt / pressure 0 / => 1 1@0.1,1; 2 no finger
+a button alone is no lift: x 100 y 0 mt touch 1 / left 1 / => 1 1@0.1,1; 2 1@0.1,1; 2 down
+keys do not outdo contacts: x 100 y 0 mt touch 1 three 1 / x 100 y 0 mt touch 0 / => 1 1@0.1,1; 2 1@0.1,1
+a contact without a place is none: x 100 y 0 mt x 5 mt y 5 major 3 mt / => 1 1@0.1,1
+own ids: x 100 y 0 id 7 mt x 200 y 0 id 1 mt / x 190 y 0 id 7 mt x 500 y 0 mt / => 1 7@0.1,1 1@0.2,1; 2 7@0.19,1 1@0.5,1
+the same twice: x 100 y 0 id 2 mt x 200 y 0 id 2 mt x 300 y 0 id -4 mt / => 1 2@0.1,1 1@0.2,1 3@0.3,1
+)");
+    EXPECT_EQ(play(pad(0),
+                   "x 100 y 0 major 9 mt x 800 y 0 major 9 mt / x 100 y 0 major 0 mt x 800 y 0 major 9 mt / "
+                   "x 100 y 0 major 0 mt x 800 y 0 major 0 mt / x 100 y 0 major 0 mt /"),
+              "1 1@0.1,1 2@0.8,1; 2 2@0.8,1; 3 no finger")
+        << "size 0 is a lift, told again and again";
+    EXPECT_EQ(play(pad(0),
+                   "x 800 y 0 mt / x 800 y 0 major 0 mt / x 800 y 0 major 0 mt x 820 y 0 major 5 mt / "
+                   "x 800 y 0 major 0 mt x 801 y 0 major 5 mt /"),
+              "1 1@0.8,1; 2 no finger; 3 2@0.82,1; 4 2@0.801,1")
+        << "a finger beside one that is listed after its lift";
+    std::string crowd;
+    for (int i = 0; i < 200; ++i)
+        crowd += "x " + std::to_string(i) + " y 0 mt ";
+    const std::string frame = play(pad(0), crowd + "/");
+    EXPECT_EQ(std::ranges::count(frame, '@'), 64);
+    EXPECT_EQ(std::ranges::count(frame, ';'), 0);
+}
+
+TEST(EvdevFrameAssembler, FollowsPadsWithoutMultitouch) {
+    check(0, R"(
+one: touch 1 one 1 onlyX 100 onlyY 200 / onlyX 300 / touch 0 one 0 / => 1 1@0.1,0.8; 2 1@0.3,0.8; 3 no finger
+next: touch 1 onlyX 0 onlyY 0 / touch 0 / touch 1 / touch 0 touch 1 / => 1 1@0,1; 2 no finger; 3 2@0,1; 4 3@0,1
+by keys: touch 1 two 1 onlyX 100 onlyY 0 / two 0 one 1 / touch 0 / => 1 1@0.1,1 -2@0.1,1; 2 1@0.1,1; 3 no finger
+three: touch 1 two 1 onlyX 100 onlyY 0 / two 0 three 1 / => 1 1@0.1,1 -2@0.1,1; 2 1@0.1,1 -2@0.1,1 -3@0.1,1
+a finger that hovers, and one without a place: two 1 onlyX 5 / touch 1 onlyX 250 / => 2 1@0.25,0.5 -2@0.25,0.5
+)");
+}
+
+TEST(EvdevFrameAssembler, NormalizesAnyRange) {
+    struct Case {
+        EvdevAxisRange range;
+        int value;
+        double expected;
+    };
+    for (const Case& tested : std::initializer_list<Case>{{{-4620, 5140}, 260, 0.5},
+                                                          {{5, 5}, 5, 0.5},
+                                                          {{5, 5}, 9, 0.5},
+                                                          {{10, -10}, 0, 0.5},
+                                                          {{kLeast, kMost}, kLeast, 0},
+                                                          {{kLeast, kMost}, kMost, 1},
+                                                          {{kMost - 1, kMost}, kLeast, 0},
+                                                          {{0, 1}, kMost, 1}}) {
+        const auto value = std::to_string(tested.value);
+        EXPECT_EQ(play(pad(1, tested.range, tested.range), "id 1 x " + value + " y " + value + " /"),
+                  "1 1@" + numberText(tested.expected) + "," + numberText(1 - tested.expected))
+            << tested.range.minimum << "…" << tested.range.maximum << ": " << value;
+    }
+    EXPECT_EQ(play(pad(kMost), "slot 255 id 1 slot 256 id 2 slot 2147483646 id 3 /"), "1 1@0.5,0.5");
+    EXPECT_EQ(play(pad(kLeast), "touch 1 /"), "1 1@0.5,0.5");
+}
+
+}  // namespace
+}  // namespace kinesta

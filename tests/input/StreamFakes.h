@@ -1,0 +1,84 @@
+#pragma once
+
+#include <streambuf>
+#include <string>
+
+namespace kinesta {
+
+/// An input without end: a beginning, then one character for ever.
+class EndlessInput final : public std::streambuf {
+  public:
+    EndlessInput(std::string beginning, char rest) : m_piece(std::move(beginning)), m_rest(rest) { show(); }
+
+    /// How much has been taken of it.
+    std::size_t given = 0;
+
+  private:
+    void show() { setg(m_piece.data(), m_piece.data(), m_piece.data() + m_piece.size()); }
+    int_type underflow() override {
+        given += m_piece.size();
+        m_piece.assign(5000, m_rest);
+        show();
+        return traits_type::to_int_type(m_rest);
+    }
+
+    std::string m_piece;
+    char m_rest;
+};
+
+/// An input that has no buffer and never tells how much it has, like that of a pipe shared with C.
+class UnbufferedInput final : public std::streambuf {
+  public:
+    explicit UnbufferedInput(std::string text) : m_text(std::move(text)) {}
+
+  private:
+    int_type underflow() override {
+        return m_at < m_text.size() ? traits_type::to_int_type(m_text[m_at]) : traits_type::eof();
+    }
+    int_type uflow() override {
+        const int_type next = underflow();
+        ++m_at;
+        return next;
+    }
+
+    std::string m_text;
+    std::size_t m_at = 0;
+};
+
+/// An input that breaks after its text, as a folder or a failing disk does.
+class BreakingInput final : public std::streambuf {
+  public:
+    explicit BreakingInput(std::string text) : m_text(std::move(text)) {
+        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
+    }
+
+  private:
+    int_type underflow() override { throw 5; }
+
+    std::string m_text;
+};
+
+/// An output that counts how often it is told to pass on what it has, and takes no more than a number of bytes.
+class CountingOutput final : public std::streambuf {
+  public:
+    explicit CountingOutput(std::size_t capacity = std::string::npos) : m_capacity(capacity) {}
+
+    std::string text;
+    int flushes = 0;
+
+  private:
+    std::streamsize xsputn(const char* data, std::streamsize size) override {
+        if (text.size() + static_cast<std::size_t>(size) > m_capacity)
+            return 0;
+        text.append(data, static_cast<std::size_t>(size));
+        return size;
+    }
+    int sync() override {
+        ++flushes;
+        return 0;
+    }
+
+    std::size_t m_capacity;
+};
+
+}  // namespace kinesta
