@@ -1,0 +1,173 @@
+// Any stream of frames, clicks and settings through the whole of recognition: it never crashes, and what it reports is
+// always something that can be a gesture.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
+#include <optional>
+
+#include "recognition/TouchFrameProcessor.h"
+#include "rules/GestureKind.h"
+
+namespace {
+
+using namespace kinesta;
+
+void require(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+/// Takes the fuzzer's bytes one by one; zeros after the last.
+class Bytes {
+  public:
+    Bytes(const std::uint8_t* data, std::size_t size) : m_data(data), m_end(data + size) {}
+
+    bool isEmpty() const { return m_data == m_end; }
+    std::uint8_t next() { return isEmpty() ? std::uint8_t(0) : *m_data++; }
+
+    /// Mostly on the pad, to 1/200; sometimes nowhere.
+    double coordinate() {
+        using Limits = std::numeric_limits<double>;
+        constexpr std::array kOddities{
+            Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), 1e308, -1e18, 5e-324};
+        const std::uint8_t byte = next();
+        return byte <= 200 ? byte / 200.0 : kOddities[byte % kOddities.size()];
+    }
+
+    /// The time after `time`: a little later or earlier, or anywhen.
+    double timeAfter(double time) {
+        const std::uint8_t byte = next();
+        return byte < 240 ? time + (byte - 10) * 0.004 : coordinate();
+    }
+
+  private:
+    const std::uint8_t* m_data;
+    const std::uint8_t* m_end;
+};
+
+class Session {
+  public:
+    explicit Session(Bytes bytes) : m_bytes(bytes) {}
+
+    void run() {
+        while (!m_bytes.isEmpty())
+            step(m_bytes.next());
+    }
+
+  private:
+    void step(std::uint8_t choice) {
+        m_time = m_bytes.timeAfter(m_time);
+        switch (choice % 16) {
+            case 0:
+                return m_processor.beginPhysicalClick(m_time);
+            case 1:
+                return m_processor.registerPressureStage(static_cast<std::int8_t>(m_bytes.next()));
+            case 2:
+                return completeClick();
+            case 3:
+                return finalize();
+            case 4:
+                return m_processor.setMaximumTapInterval(m_bytes.coordinate());
+            case 5:
+                return m_processor.setCornerPalmRejection({m_bytes.next() % 4 != 0, m_bytes.coordinate()});
+            case 6:
+                return m_processor.reset();
+            case 7:
+                addCrowd();
+                break;
+            case 8:
+                m_samples.truncate(m_samples.size() - (m_samples.empty() ? 0 : 1));
+                break;
+            case 9:
+                m_samples.clear();
+                break;
+            case 10:
+            case 11:
+                m_samples.push_back({m_bytes.next() % 8, {m_bytes.coordinate(), m_bytes.coordinate()}});
+                break;
+            default:
+                for (TouchSample& sample : m_samples)
+                    sample.position.y += (m_bytes.next() - 128) / 1000.0;
+                break;
+        }
+        sendFrame();
+    }
+
+    /// Fingers that no hand has, with ids that wrap around.
+    void addCrowd() {
+        const unsigned count = m_bytes.next() * 4U;
+        for (unsigned i = 0; i < count && m_samples.size() < 1000; ++i)
+            m_samples.push_back({static_cast<ContactId>(m_nextId++), {0.4 + i * 1e-4, 0.5}});
+    }
+
+    void sendFrame() {
+        const FrameRecognition found = m_processor.process(m_samples, m_time, m_time);
+        const bool hasAny = found.anchorDraw || found.edgeSlide || found.tipTapSequence || found.tapSequence;
+        require(found.isEmpty() == !hasAny);
+        if (found.isEmpty())
+            return;
+        checkGeneration(found.generation);
+        if (found.edgeSlide) {
+            require(found.edgeSlide->fingers >= 2 && found.edgeSlide->fingers <= 5);
+            require(found.edgeSlide->side != EdgeSlideSide::both && found.edgeSlide->steps != 0);
+        }
+        if (found.tipTapSequence) {
+            require(tipTapGesture(found.tipTapSequence->taps, found.tipTapSequence->direction).has_value());
+            m_tipTap = found.tipTapSequence;
+        }
+        if (found.tapSequence) {
+            require(tapGesture(found.tapSequence->taps).has_value() && found.tapSequence->fingers >= 2);
+            m_tap = found.tapSequence;
+        }
+    }
+
+    void completeClick() {
+        const auto click = m_processor.completePhysicalClick(m_time);
+        if (!click)
+            return;
+        checkGeneration(click->generation);
+        require(physicalClickGesture(click->sequence.clicks, click->sequence.pressure).has_value());
+        require(click->sequence.fingers >= 2 && click->sequence.fingers <= 5);
+        require(!m_processor.completePhysicalClick(m_time));
+        m_click = click->sequence;
+    }
+
+    /// Every sequence is given away once and only with its own generation.
+    void finalize() {
+        const auto tap = m_tap.value_or(TapSequence{2, 1});
+        const auto tipTap = m_tipTap.value_or(TipTapSequence{});
+        const auto click = m_click.value_or(PhysicalClickSequence{2, 1, {}});
+        require(!m_processor.finalize(tap, m_generation + 1));
+        if (const auto given = m_processor.finalize(tap, m_generation))
+            require(m_tap && *given == tap && !m_processor.finalize(tap, m_generation));
+        if (const auto given = m_processor.finalizeTipTap(tipTap, m_generation))
+            require(m_tipTap && *given == tipTap && !m_processor.finalizeTipTap(tipTap, m_generation));
+        if (const auto given = m_processor.finalizePhysicalClick(click, m_generation))
+            require(m_click && *given == click && !m_processor.finalizePhysicalClick(click, m_generation));
+    }
+
+    void checkGeneration(std::uint64_t generation) {
+        require(generation >= m_generation && m_processor.isCurrent(generation));
+        m_generation = generation;
+    }
+
+    Bytes m_bytes;
+    TouchFrameProcessor m_processor;
+    TouchSamples m_samples;
+    std::uint32_t m_nextId = 0x7FFFFF00;
+    double m_time = 1;
+    std::uint64_t m_generation = 0;
+    std::optional<TapSequence> m_tap;
+    std::optional<TipTapSequence> m_tipTap;
+    std::optional<PhysicalClickSequence> m_click;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Session(Bytes(data, size)).run();
+    return 0;
+}

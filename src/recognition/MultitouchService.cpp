@@ -1,0 +1,309 @@
+#include "recognition/MultitouchService.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+#include "rules/GestureDescription.h"
+
+namespace kinesta {
+namespace {
+
+constexpr int kMostRepetitions = 3;  // what has come so far cannot become more
+
+constexpr int kFeedbackSeconds = 5;
+constexpr std::chrono::seconds kFeedbackTick{1};
+
+/// The wall clock is kept right by letting it run a little slower or faster than the timers; without this a tick
+/// that comes a trifle early would leave the countdown where it is for a whole second.
+constexpr Seconds kClockDrift = 0.001;
+
+bool storedGestureEnabled(const UserDefaults& defaults) {
+    constexpr std::string_view key = MultitouchService::enabledStorageKey;
+    return !defaults.contains(key) || defaults.boolean(key).value_or(false);
+}
+
+TapWaitingInterval storedTapWaitingInterval(const UserDefaults& defaults) {
+    return tapWaitingInterval(defaults.integer(kTapWaitingIntervalStorageKey).value_or(0))
+        .value_or(kDefaultTapWaitingInterval);
+}
+
+CornerPalmRejectionSettings storedCornerPalmRejection(const UserDefaults& defaults) {
+    using Settings = CornerPalmRejectionSettings;
+    return {defaults.boolean(Settings::enabledStorageKey).value_or(false),
+            Settings::clampedSensitivity(
+                defaults.real(Settings::sensitivityStorageKey).value_or(Settings::defaultSensitivity))};
+}
+
+}  // namespace
+
+MultitouchService::MultitouchService(UserDefaults& defaults, TrackpadContactProviding& contactProvider,
+                                     PointerEventMonitoring& pointerEvents, MainThread& mainThread, const Clock& clock)
+    : m_defaults(defaults),
+      m_contactProvider(contactProvider),
+      m_pointerEvents(pointerEvents),
+      m_mainThread(mainThread),
+      m_clock(clock),
+      m_isGestureEnabled(storedGestureEnabled(defaults)),
+      m_tapWaitingInterval(storedTapWaitingInterval(defaults)),
+      m_cornerPalmRejection(storedCornerPalmRejection(defaults)) {
+    m_frameProcessor->setMaximumTapInterval(seconds(m_tapWaitingInterval.value()));
+    m_frameProcessor->setCornerPalmRejection(m_cornerPalmRejection.value());
+    // On the provider's thread. The service may be gone by then: the handler keeps the processor, and what the
+    // frame completed asks for the service on the main thread, where it cannot go away meanwhile.
+    m_contactProvider.setFrameHandler([processor = m_frameProcessor, &mainThread, &clock,
+                                       self = std::weak_ptr(m_self)](const TrackpadContactFrame& frame) {
+        const FrameRecognition recognition = processor->process(frame.samples, frame.timestamp, clock.uptime());
+        if (recognition.isEmpty())
+            return;
+        mainThread.post([self, recognition] {
+            if (const auto service = self.lock())
+                (*service)->deliver(recognition);
+        });
+    });
+}
+
+MultitouchService::~MultitouchService() {
+    m_self.reset();
+    m_contactProvider.setFrameHandler({});
+}
+
+void MultitouchService::start() {
+    if (!m_isGestureEnabled.value() || m_status.value() == Status::listening())
+        return;
+    m_contactProvider.start();
+    Status status = m_contactProvider.status();
+    if (status == Status::listening())
+        startClickMonitoring();
+    m_status.set(std::move(status));
+}
+
+void MultitouchService::stop() {
+    cancelPendingRecognitions();
+    m_globalClickMonitor.remove();
+    m_localClickMonitor.remove();
+    clearGestureFeedback();
+    m_contactProvider.stop();
+    m_status.set(Status::stopped());
+    m_frameProcessor->reset();
+}
+
+void MultitouchService::startIfEnabled() {
+    if (m_isGestureEnabled.value()) {
+        start();
+        return;
+    }
+    m_status.set(Status::stopped());
+    clearGestureFeedback();
+}
+
+void MultitouchService::contactProviderDidChangeStatus() {
+    Status status = m_contactProvider.status();
+    // Stopped is what stop() makes of it, and so this service has said it already.
+    if (!m_isGestureEnabled.value() || status == m_status.value() || status == Status::stopped())
+        return;
+    if (status == Status::listening()) {
+        startClickMonitoring();
+    } else if (m_status.value() == Status::listening()) {
+        cancelPendingRecognitions();
+        m_globalClickMonitor.remove();
+        m_localClickMonitor.remove();
+        m_frameProcessor->reset();
+    }
+    m_status.set(std::move(status));
+}
+
+void MultitouchService::reloadSettings() {
+    setTapWaitingInterval(storedTapWaitingInterval(m_defaults));
+    updateCornerPalmRejection(storedCornerPalmRejection(m_defaults));
+    setGestureEnabled(storedGestureEnabled(m_defaults));
+}
+
+void MultitouchService::setGestureEnabled(bool enabled) {
+    if (enabled == m_isGestureEnabled.value())
+        return;
+    m_isGestureEnabled.set(enabled);
+    m_defaults.setBoolean(enabledStorageKey, enabled);
+    enabled ? start() : stop();
+}
+
+void MultitouchService::setTapWaitingInterval(TapWaitingInterval interval) {
+    if (interval == m_tapWaitingInterval.value())
+        return;
+    m_tapWaitingInterval.set(interval);
+    m_defaults.setInteger(kTapWaitingIntervalStorageKey, milliseconds(interval));
+    m_frameProcessor->setMaximumTapInterval(seconds(interval));
+}
+
+void MultitouchService::setCornerPalmRejectionEnabled(bool enabled) {
+    CornerPalmRejectionSettings settings = m_cornerPalmRejection.value();
+    settings.isEnabled = enabled;
+    updateCornerPalmRejection(settings);
+}
+
+void MultitouchService::setCornerPalmRejectionSensitivity(double sensitivity) {
+    CornerPalmRejectionSettings settings = m_cornerPalmRejection.value();
+    settings.sensitivity = CornerPalmRejectionSettings::clampedSensitivity(sensitivity);
+    updateCornerPalmRejection(settings);
+}
+
+void MultitouchService::updateCornerPalmRejection(const CornerPalmRejectionSettings& settings) {
+    if (settings == m_cornerPalmRejection.value())
+        return;
+    m_frameProcessor->setCornerPalmRejection(settings);
+    cancelPendingRecognitions();
+    m_cornerPalmRejection.set(settings);
+    m_defaults.setBoolean(CornerPalmRejectionSettings::enabledStorageKey, settings.isEnabled);
+    m_defaults.setReal(CornerPalmRejectionSettings::sensitivityStorageKey, settings.sensitivity);
+}
+
+void MultitouchService::cancelPendingRecognitions() {
+    m_pendingRecognition.cancel();
+    m_pendingClickRecognition.cancel();
+    m_pendingTipTapRecognition.cancel();
+}
+
+void MultitouchService::startClickMonitoring() {
+    const auto handler = [this](const PointerEvent& event) { receivePhysicalClickEvent(event); };
+    m_globalClickMonitor = m_pointerEvents.monitor(PointerEventScope::otherApplications, handler);
+    m_localClickMonitor = m_pointerEvents.monitor(PointerEventScope::thisApplication, handler);
+}
+
+void MultitouchService::receivePhysicalClickEvent(const PointerEvent& event) {
+    switch (event.kind) {
+        case PointerEvent::Kind::leftDown:
+        case PointerEvent::Kind::rightDown:
+            m_frameProcessor->beginPhysicalClick(m_clock.uptime());
+            break;
+        case PointerEvent::Kind::pressure:
+            m_frameProcessor->registerPressureStage(event.stage);
+            break;
+        case PointerEvent::Kind::leftUp:
+        case PointerEvent::Kind::rightUp:
+            if (const auto click = m_frameProcessor->completePhysicalClick(event.timestamp))
+                m_mainThread.post([self = std::weak_ptr(m_self), click = *click] {
+                    if (const auto service = self.lock())
+                        (*service)->schedulePhysicalClickRecognition(click.sequence, click.generation);
+                });
+            break;
+    }
+}
+
+void MultitouchService::deliver(const FrameRecognition& recognition) {
+    if (!m_frameProcessor->isCurrent(recognition.generation))
+        return;
+    if (const auto& draw = recognition.anchorDraw) {
+        showGestureFeedback(DetectedAnchorDraw{draw->corner, draw->pattern});
+        if (const auto callback = onAnchorDraw)
+            callback(draw->corner, draw->pattern);
+    }
+    if (const auto& slide = recognition.edgeSlide) {
+        showGestureFeedback(DetectedEdgeSlide{slide->fingers, slide->side, slide->steps});
+        if (const auto callback = onEdgeSlide)
+            callback(slide->fingers, slide->side, slide->steps);
+    }
+    if (recognition.tipTapSequence)
+        scheduleTipTapRecognition(*recognition.tipTapSequence, recognition.generation);
+    if (recognition.tapSequence)
+        scheduleRecognition(*recognition.tapSequence, recognition.generation);
+}
+
+void MultitouchService::scheduleRecognition(const TapSequence& sequence, std::uint64_t generation) {
+    m_pendingRecognition.cancel();
+    if (sequence.taps == kMostRepetitions) {
+        recognize(sequence, generation);
+        return;
+    }
+    m_pendingRecognition = m_mainThread.after(wholeNanoseconds(m_frameProcessor->maximumTapInterval()),
+                                              [=, this] { recognize(sequence, generation); });
+}
+
+void MultitouchService::scheduleTipTapRecognition(const TipTapSequence& sequence, std::uint64_t generation) {
+    m_pendingTipTapRecognition.cancel();
+    if (sequence.taps == kMostRepetitions) {
+        recognizeTipTap(sequence, generation);
+        return;
+    }
+    m_pendingTipTapRecognition = m_mainThread.after(wholeNanoseconds(m_frameProcessor->maximumTipTapInterval()),
+                                                    [=, this] { recognizeTipTap(sequence, generation); });
+}
+
+void MultitouchService::schedulePhysicalClickRecognition(const PhysicalClickSequence& sequence,
+                                                         std::uint64_t generation) {
+    m_pendingClickRecognition.cancel();
+    if (sequence.clicks == kMostRepetitions) {
+        recognizePhysicalClick(sequence, generation);
+        return;
+    }
+    m_pendingClickRecognition = m_mainThread.after(wholeNanoseconds(m_frameProcessor->maximumClickInterval()),
+                                                   [=, this] { recognizePhysicalClick(sequence, generation); });
+}
+
+void MultitouchService::recognize(const TapSequence& sequence, std::uint64_t generation) {
+    if (!m_frameProcessor->finalize(sequence, generation))
+        return;
+    if (const auto gesture = tapGesture(sequence.taps)) {
+        reportTap(sequence.fingers, *gesture);
+    }
+}
+
+void MultitouchService::recognizeTipTap(const TipTapSequence& sequence, std::uint64_t generation) {
+    if (!m_frameProcessor->finalizeTipTap(sequence, generation))
+        return;
+    constexpr int kFingers = 2;  // the resting and the tapping one
+    if (const auto gesture = tipTapGesture(sequence.taps, sequence.direction)) {
+        reportTap(kFingers, *gesture);
+    }
+}
+
+void MultitouchService::recognizePhysicalClick(const PhysicalClickSequence& sequence, std::uint64_t generation) {
+    if (!m_frameProcessor->finalizePhysicalClick(sequence, generation))
+        return;
+    if (const auto gesture = physicalClickGesture(sequence.clicks, sequence.pressure)) {
+        reportTap(sequence.fingers, *gesture);
+    }
+}
+
+void MultitouchService::reportTap(int fingers, GestureKind gesture) {
+    showGestureFeedback(DetectedTap{fingers, gesture});
+    // A copy, as for the other callbacks: what it calls may install another one.
+    if (const auto callback = onTap)
+        callback(fingers, gesture);
+}
+
+void MultitouchService::showGestureFeedback(const DetectedGesture& gesture) {
+    m_gestureFeedbackTimer.cancel();
+    m_lastGesture.set("Detected " + describe(gesture));
+    m_gestureCountdown.set(kFeedbackSeconds);
+    m_gestureFeedbackExpiresAt = m_clock.wallClock() + kFeedbackSeconds;
+    scheduleFeedbackTick();
+}
+
+void MultitouchService::scheduleFeedbackTick() {
+    m_gestureFeedbackTimer = m_mainThread.after(kFeedbackTick, [this] {
+        scheduleFeedbackTick();
+        updateGestureFeedback();
+    });
+}
+
+void MultitouchService::updateGestureFeedback() {
+    const Seconds remaining =
+        m_gestureFeedbackExpiresAt ? std::ceil(*m_gestureFeedbackExpiresAt - m_clock.wallClock() - kClockDrift) : 0;
+    if (!(remaining >= 1)) {
+        clearGestureFeedback();
+        return;
+    }
+    const int countdown = static_cast<int>(std::min(remaining, 1e9));  // a wall clock may be set back by decades
+    if (m_gestureCountdown.value() != countdown)
+        m_gestureCountdown.set(countdown);
+}
+
+void MultitouchService::clearGestureFeedback() {
+    m_gestureFeedbackTimer.cancel();
+    m_gestureFeedbackExpiresAt.reset();
+    m_lastGesture.set(std::nullopt);
+    m_gestureCountdown.set(std::nullopt);
+}
+
+}  // namespace kinesta

@@ -1,0 +1,146 @@
+#include "recognition/AnchorDrawPatternClassifier.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <string>
+#include <vector>
+
+namespace kinesta::testing {
+namespace {
+
+using Path = std::vector<Point>;
+
+std::string patternOf(const Path& path) {
+    const auto pattern = AnchorDrawPatternClassifier::classify(path);
+    return pattern ? std::string(rawValue(*pattern)) : "nothing";
+}
+
+/// From the origin along the vectors, so many points each.
+Path strokes(std::initializer_list<Point> vectors, int pointsEach = 12) {
+    Path path{{0, 0}};
+    for (const Point vector : vectors) {
+        const Point start = path.back();
+        for (int i = 1; i <= pointsEach; ++i)
+            path.push_back({start.x + vector.x * i / pointsEach, start.y + vector.y * i / pointsEach});
+    }
+    return path;
+}
+
+/// An arc of 40 points, counterclockwise for positive turns (of 1 each).
+Path arc(double radius, double turns) {
+    Path path;
+    for (int i = 0; i < 40; ++i) {
+        const double angle = 2 * std::numbers::pi * turns * i / 39;
+        path.push_back({0.5 + radius * std::cos(angle), 0.5 + radius * std::sin(angle)});
+    }
+    return path;
+}
+
+struct PathCase {
+    const char* name;
+    Path path;
+    const char* pattern;
+};
+
+void expectPatterns(const std::vector<PathCase>& cases) {
+    for (const PathCase& c : cases)
+        EXPECT_EQ(patternOf(c.path), c.pattern) << c.name;
+}
+
+TEST(AnchorDrawPatternClassifier, Lines) {
+    Path crowded;
+    for (int i = 0; i <= 31; ++i)
+        crowded.push_back({0, 0.005 * i});  // thinned to every second one, so that it ends at 0.15
+    expectPatterns({
+        {"up", {{0.5, 0.2}, {0.5, 0.4}}, "lineUp"},
+        {"down", {{0.5, 0.4}, {0.5, 0.2}}, "lineDown"},
+        {"left", {{0.4, 0.5}, {0.2, 0.5}}, "lineLeft"},
+        {"right", {{0.2, 0.5}, {0.4, 0.5}}, "lineRight"},
+        {"as short as allowed", {{0, 0}, {0, 0.16}}, "lineUp"},
+        {"too short", {{0, 0}, {0, 0.159999}}, "nothing"},
+        {"points too close are not there", crowded, "nothing"},
+        {"points just far enough are", {{0, 0}, {0, 0.154}, {0, 0.16}}, "lineUp"},
+        {"no axis dominates", {{0, 0}, {0.1, 0.135}}, "nothing"},
+        {"one does", {{0, 0}, {0.1, 0.1351}}, "lineUp"},
+        {"the other does", {{0, 0}, {-0.1351, 0.1}}, "lineLeft"},
+        {"as bent as allowed", {{0, 0}, {0, 0.184}, {0, 0.168}}, "lineUp"},  // chord 0.168 of 0.2
+        {"too bent", {{0, 0}, {0, 0.1841}, {0, 0.168}}, "nothing"},
+        {"nothing at all", {}, "nothing"},
+        {"a rest", Path(100, Point{0.5, 0.5}), "nothing"},
+    });
+}
+
+TEST(AnchorDrawPatternClassifier, Circles) {
+    const auto square = [](double width, double height) {
+        return Path{{0, 0},      {width / 2, 0},  {width, 0}, {width, height / 2}, {width, height}, {width / 2, height},
+                    {0, height}, {0, height / 2}, {0, 0}};
+    };
+    Path open = square(0.2, 0.2);
+    open.back() = {0, 0.13};
+    expectPatterns({
+        {"clockwise", arc(0.08, -1), "circleClockwise"},
+        {"smallest", square(0.11, 0.11), "circleCounterclockwise"},
+        {"too small", square(0.1099, 0.12), "nothing"},
+        {"as long as allowed", square(0.209, 0.11), "circleCounterclockwise"},
+        {"too long", square(0.2091, 0.11), "nothing"},
+        {"as open as allowed", open, "circleCounterclockwise"},
+        {"three quarters", arc(0.1, 0.8), "circleCounterclockwise"},
+        {"too open", arc(0.1, -0.7), "nothing"},
+        {"eight points",
+         {{0, 0}, {0.1, 0}, {0.2, 0}, {0.2, 0.1}, {0.2, 0.2}, {0.1, 0.2}, {0, 0.2}, {0, 0}},
+         "circleCounterclockwise"},
+        {"seven points", {{0, 0}, {0.1, 0}, {0.2, 0}, {0.2, 0.2}, {0.1, 0.2}, {0, 0.2}, {0, 0}}, "nothing"},
+        {"a path there and back again has no side",
+         {{0, 0}, {0.1, 0.1}, {0.2, 0.2}, {0.3, 0.3}, {0.2, 0.2}, {0.1, 0.1}, {0, 0}, {0.1, 0.1}, {0, 0}},
+         "circleCounterclockwise"},
+    });
+}
+
+TEST(AnchorDrawPatternClassifier, StrokesTurnInOneWayOnly) {
+    const Point up{0, 0.1}, down{0, -0.1}, left{-0.1, 0}, right{0.1, 0};
+    const Point upRight{0.07, 0.07}, downRight{0.07, -0.07}, upLeft{-0.07, 0.07}, downLeft{-0.07, -0.07};
+    expectPatterns({
+        {"L", strokes({down, right}), "lShape"},
+        {"L from its other end", strokes({left, up}), "nothing"},
+        {"L upside down", strokes({up, right}), "nothing"},
+        {"L to the left", strokes({down, left}), "nothing"},
+        {"right then down", strokes({right, down}), "nothing"},
+        {"L with short strokes", strokes({{0, -0.0751}, {0.1, 0}}, 20), "lShape"},
+        {"L with a stroke too short", strokes({{0, -0.12}, {0.06, 0}}, 20), "nothing"},
+        {"V", strokes({{0.1, -0.1}, {0.1, 0.1}}), "vShape"},
+        {"V from its other end", strokes({downLeft, upLeft}), "nothing"},
+        {"roof", strokes({{0.1, 0.1}, {0.1, -0.1}}), "nothing"},
+        {"V of four points", {{0, 0}, {0.05, -0.05}, {0.1, -0.1}, {0.2, 0}}, "nothing"},
+        {"V of five points", {{0, 0}, {0.05, -0.05}, {0.1, -0.1}, {0.15, -0.05}, {0.2, 0}}, "vShape"},
+        {"zigzag", strokes({downRight, upRight, downRight}), "zigzag"},
+        {"zigzag upward first", strokes({upRight, downRight, upRight}), "zigzag"},
+        {"zigzag to the left", strokes({downLeft, upLeft, downLeft}), "nothing"},
+        {"zigzag of short strokes", strokes({{0.039, -0.039}, {0.039, 0.039}, {0.039, -0.039}}, 4), "zigzag"},
+        {"zigzag of strokes too short", strokes({{0.0388, -0.0388}, {0.0388, 0.0388}, {0.0388, -0.0388}}, 4),
+         "nothing"},
+        {"zigzag of five points", {{0, 0}, {0.07, -0.07}, {0.14, 0}, {0.18, -0.04}, {0.21, -0.07}}, "zigzag"},
+    });
+}
+
+TEST(AnchorDrawPatternClassifier, TakesAnyCoordinates) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    const auto spoiled = [](std::size_t index, Point point) {
+        Path path = strokes({{0.1, -0.1}, {0.1, 0.1}});
+        path[index] = point;
+        return patternOf(path);
+    };
+    for (const std::size_t index : {0U, 7U, 24U})
+        for (const double bad : {kInfinity, -kInfinity}) {
+            EXPECT_EQ(spoiled(index, {bad, bad}), "nothing") << bad << " at " << index;
+            EXPECT_EQ(spoiled(index, {kNaN, bad}), "nothing") << bad << " at " << index;
+        }
+    EXPECT_EQ(spoiled(7, {kNaN, kNaN}), "vShape") << "a place that is none is left out";
+    EXPECT_EQ(spoiled(0, {kNaN, 0}), "nothing") << "none of the others is apart from it";
+}
+
+}  // namespace
+}  // namespace kinesta::testing

@@ -1,0 +1,223 @@
+#include "recognition/MultitouchService.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <limits>
+#include <thread>
+
+#include "support/GestureRig.h"
+
+namespace kinesta::testing {
+namespace {
+
+using Status = MultitouchService::Status;
+using Texts = std::vector<std::string>;
+
+const PadScript& tapAtOne() {
+    static const PadScript script = PadScript().tap(1, 3);
+    return script;
+}
+
+TEST(MultitouchService, ReadsItsSettingsAndMakesSenseOfAnything) {
+    const auto read = [](const std::function<void(FakeUserDefaults&)>& store) {
+        GestureRig rig;
+        store(rig.defaults);
+        rig.defaults.writes = 0;
+        const MultitouchService& service = rig.launch();
+        EXPECT_EQ(rig.defaults.writes, 0);
+        const auto& palm = service.cornerPalmRejection().value();
+        return std::string(service.isGestureEnabled().value() ? "on " : "off ") +
+               title(service.tapWaitingInterval().value()) + (palm.isEnabled ? " palm " : " no palm ") +
+               std::to_string(palm.sensitivity).substr(0, 4);
+    };
+    EXPECT_EQ(read([](FakeUserDefaults&) {}), "on 250 ms no palm 0.50");
+    EXPECT_EQ(read([](FakeUserDefaults& d) {
+                  d.setBoolean("gesturesEnabled", false);
+                  d.setInteger("tapWaitingInterval.v1", 400);
+                  d.setBoolean("cornerPalmRejectionEnabled.v1", true);
+                  d.setReal("cornerPalmRejectionSensitivity.v1", 0.75);
+              }),
+              "off 400 ms palm 0.75");
+    EXPECT_EQ(read([](FakeUserDefaults& d) {
+                  d.setString("gesturesEnabled", "true");
+                  d.setInteger("tapWaitingInterval.v1", 275);
+                  d.setInteger("cornerPalmRejectionEnabled.v1", 1);
+                  d.setInteger("cornerPalmRejectionSensitivity.v1", 3);
+              }),
+              "off 250 ms no palm 1.00");
+    EXPECT_EQ(read([](FakeUserDefaults& d) {
+                  d.setBoolean("gesturesEnabled", true);
+                  d.setString("tapWaitingInterval.v1", "150");
+                  d.setReal("cornerPalmRejectionSensitivity.v1", std::numeric_limits<double>::quiet_NaN());
+              }),
+              "on 250 ms no palm 0.50");
+}
+
+TEST(MultitouchService, StoresWhatChangesAndNothingElse) {
+    GestureRig rig;
+    MultitouchService& service = rig.launch();
+    const auto writesOf = [&](const std::function<void()>& change) {
+        rig.defaults.writes = 0;
+        change();
+        return rig.defaults.writes;
+    };
+    EXPECT_EQ(writesOf([&] { service.setGestureEnabled(true); }), 0);
+    EXPECT_EQ(writesOf([&] { service.setTapWaitingInterval(TapWaitingInterval::standard); }), 0);
+    EXPECT_EQ(writesOf([&] { service.setCornerPalmRejectionEnabled(false); }), 0);
+    EXPECT_EQ(writesOf([&] { service.setCornerPalmRejectionSensitivity(std::numeric_limits<double>::infinity()); }), 0);
+    EXPECT_EQ(rig.provider.calls, Texts{"start"}) << "nothing was restarted";
+
+    EXPECT_EQ(writesOf([&] { service.setTapWaitingInterval(TapWaitingInterval::veryShort); }), 1);
+    EXPECT_EQ(writesOf([&] { service.setCornerPalmRejectionSensitivity(7); }), 2);
+    EXPECT_EQ(writesOf([&] { service.setCornerPalmRejectionSensitivity(1); }), 0);
+    EXPECT_EQ(writesOf([&] { service.setCornerPalmRejectionEnabled(true); }), 2);
+    EXPECT_EQ(writesOf([&] { service.setGestureEnabled(false); }), 1);
+    EXPECT_EQ(rig.defaults.integer("tapWaitingInterval.v1"), 150);
+    EXPECT_EQ(rig.defaults.real("cornerPalmRejectionSensitivity.v1"), 1.0);
+    EXPECT_EQ(rig.defaults.boolean("cornerPalmRejectionEnabled.v1"), true);
+    EXPECT_EQ(rig.defaults.boolean("gesturesEnabled"), false);
+}
+
+TEST(MultitouchService, FollowsTheProviderAndWatchesClicksOnlyWhileItListens) {
+    GestureRig rig;
+    rig.provider.statusAfterStart = Status::unavailable("No pad.");
+    MultitouchService& service = rig.launch();
+    EXPECT_EQ(service.status().value(), Status::unavailable("No pad."));
+    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
+
+    rig.provider.statusAfterStart = Status::stopped();
+    service.start();
+    EXPECT_EQ(service.status().value(), Status::stopped());
+
+    rig.provider.statusAfterStart = Status::listening();
+    service.start();
+    EXPECT_EQ(service.status().value(), Status::listening());
+    EXPECT_EQ(rig.pointer.monitorCount(), 2U);
+    service.start();
+    EXPECT_EQ(rig.provider.calls, (Texts{"start", "start", "start"})) << "it listens already";
+
+    service.setGestureEnabled(false);
+    EXPECT_EQ(service.status().value(), Status::stopped());
+    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
+    service.start();
+    service.startIfEnabled();
+    EXPECT_EQ(rig.provider.calls, (Texts{"start", "start", "start", "stop"})) << "it is off";
+}
+
+TEST(MultitouchService, ClicksInItsOwnWindowsCountLikeOthersAndBothButtonsDo) {
+    using Kind = PointerEvent::Kind;
+    for (const auto scope : {PointerEventScope::thisApplication, PointerEventScope::otherApplications})
+        for (const auto& [down, up] : {std::pair(Kind::leftDown, Kind::leftUp), {Kind::rightDown, Kind::rightUp}}) {
+            GestureRig rig;
+            rig.launch();
+            rig.play(PadScript().at(1).land(2));
+            rig.pointer.send({down, 0, 1}, scope);
+            rig.pointer.send({Kind::pressure, 2, 1}, scope);
+            rig.pointer.send({up, 0, 1}, scope);
+            rig.mainThread.runRemaining();
+            EXPECT_EQ(rig.gestures, (Gestures{{1.25, "singleForceClick", 2}}));
+        }
+}
+
+TEST(MultitouchService, NamesTheGestureForFiveSeconds) {
+    GestureRig rig;
+    MultitouchService& service = rig.launch();
+    service.onTap = {};  // the feedback does not need a callback
+    Texts shown;
+    const auto now = [&] { return std::to_string(rig.clock.wallClock()).substr(0, 4) + " "; };
+    const auto texts = service.lastGesture().observe([&](const auto& t) { shown.push_back(now() + t.value_or("-")); });
+    const auto counts = service.gestureCountdown().observe(
+        [&](const auto& count) { shown.push_back(now() + (count ? std::to_string(*count) : "-")); });
+    rig.play(tapAtOne());
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(shown, (Texts{"1.25 Detected 3-finger single tap", "1.25 5", "2.25 4", "3.25 3", "4.25 2", "5.25 1",
+                            "6.25 -", "6.25 -"}));
+    shown.clear();
+    rig.play(PadScript().at(10).land(2, {0.1, 0.5}).glide({1, 2}, {0, 0.03}, 0.008));
+    rig.play(PadScript().at(12.508).land(2, {0.1, 0.4}));
+    rig.runUntil(13);
+    service.stop();
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(shown, (Texts{"10.0 Detected 2-finger left edge slide up", "10.0 5", "11.0 4", "12.0 3",
+                            "12.5 Detected 2-finger left edge slide down", "12.5 5", "13.0 -", "13.0 -"}))
+        << "a new gesture begins anew, and stopping ends it";
+}
+
+TEST(MultitouchService, WhatAFrameCompletedBeforeAChangeIsDroppedAfterIt) {
+    const std::function<void(MultitouchService&)> stop = [](auto& service) { service.stop(); };
+    const std::function<void(MultitouchService&)> palm = [](auto& s) { s.setCornerPalmRejectionEnabled(true); };
+    const PadScript slide = PadScript().at(1).land(2, {0.1, 0.5}).glide({1, 2}, {0, 0.1}, 0.008);
+    const PadScript click = PadScript().at(1).land(2).press().at(1.1).release();
+    for (const auto& change : {stop, palm})
+        for (const PadScript& script : {tapAtOne(), slide, click}) {
+            GestureRig rig;
+            rig.launch();
+            for (const RecordingEvent& event : script.events())
+                rig.send(event);  // what it posts has not run yet
+            change(*rig.service);
+            rig.mainThread.runRemaining();
+            EXPECT_EQ(rig.gestures, Gestures{});
+            EXPECT_EQ(rig.service->lastGesture().value(), std::nullopt);
+        }
+}
+
+TEST(MultitouchService, CallbacksMayReplaceThemselvesAndStopTheService) {
+    GestureRig rig;
+    MultitouchService& service = rig.launch();
+    int taps = 0;
+    service.onTap = [&](int fingers, GestureKind) {
+        service.onTap = {};
+        service.stop();
+        taps += fingers;
+    };
+    rig.play(tapAtOne());
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(taps, 3);
+    EXPECT_EQ(service.status().value(), Status::stopped());
+}
+
+TEST(MultitouchService, MayGoAwayWithWorkPending) {
+    GestureRig rig;
+    rig.launch();
+    rig.play(PadScript().at(1).land(2).at(1.1).press().release());
+    rig.play(PadScript().at(1.15).hold());  // the click waits
+    rig.launch();                           // and its service is no more
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(rig.gestures, Gestures{});
+    for (const RecordingEvent& event : tapAtOne().events())
+        rig.send(event);
+    rig.service.reset();
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(rig.gestures, Gestures{});
+}
+
+TEST(MultitouchService, MayGoAwayWhileFramesArrive) {
+    GestureRig rig;
+    std::atomic<bool> isDone = false;
+    std::thread driver([&] {
+        const TouchSamples fingers{{1, {0.4, 0.5}}, {2, {0.5, 0.5}}};
+        for (Seconds time = 0; !isDone; time += 0.1) {
+            rig.provider.send({fingers, time});
+            rig.provider.send({{}, time + 0.05});
+        }
+    });
+    for (int services = 0; services < 200; ++services) {
+        rig.launch();
+        do
+            rig.mainThread.runPosted();
+        while (rig.gestures.empty());  // so that the first service at least is at work
+        if (services % 2 == 0)
+            rig.service->setCornerPalmRejectionEnabled(services % 4 == 0);
+        rig.mainThread.runPosted();
+        rig.service.reset();
+    }
+    isDone = true;
+    driver.join();
+    const std::size_t delivered = rig.gestures.size();
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(rig.gestures.size(), delivered) << "what is posted finds no service";
+}
+
+}  // namespace
+}  // namespace kinesta::testing

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "recognition/FrameRecognition.h"
+#include "recognition/PhysicalClickRecognizer.h"
+#include "rules/GestureKind.h"
+#include "support/PadScript.h"
+
+namespace kinesta::testing {
+
+using Texts = std::vector<std::string>;
+
+inline std::string text(const TapSequence& s) {
+    return std::to_string(s.fingers) + " fingers x" + std::to_string(s.taps);
+}
+inline std::string text(const TipTapEvent& e) {
+    return std::string(rawValue(e.direction)) + " of " + std::to_string(e.anchorId);
+}
+inline std::string text(const TipTapSequence& s) {
+    return text(TipTapEvent{s.anchorId, s.direction}) + " x" + std::to_string(s.taps);
+}
+inline std::string text(const EdgeSlideEvent& e) {
+    return std::to_string(e.fingers) + " fingers " + std::string(rawValue(e.side)) + " " + std::to_string(e.steps);
+}
+inline std::string text(const AnchorDrawEvent& e) {
+    return std::string(rawValue(e.corner)) + " " + std::string(rawValue(e.pattern));
+}
+inline std::string text(const PhysicalClickSequence& s) {
+    return std::to_string(s.fingers) + " fingers x" + std::to_string(s.clicks) + " " +
+           (s.pressure ? std::string(rawValue(*s.pressure)) : "any");
+}
+template <typename T>
+std::string text(const std::optional<T>& value) {
+    return value ? text(*value) : "nothing";
+}
+
+/// What a recognizer says of a script's frames; the frames without a result are left out.
+template <typename Recognizer>
+Texts run(Recognizer& recognizer, const PadScript& script, bool isReversed = false) {
+    Texts results;
+    for (const RecordingEvent& event : script.events()) {
+        TouchSamples samples = std::get<RecordedFrame>(event.content).samples;
+        if (isReversed)
+            std::reverse(samples.begin(), samples.end());
+        const auto result = [&] {
+            if constexpr (requires { recognizer.process(samples, event.time); })
+                return recognizer.process(samples, event.time);
+            else
+                return recognizer.process(samples);
+        }();
+        if (result)
+            results.push_back(text(*result));
+    }
+    return results;
+}
+
+/// A script and what a fresh recognizer makes of it.
+struct Case {
+    const char* name;
+    PadScript script;
+    Texts results;
+};
+
+/// In whatever order the driver lists the fingers of a frame.
+template <typename Recognizer>
+void expectResults(const std::vector<Case>& cases) {
+    for (const Case& c : cases) {
+        for (const bool isReversed : {false, true}) {
+            Recognizer recognizer;
+            EXPECT_EQ(run(recognizer, c.script, isReversed), c.results)
+                << c.name << (isReversed ? ", the last finger first" : "");
+        }
+    }
+}
+
+}  // namespace kinesta::testing
