@@ -1,0 +1,38 @@
+#pragma once
+
+#include "actions/AccessibilityElements.h"
+#include "actions/AccessibilityPermission.h"
+#include "actions/ApplicationNotifications.h"
+#include "actions/EventSynthesizer.h"
+#include "actions/HomeFolders.h"
+#include "actions/KeyboardLayout.h"
+#include "actions/OwnMenus.h"
+#include "actions/OwnWindows.h"
+#include "actions/ProcessLauncher.h"
+#include "actions/SystemVersion.h"
+#include "actions/Workspace.h"
+#include "feedback/ActionCuePresenting.h"
+#include "support/Clock.h"
+#include "support/UserDefaults.h"
+
+namespace kinesta {
+
+/// All that actions need of the machine. Everything referred to must outlive whoever was given the struct.
+struct ActionPorts {
+    const Clock& clock;
+    const UserDefaults& defaults;
+    const SystemVersion& systemVersion;
+    const HomeFolders& homeFolders;
+    AccessibilityPermission& permission;
+    EventSynthesizer& events;
+    KeyboardLayout& keyboardLayout;
+    Workspace& workspace;
+    ProcessLauncher& processes;
+    AccessibilityElements& accessibility;
+    OwnWindows& ownWindows;
+    OwnMenus& ownMenus;
+    ApplicationNotifications& notifications;
+    ActionCuePresenting& cue;
+};
+
+}  // namespace kinesta

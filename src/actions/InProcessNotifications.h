@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "actions/ApplicationNotifications.h"
+
+namespace kinesta {
+
+/// Notifications that need nothing of the system. Observers may post, subscribe and unsubscribe from within their
+/// call; one who comes during a post hears only of later ones.
+class InProcessNotifications final : public ApplicationNotifications {
+  public:
+    void post(std::string_view name, ActionKind object) override;
+    [[nodiscard]] Subscription observe(std::string_view name, Observer observer) override;
+
+  private:
+    struct Entry {
+        std::string name;
+        std::shared_ptr<bool> isActive;
+        Observer observer;
+    };
+
+    std::vector<std::shared_ptr<Entry>> m_entries;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,56 @@
+#include "actions/WebAddress.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "support/Text.h"
+
+namespace kinesta {
+namespace {
+
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isHexadecimalDigit(char c) { return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
+bool isSchemeCharacter(char c) { return isLetter(c) || isDigit(c) || c == '+' || c == '-' || c == '.'; }
+
+bool isUrlCharacter(char c) {
+    constexpr std::string_view kPunctuation = "-._~:/?#[]@!$&'()*+,;=";
+    return isLetter(c) || isDigit(c) || static_cast<unsigned char>(c) >= 0x80U ||
+           kPunctuation.find(c) != std::string_view::npos;
+}
+
+bool isUrlText(std::string_view text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '%') {
+            if (text.size() - i < 3 || !isHexadecimalDigit(text[i + 1]) || !isHexadecimalDigit(text[i + 2]))
+                return false;
+            i += 2;
+        } else if (!isUrlCharacter(text[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::optional<std::string_view> urlScheme(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos || colon == 0)
+        return std::nullopt;
+    const std::string_view scheme = text.substr(0, colon);
+    if (!isLetter(scheme.front()) || !std::all_of(scheme.begin(), scheme.end(), isSchemeCharacter))
+        return std::nullopt;
+    return scheme;
+}
+
+}  // namespace
+
+bool isWebAddress(std::string_view text) {
+    const auto scheme = urlScheme(text);
+    if (!scheme || !isUrlText(text.substr(scheme->size())))
+        return false;
+    const std::string lowered = lowerCased(*scheme);
+    return lowered == "http" || lowered == "https";
+}
+
+}  // namespace kinesta

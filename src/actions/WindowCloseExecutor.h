@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string_view>
+
+#include "actions/ActionPorts.h"
+
+namespace kinesta {
+
+/// Closes the focused window of the frontmost application by pressing its close button. Whatever is not exactly as
+/// expected leaves the window as it is. Posts no key and asks for no permission. Main thread only.
+class WindowCloseExecutor {
+  public:
+    /// How long the application may let us wait for an answer, in seconds.
+    static constexpr Seconds kMessagingTimeout = 0.5;
+
+    explicit WindowCloseExecutor(const ActionPorts& ports) : m_ports(ports) {}
+
+    /// Whether a close button was pressed.
+    bool execute();
+
+  private:
+    bool closeOwnWindow();
+    static AccessibilityElementHandle elementAttribute(std::string_view name, AccessibilityElement& element);
+    static bool hasSheet(AccessibilityElement& window);
+
+    ActionPorts m_ports;
+};
+
+}  // namespace kinesta

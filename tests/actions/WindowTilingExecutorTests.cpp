@@ -1,0 +1,206 @@
+#include "actions/WindowTilingExecutor.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "rules/CommonMacShortcut.h"
+#include "support/FakeActionDesktop.h"
+
+namespace kinesta::testing {
+namespace {
+
+const std::string kItem = "- item AXIdentifier=_zoomLeft: ";
+const std::string kEnabledItem = kItem + "AXEnabled=yes";
+
+struct WindowTilingExecutorTest : ::testing::Test {
+    FakeActionDesktop desktop;
+
+    bool tilesLeft() { return WindowTilingExecutor(desktop.ports()).execute(WindowTilingMenuCommand::left); }
+    bool tilesLeft(const std::string& tree, const std::string& application = "") {
+        desktop.accessibility.describe("AXMenuBar: bar " + tree, application);
+        desktop.log.take();
+        return tilesLeft();
+    }
+    std::ptrdiff_t countedCalls(const std::string& call) {
+        const Calls calls = desktop.log.take();
+        return std::count(calls.begin(), calls.end(), call);
+    }
+};
+
+std::string repeated(int count, const std::string& text) {
+    std::string result;
+    for (int i = 0; i < count; ++i)
+        result += text;
+    return result;
+}
+
+/// `text` below `levels` others, each of them below the one before.
+std::string nested(int levels, const std::string& text) {
+    std::string result;
+    for (int level = 1; level <= levels; ++level)
+        result += '\n' + repeated(level, " ") + "- menu";
+    return result + '\n' + repeated(levels + 1, " ") + text;
+}
+
+TEST_F(WindowTilingExecutorTest, EveryTilingPresetIsACommandAndNothingElseIs) {
+    const struct {
+        std::uint16_t code;
+        std::int64_t modifiers;
+        const char* identifier;
+    } rows[] = {
+        {3, 20, "_zoomFill:"},           {8, 20, "_zoomCenter:"},         {123, 20, "_zoomLeft:"},
+        {124, 20, "_zoomRight:"},        {126, 20, "_zoomTop:"},          {125, 20, "_zoomBottom:"},
+        {15, 20, "_zoomUntile:"},        {123, 28, "_zoomLeftAndRight:"}, {124, 28, "_zoomRightAndLeft:"},
+        {126, 28, "_zoomTopAndBottom:"}, {125, 28, "_zoomBottomAndTop:"}, {123, 30, "_zoomLeftThreeUp:"},
+        {124, 30, "_zoomRightThreeUp:"}, {126, 30, "_zoomTopThreeUp:"},   {125, 30, "_zoomBottomThreeUp:"},
+    };
+    for (const auto& row : rows) {
+        const auto command = windowTilingMenuCommand(row.code, {row.modifiers});
+        ASSERT_TRUE(command) << row.identifier;
+        EXPECT_EQ(rawValue(*command), row.identifier);
+        EXPECT_EQ(title(*command), CommonMacShortcut::actionTitle(row.code, {row.modifiers}));
+    }
+    int commands = 0;
+    for (std::uint16_t code = 0; code < 128; ++code)
+        for (std::int64_t modifiers = 0; modifiers < 64; ++modifiers)
+            commands += windowTilingMenuCommand(code, {modifiers}) ? 1 : 0;
+    EXPECT_EQ(commands, 15);
+}
+
+TEST_F(WindowTilingExecutorTest, SearchesDepthFirstAndPressesTheFirstMatch) {
+    EXPECT_TRUE(tilesLeft(R"(
+          - file
+            - save AXIdentifier=_zoomLef:
+          - ?
+          - window AXIdentifier=*
+            - item AXIdentifier=_zoomLeft: AXEnabled=yes
+              - never
+          - second AXIdentifier=_zoomLeft: AXEnabled=yes)"));
+    Calls calls = desktop.log.take();
+    std::erase_if(calls, [](const std::string& call) { return call.starts_with("? timeout 0.15 of "); });
+    EXPECT_EQ(calls, (Calls{"? frontmost", "? trusted", "? application 7", "? AXMenuBar of application",
+                            "? AXIdentifier of bar", "? AXChildren of bar", "? AXIdentifier of file",
+                            "? AXChildren of file", "? AXIdentifier of save", "? AXChildren of save",
+                            "? AXIdentifier of window", "? AXChildren of window", "? AXIdentifier of item",
+                            "? AXEnabled of item", "? frontmost", "AXPress item"}));
+    EXPECT_TRUE(tilesLeft("AXIdentifier=_zoomLeft: AXEnabled=yes"));
+}
+
+TEST_F(WindowTilingExecutorTest, PressesNothingUnlessAllIsAsExpected) {
+    for (const std::string& tree :
+         {"timeout=no\n " + kEnabledItem, "\n " + kItem, "\n " + kItem + "AXEnabled=no", "\n " + kItem + "AXEnabled=1",
+          "\n " + kItem + "AXEnabled=!", std::string("AXChildren=*"), std::string("AXChildren=[]"),
+          // A disabled first match hides a second one.
+          "\n " + kItem + "\n " + kEnabledItem}) {
+        EXPECT_FALSE(tilesLeft(tree)) << tree;
+        EXPECT_EQ(desktop.log.takeEffects(), Calls{}) << tree;
+    }
+    EXPECT_FALSE(tilesLeft("\n " + kEnabledItem, "timeout=no"));
+    EXPECT_FALSE(tilesLeft("\n " + kEnabledItem + " AXPress=no"));
+    EXPECT_EQ(desktop.log.takeEffects(), Calls{"AXPress item"});
+    for (const std::string application : {"", "AXMenuBar=text", "AXMenuBar=!"}) {
+        desktop.accessibility.describe("", application);
+        EXPECT_FALSE(tilesLeft()) << application;
+    }
+}
+
+TEST_F(WindowTilingExecutorTest, ChecksVersionApplicationAndPermissionInOrderAndTheApplicationAgain) {
+    desktop.version.major = 14;
+    EXPECT_FALSE(tilesLeft("\n " + kEnabledItem));
+    EXPECT_EQ(desktop.log.take(), Calls{});
+    desktop.version.major = 26;
+    EXPECT_TRUE(tilesLeft());
+    desktop.log.take();
+    const std::vector<std::optional<ProcessIdentifier>> changes[] = {
+        {std::nullopt}, {9}, {7, 9}, {7, std::nullopt}, {7, 1}};
+    for (const auto& frontmost : changes) {
+        desktop.workspace.frontmost = frontmost;
+        EXPECT_FALSE(tilesLeft());
+        EXPECT_EQ(desktop.log.takeEffects(), Calls{});
+    }
+    desktop.workspace.frontmost = {7};
+    desktop.permission.isGranted = false;
+    EXPECT_FALSE(tilesLeft());
+    EXPECT_EQ(desktop.log.take(), (Calls{"? frontmost", "? trusted"}));
+}
+
+TEST_F(WindowTilingExecutorTest, LooksTwelveLevelsDeepAndVisitsAThousandElements) {
+    EXPECT_TRUE(tilesLeft(nested(11, kEnabledItem)));
+    EXPECT_FALSE(tilesLeft(nested(12, kEnabledItem)));
+    EXPECT_EQ(countedCalls("? AXIdentifier of menu"), 12);
+    // The menu bar and the item count as well.
+    EXPECT_TRUE(tilesLeft(repeated(998, "\n -") + "\n " + kEnabledItem));
+    EXPECT_FALSE(tilesLeft(repeated(999, "\n -") + "\n " + kEnabledItem));
+    EXPECT_EQ(countedCalls("? AXIdentifier of -"), 999);
+    // One budget for the whole tree, whichever branch spends it.
+    EXPECT_FALSE(tilesLeft(repeated(100, "\n -" + repeated(9, "\n  -")) + "\n " + kEnabledItem));
+    EXPECT_EQ(countedCalls("? AXIdentifier of -"), 999);
+}
+
+TEST_F(WindowTilingExecutorTest, GivesEachRequestWhatIsLeftOfTheBudget) {
+    EXPECT_TRUE(
+        tilesLeft("AXIdentifier=x@0.125\n - first AXIdentifier=x@0.125 AXChildren=[]@0.125"
+                  "\n - item AXIdentifier=_zoomLeft:@0.0625 AXEnabled=yes@0.03125"));
+    Calls timeouts = desktop.log.take();
+    std::erase_if(timeouts, [](const std::string& call) { return !call.starts_with("? timeout"); });
+    EXPECT_EQ(timeouts, (Calls{"? timeout 0.15 of application", "? timeout 0.15 of bar", "? timeout 0.15 of bar",
+                               "? timeout 0.15 of first", "? timeout 0.15 of first", "? timeout 0.125 of item",
+                               "? timeout 0.0625 of item", "? timeout 0.03125 of item"}));
+}
+
+TEST_F(WindowTilingExecutorTest, StopsAtTheDeadlineWhereverItFalls) {
+    const std::string slow = "AXIdentifier=x@0.125 AXChildren=@0.125\n - item ";  // 0.25 s
+    const struct {
+        std::string item, last;
+    } rows[] = {
+        // While searching, between finding and asking, between asking and pressing, and a hair's breadth too early.
+        {"AXIdentifier=x@0.125 AXChildren=[]", "? AXIdentifier of item"},
+        {"AXIdentifier=_zoomLeft:@0.125 AXEnabled=yes", "? AXIdentifier of item"},
+        {"AXIdentifier=_zoomLeft:@0.0625 AXEnabled=yes@0.0625", "? frontmost"},
+        {"AXIdentifier=_zoomLeft:@0.0625 AXEnabled=yes@0.0615", "AXPress item"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(tilesLeft(slow + row.item, "AXMenuBar=@0.125"), row.last == "AXPress item") << row.item;
+        EXPECT_EQ(desktop.log.take().back(), row.last) << row.item;
+    }
+    // An application that hangs blocks us for the budget at most, however many elements it has.
+    const Uptime before = desktop.clock.uptime();
+    EXPECT_FALSE(tilesLeft(repeated(50, "\n - AXIdentifier=@9 AXChildren=@9"), "AXMenuBar=@0.125"));
+    EXPECT_EQ(desktop.clock.uptime() - before, 0.5);
+}
+
+TEST_F(WindowTilingExecutorTest, SendsItsOwnMenuItemWithoutNeedingThePermission) {
+    desktop.workspace.frontmost = {1};
+    desktop.permission.isGranted = false;
+    EXPECT_FALSE(tilesLeft());
+    const struct {
+        std::string bar;
+        bool isTiled;
+        Calls effects;
+    } rows[] = {
+        {"", false, {}},
+        {"- a\n - b action=_zoomRight:\n- c\n - d identifier=_zoomLeft: action=x\n- action=_zoomLeft:",
+         true,
+         {"send x"}},
+        {"- a\n - b\n  - action=_zoomLeft:\n- identifier=_zoomLeft: action=x", true, {"send _zoomLeft:"}},
+        {"- a identifier=_zoomLeft: action=x enabled=no\n- action=_zoomLeft:", false, {}},
+        {"- a identifier=_zoomLeft:\n- action=_zoomLeft:", false, {}},
+        {"- a action=_zoomLeft: taken=no", false, {"send _zoomLeft:"}},
+        // An item's state counts as its menu tells it once brought up to date.
+        {"- a action=_zoomLeft: enabled=updated", true, {"send _zoomLeft:"}},
+    };
+    for (const auto& row : rows) {
+        desktop.menus.bar = FakeNode::parse(row.bar);
+        EXPECT_EQ(tilesLeft(), row.isTiled) << row.bar;
+        EXPECT_EQ(desktop.log.takeEffects(), row.effects) << row.bar;
+    }
+    for (const int depth : {12, 13}) {
+        desktop.menus.bar = FakeNode::parse(nested(depth, "- action=_zoomLeft:"));
+        EXPECT_EQ(tilesLeft(), depth == 12);
+        EXPECT_EQ(countedCalls("? update menu"), 13);
+    }
+}
+
+}  // namespace
+}  // namespace kinesta::testing
