@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "platform/linux/LinuxActionSettings.h"
+#include "platform/linux/SessionBus.h"
+#include "platform/linux/X11Connection.h"
+
+namespace kinesta {
+
+/// What is there on this machine now, as far as actions need it.
+struct DesktopFacts {
+    /// An X server answers; in a Wayland session that is XWayland, which shows the windows of older programs.
+    bool hasX = false;
+    bool hasXTest = false;
+    /// A window manager on the X server that tells and takes what the desktop standard (EWMH) says.
+    bool hasWindowManager = false;
+    /// A Wayland compositor answers.
+    bool hasWayland = false;
+    /// Virtual input devices may be made.
+    bool mayUseUinput = false;
+    bool hasXdgOpen = false;
+    bool hasSessionBus = false;
+    bool hasNotifications = false;
+    bool hasPortal = false;
+
+    /// Looks around. Takes some milliseconds; up to some hundred if the bus hangs.
+    static DesktopFacts probe(X11Connection& connection, SessionBus& bus, const std::string& uinputPath);
+};
+
+}  // namespace kinesta

@@ -1,0 +1,150 @@
+#include "platform/linux/DesktopSession.h"
+
+#include "platform/linux/DeviceAccess.h"
+
+namespace kinesta {
+namespace {
+
+using Route = LinuxActionSettings::InputRoute;
+
+constexpr const char* kStartInSession = "Start Kinesta from within your desktop session.";
+constexpr const char* kUseX11 =
+    "Choose your desktop's session “on Xorg” or “X11” at the login screen if you need this for every window.";
+
+}  // namespace
+
+DesktopSession::DesktopSession(const DesktopFacts& facts, Route wish) : m_facts(facts), m_wish(wish) {}
+
+DesktopSession::Kind DesktopSession::kind() const {
+    if (m_facts.hasWayland)
+        return m_facts.hasX ? Kind::waylandWithX : Kind::wayland;
+    return m_facts.hasX ? Kind::x11 : Kind::none;
+}
+
+std::string DesktopSession::description() const {
+    switch (kind()) {
+        case Kind::x11:
+            return "an X11 session";
+        case Kind::wayland:
+            return "a Wayland session";
+        case Kind::waylandWithX:
+            return "a Wayland session with XWayland";
+        case Kind::none:
+            break;
+    }
+    return "no desktop session";
+}
+
+Route DesktopSession::inputRoute() const {
+    if (m_wish != Route::automatic)
+        return m_wish;
+    return kind() == Kind::x11 && m_facts.hasXTest ? Route::xServer : Route::uinput;
+}
+
+std::vector<DesktopFinding> DesktopSession::findings() const {
+    return {sendInput(), keyboardLayout(), windows(), open(), notify()};
+}
+
+DesktopFinding DesktopSession::finding(DesktopCapability capability) const {
+    return findings()[static_cast<std::size_t>(capability)];
+}
+
+DesktopFinding DesktopSession::sendInput() const {
+    DesktopFinding finding{DesktopCapability::sendInput, "Sending keys and clicks", true, "", ""};
+    if (inputRoute() == Route::uinput) {
+        finding.works = m_facts.mayUseUinput;
+        finding.why = finding.works
+                          ? "They go out through a virtual keyboard of the kernel's. Modifier keys that you "
+                            "hold yourself meanwhile count as part of a shortcut."
+                          : "Here they would go out through a virtual keyboard of the kernel's, but /dev/uinput "
+                            "is missing or may not be opened.";
+        finding.remedy = finding.works ? "" : "Run once: " + uinputAccessCommand();
+        return finding;
+    }
+    finding.works = m_facts.hasXTest;
+    if (!m_facts.hasX) {
+        finding.why = "The settings ask for the X server, and none answers.";
+        finding.remedy = std::string(kStartInSession) + " Or remove the setting " +
+                         std::string(LinuxActionSettings::kInputRoute) + ".";
+    } else if (!m_facts.hasXTest) {
+        finding.why = "The settings ask for the X server, and it was started without the extension XTEST.";
+        finding.remedy = "Remove the setting " + std::string(LinuxActionSettings::kInputRoute) + ".";
+    } else if (m_facts.hasWayland) {
+        finding.why =
+            "The settings ask for the X server: in a Wayland session only programs that use XWayland get them.";
+        finding.remedy =
+            "Remove the setting " + std::string(LinuxActionSettings::kInputRoute) + " to reach all programs.";
+    } else {
+        finding.why = "They go out through the X server.";
+    }
+    return finding;
+}
+
+DesktopFinding DesktopSession::keyboardLayout() const {
+    DesktopFinding finding{DesktopCapability::keyboardLayout, "Following the keyboard layout", m_facts.hasX, "", ""};
+    if (m_facts.hasX) {
+        finding.why = "Shortcuts follow the layout in force.";
+    } else {
+        finding.why =
+            "Without an X server the layout in force cannot be known: shortcuts follow the one that the system "
+            "is set up with.";
+        finding.remedy = m_facts.hasWayland ? "Switch XWayland on in your desktop if you use more than one layout."
+                                            : kStartInSession;
+    }
+    return finding;
+}
+
+DesktopFinding DesktopSession::windows() const {
+    DesktopFinding finding{DesktopCapability::windows, "Closing and tiling windows", false, "", ""};
+    switch (kind()) {
+        case Kind::x11:
+            finding.works = m_facts.hasWindowManager;
+            finding.why = finding.works ? "The window manager takes such requests."
+                                        : "No window manager that takes such requests runs.";
+            finding.remedy = finding.works ? "" : "Start a window manager that follows the desktop standard (EWMH).";
+            break;
+        case Kind::waylandWithX:
+            finding.why = "Wayland hides windows from other programs: only those that use XWayland can be reached.";
+            finding.remedy = kUseX11;
+            break;
+        case Kind::wayland:
+            finding.why = "Wayland hides windows from other programs.";
+            finding.remedy = kUseX11;
+            break;
+        case Kind::none:
+            finding.why = "There is no desktop session here: neither DISPLAY nor WAYLAND_DISPLAY leads to one.";
+            finding.remedy = kStartInSession;
+            break;
+    }
+    return finding;
+}
+
+DesktopFinding DesktopSession::open() const {
+    DesktopFinding finding{DesktopCapability::open, "Opening addresses and files", true, "", ""};
+    if (m_facts.hasXdgOpen) {
+        finding.why = "They are opened with xdg-open.";
+    } else if (m_facts.hasPortal) {
+        finding.why = "They are opened through the desktop's portal.";
+    } else {
+        finding.works = false;
+        finding.why = "There is neither xdg-open nor a desktop portal.";
+        finding.remedy = "Install xdg-utils: sudo apt install xdg-utils";
+    }
+    return finding;
+}
+
+DesktopFinding DesktopSession::notify() const {
+    DesktopFinding finding{DesktopCapability::notify, "Showing notifications", m_facts.hasNotifications, "", ""};
+    if (!m_facts.hasSessionBus) {
+        finding.why = "There is no session bus, so Kinesta cannot tell you when it may not do something.";
+        finding.remedy = kStartInSession;
+    } else if (!m_facts.hasNotifications) {
+        finding.why = "No program shows notifications here, so Kinesta cannot tell you when it may not do something.";
+        finding.remedy = "Install one: sudo apt install dunst";
+    } else {
+        finding.why = "The desktop shows them.";
+    }
+    return finding;
+}
+
+}  // namespace kinesta

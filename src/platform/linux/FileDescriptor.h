@@ -1,0 +1,31 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace kinesta {
+
+/// Owns an open file of the system and closes it. Negative: none.
+class FileDescriptor {
+  public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    FileDescriptor(FileDescriptor&& other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
+    ~FileDescriptor() {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+
+    explicit operator bool() const { return m_descriptor >= 0; }
+    int number() const { return m_descriptor; }
+
+  private:
+    int m_descriptor = -1;
+};
+
+}  // namespace kinesta

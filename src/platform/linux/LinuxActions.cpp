@@ -1,0 +1,104 @@
+#include "platform/linux/LinuxActions.h"
+
+#include "platform/linux/BrokenPipes.h"
+#include "platform/linux/DesktopFacts.h"
+#include "platform/linux/DesktopNotifications.h"
+#include "platform/linux/DesktopPermission.h"
+#include "platform/linux/DesktopPortal.h"
+#include "platform/linux/EwmhDesktop.h"
+#include "platform/linux/LinuxActionSettings.h"
+#include "platform/linux/LinuxSystemVersion.h"
+#include "platform/linux/PosixHomeFolders.h"
+#include "platform/linux/PosixProcessLauncher.h"
+#include "platform/linux/PostingEventSynthesizer.h"
+#include "platform/linux/SessionBus.h"
+#include "platform/linux/UinputDevice.h"
+#include "platform/linux/UinputInputPoster.h"
+#include "platform/linux/WindowAccessibility.h"
+#include "platform/linux/WindowOwnMenus.h"
+#include "platform/linux/WindowOwnWindows.h"
+#include "platform/linux/WindowTiler.h"
+#include "platform/linux/X11Connection.h"
+#include "platform/linux/X11InputPoster.h"
+#include "platform/linux/X11Keyboard.h"
+#include "platform/linux/XdgWorkspace.h"
+#include "platform/linux/XkbKeyboardLayout.h"
+
+namespace kinesta {
+namespace {
+
+/// There is no overlay without a window system's help; what ran is in the log.
+class NoCue final : public ActionCuePresenting {
+  public:
+    void show(const GestureAction& /*action*/, std::int64_t /*adjustmentSteps*/,
+              const std::optional<std::string>& /*message*/) override {}
+};
+
+}  // namespace
+
+struct LinuxActions::Parts {
+    Parts(const Clock& clockPort, const UserDefaults& defaultsPort, const Log& log)
+        : clock(clockPort),
+          defaults(defaultsPort),
+          launcher({.zsh = "/bin/zsh", .loginShell = {}, .log = log}),
+          poster(makePoster(log)),
+          events(*poster, defaults, log),
+          workspace(
+              launcher, portal, [this] { return desktop.frontmostApplication(); }, log) {}
+
+    std::unique_ptr<InputPoster> makePoster(const Log& log) {
+        if (session().inputRoute() == LinuxActionSettings::InputRoute::uinput)
+            return std::make_unique<UinputInputPoster>(log);
+        return std::make_unique<X11InputPoster>(connection, keyboard);
+    }
+
+    DesktopSession session() {
+        return {DesktopFacts::probe(connection, bus, UinputDevice::kPath),
+                LinuxActionSettings::read(defaults).inputRoute};
+    }
+
+    const Clock& clock;
+    const UserDefaults& defaults;
+    X11Connection connection;
+    X11Keyboard keyboard{connection};
+    XkbKeyboardLayout layout{keyboard};
+    SessionBus bus;
+    DesktopPortal portal{bus};
+    PosixProcessLauncher launcher;
+    std::unique_ptr<InputPoster> poster;
+    PostingEventSynthesizer events;
+    EwmhDesktop desktop;
+    WindowTiler tiler{desktop};
+    WindowAccessibility accessibility{desktop, tiler};
+    WindowOwnWindows ownWindows{desktop};
+    WindowOwnMenus ownMenus{tiler};
+    XdgWorkspace workspace;
+    DesktopNotifications notificationsOnScreen{bus};
+    DesktopPermission permission{*poster, notificationsOnScreen, [this] {
+                                     const auto finding = session().finding(DesktopCapability::sendInput);
+                                     return finding.why + " " + finding.remedy;
+                                 }};
+    LinuxSystemVersion systemVersion;
+    PosixHomeFolders homeFolders;
+    InProcessNotifications notifications;
+    NoCue cue;
+};
+
+LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log) {
+    surviveBrokenPipes();
+    m_parts = std::make_unique<Parts>(clock, defaults, log);
+}
+
+LinuxActions::~LinuxActions() = default;
+
+ActionPorts LinuxActions::ports() {
+    Parts& p = *m_parts;
+    return {p.clock,     p.defaults, p.systemVersion, p.homeFolders, p.permission, p.events,        p.layout,
+            p.workspace, p.launcher, p.accessibility, p.ownWindows,  p.ownMenus,   p.notifications, p.cue};
+}
+
+InProcessNotifications& LinuxActions::notifications() { return m_parts->notifications; }
+
+DesktopSession LinuxActions::session() { return m_parts->session(); }
+
+}  // namespace kinesta

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "actions/ActionPorts.h"
+#include "actions/InProcessNotifications.h"
+#include "platform/linux/DesktopSession.h"
+
+namespace kinesta {
+
+/// Everything that actions need of a Linux desktop, put together for the session that we are in. Main thread only.
+class LinuxActions {
+  public:
+    /// Is told, as one sentence, why something could not be done. Also from other threads.
+    using Log = std::function<void(const std::string&)>;
+
+    /// Clock and defaults must outlive this.
+    LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log);
+    ~LinuxActions();
+
+    /// Valid as long as this lives.
+    ActionPorts ports();
+    InProcessNotifications& notifications();
+
+    /// What kind of session this is, and what works in it now.
+    DesktopSession session();
+
+  private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <systemd/sd-bus.h>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace kinesta {
+
+struct BusUnref {
+    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+    void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
+};
+using BusMessagePointer = std::unique_ptr<sd_bus_message, BusUnref>;
+using BusSlotPointer = std::unique_ptr<sd_bus_slot, BusUnref>;
+
+/// Our connection to the desktop's message bus. Main thread only.
+///
+/// Nothing here waits for other programs. Messages go out at once; answers are read at the next use, since nobody waits
+/// for them.
+class SessionBus {
+  public:
+    /// How long the bus itself, which only passes messages on, may hold us up.
+    static constexpr std::chrono::milliseconds kPatience{200};
+
+    SessionBus() = default;
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+
+    /// The connection, with every answer that has come handled; made (again) if there is none; null without a bus.
+    sd_bus* open();
+
+    /// Sends what is still to be sent; whether all of it went out.
+    bool flush();
+
+    /// Whether a program offers this service, or would be started for it. Waits for the bus's answer.
+    bool offers(const std::string& service);
+
+    /// Counts the connections made: whoever keeps something that another program gave compares it.
+    std::uint64_t generation() const { return m_generation; }
+
+  private:
+    struct Close {
+        void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
+    };
+
+    bool handleAnswers();
+    bool isListed(const char* list, const std::string& service);
+
+    std::unique_ptr<sd_bus, Close> m_bus;
+    std::uint64_t m_generation = 0;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "input/EvdevFrameAssembler.h"
+#include "platform/linux/TouchpadCandidate.h"
+
+namespace kinesta {
+
+/// A touchpad of this machine as a person may want to see it.
+struct ListedTouchpad {
+    TouchpadCandidate candidate;
+    /// Whether it is the one that is read.
+    bool isChosen = false;
+    /// Axis ranges and slots; absent if the pad may not be read.
+    std::optional<EvdevTouchpad> touchpad;
+    bool canTellPressure = false;
+    /// Why it cannot be read and what to do, as a sentence; empty if it can.
+    std::string problem;
+};
+
+/// All touchpads, opened for a moment. `wanted` is the setting that names the one to read.
+std::vector<ListedTouchpad> listTouchpads(const std::string& wanted = {});
+
+}  // namespace kinesta

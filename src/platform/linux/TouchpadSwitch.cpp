@@ -1,0 +1,87 @@
+#include "platform/linux/TouchpadSwitch.h"
+
+#include <sys/epoll.h>
+#include <sys/inotify.h>
+
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+
+#include "platform/linux/DconfDatabase.h"
+
+namespace kinesta {
+namespace {
+
+std::string variable(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+/// Whether a list with colons holds the word.
+bool lists(const std::string& list, const std::string& word) {
+    return (':' + list + ':').find(':' + word + ':') != std::string::npos;
+}
+
+}  // namespace
+
+TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
+    Desktop desktop;
+    // The X server inside a Wayland session knows no touchpads.
+    if (variable("WAYLAND_DISPLAY").empty())
+        desktop.display = variable("DISPLAY");
+    if (lists(variable("XDG_CURRENT_DESKTOP"), "GNOME")) {
+        const std::string configuration = variable("XDG_CONFIG_HOME");
+        desktop.dconfDirectory = (configuration.empty() ? variable("HOME") + "/.config" : configuration) + "/dconf";
+    }
+    return desktop;
+}
+
+TouchpadSwitch::TouchpadSwitch(const Desktop& desktop)
+    : m_all(epoll_create1(EPOLL_CLOEXEC)), m_dconfDirectory(desktop.dconfDirectory) {
+    epoll_event readable{};
+    readable.events = EPOLLIN;
+    if (!desktop.display.empty()) {
+        m_x11.emplace(desktop.display);
+        epoll_ctl(m_all.number(), EPOLL_CTL_ADD, m_x11->fileDescriptor(), &readable);
+    }
+    if (!m_dconfDirectory.empty()) {
+        m_directory = FileDescriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+        // The database is replaced as a whole.
+        inotify_add_watch(m_directory.number(), m_dconfDirectory.c_str(), IN_MOVED_TO | IN_CLOSE_WRITE | IN_ONLYDIR);
+        epoll_ctl(m_all.number(), EPOLL_CTL_ADD, m_directory.number(), &readable);
+    }
+}
+
+bool TouchpadSwitch::takeChanges() {
+    const bool isStoredAnew = drainDirectory();
+    return (m_x11 && m_x11->takeChanges()) || isStoredAnew;
+}
+
+bool TouchpadSwitch::drainDirectory() {
+    bool isChanged = false;
+    alignas(inotify_event) std::array<char, 4096> buffer;
+    while (m_directory && ::read(m_directory.number(), buffer.data(), buffer.size()) > 0)
+        isChanged = true;
+    return isChanged;
+}
+
+SendEventsMode TouchpadSwitch::mode(const std::string& path) {
+    const SendEventsMode driver = m_x11 ? m_x11->mode(path) : SendEventsMode::enabled;
+    return driver == SendEventsMode::enabled ? storedMode() : driver;
+}
+
+SendEventsMode TouchpadSwitch::storedMode() const {
+    if (m_dconfDirectory.empty())
+        return SendEventsMode::enabled;
+    std::ifstream file(m_dconfDirectory + "/user", std::ios::binary);
+    const std::string database{std::istreambuf_iterator<char>(file), {}};
+    const auto mode = dconfString(database, "/org/gnome/desktop/peripherals/touchpad/send-events");
+    if (mode == "disabled")
+        return SendEventsMode::disabled;
+    return mode == "disabled-on-external-mouse" ? SendEventsMode::disabledWithExternalMouse : SendEventsMode::enabled;
+}
+
+}  // namespace kinesta

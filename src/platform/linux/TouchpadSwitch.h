@@ -1,0 +1,47 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/SendEventsMode.h"
+#include "platform/linux/X11TouchpadProperties.h"
+
+namespace kinesta {
+
+/// Whether the desktop has switched the touchpad off, where that can be known: from the input drivers' properties on
+/// X11, whatever the desktop; from the stored settings on GNOME. Elsewhere every touchpad counts as on.
+class TouchpadSwitch {
+  public:
+    struct Desktop {
+        /// The X display to ask, if any.
+        std::string display;
+        /// Where GNOME keeps its settings ("~/.config/dconf"), if this is GNOME.
+        std::string dconfDirectory;
+
+        /// What the environment tells.
+        static Desktop current();
+    };
+
+    explicit TouchpadSwitch(const Desktop& desktop = Desktop::current());
+
+    /// Becomes readable when takeChanges() has something to do.
+    int fileDescriptor() const { return m_all.number(); }
+
+    /// Whether mode() may have another answer than before.
+    bool takeChanges();
+
+    /// What has been chosen for the touchpad at this device node.
+    SendEventsMode mode(const std::string& path);
+
+  private:
+    bool drainDirectory();
+    SendEventsMode storedMode() const;
+
+    FileDescriptor m_all;  // an epoll of the others
+    FileDescriptor m_directory;
+    std::string m_dconfDirectory;
+    std::optional<X11TouchpadProperties> m_x11;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/linux/InputPoster.h"
+#include "platform/linux/UinputDevice.h"
+
+namespace kinesta {
+
+/// Posts through a virtual device of the kernel's. Where the pointer is and which modifiers the person holds on other
+/// keyboards cannot be known that way, so neither can be held modifiers be put out of the way of a shortcut.
+class UinputInputPoster final : public InputPoster {
+  public:
+    /// Is told, as one sentence, why nothing could be posted; once for every new reason.
+    using Log = std::function<void(const std::string&)>;
+
+    /// Makes the device at once: a desktop takes a moment to notice a new one, and keys sent before that are lost.
+    explicit UinputInputPoster(Log log);
+
+    bool isAvailable() override;
+    bool canPost(std::uint16_t code) override;
+    ModifierSituation modifiers() override;
+    std::optional<DesktopLocation> pointerLocation() override;
+    bool post(std::span<const InputTransition> transitions) override;
+
+  private:
+    void tell(const std::string& reason);
+
+    Log m_log;
+    std::unique_ptr<UinputDevice> m_device;
+    std::string m_lastReason;
+};
+
+}  // namespace kinesta

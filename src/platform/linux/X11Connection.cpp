@@ -1,0 +1,72 @@
+#include "platform/linux/X11Connection.h"
+
+#include <poll.h>
+#include <xcb/xtest.h>
+
+#include <csignal>
+#include <utility>
+
+#include "platform/linux/XcbPointer.h"
+
+namespace kinesta {
+namespace {
+
+// XCB writes to its socket without MSG_NOSIGNAL: a server that goes at that moment would end the process. Whoever has
+// set the signal knows what they do.
+void surviveBrokenPipes() {
+    struct sigaction current {};
+    if (sigaction(SIGPIPE, nullptr, &current) == 0 && current.sa_handler == SIG_DFL)
+        static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+}
+
+bool hasTestExtension(xcb_connection_t* connection) {
+    const auto* extension = xcb_get_extension_data(connection, &xcb_test_id);
+    if (extension == nullptr || extension->present == 0)
+        return false;
+    return XcbPointer<xcb_test_get_version_reply_t>(
+               xcb_test_get_version_reply(connection, xcb_test_get_version(connection, 2, 2), nullptr)) != nullptr;
+}
+
+// XCB learns of the server's end only when it reads or writes, which would be at the first key lost.
+bool isAlive(xcb_connection_t* connection) {
+    pollfd socket{xcb_get_file_descriptor(connection), 0, 0};
+    return xcb_connection_has_error(connection) == 0 && poll(&socket, 1, 0) == 0;
+}
+
+}  // namespace
+
+X11Connection::X11Connection(std::string displayName) : m_displayName(std::move(displayName)) { surviveBrokenPipes(); }
+
+X11Connection::~X11Connection() {
+    // Requests are read in order, so an answer to the last says that none is left to be lost with the connection.
+    if (m_connection != nullptr)
+        XcbPointer<xcb_get_input_focus_reply_t>(
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    close();
+}
+
+xcb_connection_t* X11Connection::open() {
+    if (m_connection != nullptr && isAlive(m_connection))
+        return m_connection;
+    close();
+    int screenNumber = 0;
+    m_connection = xcb_connect(m_displayName.empty() ? nullptr : m_displayName.c_str(), &screenNumber);
+    if (xcb_connection_has_error(m_connection) != 0) {
+        close();
+        return nullptr;
+    }
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
+    for (; screenNumber > 0 && screens.rem > 1; --screenNumber)
+        xcb_screen_next(&screens);
+    m_root = screens.data->root;
+    m_canPostInput = hasTestExtension(m_connection);
+    ++m_generation;
+    return m_connection;
+}
+
+void X11Connection::close() {
+    if (m_connection != nullptr)
+        xcb_disconnect(std::exchange(m_connection, nullptr));
+}
+
+}  // namespace kinesta

@@ -1,0 +1,116 @@
+#include "platform/linux/X11TouchpadProperties.h"
+
+#include <xcb/xinput.h>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace kinesta {
+namespace {
+
+template <typename Reply>
+std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
+    return {reply, std::free};
+}
+
+}  // namespace
+
+void X11TouchpadProperties::Disconnect::operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+
+X11TouchpadProperties::X11TouchpadProperties(const std::string& display)
+    : m_connection(xcb_connect(display.c_str(), nullptr)) {
+    xcb_connection_t* connection = m_connection.get();
+    const auto version = owned(
+        xcb_connection_has_error(connection) != 0
+            ? nullptr
+            : xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 0), nullptr));
+    if (!version) {
+        m_connection.reset();
+        return;
+    }
+    m_deviceNode = atom("Device Node");
+    m_deviceEnabled = atom("Device Enabled");
+    m_libinputSendEvents = atom("libinput Send Events Mode Enabled");
+    m_synapticsOff = atom("Synaptics Off");
+    struct {
+        xcb_input_event_mask_t header{.deviceid = XCB_INPUT_DEVICE_ALL, .mask_len = 1};
+        std::uint32_t mask = XCB_INPUT_XI_EVENT_MASK_PROPERTY | XCB_INPUT_XI_EVENT_MASK_HIERARCHY;
+    } selection;
+    xcb_input_xi_select_events(connection, xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root, 1,
+                               &selection.header);
+    xcb_flush(connection);
+}
+
+int X11TouchpadProperties::fileDescriptor() const {
+    return m_connection ? xcb_get_file_descriptor(m_connection.get()) : -1;
+}
+
+bool X11TouchpadProperties::takeChanges() {
+    if (!m_connection)
+        return false;
+    bool isChanged = false;
+    while (const auto event = owned(xcb_poll_for_event(m_connection.get())))
+        isChanged = true;
+    if (xcb_connection_has_error(m_connection.get()) == 0)
+        return isChanged;
+    m_connection.reset();
+    return true;
+}
+
+SendEventsMode X11TouchpadProperties::mode(const std::string& path) {
+    SendEventsMode mode = SendEventsMode::enabled;
+    bool isChanged = static_cast<bool>(m_connection);
+    while (isChanged) {
+        mode = presentMode(path);
+        // What changed meanwhile was read along with the answers and makes nothing readable any more.
+        isChanged = false;
+        while (const auto event = owned(xcb_poll_for_queued_event(m_connection.get())))
+            isChanged = true;
+    }
+    return mode;
+}
+
+SendEventsMode X11TouchpadProperties::presentMode(const std::string& path) {
+    const auto devices = owned(xcb_input_xi_query_device_reply(
+        m_connection.get(), xcb_input_xi_query_device(m_connection.get(), XCB_INPUT_DEVICE_ALL), nullptr));
+    if (!devices)
+        return SendEventsMode::enabled;
+    for (auto info = xcb_input_xi_query_device_infos_iterator(devices.get()); info.rem > 0;
+         xcb_input_xi_device_info_next(&info)) {
+        const std::uint16_t device = info.data->deviceid;
+        const std::string node = property(device, m_deviceNode);
+        if (node.substr(0, node.find('\0')) != path)  // whether or not the driver counts the NUL
+            continue;
+        const std::string isEnabled = property(device, m_deviceEnabled);
+        const std::string modes = property(device, m_libinputSendEvents);
+        const std::string synaptics = property(device, m_synapticsOff);
+        if ((!isEnabled.empty() && isEnabled[0] == 0) || (!modes.empty() && modes[0] != 0) ||
+            (!synaptics.empty() && synaptics[0] == 1))
+            return SendEventsMode::disabled;
+        if (modes.size() > 1 && modes[1] != 0)
+            return SendEventsMode::disabledWithExternalMouse;
+    }
+    return SendEventsMode::enabled;
+}
+
+std::uint32_t X11TouchpadProperties::atom(const char* name) {
+    const auto reply = owned(xcb_intern_atom_reply(
+        m_connection.get(), xcb_intern_atom(m_connection.get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name),
+        nullptr));
+    return reply ? reply->atom : 0;
+}
+
+/// The bytes of a property of 8-bit items; empty if there is none.
+std::string X11TouchpadProperties::property(std::uint16_t device, std::uint32_t atom) {
+    constexpr std::uint32_t kMostWords = 1024;
+    xcb_connection_t* connection = m_connection.get();
+    const auto reply = owned(xcb_input_xi_get_property_reply(
+        connection, xcb_input_xi_get_property(connection, device, 0, atom, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostWords),
+        nullptr));
+    if (!reply || reply->format != 8)
+        return {};
+    const void* items = xcb_input_xi_get_property_items(reply.get());
+    return {static_cast<const char*>(items), reply->num_items};
+}
+
+}  // namespace kinesta

@@ -1,0 +1,37 @@
+#include "platform/linux/XkbKeyboardLayout.h"
+
+#include <utility>
+
+#include "platform/linux/KeyboardNames.h"
+#include "platform/linux/XkbKeys.h"
+
+namespace kinesta {
+namespace {
+
+std::optional<KeyboardLayoutCharacters> charactersOfSystem(const std::string& path) {
+    const KeyboardNames names = KeyboardNames::read(path);
+    const xkb_rule_names rules{nullptr, names.model.c_str(), names.layout.c_str(), names.variant.c_str(),
+                               names.options.c_str()};
+    const XkbContextPointer context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
+    if (!context)
+        return std::nullopt;
+    const XkbKeymapPointer keymap(xkb_keymap_new_from_names(context.get(), &rules, XKB_KEYMAP_COMPILE_NO_FLAGS));
+    if (!keymap)
+        return std::nullopt;
+    return charactersOfGroup(keymap.get(), 0);
+}
+
+}  // namespace
+
+XkbKeyboardLayout::XkbKeyboardLayout(X11Keyboard& keyboard, std::string systemKeyboardFile)
+    : m_keyboard(keyboard), m_systemKeyboardFile(std::move(systemKeyboardFile)) {}
+
+std::optional<KeyboardLayoutCharacters> XkbKeyboardLayout::charactersWithoutModifiers() {
+    if (const KeyboardLayoutCharacters* characters = m_keyboard.characters())
+        return *characters;
+    if (!m_systemCharacters)  // read once: it changes when the machine is set up anew
+        m_systemCharacters = charactersOfSystem(m_systemKeyboardFile);
+    return m_systemCharacters;
+}
+
+}  // namespace kinesta

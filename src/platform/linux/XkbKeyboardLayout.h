@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "actions/KeyboardLayout.h"
+#include "platform/linux/X11Keyboard.h"
+
+namespace kinesta {
+
+/// The layout of the X server, which in a Wayland session with XWayland is that of the session too. Without an X server
+/// the layout that the system is set up with, which is a guess: Wayland tells the layout only to the window that has
+/// the keyboard.
+class XkbKeyboardLayout final : public KeyboardLayout {
+  public:
+    static constexpr const char* kSystemKeyboardFile = "/etc/default/keyboard";
+
+    /// `keyboard` must outlive this.
+    explicit XkbKeyboardLayout(X11Keyboard& keyboard, std::string systemKeyboardFile = kSystemKeyboardFile);
+
+    std::optional<KeyboardLayoutCharacters> charactersWithoutModifiers() override;
+
+  private:
+    X11Keyboard& m_keyboard;
+    std::string m_systemKeyboardFile;
+    std::optional<KeyboardLayoutCharacters> m_systemCharacters;
+};
+
+}  // namespace kinesta

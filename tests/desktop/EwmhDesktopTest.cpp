@@ -1,0 +1,200 @@
+#include "platform/linux/EwmhDesktop.h"
+
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <memory>
+
+#include "desktop/ClientWindow.h"
+#include "desktop/TestDesktop.h"
+#include "desktop/WindowPorts.h"
+#include "desktop/WindowWatch.h"
+
+namespace kinesta::testing {
+namespace {
+
+using Availability = EwmhDesktop::Availability;
+
+Seconds timeOf(const std::function<void()>& work) {
+    const auto began = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
+}
+
+TEST(EwmhDesktop, KnowsTheProcessInFront) {
+    TestDesktop desktop({.hasWindowManager = true});
+    WindowWatch watch(desktop);
+    EwmhDesktop ewmh;
+    EXPECT_EQ(ewmh.frontmostApplication(), std::nullopt) << "an empty desktop";
+    {
+        const auto terminal = desktop.run({"xterm"});
+        ASSERT_NE(watch.awaitWindowOf(terminal->pid()), 0U);
+        EXPECT_EQ(ewmh.frontmostApplication(), terminal->pid());
+    }
+    std::array<char, 256> machine{};
+    ASSERT_EQ(gethostname(machine.data(), machine.size() - 1), 0);
+    const struct {
+        const char* description;
+        std::function<void(ClientWindow&)> prepare;
+        bool isProcess;
+    } rows[] = {
+        {"tells its process", [](ClientWindow& w) { w.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {4711}); }, true},
+        {"and this machine",
+         [&](ClientWindow& w) { w.setMachine(machine.data()).set("_NET_WM_PID", XCB_ATOM_CARDINAL, {4711}); }, true},
+        {"another machine",
+         [](ClientWindow& w) { w.setMachine("elsewhere").set("_NET_WM_PID", XCB_ATOM_CARDINAL, {4711}); }, false},
+        {"no process", [](ClientWindow&) {}, false},
+        {"process 0", [](ClientWindow& w) { w.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {0}); }, false},
+        {"nonsense", [](ClientWindow& w) { w.set("_NET_WM_PID", XCB_ATOM_STRING, {4711}); }, false},
+    };
+    for (const auto& row : rows) {
+        const auto connection = ClientWindow::connect(desktop);
+        ClientWindow window(desktop, watch, {100, 100, 200, 100}, connection);
+        row.prepare(window);
+        window.show();
+        const auto process = ewmh.frontmostApplication();
+        ASSERT_TRUE(process.has_value()) << row.description;
+        EXPECT_EQ(*process == 4711, row.isProcess) << row.description;
+        EXPECT_EQ(*process < 0, !row.isProcess) << row.description;
+        if (row.isProcess)
+            continue;
+        ClientWindow second(desktop, watch, {150, 150, 200, 100}, connection);
+        row.prepare(second);
+        second.show();
+        EXPECT_EQ(ewmh.frontmostApplication(), process) << row.description << ": the same client";
+        ClientWindow stranger(desktop, watch, {150, 150, 200, 100});
+        row.prepare(stranger);
+        stranger.show();
+        EXPECT_NE(ewmh.frontmostApplication(), process) << row.description << ": another client";
+    }
+}
+
+TEST(EwmhDesktop, KnowsTheMonitorsAndWhatTheyLeaveToWindows) {
+    TestDesktop desktop({.hasWindowManager = true});
+    EwmhDesktop ewmh;
+    const auto monitors = [&] {
+        const auto snapshot = ewmh.snapshot(ChildProcess::kPatience.count() / 1000.0);
+        return snapshot ? snapshot->monitors : std::vector<EwmhMonitor>{};
+    };
+    EXPECT_EQ(monitors(), (std::vector<EwmhMonitor>{{{0, 0, 1280, 800}, {0, 0, 1280, 800}}}));
+    for (const std::vector<std::string>& monitor :
+         {std::vector<std::string>{"L", "640/170x800/210+0+0", "screen"}, {"R", "640/170x700/210+640+0", "none"}})
+        ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", monitor[0], monitor[1], monitor[2]})->waitForEnd());
+    EXPECT_EQ(monitors(), (std::vector<EwmhMonitor>{{{0, 0, 640, 800}, {0, 0, 640, 800}},
+                                                    {{640, 0, 640, 700}, {640, 0, 640, 700}}}));
+    const std::array<std::uint32_t, 8> areas{0, 27, 640, 773, 640, 0, 640, 700};
+    xcb_change_property(desktop.connection(), XCB_PROP_MODE_REPLACE, desktop.root(), desktop.atom("_GTK_WORKAREAS_D0"),
+                        XCB_ATOM_CARDINAL, 32, areas.size(), areas.data());
+    ASSERT_TRUE(desktop.property(desktop.root(), "_GTK_WORKAREAS_D0"));
+    EXPECT_EQ(monitors(), (std::vector<EwmhMonitor>{{{0, 0, 640, 800}, {0, 27, 640, 773}},
+                                                    {{640, 0, 640, 700}, {640, 0, 640, 700}}}));
+}
+
+TEST(EwmhDesktop, LivesThroughWindowsThatVanish) {
+    TestDesktop desktop({.hasWindowManager = true});
+    WindowWatch watch(desktop);
+    WindowPorts ports;
+    auto window = std::make_unique<ClientWindow>(desktop, watch, WindowRectangle{100, 100, 200, 100});
+    window->show();
+    const auto before = ports.desktop.window(window->window());
+    ASSERT_TRUE(before.has_value());
+    window.reset();
+    ASSERT_TRUE(watch.await([&] { return !watch.isManaged(before->id); }));
+    EXPECT_EQ(ports.desktop.window(before->id).has_value(), false);
+    auto zoomed = *before;
+    zoomed.isFullscreen = zoomed.isMaximizedHorizontally = true;
+    // It never answers, and what it does not answer is not waited for beyond the limit.
+    EXPECT_LT(timeOf([&] { ports.desktop.restore({&zoomed, 1}, 0.05); }), 0.15);
+    ports.desktop.place(*before, {0, 0, 100, 100});
+    ports.desktop.setTilingRecord(before->id, std::array<std::uint32_t, 1>{1});
+    ports.desktop.raise(before->id);
+    ports.desktop.flush();
+    EXPECT_EQ(ports.desktop.tilingRecords({&before->id, 1})[0], std::nullopt);
+    EXPECT_TRUE(ports.desktop.close(before->id)) << "the window manager was asked";
+    watch.pretendActive(before->id);
+    EXPECT_EQ(ports.desktop.frontmostApplication(), std::nullopt);
+    EXPECT_FALSE(ports.closes());
+    EXPECT_FALSE(ports.tiles(WindowTilingMenuCommand::fill));
+    EXPECT_EQ(ports.desktop.availability(), Availability::available);
+}
+
+TEST(EwmhDesktop, RefusesWithoutAServerAndFindsTheNextOne) {
+    unsetenv("DISPLAY");
+    EwmhDesktop ewmh;
+    EXPECT_EQ(ewmh.availability(), Availability::noServer);
+    EXPECT_EQ(ewmh.snapshot().has_value(), false);
+    EXPECT_FALSE(ewmh.close(1));
+    EXPECT_EQ(EwmhDesktop(":54321").availability(), Availability::noServer);
+    EwmhWindow window;
+    for (int i = 0; i < 2; ++i) {
+        TestDesktop desktop;
+        EXPECT_EQ(ewmh.availability(ChildProcess::kPatience.count() / 1000.0), Availability::noWindowManager);
+        EXPECT_TRUE(ewmh.snapshot().has_value());
+        // Without requests in between, the end of the server is found while one is written, and while one is read.
+        desktop.stopServer();
+        if (i == 0)
+            ewmh.place(window, {0, 0, 1, 1});
+        EXPECT_EQ(ewmh.frontmostApplication(), std::nullopt);
+        EXPECT_EQ(ewmh.availability(), Availability::noServer);
+        ewmh.place(window, {0, 0, 1, 1});
+        ewmh.flush();
+    }
+    TestDesktop desktop({.hasWindowManager = true});
+    EXPECT_EQ(ewmh.availability(ChildProcess::kPatience.count() / 1000.0), Availability::available);
+}
+
+TEST(EwmhDesktop, IsNotHeldUpByAServerThatHangs) {
+    TestDesktop desktop({.hasWindowManager = true});
+    WindowWatch watch(desktop);
+    WindowPorts ports;
+    ClientWindow window(desktop, watch, {100, 100, 200, 100});
+    window.show();
+    ASSERT_TRUE(ports.desktop.activeWindow());
+    ucred server{};
+    socklen_t size = sizeof server;
+    ASSERT_EQ(getsockopt(xcb_get_file_descriptor(desktop.connection()), SOL_SOCKET, SO_PEERCRED, &server, &size), 0);
+    ASSERT_EQ(kill(server.pid, SIGSTOP), 0);
+    // What is in progress when it begins to hang waits once, and all that follows not at all.
+    EXPECT_LT(timeOf([&] { EXPECT_FALSE(ports.closes()); }), 2 * EwmhDesktop::kTimeout);
+    EXPECT_LT(timeOf([&] {
+                  for (int i = 0; i < 100; ++i) {
+                      EXPECT_FALSE(ports.tiles(WindowTilingMenuCommand::fill));
+                      EXPECT_FALSE(ports.desktop.snapshot(0.5).has_value());
+                      EXPECT_FALSE(ports.desktop.close(window.window()));
+                  }
+              }),
+              1.0);
+    EwmhDesktop late;
+    EXPECT_LT(timeOf([&] { EXPECT_EQ(late.availability(0.1), Availability::noServer); }), 0.3);
+    {
+        EwmhDesktop forgotten;
+        EXPECT_EQ(forgotten.availability(0), Availability::noServer);
+    }
+    ASSERT_EQ(kill(server.pid, SIGCONT), 0);
+    EXPECT_TRUE(eventually([&] { return ports.desktop.activeWindow().has_value(); }));
+    EXPECT_TRUE(eventually([&] { return late.availability() == Availability::available; }));
+    EXPECT_TRUE(ports.closes());
+    EXPECT_TRUE(window.awaitCloseRequest());
+}
+
+TEST(EwmhDesktop, IsNotHeldUpByAWindowManagerThatIsGone) {
+    TestDesktop desktop({.hasWindowManager = true});
+    WindowWatch watch(desktop);
+    WindowPorts ports;
+    const auto manager = static_cast<pid_t>(desktop.property(desktop.root(), "_OPENBOX_PID").value_or(0));
+    ASSERT_GT(manager, 1);
+    ClientWindow window(desktop, watch, {100, 100, 200, 100});
+    window.show();
+    watch.addState(window.window(), "_NET_WM_STATE_FULLSCREEN");
+    EXPECT_EQ(ports.desktop.availability(), Availability::available);
+    ASSERT_EQ(kill(manager, SIGSTOP), 0);
+    EXPECT_LT(timeOf([&] { EXPECT_TRUE(ports.tiles(WindowTilingMenuCommand::fill)); }), 0.5);
+    ASSERT_EQ(kill(manager, SIGKILL), 0);
+    EXPECT_TRUE(eventually([&] { return ports.desktop.availability() == Availability::noWindowManager; }));
+}
+
+}  // namespace
+}  // namespace kinesta::testing

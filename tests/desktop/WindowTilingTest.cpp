@@ -1,0 +1,298 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+#include "desktop/ClientWindow.h"
+#include "desktop/TestDesktop.h"
+#include "desktop/WindowPorts.h"
+#include "desktop/WindowWatch.h"
+
+namespace kinesta::testing {
+namespace {
+
+using Command = WindowTilingMenuCommand;
+
+struct WindowTilingTest : ::testing::Test {
+    TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
+    WindowWatch watch{desktop};
+    WindowPorts ports;
+
+    /// Waits until a window's frame is there, each edge within `tolerance` pixels.
+    ::testing::AssertionResult isAt(xcb_window_t window, const WindowRectangle& expected, int tolerance = 0) {
+        const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
+        const auto isThere = [&] {
+            const auto frame = watch.frame(window);
+            return isNear(frame.x, expected.x) && isNear(frame.y, expected.y) &&
+                   isNear(frame.right(), expected.right()) && isNear(frame.bottom(), expected.bottom());
+        };
+        if (watch.await(isThere, std::chrono::seconds(5)))
+            return ::testing::AssertionSuccess();
+        const auto frame = watch.frame(window);
+        return ::testing::AssertionFailure() << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
+    }
+
+    /// Makes two monitors of the screen, side by side, and waits until openbox has seen them.
+    void splitScreen() {
+        for (const std::vector<std::string>& monitor :
+             {std::vector<std::string>{"L", "640/170x800/210+0+0", "screen"}, {"R", "640/170x800/210+640+0", "none"}})
+            ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", monitor[0], monitor[1], monitor[2]})->waitForEnd());
+    }
+};
+
+TEST_F(WindowTilingTest, TilesARealEditorAndReturnsItToItsPreviousSize) {
+    const auto program = desktop.run({"mousepad", "--disable-server"});
+    const xcb_window_t editor = watch.awaitWindowOf(program->pid());
+    ASSERT_NE(editor, 0U);
+    const auto before = watch.frame(editor);
+    const struct {
+        Command command;
+        WindowRectangle expected;
+    } rows[] = {
+        {Command::left, {0, 0, 640, 800}},        {Command::right, {640, 0, 640, 800}},
+        {Command::top, {0, 0, 1280, 400}},        {Command::bottom, {0, 400, 1280, 400}},
+        {Command::topThreeUp, {0, 0, 1280, 400}}, {Command::center, {0, 200, 1280, 400}},
+        {Command::fill, {0, 0, 1280, 800}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_TRUE(ports.tiles(row.command));
+        EXPECT_TRUE(isAt(editor, row.expected)) << rawValue(row.command);
+    }
+    EXPECT_TRUE(ports.tiles(Command::untile));
+    EXPECT_TRUE(isAt(editor, before)) << "from before the first of them";
+    EXPECT_TRUE(ports.tiles(Command::untile)) << "there is nothing to return to, and no key is to be posted instead";
+    watch.letWindowManagerCatchUp(editor);
+    EXPECT_EQ(watch.frame(editor), before);
+}
+
+TEST_F(WindowTilingTest, TilesTerminalsInWholeCells) {
+    std::vector<std::unique_ptr<ChildProcess>> programs;
+    std::vector<xcb_window_t> terminals;
+    for (int i = 0; i < 3; ++i) {
+        programs.push_back(desktop.run({"xterm", "-geometry", "40x10+" + std::to_string(50 * i) + "+50"}));
+        terminals.push_back(watch.awaitWindowOf(programs.back()->pid()));
+        ASSERT_NE(terminals.back(), 0U);
+    }
+    constexpr int kCell = 26;
+    EXPECT_TRUE(ports.tiles(Command::rightThreeUp));
+    EXPECT_TRUE(isAt(terminals[2], {640, 0, 640, 800}, kCell));
+    EXPECT_TRUE(isAt(terminals[1], {0, 0, 640, 400}, kCell));
+    EXPECT_TRUE(isAt(terminals[0], {0, 400, 640, 400}, kCell));
+    for (const xcb_window_t terminal : terminals) {
+        const auto frame = watch.frame(terminal);
+        EXPECT_EQ(frame.intersection({0, 0, 1280, 800}), frame) << "out of the screen";
+    }
+    // A terminal that is tiled stays tiled: cells are no sign that a person has resized it.
+    EXPECT_TRUE(ports.tiles(Command::bottom));
+    EXPECT_TRUE(isAt(terminals[2], {0, 400, 1280, 400}, kCell));
+    EXPECT_TRUE(ports.tiles(Command::untile));
+    EXPECT_TRUE(watch.await([&] { return watch.client(terminals[2]).height < 200; }));
+    EXPECT_EQ(watch.frame(terminals[2]).x, 100);
+    EXPECT_EQ(watch.frame(terminals[2]).y, 50);
+}
+
+TEST_F(WindowTilingTest, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
+    splitScreen();
+    ClientWindow dock(desktop, watch, {1240, 0, 40, 800});
+    dock.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DOCK"});
+    dock.set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 40, 0, 0, 0, 0, 0, 799, 0, 0, 0, 0}).show(false);
+    ClientWindow panel(desktop, watch, {0, 775, 640, 25});
+    panel.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DOCK"});
+    panel.set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, 0, 25, 0, 0, 0, 0, 0, 0, 0, 639}).show(false);
+
+    ClientWindow third(desktop, watch, {700, 50, 200, 150});
+    ClientWindow second(desktop, watch, {720, 80, 200, 150});
+    ClientWindow onLeft(desktop, watch, {100, 100, 200, 150});
+    ClientWindow minimized(desktop, watch, {800, 100, 200, 150});
+    ClientWindow fixed(desktop, watch, {800, 100, 200, 150});
+    ClientWindow palette(desktop, watch, {900, 100, 200, 150});
+    ClientWindow elsewhere(desktop, watch, {900, 100, 200, 150});
+    ClientWindow active(desktop, watch, {740, 110, 200, 150});
+    third.show();
+    second.show();
+    onLeft.show();
+    minimized.show();
+    const auto beforeMinimizing = watch.frame(minimized.window());
+    watch.minimize(minimized.window());
+    fixed.setFixedSize().show();
+    palette.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_UTILITY"}).show(false);
+    elsewhere.show();
+    watch.tell(elsewhere.window(), "_NET_WM_DESKTOP", {1, 2});
+    active.show();
+    const auto bystanders = [&] {
+        std::vector<WindowRectangle> frames;
+        for (const ClientWindow* each : {&onLeft, &fixed, &palette, &elsewhere})
+            frames.push_back(watch.frame(each->window()));
+        return frames;
+    };
+    const auto before = bystanders();
+
+    EXPECT_TRUE(ports.tiles(Command::leftAndRight));
+    EXPECT_TRUE(isAt(active.window(), {640, 0, 300, 800}));
+    EXPECT_TRUE(isAt(second.window(), {940, 0, 300, 800}));
+    const auto height = [&](const ClientWindow& window) {
+        const auto stacking = watch.stacking();
+        return std::find(stacking.begin(), stacking.end(), window.window()) - stacking.begin();
+    };
+    EXPECT_TRUE(watch.await([&] { return height(second) > height(fixed); })) << "still behind a bystander";
+    EXPECT_TRUE(watch.await([&] { return height(active) > height(second); }));
+
+    EXPECT_TRUE(ports.tiles(Command::bottomThreeUp));
+    EXPECT_TRUE(isAt(active.window(), {640, 400, 600, 400}));
+    EXPECT_TRUE(isAt(second.window(), {640, 0, 300, 400}));
+    EXPECT_TRUE(isAt(third.window(), {940, 0, 300, 400}));
+
+    EXPECT_EQ(bystanders(), before);
+    watch.activate(onLeft.window());
+    EXPECT_TRUE(ports.tiles(Command::topAndBottom));
+    EXPECT_TRUE(isAt(onLeft.window(), {0, 0, 640, 387})) << "alone on its monitor, above the panel";
+    EXPECT_TRUE(ports.tiles(Command::bottom));
+    EXPECT_TRUE(isAt(onLeft.window(), {0, 387, 640, 388}));
+    watch.activate(minimized.window());
+    EXPECT_TRUE(isAt(minimized.window(), beforeMinimizing));
+}
+
+TEST_F(WindowTilingTest, EndsMaximizedAndFullscreenFirstAndReturnsToThem) {
+    ClientWindow other(desktop, watch, {50, 50, 300, 200});
+    ClientWindow window(desktop, watch, {200, 150, 400, 300});
+    other.show();
+    window.show();
+    const auto before = watch.frame(window.window());
+    const auto otherBefore = watch.frame(other.window());
+    const std::string maximizedHorizontally = "_NET_WM_STATE_MAXIMIZED_HORZ";
+    const std::string maximizedVertically = "_NET_WM_STATE_MAXIMIZED_VERT";
+    const struct {
+        std::string state, second;
+    } rows[] = {{maximizedHorizontally, maximizedVertically},
+                {maximizedHorizontally, ""},
+                {maximizedVertically, ""},
+                {"_NET_WM_STATE_FULLSCREEN", ""}};
+    for (const auto& row : rows) {
+        watch.addState(other.window(), row.state, row.second);
+        watch.activate(window.window());
+        watch.addState(window.window(), row.state, row.second);
+        const auto zoomed = watch.frame(window.window());
+        EXPECT_TRUE(ports.tiles(Command::leftAndRight));
+        EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800})) << row.state;
+        EXPECT_TRUE(isAt(other.window(), {640, 0, 640, 800})) << row.state;
+        EXPECT_FALSE(watch.hasState(window.window(), row.state));
+        EXPECT_FALSE(watch.hasState(other.window(), row.state));
+        EXPECT_TRUE(ports.tiles(Command::untile));
+        EXPECT_TRUE(isAt(window.window(), zoomed)) << row.state;
+        EXPECT_TRUE(watch.hasState(window.window(), row.state));
+
+        constexpr std::uint32_t kRemove = 0;
+        watch.tell(window.window(), "_NET_WM_STATE",
+                   {kRemove, desktop.atom(row.state), row.second.empty() ? 0 : desktop.atom(row.second), 2});
+        EXPECT_TRUE(isAt(window.window(), before)) << row.state << ": what it had been maximized from";
+        watch.activate(other.window());
+        EXPECT_TRUE(ports.tiles(Command::untile));
+        EXPECT_TRUE(watch.await([&] { return watch.hasState(other.window(), row.state); }));
+        watch.tell(other.window(), "_NET_WM_STATE",
+                   {kRemove, desktop.atom(row.state), row.second.empty() ? 0 : desktop.atom(row.second), 2});
+        EXPECT_TRUE(isAt(other.window(), otherBefore));
+    }
+    watch.activate(window.window());
+    watch.addState(window.window(), maximizedHorizontally, maximizedVertically);
+    EXPECT_TRUE(ports.tiles(Command::center));
+    EXPECT_TRUE(
+        isAt(window.window(), {(1280 - before.width) / 2, (800 - before.height) / 2, before.width, before.height}))
+        << "centered in the size that it was maximized from";
+}
+
+TEST_F(WindowTilingTest, RemembersAnewOnceThePersonHasMovedTheWindow) {
+    ClientWindow window(desktop, watch, {200, 150, 400, 300});
+    window.show();
+    EXPECT_TRUE(ports.tiles(Command::left));
+    EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800}));
+    constexpr std::uint32_t kStaticWithAll = 10 | 0xF << 8;
+    watch.tell(window.window(), "_NET_MOVERESIZE_WINDOW", {kStaticWithAll, 600, 300, 320, 240});
+    ASSERT_TRUE(watch.await([&] { return watch.client(window.window()) == WindowRectangle{600, 300, 320, 240}; }));
+    const auto chosen = watch.frame(window.window());
+    EXPECT_TRUE(ports.tiles(Command::right));
+    EXPECT_TRUE(isAt(window.window(), {640, 0, 640, 800}));
+    EXPECT_TRUE(ports.tiles(Command::untile));
+    EXPECT_TRUE(isAt(window.window(), chosen));
+
+    // A window that remembers a monitor which is gone, or nonsense that someone else wrote, does not get lost.
+    const auto record = [&](std::vector<std::uint32_t> numbers) {
+        window.set("_KINESTA_TILING_RECORD", XCB_ATOM_CARDINAL, std::move(numbers)).send();
+    };
+    record({3000, 100, 500, 400, 0, 0, 640, 800, 0});
+    EXPECT_TRUE(ports.tiles(Command::untile));
+    EXPECT_TRUE(isAt(window.window(), {390, 200, 500, 400}));
+    record({1, 2, 3});
+    EXPECT_TRUE(ports.tiles(Command::untile));
+    watch.letWindowManagerCatchUp(window.window());
+    EXPECT_EQ(watch.frame(window.window()), (WindowRectangle{390, 200, 500, 400}));
+}
+
+TEST_F(WindowTilingTest, KeepsWindowsInTheWorkAreaThatDoNotTakeTheirPlace) {
+    ClientWindow wide(desktop, watch, {50, 50, 800, 200});
+    wide.setMinimum({800, 100}).show();
+    EXPECT_TRUE(ports.tiles(Command::right));
+    EXPECT_TRUE(watch.await([&] { return watch.frame(wide.window()).height == 800; }));
+    EXPECT_EQ(watch.frame(wide.window()).right(), 1280);
+    EXPECT_EQ(watch.client(wide.window()).width, 800);
+
+    ClientWindow fixed(desktop, watch, {50, 50, 300, 200});
+    fixed.setFixedSize().show();
+    const auto size = watch.frame(fixed.window()).size();
+    EXPECT_FALSE(ports.tiles(Command::fill)) << "it cannot be";
+    EXPECT_TRUE(ports.tiles(Command::center));
+    EXPECT_TRUE(isAt(fixed.window(), {(1280 - size.width) / 2, (800 - size.height) / 2, size.width, size.height}));
+
+    // It puts shadows around itself, within the window that the desktop knows.
+    ClientWindow shadowed(desktop, watch, {50, 50, 300, 200});
+    shadowed.set("_MOTIF_WM_HINTS", desktop.atom("_MOTIF_WM_HINTS"), {2, 0, 0, 0, 0});
+    shadowed.set("_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL, {10, 12, 8, 14}).show();
+    EXPECT_TRUE(ports.tiles(Command::right));
+    EXPECT_TRUE(watch.await([&] {
+        return watch.client(shadowed.window()) == WindowRectangle{630, -8, 662, 822};
+    })) << watch.client(shadowed.window()).x
+        << ' ' << watch.client(shadowed.window()).y;
+}
+
+TEST_F(WindowTilingTest, TouchesNothingOnceThePersonHasGoneElsewhere) {
+    const auto connection = ClientWindow::connect(desktop);
+    ClientWindow first(desktop, watch, {100, 100, 300, 200}, connection);
+    ClientWindow stranger(desktop, watch, {600, 100, 300, 200});
+    stranger.show();
+    first.show();
+    const auto before = watch.frame(first.window());
+    const auto strangerBefore = watch.frame(stranger.window());
+    EXPECT_FALSE(ports.tiles(Command::fill, [&] { watch.activate(stranger.window()); }));
+    watch.minimize(first.window());
+    watch.minimize(stranger.window());
+    watch.pretendActive(first.window());
+    EXPECT_FALSE(ports.tiles(Command::fill)) << "minimized";
+    for (const ClientWindow* each : {&first, &stranger})
+        watch.activate(each->window());
+    EXPECT_TRUE(isAt(first.window(), before));
+    EXPECT_TRUE(isAt(stranger.window(), strangerBefore));
+}
+
+TEST_F(WindowTilingTest, TilesItsOwnWindowLikeAnyOther) {
+    ClientWindow window(desktop, watch, {100, 100, 300, 200});
+    window.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(getpid())}).show();
+    EXPECT_TRUE(ports.tiles(Command::top));
+    EXPECT_TRUE(isAt(window.window(), {0, 0, 1280, 400}));
+}
+
+TEST_F(WindowTilingTest, IsNotHeldUpByAProgramThatHangs) {
+    const auto program = desktop.run({"xterm", "-geometry", "40x10+50+50"});
+    const xcb_window_t terminal = watch.awaitWindowOf(program->pid());
+    ASSERT_NE(terminal, 0U);
+    watch.addState(terminal, "_NET_WM_STATE_MAXIMIZED_HORZ", "_NET_WM_STATE_MAXIMIZED_VERT");
+    program->signal(SIGSTOP);
+    const auto began = std::chrono::steady_clock::now();
+    EXPECT_TRUE(ports.tiles(Command::left));
+    EXPECT_TRUE(ports.closes());
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(500));
+    EXPECT_TRUE(isAt(terminal, {0, 0, 640, 800}, 26));
+    program->signal(SIGCONT);
+}
+
+}  // namespace
+}  // namespace kinesta::testing

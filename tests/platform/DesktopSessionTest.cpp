@@ -1,0 +1,97 @@
+#include "platform/linux/DesktopSession.h"
+
+#include <gtest/gtest.h>
+
+namespace kinesta {
+namespace {
+
+using Kind = DesktopSession::Kind;
+using Route = LinuxActionSettings::InputRoute;
+using Capability = DesktopCapability;
+
+DesktopFacts x11() {
+    return {.hasX = true,
+            .hasXTest = true,
+            .hasWindowManager = true,
+            .hasXdgOpen = true,
+            .hasSessionBus = true,
+            .hasNotifications = true};
+}
+
+DesktopFacts wayland() {
+    return {
+        .hasWayland = true, .mayUseUinput = true, .hasXdgOpen = true, .hasSessionBus = true, .hasNotifications = true};
+}
+
+DesktopFacts with(DesktopFacts facts, bool DesktopFacts::*fact, bool value) {
+    facts.*fact = value;
+    return facts;
+}
+
+TEST(DesktopSession, ChoosesTheWayThatReachesEveryWindow) {
+    struct Row {
+        const char* situation;
+        DesktopFacts facts;
+        Route wish;
+        Kind kind;
+        Route route;
+        bool sends;
+    };
+    const DesktopFacts withX = with(with(wayland(), &DesktopFacts::hasX, true), &DesktopFacts::hasXTest, true);
+    const DesktopFacts noTest = with(x11(), &DesktopFacts::hasXTest, false);
+    for (const Row& row : {
+             Row{"X11", x11(), Route::automatic, Kind::x11, Route::xServer, true},
+             Row{"X11 without XTest", noTest, Route::automatic, Kind::x11, Route::uinput, false},
+             Row{"the same, allowed uinput", with(noTest, &DesktopFacts::mayUseUinput, true), Route::automatic,
+                 Kind::x11, Route::uinput, true},
+             Row{"X11, uinput wished", x11(), Route::uinput, Kind::x11, Route::uinput, false},
+             Row{"Wayland", wayland(), Route::automatic, Kind::wayland, Route::uinput, true},
+             Row{"Wayland, not allowed", with(wayland(), &DesktopFacts::mayUseUinput, false), Route::automatic,
+                 Kind::wayland, Route::uinput, false},
+             Row{"XWayland", withX, Route::automatic, Kind::waylandWithX, Route::uinput, true},
+             Row{"XWayland, X wished", withX, Route::xServer, Kind::waylandWithX, Route::xServer, true},
+             Row{"Wayland, X wished", wayland(), Route::xServer, Kind::wayland, Route::xServer, false},
+             Row{"a console", {.mayUseUinput = true}, Route::automatic, Kind::none, Route::uinput, true},
+             Row{"nothing", {}, Route::automatic, Kind::none, Route::uinput, false},
+         }) {
+        const DesktopSession session(row.facts, row.wish);
+        EXPECT_EQ(session.kind(), row.kind) << row.situation;
+        EXPECT_EQ(session.inputRoute(), row.route) << row.situation;
+        EXPECT_EQ(session.finding(Capability::sendInput).works, row.sends) << row.situation;
+    }
+}
+
+TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
+    // Every combination of facts that can be: 2 to the power of 9, with each wish.
+    for (unsigned bits = 0; bits < 512; ++bits) {
+        const auto bit = [&](unsigned index) { return (bits >> index & 1U) != 0; };
+        const DesktopFacts facts{bit(0), bit(0) && bit(1), bit(0) && bit(2), bit(3),          bit(4),
+                                 bit(5), bit(6),           bit(6) && bit(7), bit(6) && bit(8)};
+        for (const Route wish : {Route::automatic, Route::xServer, Route::uinput}) {
+            const DesktopSession session(facts, wish);
+            EXPECT_FALSE(session.description().empty());
+            EXPECT_NE(session.inputRoute(), Route::automatic);
+            const auto findings = session.findings();
+            ASSERT_EQ(findings.size(), 5U);
+            for (std::size_t i = 0; i < findings.size(); ++i) {
+                EXPECT_EQ(static_cast<std::size_t>(findings[i].capability), i);
+                EXPECT_TRUE(findings[i].why.ends_with('.')) << findings[i].why;
+                EXPECT_TRUE(findings[i].works || !findings[i].remedy.empty()) << findings[i].what << " " << bits;
+            }
+        }
+    }
+}
+
+TEST(DesktopSession, NamesTheCommandThatMends) {
+    const DesktopSession refused(with(wayland(), &DesktopFacts::mayUseUinput, false), Route::automatic);
+    const std::string remedy = refused.finding(Capability::sendInput).remedy;
+    EXPECT_TRUE(remedy.starts_with("Run once: sudo modprobe uinput")) << remedy;
+    EXPECT_NE(remedy.find("KERNEL==\"uinput\""), std::string::npos) << remedy;
+    const DesktopSession bare(with(x11(), &DesktopFacts::hasXdgOpen, false), Route::automatic);
+    EXPECT_EQ(bare.finding(Capability::open).remedy, "Install xdg-utils: sudo apt install xdg-utils");
+    EXPECT_FALSE(DesktopSession(wayland(), Route::automatic).finding(Capability::windows).works);
+    EXPECT_FALSE(DesktopSession(wayland(), Route::automatic).finding(Capability::keyboardLayout).works);
+}
+
+}  // namespace
+}  // namespace kinesta

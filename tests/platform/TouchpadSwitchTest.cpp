@@ -1,0 +1,156 @@
+#include "platform/linux/TouchpadSwitch.h"
+
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <xcb/xinput.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+
+#include "platform/linux/DconfDatabase.h"
+#include "support/DconfSample.h"
+#include "support/TemporaryFolder.h"
+
+namespace kinesta {
+namespace {
+
+constexpr const char* kKey = "/org/gnome/desktop/peripherals/touchpad/send-events";
+
+bool isTold(TouchpadSwitch& pads, int milliseconds = 5000) {
+    pollfd changes{.fd = pads.fileDescriptor(), .events = POLLIN, .revents = 0};
+    while (poll(&changes, 1, milliseconds) > 0)
+        if (pads.takeChanges())
+            return true;
+    return false;
+}
+
+TEST(DconfDatabase, IsReadAndNothingIsMadeOfWhatIsNone) {
+    const std::string sample = dconfSample();
+    EXPECT_EQ(dconfString(sample, kKey), "disabled");
+    for (const char* other : {"", "/", "send-events", "/org/gnome/desktop/peripherals/touchpad/",
+                              "/org/gnome/desktop/interface/cursor-size", "x/org/gnome/desktop/interface/cursor-size",
+                              "/org/gnome/desktop/peripherals/touchpad/send-events/"})
+        EXPECT_EQ(dconfString(sample, other), std::nullopt) << other;
+    for (std::size_t size = 0; size + 1 < sample.size(); ++size)
+        EXPECT_EQ(dconfString(sample.substr(0, size), kKey), std::nullopt) << size;
+    // Whatever bytes are wrong, it ends and stays within its bounds.
+    for (std::size_t i = 0; i < sample.size(); ++i) {
+        for (const int wrong : {0x00, 0x01, 0x7f, 0xff}) {
+            std::string damaged = sample;
+            damaged[i] = static_cast<char>(wrong);
+            const auto read = dconfString(damaged, kKey);
+            EXPECT_LE(read.value_or("").size(), sample.size());
+        }
+    }
+}
+
+TEST(TouchpadSwitching, FollowsGnomesStoredSetting) {
+    const TemporaryFolder folder;
+    TouchpadSwitch pads({.display = "", .dconfDirectory = folder.path().string()});
+    EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::enabled);
+    const auto store = [&](const std::string& database) {
+        const std::string file = folder.write("new", database);
+        std::filesystem::rename(file, folder.path() / "user");
+        EXPECT_TRUE(isTold(pads));
+    };
+    store(dconfSample());
+    EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::disabled);
+    std::string other = dconfSample();
+    other.replace(other.find("disabled"), 8, "enabled\0", 8);
+    store(other);
+    EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::enabled);
+    EXPECT_FALSE(isTold(pads, 0));
+
+    TouchpadSwitch nothing({.display = "", .dconfDirectory = (folder.path() / "none").string()});
+    EXPECT_EQ(nothing.mode("/dev/input/event0"), SendEventsMode::enabled);
+}
+
+/// An X server whose test pointer poses as a touchpad.
+class TouchpadSwitchingOnX11 : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        m_server = popen("echo $$; exec Xvfb -displayfd 1 -nolisten tcp -terminate", "r");
+        ASSERT_NE(m_server, nullptr);
+        int display = -1;
+        ASSERT_EQ(fscanf(m_server, "%d %d", &m_serverId, &display), 2) << "Xvfb is not installed";
+        m_display = ":" + std::to_string(display);
+        m_connection.reset(xcb_connect(m_display.c_str(), nullptr));
+        set("Device Node", "/dev/input/event5");
+    }
+
+    void TearDown() override {
+        m_connection.reset();
+        endServer();
+    }
+
+    void endServer() {
+        if (m_server) {
+            kill(m_serverId, SIGTERM);
+            pclose(m_server);
+        }
+        m_server = nullptr;
+    }
+
+    void set(const char* name, const std::string& bytes) {
+        const auto length = static_cast<std::uint16_t>(std::strlen(name));
+        xcb_intern_atom_reply_t* atom =
+            xcb_intern_atom_reply(m_connection.get(), xcb_intern_atom(m_connection.get(), 0, length, name), nullptr);
+        ASSERT_NE(atom, nullptr);
+        constexpr std::uint16_t kTestPointer = 4;
+        const std::string padded = bytes + std::string(3, '\0');  // whole words are read
+        const auto cookie = xcb_input_xi_change_property_checked(
+            m_connection.get(), kTestPointer, XCB_PROP_MODE_REPLACE, 8, atom->atom, XCB_ATOM_INTEGER,
+            static_cast<std::uint32_t>(bytes.size()), padded.data());
+        free(atom);
+        EXPECT_EQ(xcb_request_check(m_connection.get(), cookie), nullptr);
+    }
+
+    std::string m_display;
+
+  private:
+    FILE* m_server = nullptr;
+    pid_t m_serverId = -1;
+    std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> m_connection{nullptr, xcb_disconnect};
+};
+
+TEST_F(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
+    TouchpadSwitch pads({.display = m_display, .dconfDirectory = ""});
+    const std::string pad = "/dev/input/event5";
+    EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
+    struct Case {
+        const char* property;
+        std::string bytes;
+        SendEventsMode mode;
+    };
+    const std::string off("\1\0", 2);
+    const std::string on("\0\0", 2);
+    const std::string offWithMouse("\0\1", 2);
+    const std::vector<Case> cases{
+        {"libinput Send Events Mode Enabled", off, SendEventsMode::disabled},
+        {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
+        {"libinput Send Events Mode Enabled", offWithMouse, SendEventsMode::disabledWithExternalMouse},
+        {"Synaptics Off", "\1", SendEventsMode::disabled},
+        {"Synaptics Off", "\2", SendEventsMode::disabledWithExternalMouse},  // that is tapping alone
+        {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
+    };
+    for (const Case& one : cases) {
+        set(one.property, one.bytes);
+        EXPECT_TRUE(isTold(pads));
+        EXPECT_EQ(pads.mode(pad), one.mode) << one.property;
+        EXPECT_EQ(pads.mode("/dev/input/event"), SendEventsMode::enabled);
+    }
+    set("libinput Send Events Mode Enabled", off);
+    set("Device Node", std::string("/dev/input/event5\0", 18));
+    EXPECT_TRUE(isTold(pads));
+    EXPECT_EQ(pads.mode(pad), SendEventsMode::disabled);
+    endServer();
+    EXPECT_TRUE(isTold(pads));
+    EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
+    EXPECT_FALSE(isTold(pads, 100));  // nor does the broken connection keep anyone awake
+}
+
+}  // namespace
+}  // namespace kinesta
