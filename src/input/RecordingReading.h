@@ -33,7 +33,7 @@ class RecordingReading {
 /// Opens a recording of any of the known formats, told apart by how it begins: Kinesta's own, `evemu-record` and
 /// `libinput record`. `name` is what errors call the input. `device`, if not null, is an evemu device description
 /// that gives the axis ranges of a recording without any. Both streams must outlive the reader.
-Result<std::unique_ptr<RecordingReading>> openRecording(std::istream& input, std::string name,
+Result<std::unique_ptr<RecordingReading>> openRecording(std::istream& stream, std::string name,
                                                         std::istream* device = nullptr);
 
 }  // namespace kinesta

@@ -1,0 +1,63 @@
+#include "cli/DevicesCommand.h"
+
+#include <nlohmann/json.hpp>
+
+#include "cli/LiveRecognition.h"
+#include "cli/StoredSettings.h"
+#include "cli/TextTable.h"
+#include "platform/linux/TouchpadListing.h"
+
+namespace kinesta {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json range(const EvdevAxisRange& axis) { return {axis.minimum, axis.maximum}; }
+
+Json asJson(const ListedTouchpad& listed) {
+    Json object{{"name", listed.candidate.name},
+                {"path", listed.candidate.path},
+                {"builtIn", listed.candidate.isBuiltIn},
+                {"chosen", listed.isChosen},
+                {"readable", listed.problem.empty()},
+                {"problem", listed.problem.empty() ? Json(nullptr) : Json(listed.problem)}};
+    if (listed.touchpad) {
+        object["x"] = range(listed.touchpad->x);
+        object["y"] = range(listed.touchpad->y);
+        object["slots"] = listed.touchpad->slotCount;
+        object["pressure"] = listed.canTellPressure;
+    }
+    return object;
+}
+
+}  // namespace
+
+ExitStatus listDevices(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
+    StoredSettings settings(console, defaults);
+    const auto touchpads = listTouchpads(settings.defaults().string(kTouchpadSettingKey).value_or(""));
+    if (form == OutputForm::json) {
+        Json array = Json::array();
+        for (const ListedTouchpad& listed : touchpads)
+            array.push_back(asJson(listed));
+        console.out << array.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+        return settings.status();
+    }
+    if (touchpads.empty()) {
+        console.out << "No built-in trackpad was found.\n";
+        return settings.status();
+    }
+    TextTable table({"", "TOUCHPAD", "DEVICE", "FINGERS", "FORCE CLICK"});
+    for (const ListedTouchpad& listed : touchpads)
+        table.add({listed.isChosen ? "→" : "", listed.candidate.name, listed.candidate.path,
+                   listed.touchpad ? std::to_string(listed.touchpad->slotCount) : "?",
+                   !listed.touchpad         ? "?"
+                   : listed.canTellPressure ? "yes"
+                                            : "impossible: it cannot tell pressure"});
+    table.print(console);
+    for (const ListedTouchpad& listed : touchpads)
+        if (!listed.problem.empty())
+            console.out << '\n' << console.warning(listed.problem) << '\n';
+    return settings.status();
+}
+
+}  // namespace kinesta

@@ -1,0 +1,139 @@
+#include "cli/DoctorCommand.h"
+
+#include <algorithm>
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <vector>
+
+#include "cli/LiveRecognition.h"
+#include "cli/StoredSettings.h"
+#include "cli/TextTable.h"
+#include "platform/linux/LinuxActions.h"
+#include "platform/linux/TouchpadListing.h"
+#include "rules/RuleStore.h"
+#include "rules/ShellCommandSettings.h"
+#include "support/SteadyClock.h"
+
+namespace kinesta {
+namespace {
+
+/// One thing that rules may need: whether it is there, and if not what to do.
+struct Finding {
+    std::string what;
+    bool works = false;
+    std::string why;
+    std::string remedy;
+    /// Whether an enabled rule needs it.
+    bool isNeeded = false;
+};
+
+/// What an action of this kind needs of the session, if anything.
+std::optional<DesktopCapability> capabilityFor(ActionKind kind) {
+    switch (kind) {
+        case ActionKind::keyboardShortcut:
+        case ActionKind::middleClick:
+        case ActionKind::adjustVolume:
+            return DesktopCapability::sendInput;
+        case ActionKind::closeWindow:
+            return DesktopCapability::windows;
+        case ActionKind::openURL:
+        case ActionKind::openFileOrFolder:
+            return DesktopCapability::open;
+        case ActionKind::unconfigured:
+        case ActionKind::launchApplication:
+        case ActionKind::shellCommand:
+        case ActionKind::toggleConfigurationWindow:
+        case ActionKind::disableAllRules:
+            break;
+    }
+    return std::nullopt;
+}
+
+using Rules = std::vector<GestureRule>;
+
+bool anyEnabled(const Rules& rules, const std::function<bool(const GestureRule&)>& needs) {
+    return std::ranges::any_of(rules, [&](const GestureRule& rule) { return rule.isEnabled && needs(rule); });
+}
+
+void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
+    const auto touchpads = listTouchpads(defaults.string(kTouchpadSettingKey).value_or(""));
+    const auto chosen = std::ranges::find_if(touchpads, [](const auto& listed) { return listed.isChosen; });
+    const bool isNeeded = anyEnabled(rules, [](const GestureRule&) { return true; });
+    if (chosen == touchpads.end())
+        findings.push_back({"Touchpad", false, "No built-in trackpad was found.",
+                            "Connect one; recognition starts by itself.", isNeeded});
+    else
+        findings.push_back(
+            {"Touchpad", chosen->problem.empty(),
+             chosen->problem.empty() ? chosen->candidate.name + " at " + chosen->candidate.path + "." : chosen->problem,
+             "", isNeeded});
+    const bool canTellPressure = chosen != touchpads.end() && chosen->canTellPressure;
+    findings.push_back({"Force Click", canTellPressure,
+                        canTellPressure ? "The touchpad tells pressure."
+                                        : "Force Click is impossible: no touchpad here can tell pressure.",
+                        canTellPressure ? "" : "Bind those rules to a physical click of any pressure.",
+                        anyEnabled(rules, [](const GestureRule& rule) {
+                            return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
+                        })});
+}
+
+void addSession(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
+    const SteadyClock clock;
+    LinuxActions actions(clock, defaults, [](const std::string&) {});
+    for (DesktopFinding& finding : actions.session().findings()) {
+        const bool isNeeded = anyEnabled(
+            rules, [&](const GestureRule& rule) { return capabilityFor(rule.action.kind) == finding.capability; });
+        findings.push_back(
+            {std::move(finding.what), finding.works, std::move(finding.why), std::move(finding.remedy), isNeeded});
+    }
+}
+
+void addShellCommands(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
+    const bool isOn = ShellCommandSettings::isEnabled(defaults);
+    findings.push_back(
+        {"Shell commands", isOn, isOn ? "Switched on." : "Switched off, as they are at first.",
+         isOn ? "" : "Switch them on in the settings if you trust every rule that runs one.",
+         anyEnabled(rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
+}
+
+}  // namespace
+
+ExitStatus doctor(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
+    StoredSettings settings(console, defaults);
+    const RuleStore store(settings.defaults());
+    const Rules& rules = store.rules().value();
+    std::vector<Finding> findings;
+    addTouchpad(findings, rules, settings.defaults());
+    addSession(findings, rules, settings.defaults());
+    addShellCommands(findings, rules, settings.defaults());
+    bool isMissing = false;
+    nlohmann::ordered_json array = nlohmann::ordered_json::array();
+    for (const Finding& finding : findings) {
+        isMissing = isMissing || (finding.isNeeded && !finding.works);
+        if (form == OutputForm::json) {
+            array.push_back({{"what", finding.what},
+                             {"works", finding.works},
+                             {"needed", finding.isNeeded},
+                             {"why", finding.why},
+                             {"remedy", finding.remedy}});
+            continue;
+        }
+        const std::string mark = finding.works      ? console.good("✓")
+                                 : finding.isNeeded ? console.warning("✗")
+                                                    : console.dim("–");
+        console.out << mark << ' ' << console.bold(finding.what) << ": " << printable(finding.why) << '\n';
+        if (!finding.works && !finding.remedy.empty())
+            console.out << "    " << finding.remedy << '\n';
+    }
+    if (form == OutputForm::json)
+        console.out << array.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+    else
+        console.out << '\n'
+                    << (isMissing ? "Something that your rules need is missing (✗)."
+                                  : "All that your rules need is there.")
+                    << '\n';
+    return isMissing ? ExitStatus::badInput : settings.status();
+}
+
+}  // namespace kinesta

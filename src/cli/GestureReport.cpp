@@ -1,0 +1,64 @@
+#include "cli/GestureReport.h"
+
+#include <array>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "cli/TextTable.h"
+#include "rules/GestureDescription.h"
+
+namespace kinesta {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+double inSeconds(std::chrono::nanoseconds time) { return static_cast<double>(time.count()) / 1e9; }
+
+struct AddFields {
+    Json& line;
+
+    void operator()(const DetectedTap& tap) const {
+        line["gesture"] = rawValue(tap.gesture);
+        line["fingers"] = tap.fingerCount;
+    }
+    void operator()(const DetectedEdgeSlide& slide) const {
+        line["gesture"] = rawValue(GestureKind::edgeSlide);
+        line["fingers"] = slide.fingerCount;
+        line["side"] = rawValue(slide.side);
+        line["steps"] = slide.steps;
+    }
+    void operator()(const DetectedAnchorDraw& draw) const {
+        line["gesture"] = rawValue(GestureKind::anchorDraw);
+        line["corner"] = rawValue(draw.corner);
+        line["pattern"] = rawValue(draw.pattern);
+    }
+};
+
+}  // namespace
+
+std::string gestureAsJson(std::chrono::nanoseconds time, const DetectedGesture& gesture, const GestureRule* rule) {
+    Json line{{"t", inSeconds(time)}};
+    std::visit(AddFields{line}, gesture);
+    line["rule"] = rule ? Json(rule->id.toString()) : Json(nullptr);
+    line["action"] = rule ? Json(rawValue(rule->action.kind)) : Json(nullptr);
+    return line.dump();
+}
+
+std::string ruleInWords(const GestureRule& rule) {
+    const std::string action = rule.action.summary();
+    const std::string words = rule.name.empty() || rule.name == action ? action : action + "  (" + rule.name + ")";
+    return printable(words);
+}
+
+std::string gestureForPeople(const Console& console, std::chrono::nanoseconds time, const DetectedGesture& gesture,
+                             const GestureRule* rule) {
+    std::array<char, 32> stamp{};
+    std::snprintf(stamp.data(), stamp.size(), "%10.3f s  ", inSeconds(time));
+    std::string text = describe(gesture);
+    if (const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture); slide && (slide->steps > 1 || slide->steps < -1))
+        text += ", " + std::to_string(slide->steps > 0 ? slide->steps : -slide->steps) + " steps";
+    return console.dim(stamp.data()) + console.bold(text) + "  →  " +
+           (rule ? console.good(ruleInWords(*rule)) : console.dim("no rule"));
+}
+
+}  // namespace kinesta

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "cli/Console.h"
+#include "rules/GestureRule.h"
+#include "rules/RuleSelection.h"
+
+namespace kinesta {
+
+/// One finished gesture as a line of JSON: when, what, and the rule that takes it (null for none).
+std::string gestureAsJson(std::chrono::nanoseconds time, const DetectedGesture& gesture, const GestureRule* rule);
+
+/// The same for a person: "  1.250 s  3-finger double tap  →  Middle click (Paste)".
+std::string gestureForPeople(const Console& console, std::chrono::nanoseconds time, const DetectedGesture& gesture,
+                             const GestureRule* rule);
+
+/// What a rule would do, in words: its action, and its name where that says more.
+std::string ruleInWords(const GestureRule& rule);
+
+}  // namespace kinesta

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "support/Result.h"
+
+namespace kinesta {
+
+/// A file that a subcommand writes: what was there under its name stays until all is written. What is no regular
+/// file, such as a pipe or a device, is written to as it goes.
+class OutputFile {
+  public:
+    static Result<std::unique_ptr<OutputFile>> create(const std::string& file);
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    std::ostream& stream() { return m_stream; }
+
+    /// Ends the writing and puts the file in its place.
+    Outcome commit();
+
+  private:
+    OutputFile(std::filesystem::path target, std::filesystem::path written);
+
+    std::filesystem::path m_target;
+    std::filesystem::path m_written;
+    std::ofstream m_stream;
+};
+
+/// The same for a content that is there already.
+Outcome writeOutputFile(const std::string& file, std::string_view content);
+
+}  // namespace kinesta

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "input/TouchSample.h"
+#include "support/Seconds.h"
+
+namespace kinesta {
+
+/// A picture of the pad in characters: each contact as a dot with the trail of where it came from, one colour a
+/// finger, drawn with Braille patterns (eight dots a character).
+class PadPicture {
+  public:
+    /// `columns` and `rows` are the size of the pad without its frame, in characters.
+    PadPicture(int columns, int rows) : m_columns(columns), m_rows(rows) {}
+
+    /// Takes the contacts of a frame at `time`; trails are as old as their points.
+    void show(const TouchSamples& samples, Seconds time);
+
+    /// A physical press, shown by a heavy frame.
+    void setPressed(bool isPressed) { m_isPressed = isPressed; }
+
+    /// Lifts everything and forgets the trails.
+    void clear();
+
+    /// The picture as lines of equal width, frame included, coloured with terminal escapes.
+    std::vector<std::string> lines(Seconds now) const;
+
+  private:
+    struct TrailPoint {
+        Point position;
+        Seconds time;
+        std::size_t finger;
+    };
+
+    std::size_t fingerOf(ContactId id);
+
+    int m_columns;
+    int m_rows;
+    bool m_isPressed = false;
+    TouchSamples m_contacts;
+    std::vector<ContactId> m_fingers;  // the contacts on the pad, each at the place that gives it its colour
+    std::deque<TrailPoint> m_trail;
+};
+
+}  // namespace kinesta

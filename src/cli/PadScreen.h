@@ -1,0 +1,46 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+
+#include "cli/Console.h"
+#include "cli/PadPicture.h"
+#include "input/RecordingEvent.h"
+#include "platform/linux/Terminal.h"
+
+namespace kinesta {
+
+/// The whole terminal as a window on the pad: a title, the picture, what was recognized last, and what was before.
+/// Holds the terminal for as long as it lives.
+class PadScreen {
+  public:
+    /// Whether the terminal is large enough for it.
+    static bool fits(const Console& console);
+
+    explicit PadScreen(const Console& console);
+
+    void setTitle(std::string title, std::string detail);
+    /// Takes a frame or a press and draws, unless the last drawing was a moment ago.
+    void show(const RecordingEvent& event);
+    /// Tells a gesture and what comes of it, both as they are shown.
+    void tell(std::string gesture, std::string consequence);
+    /// Draws what there is.
+    void draw();
+
+  private:
+    const Console& m_console;
+    TerminalTakeover m_terminal;
+    PadPicture m_picture;
+    std::string m_title;
+    std::string m_detail;
+    Seconds m_now = 0;
+    Seconds m_drawnAt = -1e300;
+    struct Told {
+        std::string gesture;
+        std::string consequence;
+    };
+    std::deque<Told> m_told;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,39 @@
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <string_view>
+
+#include "cli/CommandLine.h"
+#include "platform/linux/Examples.h"
+#include "platform/linux/FileUserDefaults.h"
+#include "platform/linux/Terminal.h"
+
+int main(int argc, char** argv) {
+    using namespace kinesta;
+    std::ios::sync_with_stdio(false);
+    endQuietlyOnClosedPipe();
+
+    const bool outIsTerminal = isTerminal(StandardStream::output);
+    const char* noColour = std::getenv("NO_COLOR");
+    const TerminalSize size = outIsTerminal ? terminalSize(StandardStream::output) : TerminalSize{};
+    const Console console{.in = std::cin,
+                          .out = std::cout,
+                          .err = std::cerr,
+                          .outIsTerminal = outIsTerminal,
+                          .errIsTerminal = isTerminal(StandardStream::error),
+                          .colour = outIsTerminal && (noColour == nullptr || std::string_view(noColour).empty()),
+                          .columns = size.columns,
+                          .rows = size.rows};
+    const Places places{.defaults = FileUserDefaults::defaultPath(), .examples = examplesFolder()};
+    try {
+        const ExitStatus status = runCommandLine(console, places, argc, argv);
+        std::cout.flush();
+        if (!std::cout)
+            return static_cast<int>(console.fail("Writing to standard output failed."));
+        return static_cast<int>(status);
+    } catch (const std::exception& error) {
+        // Only what no one can do anything about arrives here: memory, above all.
+        std::cerr << "Kinesta had to give up: " << error.what() << '\n';
+        return static_cast<int>(ExitStatus::badInput);
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/CommandLine.h"
+#include "support/TemporaryFolder.h"
+
+namespace kinesta::testing {
+
+struct Ran {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+/// Runs subcommands as main() does, with settings and files in a folder of their own.
+class CommandRunner {
+  public:
+    TemporaryFolder folder;
+
+    Ran run(std::vector<std::string> arguments, const std::string& input = {}) const {
+        std::istringstream in(input);
+        std::ostringstream out;
+        std::ostringstream err;
+        const Console console{.in = in, .out = out, .err = err};
+        const Places places{.defaults = folder.path() / "settings" / "defaults.json",
+                            .examples = std::filesystem::path(KINESTA_SOURCE_DIR) / "examples"};
+        arguments.insert(arguments.begin(), "kinesta");
+        std::vector<const char*> pointers;
+        for (const std::string& argument : arguments)
+            pointers.push_back(argument.c_str());
+        const ExitStatus status = runCommandLine(console, places, static_cast<int>(pointers.size()), pointers.data());
+        return {static_cast<int>(status), out.str(), err.str()};
+    }
+};
+
+/// A bundled recording by its file name.
+inline std::string recording(const std::string& name) {
+    return std::string(KINESTA_SOURCE_DIR) + "/examples/recordings/" + name;
+}
+
+}  // namespace kinesta::testing

@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include "cli/CommandRunner.h"
+
+namespace kinesta::testing {
+namespace {
+
+std::string rule(const std::string& last, const std::string& fields, const std::string& action) {
+    return R"({"id":"00000000-0000-4000-8000-0000000000)" + last + R"(","isEnabled":true,)" + fields +
+           R"(,"action":{"modifiers":0,"value":"",)" + action + "}}";
+}
+
+const std::string kTap = rule("0a", R"("name":"Paste","fingerCount":2,"gesture":"doubleTap")",
+                              R"("kind":"keyboardShortcut","keyCode":9,"modifiers":1,"customCueLabel":" Insert ")");
+const std::string kIncomplete = rule("0b", R"("name":"","gesture":"tipTapLeft")", R"("kind":"openURL")");
+
+class RulesCommandTest : public ::testing::Test {
+  protected:
+    CommandRunner kinesta;
+    std::string defaults() const { return (kinesta.folder.path() / "settings" / "defaults.json").string(); }
+};
+
+TEST_F(RulesCommandTest, judgesEveryRuleAsItDecodes) {
+    // Twice the modifiers key: the later one counts, as JSON readers do.
+    const Ran ran = kinesta.run({"rules", "check", "-", "--json"}, "[" + kTap + "," + kIncomplete + "," + kTap + "]");
+    const std::string tap =
+        R"({"id":"00000000-0000-4000-8000-00000000000A","name":"Paste","enabled":true,"ready":true,"conflict":true,)"
+        R"("warning":{"title":"May conflict with Smart Zoom","detail":"macOS can use a two-finger double tap for Smart )"
+        R"(Zoom. Change it in System Settings → Trackpad → Scroll & Zoom."},"summary":"⌘V","cue":"Insert"})"
+        "\n";
+    const std::string incomplete =
+        R"({"id":"00000000-0000-4000-8000-00000000000B","name":"","enabled":true,"ready":false,"conflict":false,)"
+        R"("warning":null,"summary":"Not configured","cue":null})"
+        "\n";
+    EXPECT_EQ(ran.out, tap + incomplete + tap);
+    EXPECT_EQ(ran.status, 0);
+
+    const Ran empty = kinesta.run({"rules", "check", "-"}, "[]");
+    EXPECT_EQ(empty.out, "There are no rules.\n");
+    EXPECT_EQ(kinesta.run({"rules", "check", "-", "--json"}, "[]").out, "");
+    EXPECT_EQ(kinesta.run({"rules", "check", "/nowhere/rules.json"}).status, 1);
+    EXPECT_EQ(kinesta.run({"rules", "check", kinesta.folder.path().string()}).status, 1);
+}
+
+TEST_F(RulesCommandTest, theBundledExampleIsInOrder) {
+    const Ran ran = kinesta.run({"rules", "check", std::string(KINESTA_SOURCE_DIR) + "/examples/rules.json", "--json"});
+    EXPECT_EQ(ran.status, 0) << ran.err;
+    EXPECT_EQ(ran.out.find(R"("ready":false)"), std::string::npos);
+    EXPECT_EQ(ran.out.find(R"("conflict":true)"), std::string::npos);
+}
+
+TEST_F(RulesCommandTest, importReplacesAllOrNothingAndCanBeUndone) {
+    const std::string first = kinesta.folder.write("first.json", "[" + kTap + "]");
+    ASSERT_EQ(kinesta.run({"rules", "import", first}).status, 0);
+    const std::string exported = kinesta.run({"rules", "export", "-"}).out;
+
+    const std::string stored = readText(defaults());
+    const Ran refused = kinesta.run({"rules", "import", "-"}, "[" + kTap + ",{}]");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.err.find("Nothing was changed."), std::string::npos);
+    EXPECT_EQ(readText(defaults()), stored);
+
+    const Ran imported = kinesta.run({"rules", "import", "-"}, "[" + kIncomplete + "]");
+    EXPECT_EQ(imported.status, 0) << imported.err;
+    EXPECT_NE(imported.out.find("Imported 1 rule, 0 of them on."), std::string::npos) << imported.out;
+    EXPECT_NE(kinesta.run({"rules", "list", "--json"}).out.find(R"("enabled":false)"), std::string::npos);
+
+    const std::string undo = "To undo: kinesta rules import ";
+    const std::size_t at = imported.out.find(undo);
+    ASSERT_NE(at, std::string::npos);
+    std::string copy = imported.out.substr(at + undo.size());
+    copy.pop_back();
+    ASSERT_EQ(kinesta.run({"rules", "import", copy}).status, 0);
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, exported);
+}
+
+TEST_F(RulesCommandTest, importKeepsEvenAListThatNoLongerDecodes) {
+    const std::string first = kinesta.folder.write("first.json", "[" + kTap + "]");
+    ASSERT_EQ(kinesta.run({"rules", "import", first}).status, 0);
+    std::string stored = readText(defaults());
+    stored.replace(stored.find("doubleTap"), 9, "futureTap");
+    std::ofstream(defaults(), std::ios::binary) << stored;
+
+    ASSERT_EQ(kinesta.run({"rules", "import", first}).status, 0);
+    bool isKept = false;
+    for (const auto& entry : std::filesystem::directory_iterator(kinesta.folder.path() / "settings"))
+        if (entry.path() != defaults())
+            isKept = isKept || readText(entry.path()).find("futureTap") != std::string::npos;
+    EXPECT_TRUE(isKept);
+}
+
+TEST_F(RulesCommandTest, exportWritesWhatImportReads) {
+    const std::string file = (kinesta.folder.path() / "rules.json").string();
+    ASSERT_EQ(kinesta.run({"rules", "export", file}).status, 0);
+    ASSERT_EQ(kinesta.run({"rules", "import", file}).status, 0);
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, readText(file));
+    EXPECT_EQ(kinesta.run({"rules", "export", "/nowhere/at/all.json"}).status, 1);
+}
+
+TEST_F(RulesCommandTest, textOfRulesCannotSteerTheTerminal) {
+    const std::string nasty = rule("0a", R"("name":"\u001b[2J\u009b31m\nred","fingerCount":2,"gesture":"doubleTap")",
+                                   R"("kind":"middleClick")");
+    const Ran ran = kinesta.run({"rules", "check", "-"}, "[" + nasty + "]");
+    EXPECT_EQ(ran.out.find('\x1b'), std::string::npos);
+    EXPECT_NE(ran.out.find("·[2J·31m·red"), std::string::npos) << ran.out;
+}
+
+}  // namespace
+}  // namespace kinesta::testing
