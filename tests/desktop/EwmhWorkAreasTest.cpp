@@ -19,88 +19,51 @@ EwmhWindow dock(const WindowRectangle& frame, const EwmhStruts& struts) {
 }
 
 const EwmhWindow kBottomOfLeft = dock({0, 770, 640, 30}, {.bottom = {30, 0, 639}});
-const EwmhWindow kTopOfRight = dock({640, 0, 640, 25}, {.top = {25, 640, 1279}});
-// On an inner edge: told from the screen's edge, the room seems to hold all of the left monitor.
-const EwmhWindow kLeftOfRight = dock({640, 0, 40, 600}, {.left = {680, 0, 599}});
-const EwmhWindow kRightOfRight = dock({1250, 0, 30, 600}, {.right = {30, 0, 599}});
-const EwmhWindow kAcrossTheTop = dock({0, 0, 1280, 20}, {.top = {20, 0, 1279}});
 
 TEST(EwmhWorkAreas, AreWhatDocksLeaveOfEachMonitor) {
     EwmhWindow hidden = kBottomOfLeft;
     hidden.isHidden = true;
     EwmhWindow elsewhere = kBottomOfLeft;
     elsewhere.desktop = 1;
-    const EwmhWindow offScreen = dock({0, -40, 640, 30}, {.top = {2, 0, 639}});
-    const EwmhWindow greedy = dock({0, 0, 640, 800}, {.left = {640, 0, 799}});
-    const struct {
-        const char* description;
-        std::vector<EwmhWindow> windows;
-        WindowRectangle left, right;
-    } rows[] = {
-        {"no dock", {}, kLeft, kRight},
-        {"a window that is none", {EwmhWindow{}}, kLeft, kRight},
-        {"below one", {kBottomOfLeft}, {0, 0, 640, 770}, kRight},
-        {"above the other", {kTopOfRight}, kLeft, {640, 25, 640, 575}},
-        {"on the inner edge", {kLeftOfRight}, kLeft, {680, 0, 600, 600}},
-        {"on the far edge", {kRightOfRight}, kLeft, {640, 0, 610, 600}},
-        {"across both", {kAcrossTheTop}, {0, 20, 640, 780}, {640, 20, 640, 580}},
-        {"several",
-         {kBottomOfLeft, kTopOfRight, kLeftOfRight, kRightOfRight, kAcrossTheTop},
-         {0, 20, 640, 750},
-         {680, 25, 570, 575}},
-        {"hidden", {hidden}, kLeft, kRight},
-        {"on another desktop", {elsewhere}, kLeft, kRight},
-        {"that slides in", {offScreen}, {0, 2, 640, 798}, kRight},
-        {"that takes all", {greedy}, kLeft, kRight},
+    const auto topOfRight = dock({640, 0, 640, 25}, {.top = {25, 640, 1279}});
+    // On an inner edge: told from the screen's edge, the room seems to hold all of the left monitor.
+    const auto leftOfRight = dock({640, 0, 40, 600}, {.left = {680, 0, 599}});
+    const auto acrossTheTop = dock({0, 0, 1280, 20}, {.top = {20, 0, 1279}});
+    const auto slidesIn = dock({0, -40, 640, 30}, {.top = {2, 0, 639}});
+    const auto takesAll = dock({0, 0, 640, 800}, {.left = {640, 0, 799}});
+    const auto check = [](const char* what, const std::vector<EwmhWindow>& windows, const WindowRectangle& left,
+                          const WindowRectangle& right) {
+        EXPECT_EQ(ewmhWorkAreas({kScreen, {kLeft, kRight}, kScreen, {}, windows, 0}),
+                  (std::vector<EwmhMonitor>{{kLeft, left}, {kRight, right}}))
+            << what;
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(ewmhWorkAreas({kScreen, {kLeft, kRight}, kScreen, {}, row.windows, 0}),
-                  (std::vector<EwmhMonitor>{{kLeft, row.left}, {kRight, row.right}}))
-            << row.description;
+    check("none that counts", {EwmhWindow{}, hidden, elsewhere, takesAll}, kLeft, kRight);
+    check("on the inner edge", {leftOfRight}, kLeft, {680, 0, 600, 600});
+    check("several", {kBottomOfLeft, topOfRight, leftOfRight, acrossTheTop}, {0, 20, 640, 750}, {680, 25, 600, 575});
+    check("that slides in", {slidesIn}, {0, 2, 640, 798}, kRight);
 }
 
 TEST(EwmhWorkAreas, FollowWhatTheDesktopTells) {
+    using Areas = std::vector<WindowRectangle>;
     const std::vector<EwmhWindow> windows{kBottomOfLeft};
-    const struct {
-        const char* description;
-        std::vector<WindowRectangle> monitors;
-        std::optional<WindowRectangle> screenWorkArea;
-        std::vector<WindowRectangle> monitorWorkAreas;
-        std::vector<WindowRectangle> expected;
-    } rows[] = {
-        {"one monitor: the window manager's word",
-         {kScreen},
-         WindowRectangle{5, 6, 1200, 700},
-         {},
-         {{5, 6, 1200, 700}}},
-        {"one monitor, no word", {kScreen}, std::nullopt, {}, {{0, 0, 1280, 770}}},
-        {"one monitor, no room left", {kScreen}, WindowRectangle{0, 0, 0, 0}, {}, {{0, 0, 1280, 770}}},
-        {"each monitor told, in another order",
-         {kLeft, kRight},
-         kScreen,
-         {{640, 27, 640, 573}, {0, 0, 640, 790}},
-         {{0, 0, 640, 790}, {640, 27, 640, 573}}},
-        {"only one told", {kLeft, kRight}, kScreen, {{640, 27, 640, 573}}, {{0, 0, 640, 770}, {640, 27, 640, 573}}},
-        {"told by the dock already", {kLeft, kRight}, WindowRectangle{0, 0, 1280, 770}, {}, {{0, 0, 640, 770}, kRight}},
-        {"margins of the window manager's own",
-         {kLeft, kRight},
-         WindowRectangle{7, 8, 1264, 752},
-         {},
-         {{7, 8, 633, 752}, {640, 8, 631, 592}}},
-        {"margins that leave nothing",
-         {kLeft, kRight},
-         WindowRectangle{640, 0, 640, 800},
-         {},
-         {{0, 0, 640, 770}, kRight}},
+    const Areas both{kLeft, kRight};
+    const auto check = [&](const char* what, const Areas& monitors, std::optional<WindowRectangle> screenWorkArea,
+                           const Areas& monitorWorkAreas, const Areas& expected) {
+        Areas areas;
+        for (const auto& each : ewmhWorkAreas({kScreen, monitors, screenWorkArea, monitorWorkAreas, windows, 0}))
+            areas.push_back(each.workArea);
+        EXPECT_EQ(areas, expected) << what;
     };
-    for (const auto& row : rows) {
-        const auto monitors =
-            ewmhWorkAreas({kScreen, row.monitors, row.screenWorkArea, row.monitorWorkAreas, windows, 0});
-        std::vector<WindowRectangle> areas;
-        for (const auto& monitor : monitors)
-            areas.push_back(monitor.workArea);
-        EXPECT_EQ(areas, row.expected) << row.description;
-    }
+    const WindowRectangle told{640, 27, 640, 573};
+    const WindowRectangle leftOver{0, 0, 640, 770};
+    check("the window manager's word", {kScreen}, {{5, 6, 1200, 700}}, {}, {{5, 6, 1200, 700}});
+    check("no word", {kScreen}, {}, {}, {{0, 0, 1280, 770}});
+    check("no room left", {kScreen}, {{0, 0, 0, 0}}, {}, {{0, 0, 1280, 770}});
+    check("told in another order", both, kScreen, {told, {0, 0, 640, 790}}, {{0, 0, 640, 790}, told});
+    check("only one told", both, kScreen, {told}, {leftOver, told});
+    check("told by the dock already", both, {{0, 0, 1280, 770}}, {}, {leftOver, kRight});
+    check("margins of its own", both, {{7, 8, 1264, 752}}, {}, {{7, 8, 633, 752}, {640, 8, 631, 592}});
+    check("margins that leave nothing", both, {{640, 0, 640, 800}}, {}, {leftOver, kRight});
 }
 
 }  // namespace

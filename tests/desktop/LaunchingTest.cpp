@@ -115,23 +115,18 @@ TEST_F(Launching, NeitherWaitsNorMindsWhatCannotBeStarted) {
 
 TEST_F(Launching, LetsProgramsSurviveUs) {
     const std::string fifo = folder.path() / "fifo";
-    const std::string result = folder.path() / "result";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    const LaunchedProgram result(folder);
     const pid_t us = fork();
     if (us == 0) {
-        {
-            PosixProcessLauncher ours;
-            ours.launch("/bin/sh", {"-c", "read line < '" + fifo + "'; echo \"$line\" > '" + result + ".new'; mv '" +
-                                              result + ".new' '" + result + "'"});
-        }
+        PosixProcessLauncher().launch("/bin/sh", {"-c", "read line < '" + fifo + "'; '" + result.path() + "' $line"});
         _exit(0);
     }
     int status = 0;
     ASSERT_EQ(waitpid(us, &status, 0), us);
     ASSERT_EQ(status, 0);
     std::ofstream(fifo) << "alive\n";
-    ASSERT_TRUE(eventually([&] { return fs::exists(result); }));
-    EXPECT_EQ(readText(result), "alive\n");
+    EXPECT_EQ(result.waitForArguments(), Words{"alive"});
 }
 
 TEST_F(Launching, RunsShellCommandsWithZshOrElseTheLoginShell) {
@@ -146,13 +141,9 @@ TEST_F(Launching, RunsShellCommandsWithZshOrElseTheLoginShell) {
     EXPECT_EQ(login.waitForArguments(), arguments);
 
     // With the real one of whoever runs this.
-    const auto file = folder.path() / "real";
     PosixProcessLauncher real({folder.path() / "missing", {}, {}});
-    real.launch("/bin/zsh", {"-lc", "echo done > '" + file.string() + ".new' && mv '" + file.string() + ".new' '" +
-                                        file.string() + "'"});
-    ASSERT_TRUE(eventually([&] { return fs::exists(file); }));
-    EXPECT_EQ(readText(file), "done\n");
-
+    real.launch("/bin/zsh", {"-lc", "'" + login.path() + "' done"});
+    EXPECT_EQ(login.waitForArguments(), Words{"done"});
     EXPECT_EQ(chosenShell("/bin/sh", "/bin/bash"), "/bin/sh");
     for (const char* none : {"", "sh", "/usr/sbin/nologin", "/bin/false", "/no/such/shell"}) {
         EXPECT_EQ(chosenShell(none, "/bin/bash"), "/bin/bash") << none;

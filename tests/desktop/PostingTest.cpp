@@ -46,12 +46,7 @@ struct Posting : ::testing::Test {
 };
 
 TEST_F(Posting, IsSeenByAClientAsTyped) {
-    struct Row {
-        std::uint16_t code;
-        std::uint64_t flags;
-        Events expected;
-    };
-    const std::vector<Row> rows{
+    const std::vector<std::tuple<std::uint16_t, std::uint64_t, Events>> rows{
         {0, 0, {"press a", "release a"}},
         {8, 0x100000, {"press Control_L", "press Control+c", "release Control+c", "release Control+Control_L"}},
         {17,
@@ -66,8 +61,8 @@ TEST_F(Posting, IsSeenByAClientAsTyped) {
         {14, 0x800000, {}},
         {127, 0, {}},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(seenAfter(row.code, row.flags), row.expected) << row.code;
+    for (const auto& [code, flags, expected] : rows)
+        EXPECT_EQ(seenAfter(code, flags), expected) << code;
     EXPECT_EQ(log.size(), 2U);
     defaults.setString("linux.commandKey.v1", "super");
     EXPECT_EQ(seenAfter(37, 0x100000),

@@ -15,30 +15,19 @@ struct WindowCloseTest : ::testing::Test {
     TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
     WindowWatch watch{desktop};
     WindowPorts ports;
-
-    /// Types into the active window.
-    void type(const std::string& text) { ASSERT_TRUE(desktop.run({"xdotool", "type", text})->waitForEnd()); }
 };
 
-TEST_F(WindowCloseTest, ClosesRealWindowsAsTheirCloseButtonDoes) {
+TEST_F(WindowCloseTest, ClosesRealEditorsAndLeavesTheirSaveDialogsToThePerson) {
     for (const std::vector<std::string>& command :
          {std::vector<std::string>{"mousepad", "--disable-server"}, {"featherpad", "--standalone"}}) {
-        const auto program = desktop.run(command);
-        ASSERT_NE(watch.awaitWindowOf(program->pid()), 0U) << command[0];
+        const auto unchanged = desktop.run(command);
+        ASSERT_NE(watch.awaitWindowOf(unchanged->pid()), 0U) << command[0];
         EXPECT_TRUE(ports.closes()) << command[0];
-        EXPECT_TRUE(program->waitForEnd()) << command[0];
-    }
-    EXPECT_TRUE(watch.await([this] { return watch.stacking().empty(); }));
-    EXPECT_FALSE(ports.closes()) << "an empty desktop";
-}
-
-TEST_F(WindowCloseTest, LeavesTheSaveDialogOfARealEditorToThePerson) {
-    for (const std::vector<std::string>& command :
-         {std::vector<std::string>{"mousepad", "--disable-server"}, {"featherpad", "--standalone"}}) {
+        EXPECT_TRUE(unchanged->waitForEnd()) << command[0];
         const auto program = desktop.run(command);
         const xcb_window_t editor = watch.awaitWindowOf(program->pid());
         ASSERT_NE(editor, 0U) << command[0];
-        type("not saved");
+        ASSERT_TRUE(desktop.run({"xdotool", "type", "not saved"})->waitForEnd());
         ASSERT_TRUE(ports.closes());
         const xcb_window_t dialog = watch.awaitWindowOf(program->pid(), editor);
         ASSERT_NE(dialog, 0U) << command[0] << " does not ask";
@@ -48,8 +37,8 @@ TEST_F(WindowCloseTest, LeavesTheSaveDialogOfARealEditorToThePerson) {
         watch.letWindowManagerCatchUp(editor);
         EXPECT_TRUE(watch.isManaged(dialog)) << command[0];
         program->signal(SIGKILL);
-        program->waitForEnd();
         ASSERT_TRUE(watch.await([this] { return watch.stacking().empty(); }));
+        EXPECT_FALSE(ports.closes()) << "an empty desktop";
     }
 }
 
@@ -58,26 +47,26 @@ TEST_F(WindowCloseTest, LeavesAWindowAloneWhileAModalDialogWaitsForAnAnswer) {
     constexpr xcb_window_t kLeader = 0x77;
     ClientWindow editor(desktop, watch, {100, 100, 300, 200}, connection);
     editor.setGroup(kLeader).show();
-    struct Row {
+    constexpr xcb_window_t kNone = 0;
+    const struct {
         const char* description;
-        std::function<void(ClientWindow&)> prepare;
+        xcb_window_t group, owner;
         bool holdsBack;
-    };
-    const Row rows[] = {
-        {"its own", [&](ClientWindow& dialog) { dialog.setTransientFor(editor.window()); }, true},
-        {"its group's, owned by the root",
-         [&](ClientWindow& dialog) { dialog.setGroup(kLeader).setTransientFor(desktop.root()); }, true},
-        {"its group's, owned by the leader",
-         [&](ClientWindow& dialog) { dialog.setGroup(kLeader).setTransientFor(kLeader); }, true},
-        {"its group's, without an owner", [&](ClientWindow& dialog) { dialog.setGroup(kLeader); }, true},
-        {"another group's", [&](ClientWindow& dialog) { dialog.setGroup(kLeader + 1).setTransientFor(desktop.root()); },
-         false},
+    } rows[] = {
+        {"its own", kNone, editor.window(), true},
+        {"its group's, owned by the root", kLeader, desktop.root(), true},
+        {"its group's, owned by the leader", kLeader, kLeader, true},
+        {"its group's, without an owner", kLeader, kNone, true},
+        {"another group's", kLeader + 1, desktop.root(), false},
     };
     for (const auto& row : rows) {
         ClientWindow dialog(desktop, watch, {200, 200, 100, 50}, connection);
         dialog.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DIALOG"});
         dialog.setAtoms("_NET_WM_STATE", {"_NET_WM_STATE_MODAL"});
-        row.prepare(dialog);
+        if (row.group != kNone)
+            dialog.setGroup(row.group);
+        if (row.owner != kNone)
+            dialog.setTransientFor(row.owner);
         dialog.show();
         EXPECT_FALSE(ports.closes()) << row.description << ": the dialog is in front";
         EXPECT_FALSE(dialog.wasAskedToClose()) << row.description;
@@ -107,6 +96,8 @@ TEST_F(WindowCloseTest, LeavesWindowsAloneThatAreNotToBeClosed) {
     }
     ClientWindow stubborn(desktop, watch, {500, 300, 200, 100});
     stubborn.show();
+    // Openbox, which writes this too, is done with it once it has done something about another window.
+    watch.letWindowManagerCatchUp(window.window());
     stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", {"_NET_WM_ACTION_MOVE"}).send();
     EXPECT_FALSE(ports.closes()) << "the window manager does not allow closing it";
     stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", {}).send();
@@ -159,8 +150,7 @@ TEST_F(WindowCloseTest, ClosesItsOwnWindowsByTheSameRules) {
         palette.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {own}).show(false);
         watch.activate(palette.window());
         EXPECT_FALSE(ports.closes());
-        EXPECT_FALSE(palette.wasAskedToClose());
-        EXPECT_FALSE(window.wasAskedToClose());
+        EXPECT_FALSE(palette.wasAskedToClose() || window.wasAskedToClose());
     }
     ClientWindow dialog(desktop, watch, {200, 200, 100, 50});
     dialog.setTransientFor(window.window()).setAtoms("_NET_WM_STATE", {"_NET_WM_STATE_MODAL"});

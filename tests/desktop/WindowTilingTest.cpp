@@ -22,22 +22,15 @@ struct WindowTilingTest : ::testing::Test {
     /// Waits until a window's frame is there, each edge within `tolerance` pixels.
     ::testing::AssertionResult isAt(xcb_window_t window, const WindowRectangle& expected, int tolerance = 0) {
         const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
+        WindowRectangle frame;
         const auto isThere = [&] {
-            const auto frame = watch.frame(window);
+            frame = watch.frame(window);
             return isNear(frame.x, expected.x) && isNear(frame.y, expected.y) &&
                    isNear(frame.right(), expected.right()) && isNear(frame.bottom(), expected.bottom());
         };
         if (watch.await(isThere, std::chrono::seconds(5)))
             return ::testing::AssertionSuccess();
-        const auto frame = watch.frame(window);
         return ::testing::AssertionFailure() << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
-    }
-
-    /// Makes two monitors of the screen, side by side, and waits until openbox has seen them.
-    void splitScreen() {
-        for (const std::vector<std::string>& monitor :
-             {std::vector<std::string>{"L", "640/170x800/210+0+0", "screen"}, {"R", "640/170x800/210+640+0", "none"}})
-            ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", monitor[0], monitor[1], monitor[2]})->waitForEnd());
     }
 };
 
@@ -46,18 +39,15 @@ TEST_F(WindowTilingTest, TilesARealEditorAndReturnsItToItsPreviousSize) {
     const xcb_window_t editor = watch.awaitWindowOf(program->pid());
     ASSERT_NE(editor, 0U);
     const auto before = watch.frame(editor);
-    const struct {
-        Command command;
-        WindowRectangle expected;
-    } rows[] = {
+    const std::pair<Command, WindowRectangle> rows[] = {
         {Command::left, {0, 0, 640, 800}},        {Command::right, {640, 0, 640, 800}},
         {Command::top, {0, 0, 1280, 400}},        {Command::bottom, {0, 400, 1280, 400}},
         {Command::topThreeUp, {0, 0, 1280, 400}}, {Command::center, {0, 200, 1280, 400}},
         {Command::fill, {0, 0, 1280, 800}},
     };
-    for (const auto& row : rows) {
-        EXPECT_TRUE(ports.tiles(row.command));
-        EXPECT_TRUE(isAt(editor, row.expected)) << rawValue(row.command);
+    for (const auto& [command, expected] : rows) {
+        EXPECT_TRUE(ports.tiles(command));
+        EXPECT_TRUE(isAt(editor, expected)) << rawValue(command);
     }
     EXPECT_TRUE(ports.tiles(Command::untile));
     EXPECT_TRUE(isAt(editor, before)) << "from before the first of them";
@@ -93,7 +83,8 @@ TEST_F(WindowTilingTest, TilesTerminalsInWholeCells) {
 }
 
 TEST_F(WindowTilingTest, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
-    splitScreen();
+    ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", "L", "640/170x800/210+0+0", "screen"})->waitForEnd());
+    ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", "R", "640/170x800/210+640+0", "none"})->waitForEnd());
     ClientWindow dock(desktop, watch, {1240, 0, 40, 800});
     dock.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DOCK"});
     dock.set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 40, 0, 0, 0, 0, 0, 799, 0, 0, 0, 0}).show(false);
@@ -109,10 +100,8 @@ TEST_F(WindowTilingTest, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
     ClientWindow palette(desktop, watch, {900, 100, 200, 150});
     ClientWindow elsewhere(desktop, watch, {900, 100, 200, 150});
     ClientWindow active(desktop, watch, {740, 110, 200, 150});
-    third.show();
-    second.show();
-    onLeft.show();
-    minimized.show();
+    for (ClientWindow* each : {&third, &second, &onLeft, &minimized})
+        each->show();
     const auto beforeMinimizing = watch.frame(minimized.window());
     watch.minimize(minimized.window());
     fixed.setFixedSize().show();
@@ -162,35 +151,30 @@ TEST_F(WindowTilingTest, EndsMaximizedAndFullscreenFirstAndReturnsToThem) {
     const auto otherBefore = watch.frame(other.window());
     const std::string maximizedHorizontally = "_NET_WM_STATE_MAXIMIZED_HORZ";
     const std::string maximizedVertically = "_NET_WM_STATE_MAXIMIZED_VERT";
-    const struct {
-        std::string state, second;
-    } rows[] = {{maximizedHorizontally, maximizedVertically},
-                {maximizedHorizontally, ""},
-                {maximizedVertically, ""},
-                {"_NET_WM_STATE_FULLSCREEN", ""}};
-    for (const auto& row : rows) {
-        watch.addState(other.window(), row.state, row.second);
+    const std::pair<std::string, std::string> rows[] = {
+        {maximizedHorizontally, maximizedVertically}, {maximizedHorizontally, ""}, {"_NET_WM_STATE_FULLSCREEN", ""}};
+    for (const auto& [state, second] : rows) {
+        const auto endState = [&, first = desktop.atom(state),
+                               last = second.empty() ? 0 : desktop.atom(second)](const ClientWindow& of) {
+            watch.tell(of.window(), "_NET_WM_STATE", {0, first, last, 2});
+        };
+        watch.addState(other.window(), state, second);
         watch.activate(window.window());
-        watch.addState(window.window(), row.state, row.second);
+        watch.addState(window.window(), state, second);
         const auto zoomed = watch.frame(window.window());
         EXPECT_TRUE(ports.tiles(Command::leftAndRight));
-        EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800})) << row.state;
-        EXPECT_TRUE(isAt(other.window(), {640, 0, 640, 800})) << row.state;
-        EXPECT_FALSE(watch.hasState(window.window(), row.state));
-        EXPECT_FALSE(watch.hasState(other.window(), row.state));
+        EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800})) << state;
+        EXPECT_TRUE(isAt(other.window(), {640, 0, 640, 800})) << state;
+        EXPECT_FALSE(watch.hasState(window.window(), state) || watch.hasState(other.window(), state));
         EXPECT_TRUE(ports.tiles(Command::untile));
-        EXPECT_TRUE(isAt(window.window(), zoomed)) << row.state;
-        EXPECT_TRUE(watch.hasState(window.window(), row.state));
-
-        constexpr std::uint32_t kRemove = 0;
-        watch.tell(window.window(), "_NET_WM_STATE",
-                   {kRemove, desktop.atom(row.state), row.second.empty() ? 0 : desktop.atom(row.second), 2});
-        EXPECT_TRUE(isAt(window.window(), before)) << row.state << ": what it had been maximized from";
+        EXPECT_TRUE(isAt(window.window(), zoomed)) << state;
+        EXPECT_TRUE(watch.hasState(window.window(), state));
+        endState(window);
+        EXPECT_TRUE(isAt(window.window(), before)) << state << ": what it had been maximized from";
         watch.activate(other.window());
         EXPECT_TRUE(ports.tiles(Command::untile));
-        EXPECT_TRUE(watch.await([&] { return watch.hasState(other.window(), row.state); }));
-        watch.tell(other.window(), "_NET_WM_STATE",
-                   {kRemove, desktop.atom(row.state), row.second.empty() ? 0 : desktop.atom(row.second), 2});
+        EXPECT_TRUE(watch.await([&, &state = state] { return watch.hasState(other.window(), state); }));
+        endState(other);
         EXPECT_TRUE(isAt(other.window(), otherBefore));
     }
     watch.activate(window.window());
@@ -203,7 +187,8 @@ TEST_F(WindowTilingTest, EndsMaximizedAndFullscreenFirstAndReturnsToThem) {
 
 TEST_F(WindowTilingTest, RemembersAnewOnceThePersonHasMovedTheWindow) {
     ClientWindow window(desktop, watch, {200, 150, 400, 300});
-    window.show();
+    // One of its own, which is tiled like any other.
+    window.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(getpid())}).show();
     EXPECT_TRUE(ports.tiles(Command::left));
     EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800}));
     constexpr std::uint32_t kStaticWithAll = 10 | 0xF << 8;
@@ -248,10 +233,7 @@ TEST_F(WindowTilingTest, KeepsWindowsInTheWorkAreaThatDoNotTakeTheirPlace) {
     shadowed.set("_MOTIF_WM_HINTS", desktop.atom("_MOTIF_WM_HINTS"), {2, 0, 0, 0, 0});
     shadowed.set("_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL, {10, 12, 8, 14}).show();
     EXPECT_TRUE(ports.tiles(Command::right));
-    EXPECT_TRUE(watch.await([&] {
-        return watch.client(shadowed.window()) == WindowRectangle{630, -8, 662, 822};
-    })) << watch.client(shadowed.window()).x
-        << ' ' << watch.client(shadowed.window()).y;
+    EXPECT_TRUE(watch.await([&] { return watch.client(shadowed.window()) == WindowRectangle{630, -8, 662, 822}; }));
 }
 
 TEST_F(WindowTilingTest, TouchesNothingOnceThePersonHasGoneElsewhere) {
@@ -271,13 +253,6 @@ TEST_F(WindowTilingTest, TouchesNothingOnceThePersonHasGoneElsewhere) {
         watch.activate(each->window());
     EXPECT_TRUE(isAt(first.window(), before));
     EXPECT_TRUE(isAt(stranger.window(), strangerBefore));
-}
-
-TEST_F(WindowTilingTest, TilesItsOwnWindowLikeAnyOther) {
-    ClientWindow window(desktop, watch, {100, 100, 300, 200});
-    window.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(getpid())}).show();
-    EXPECT_TRUE(ports.tiles(Command::top));
-    EXPECT_TRUE(isAt(window.window(), {0, 0, 1280, 400}));
 }
 
 TEST_F(WindowTilingTest, IsNotHeldUpByAProgramThatHangs) {

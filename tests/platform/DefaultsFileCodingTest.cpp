@@ -31,6 +31,8 @@ TEST(DefaultsFileCoding, everyValueReadsBackAsItWasWritten) {
         values.emplace_back(std::string(text));
         values.emplace_back(StoredData{text});
     }
+    values.emplace_back(std::string("a\0b", 3));
+    values.emplace_back(StoredData{std::string("\0", 1)});
     values.emplace_back(-0.0);
     StoredValues all;
     for (const auto& value : values)

@@ -29,36 +29,27 @@ DesktopFacts with(DesktopFacts facts, bool DesktopFacts::*fact, bool value) {
 }
 
 TEST(DesktopSession, ChoosesTheWayThatReachesEveryWindow) {
-    struct Row {
-        const char* situation;
-        DesktopFacts facts;
-        Route wish;
-        Kind kind;
-        Route route;
-        bool sends;
-    };
     const DesktopFacts withX = with(with(wayland(), &DesktopFacts::hasX, true), &DesktopFacts::hasXTest, true);
     const DesktopFacts noTest = with(x11(), &DesktopFacts::hasXTest, false);
-    for (const Row& row : {
-             Row{"X11", x11(), Route::automatic, Kind::x11, Route::xServer, true},
-             Row{"X11 without XTest", noTest, Route::automatic, Kind::x11, Route::uinput, false},
-             Row{"the same, allowed uinput", with(noTest, &DesktopFacts::mayUseUinput, true), Route::automatic,
-                 Kind::x11, Route::uinput, true},
-             Row{"X11, uinput wished", x11(), Route::uinput, Kind::x11, Route::uinput, false},
-             Row{"Wayland", wayland(), Route::automatic, Kind::wayland, Route::uinput, true},
-             Row{"Wayland, not allowed", with(wayland(), &DesktopFacts::mayUseUinput, false), Route::automatic,
-                 Kind::wayland, Route::uinput, false},
-             Row{"XWayland", withX, Route::automatic, Kind::waylandWithX, Route::uinput, true},
-             Row{"XWayland, X wished", withX, Route::xServer, Kind::waylandWithX, Route::xServer, true},
-             Row{"Wayland, X wished", wayland(), Route::xServer, Kind::wayland, Route::xServer, false},
-             Row{"a console", {.mayUseUinput = true}, Route::automatic, Kind::none, Route::uinput, true},
-             Row{"nothing", {}, Route::automatic, Kind::none, Route::uinput, false},
-         }) {
-        const DesktopSession session(row.facts, row.wish);
-        EXPECT_EQ(session.kind(), row.kind) << row.situation;
-        EXPECT_EQ(session.inputRoute(), row.route) << row.situation;
-        EXPECT_EQ(session.finding(Capability::sendInput).works, row.sends) << row.situation;
-    }
+    const DesktopFacts noTestButUinput = with(noTest, &DesktopFacts::mayUseUinput, true);
+    const DesktopFacts refused = with(wayland(), &DesktopFacts::mayUseUinput, false);
+    const auto check = [](const char* what, const DesktopFacts& facts, Route wish, Kind kind, Route route, bool sends) {
+        const DesktopSession session(facts, wish);
+        EXPECT_EQ(session.kind(), kind) << what;
+        EXPECT_EQ(session.inputRoute(), route) << what;
+        EXPECT_EQ(session.finding(Capability::sendInput).works, sends) << what;
+    };
+    check("X11", x11(), Route::automatic, Kind::x11, Route::xServer, true);
+    check("X11 without XTest", noTest, Route::automatic, Kind::x11, Route::uinput, false);
+    check("the same, allowed uinput", noTestButUinput, Route::automatic, Kind::x11, Route::uinput, true);
+    check("X11, uinput wished", x11(), Route::uinput, Kind::x11, Route::uinput, false);
+    check("Wayland", wayland(), Route::automatic, Kind::wayland, Route::uinput, true);
+    check("Wayland, not allowed", refused, Route::automatic, Kind::wayland, Route::uinput, false);
+    check("XWayland", withX, Route::automatic, Kind::waylandWithX, Route::uinput, true);
+    check("XWayland, X wished", withX, Route::xServer, Kind::waylandWithX, Route::xServer, true);
+    check("Wayland, X wished", wayland(), Route::xServer, Kind::wayland, Route::xServer, false);
+    check("a console", {.mayUseUinput = true}, Route::automatic, Kind::none, Route::uinput, true);
+    check("nothing", {}, Route::automatic, Kind::none, Route::uinput, false);
 }
 
 TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {

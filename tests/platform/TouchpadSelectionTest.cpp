@@ -20,9 +20,7 @@ TEST(TouchpadSelection, TakesTheNamedElseABuiltInElseTheFirst) {
     const TouchpadCandidate otherBuiltIn{"/nowhere/event5", "input2", "Inner", true};
     struct Case {
         std::vector<TouchpadCandidate> candidates;
-        std::string wanted;
-        std::string current;
-        std::string expected;
+        std::string wanted, current, expected;
     };
     const std::vector<Case> cases{
         {{}, "", "", "none"},

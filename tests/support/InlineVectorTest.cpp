@@ -57,7 +57,6 @@ TEST(InlineVector, truncatesAcrossItsCapacity) {
             same.assign(upTo(to));
             EXPECT_EQ(list, same);  // whatever lies behind the end
             same.push_back(0);
-            EXPECT_NE((Four{1, 2, 3, 4, 5}), (Four{1, 2, 3, 4, 6}));
             EXPECT_NE(list, same);
             for (std::size_t next = to; next < 6; ++next)  // and grows again
                 list.push_back(static_cast<int>(next) + 1);

@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "platform/linux/EvdevDeviceWatch.h"
-
 namespace kinesta::vm {
 namespace {
+
+const std::vector<std::string> kChanges{" up", " down", " repeated"};
 
 /// Whether the descriptor becomes readable in time.
 bool waitFor(int descriptor, double deadline) {
@@ -22,15 +22,6 @@ bool waitFor(int descriptor, double deadline) {
 }  // namespace
 
 DeviceListener::DeviceListener(const std::string& name) : m_device(nullptr, libevdev_free) {
-    EvdevDeviceWatch watch;
-    open(name);
-    for (const double deadline = now() + 10; !m_device && waitFor(watch.fileDescriptor(), deadline);)
-        if (watch.takeChanges())
-            open(name);
-    EXPECT_TRUE(m_device) << "there is no device " << name;
-}
-
-void DeviceListener::open(const std::string& name) {
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator("/dev/input", error)) {
         FileDescriptor descriptor(::open(entry.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
@@ -45,6 +36,7 @@ void DeviceListener::open(const std::string& name) {
         }
         m_device.reset();
     }
+    ADD_FAILURE() << "there is no device " << name;
 }
 
 Lines DeviceListener::take(std::size_t count, std::chrono::milliseconds limit) {
@@ -54,10 +46,8 @@ Lines DeviceListener::take(std::size_t count, std::chrono::milliseconds limit) {
         input_event event{};
         const int status = libevdev_next_event(m_device.get(), LIBEVDEV_READ_FLAG_NORMAL, &event);
         if (status == LIBEVDEV_READ_STATUS_SUCCESS && event.type == EV_KEY)
-            lines.push_back(std::string(libevdev_event_code_get_name(EV_KEY, event.code)) + (event.value == 0 ? " up"
-                                                                                             : event.value == 1
-                                                                                                 ? " down"
-                                                                                                 : " repeated"));
+            lines.push_back(libevdev_event_code_get_name(EV_KEY, event.code) +
+                            kChanges.at(static_cast<std::size_t>(event.value)));
         else if (status == -ENODEV)
             lines.emplace_back("gone");
         if (status == -ENODEV || (status == -EAGAIN && !waitFor(m_descriptor.number(), deadline)))

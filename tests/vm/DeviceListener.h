@@ -13,7 +13,7 @@ namespace kinesta::vm {
 /// What any program sees of the keys and buttons of an input device.
 class DeviceListener {
   public:
-    /// Waits until there is a device of this name.
+    /// There must be a device of this name.
     explicit DeviceListener(const std::string& name);
 
     /// "/dev/input/eventN".
@@ -23,8 +23,6 @@ class DeviceListener {
     Lines take(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(5));
 
   private:
-    void open(const std::string& name);
-
     std::string m_path;
     FileDescriptor m_descriptor;
     std::unique_ptr<libevdev, void (*)(libevdev*)> m_device;

@@ -34,19 +34,18 @@ VirtualTouchpad::VirtualTouchpad(const PadShape& shape) {
     libevdev_set_name(device.get(), shape.name.c_str());
     libevdev_set_id_bustype(device.get(), shape.bus);
     libevdev_enable_property(device.get(), INPUT_PROP_POINTER);
-    enableAxis(device.get(), ABS_X, shape.maximumX);
-    enableAxis(device.get(), ABS_Y, shape.maximumY);
+    for (const auto x : {0U + ABS_X, 0U + ABS_MT_POSITION_X})
+        enableAxis(device.get(), x, shape.maximumX);
+    for (const auto y : {0U + ABS_Y, 0U + ABS_MT_POSITION_Y})
+        enableAxis(device.get(), y, shape.maximumY);
     enableAxis(device.get(), ABS_MT_SLOT, shape.slots - 1);
-    enableAxis(device.get(), ABS_MT_POSITION_X, shape.maximumX);
-    enableAxis(device.get(), ABS_MT_POSITION_Y, shape.maximumY);
     enableAxis(device.get(), ABS_MT_TRACKING_ID, 65535);
     if (shape.maximumPressure > 0)
         enableAxis(device.get(), ABS_MT_PRESSURE, shape.maximumPressure, shape.pressureResolution);
-    for (const unsigned key : {0U + BTN_LEFT, 0U + BTN_TOUCH, 0U + BTN_TOOL_FINGER, 0U + BTN_TOOL_DOUBLETAP,
-                               0U + BTN_TOOL_TRIPLETAP, 0U + BTN_TOOL_QUADTAP, 0U + BTN_TOOL_QUINTTAP})
+    for (const unsigned key :
+         {0U + BTN_LEFT, 0U + BTN_RIGHT, 0U + BTN_TOUCH, 0U + BTN_TOOL_FINGER, 0U + BTN_TOOL_DOUBLETAP,
+          0U + BTN_TOOL_TRIPLETAP, 0U + BTN_TOOL_QUADTAP, 0U + BTN_TOOL_QUINTTAP})
         libevdev_enable_event_code(device.get(), EV_KEY, key, nullptr);
-    if (shape.hasRightButton)
-        libevdev_enable_event_code(device.get(), EV_KEY, BTN_RIGHT, nullptr);
     libevdev_uinput* made = nullptr;
     require(libevdev_uinput_create_from_device(device.get(), LIBEVDEV_UINPUT_OPEN_MANAGED, &made) == 0,
             "a virtual touchpad");
@@ -61,8 +60,7 @@ std::string VirtualTouchpad::path() const {
 VirtualTouchpad& VirtualTouchpad::down(int slot, int trackingId, int x, int y) {
     add(EV_ABS, ABS_MT_SLOT, slot);
     add(EV_ABS, ABS_MT_TRACKING_ID, trackingId);
-    add(EV_ABS, ABS_MT_POSITION_X, x);
-    return add(EV_ABS, ABS_MT_POSITION_Y, y);
+    return move(slot, x, y);
 }
 
 VirtualTouchpad& VirtualTouchpad::move(int slot, int x, int y) {

@@ -21,7 +21,6 @@ struct PadShape {
     int pressureResolution = 0;
     /// ABS_MT_PRESSURE is declared if above 0, with or without a resolution.
     int maximumPressure = 0;
-    bool hasRightButton = true;
 };
 
 /// A touchpad of the kernel's, made through uinput: present from construction to destruction.

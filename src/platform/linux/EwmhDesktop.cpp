@@ -27,25 +27,6 @@ WindowRectangle rectangleAt(const Items& items, std::size_t first) {
 
 }  // namespace
 
-EwmhDesktop::Availability EwmhDesktop::availability(Seconds timeout) {
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
-    if (!m_connection.prepare(deadline))
-        return Availability::noServer;
-    const auto& atoms = m_connection.atoms();
-    const auto claim = rootItems(
-        m_connection.requestProperty(m_connection.session().root(), atoms._NET_SUPPORTING_WM_CHECK, XCB_ATOM_WINDOW),
-        XCB_ATOM_WINDOW, deadline);
-    if (claim && !claim->empty()) {
-        // The claim outlives a window manager that crashed; the window that it names does not.
-        const auto proof =
-            rootItems(m_connection.requestProperty((*claim)[0], atoms._NET_SUPPORTING_WM_CHECK, XCB_ATOM_WINDOW),
-                      XCB_ATOM_WINDOW, deadline);
-        if (proof == claim)
-            return Availability::available;
-    }
-    return m_connection.isAnswering() ? Availability::noWindowManager : Availability::noServer;
-}
-
 std::optional<ProcessIdentifier> EwmhDesktop::frontmostApplication(Seconds timeout) {
     const auto window = activeWindow(timeout);
     return window ? std::optional(window->process) : std::nullopt;

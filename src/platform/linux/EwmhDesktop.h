@@ -17,19 +17,8 @@ class EwmhDesktop {
   public:
     static constexpr Seconds kTimeout = 0.15;
 
-    /// What stands between us and the windows.
-    enum class Availability {
-        available,
-        /// No X server, or it does not answer.
-        noServer,
-        /// Nobody manages the windows in the way that EWMH describes.
-        noWindowManager,
-    };
-
     /// An empty name means the display in the environment.
     explicit EwmhDesktop(std::string displayName = {}) : m_connection(std::move(displayName)) {}
-
-    Availability availability(Seconds timeout = kTimeout);
 
     /// The process of the active window; a number below 0, the same for all windows of an X client, where the process
     /// cannot be known. Nothing if no window is active.

@@ -4,12 +4,9 @@
 #include <poll.h>
 #include <xcb/xinput.h>
 
-#include <csignal>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
-#include <memory>
 
+#include "desktop/TestDesktop.h"
 #include "platform/linux/DconfDatabase.h"
 #include "support/DconfSample.h"
 #include "support/TemporaryFolder.h"
@@ -68,56 +65,20 @@ TEST(TouchpadSwitching, FollowsGnomesStoredSetting) {
     EXPECT_EQ(nothing.mode("/dev/input/event0"), SendEventsMode::enabled);
 }
 
-/// An X server whose test pointer poses as a touchpad.
-class TouchpadSwitchingOnX11 : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        m_server = popen("echo $$; exec Xvfb -displayfd 1 -nolisten tcp -terminate", "r");
-        ASSERT_NE(m_server, nullptr);
-        int display = -1;
-        ASSERT_EQ(fscanf(m_server, "%d %d", &m_serverId, &display), 2) << "Xvfb is not installed";
-        m_display = ":" + std::to_string(display);
-        m_connection.reset(xcb_connect(m_display.c_str(), nullptr));
-        set("Device Node", "/dev/input/event5");
-    }
+/// Sets a property of the X server's test pointer, which poses as a touchpad.
+void set(const kinesta::testing::TestDesktop& desktop, const char* name, const std::string& bytes) {
+    constexpr std::uint16_t kTestPointer = 4;
+    const std::string padded = bytes + std::string(3, '\0');  // whole words are read
+    const auto cookie = xcb_input_xi_change_property_checked(desktop.connection(), kTestPointer, XCB_PROP_MODE_REPLACE,
+                                                             8, desktop.atom(name), XCB_ATOM_INTEGER,
+                                                             static_cast<std::uint32_t>(bytes.size()), padded.data());
+    EXPECT_EQ(xcb_request_check(desktop.connection(), cookie), nullptr);
+}
 
-    void TearDown() override {
-        m_connection.reset();
-        endServer();
-    }
-
-    void endServer() {
-        if (m_server) {
-            kill(m_serverId, SIGTERM);
-            pclose(m_server);
-        }
-        m_server = nullptr;
-    }
-
-    void set(const char* name, const std::string& bytes) {
-        const auto length = static_cast<std::uint16_t>(std::strlen(name));
-        xcb_intern_atom_reply_t* atom =
-            xcb_intern_atom_reply(m_connection.get(), xcb_intern_atom(m_connection.get(), 0, length, name), nullptr);
-        ASSERT_NE(atom, nullptr);
-        constexpr std::uint16_t kTestPointer = 4;
-        const std::string padded = bytes + std::string(3, '\0');  // whole words are read
-        const auto cookie = xcb_input_xi_change_property_checked(
-            m_connection.get(), kTestPointer, XCB_PROP_MODE_REPLACE, 8, atom->atom, XCB_ATOM_INTEGER,
-            static_cast<std::uint32_t>(bytes.size()), padded.data());
-        free(atom);
-        EXPECT_EQ(xcb_request_check(m_connection.get(), cookie), nullptr);
-    }
-
-    std::string m_display;
-
-  private:
-    FILE* m_server = nullptr;
-    pid_t m_serverId = -1;
-    std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> m_connection{nullptr, xcb_disconnect};
-};
-
-TEST_F(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
-    TouchpadSwitch pads({.display = m_display, .dconfDirectory = ""});
+TEST(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
+    kinesta::testing::TestDesktop desktop;
+    set(desktop, "Device Node", "/dev/input/event5");
+    TouchpadSwitch pads({.display = desktop.display(), .dconfDirectory = ""});
     const std::string pad = "/dev/input/event5";
     EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
     struct Case {
@@ -137,16 +98,16 @@ TEST_F(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
         {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
     };
     for (const Case& one : cases) {
-        set(one.property, one.bytes);
+        set(desktop, one.property, one.bytes);
         EXPECT_TRUE(isTold(pads));
         EXPECT_EQ(pads.mode(pad), one.mode) << one.property;
         EXPECT_EQ(pads.mode("/dev/input/event"), SendEventsMode::enabled);
     }
-    set("libinput Send Events Mode Enabled", off);
-    set("Device Node", std::string("/dev/input/event5\0", 18));
+    set(desktop, "libinput Send Events Mode Enabled", off);
+    set(desktop, "Device Node", std::string("/dev/input/event5\0", 18));
     EXPECT_TRUE(isTold(pads));
     EXPECT_EQ(pads.mode(pad), SendEventsMode::disabled);
-    endServer();
+    desktop.stopServer();
     EXPECT_TRUE(isTold(pads));
     EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
     EXPECT_FALSE(isTold(pads, 100));  // nor does the broken connection keep anyone awake
