@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "recognition/StoredRecognitionSettings.h"
 #include "rules/GestureDescription.h"
 
 namespace kinesta {
@@ -18,23 +19,6 @@ constexpr std::chrono::seconds kFeedbackTick{1};
 /// The wall clock is kept right by letting it run a little slower or faster than the timers; without this a tick
 /// that comes a trifle early would leave the countdown where it is for a whole second.
 constexpr Seconds kClockDrift = 0.001;
-
-bool storedGestureEnabled(const UserDefaults& defaults) {
-    constexpr std::string_view key = MultitouchService::enabledStorageKey;
-    return !defaults.contains(key) || defaults.boolean(key).value_or(false);
-}
-
-TapWaitingInterval storedTapWaitingInterval(const UserDefaults& defaults) {
-    return tapWaitingInterval(defaults.integer(kTapWaitingIntervalStorageKey).value_or(0))
-        .value_or(kDefaultTapWaitingInterval);
-}
-
-CornerPalmRejectionSettings storedCornerPalmRejection(const UserDefaults& defaults) {
-    using Settings = CornerPalmRejectionSettings;
-    return {defaults.boolean(Settings::enabledStorageKey).value_or(false),
-            Settings::clampedSensitivity(
-                defaults.real(Settings::sensitivityStorageKey).value_or(Settings::defaultSensitivity))};
-}
 
 }  // namespace
 
@@ -115,45 +99,53 @@ void MultitouchService::contactProviderDidChangeStatus() {
 }
 
 void MultitouchService::reloadSettings() {
-    setTapWaitingInterval(storedTapWaitingInterval(m_defaults));
-    updateCornerPalmRejection(storedCornerPalmRejection(m_defaults));
-    setGestureEnabled(storedGestureEnabled(m_defaults));
+    change(storedTapWaitingInterval(m_defaults), Origin::storage);
+    change(storedCornerPalmRejection(m_defaults), Origin::storage);
+    changeGestureEnabled(storedGestureEnabled(m_defaults), Origin::storage);
 }
 
-void MultitouchService::setGestureEnabled(bool enabled) {
-    if (enabled == m_isGestureEnabled.value())
-        return;
-    m_isGestureEnabled.set(enabled);
-    m_defaults.setBoolean(enabledStorageKey, enabled);
-    enabled ? start() : stop();
-}
+void MultitouchService::setGestureEnabled(bool enabled) { changeGestureEnabled(enabled, Origin::person); }
 
-void MultitouchService::setTapWaitingInterval(TapWaitingInterval interval) {
-    if (interval == m_tapWaitingInterval.value())
-        return;
-    m_tapWaitingInterval.set(interval);
-    m_defaults.setInteger(kTapWaitingIntervalStorageKey, milliseconds(interval));
-    m_frameProcessor->setMaximumTapInterval(seconds(interval));
-}
+void MultitouchService::setTapWaitingInterval(TapWaitingInterval interval) { change(interval, Origin::person); }
 
 void MultitouchService::setCornerPalmRejectionEnabled(bool enabled) {
     CornerPalmRejectionSettings settings = m_cornerPalmRejection.value();
     settings.isEnabled = enabled;
-    updateCornerPalmRejection(settings);
+    change(settings, Origin::person);
 }
 
 void MultitouchService::setCornerPalmRejectionSensitivity(double sensitivity) {
     CornerPalmRejectionSettings settings = m_cornerPalmRejection.value();
     settings.sensitivity = CornerPalmRejectionSettings::clampedSensitivity(sensitivity);
-    updateCornerPalmRejection(settings);
+    change(settings, Origin::person);
 }
 
-void MultitouchService::updateCornerPalmRejection(const CornerPalmRejectionSettings& settings) {
+void MultitouchService::changeGestureEnabled(bool enabled, Origin origin) {
+    if (enabled == m_isGestureEnabled.value())
+        return;
+    m_isGestureEnabled.set(enabled);
+    if (origin == Origin::person)
+        m_defaults.setBoolean(enabledStorageKey, enabled);
+    enabled ? start() : stop();
+}
+
+void MultitouchService::change(TapWaitingInterval interval, Origin origin) {
+    if (interval == m_tapWaitingInterval.value())
+        return;
+    m_tapWaitingInterval.set(interval);
+    if (origin == Origin::person)
+        m_defaults.setInteger(kTapWaitingIntervalStorageKey, milliseconds(interval));
+    m_frameProcessor->setMaximumTapInterval(seconds(interval));
+}
+
+void MultitouchService::change(const CornerPalmRejectionSettings& settings, Origin origin) {
     if (settings == m_cornerPalmRejection.value())
         return;
     m_frameProcessor->setCornerPalmRejection(settings);
     cancelPendingRecognitions();
     m_cornerPalmRejection.set(settings);
+    if (origin == Origin::storage)
+        return;
     m_defaults.setBoolean(CornerPalmRejectionSettings::enabledStorageKey, settings.isEnabled);
     m_defaults.setReal(CornerPalmRejectionSettings::sensitivityStorageKey, settings.sensitivity);
 }

@@ -76,6 +76,9 @@ class MultitouchService {
     void setCornerPalmRejectionSensitivity(double sensitivity);
 
   private:
+    /// Who changes a setting. What comes from storage is not stored again: by then it may hold something newer.
+    enum class Origin { person, storage };
+
     void deliver(const FrameRecognition& recognition);
     void receivePhysicalClickEvent(const PointerEvent& event);
     void scheduleRecognition(const TapSequence& sequence, std::uint64_t generation);
@@ -88,7 +91,9 @@ class MultitouchService {
 
     void startClickMonitoring();
     void cancelPendingRecognitions();
-    void updateCornerPalmRejection(const CornerPalmRejectionSettings& settings);
+    void changeGestureEnabled(bool enabled, Origin origin);
+    void change(TapWaitingInterval interval, Origin origin);
+    void change(const CornerPalmRejectionSettings& settings, Origin origin);
 
     void showGestureFeedback(const DetectedGesture& gesture);
     void scheduleFeedbackTick();

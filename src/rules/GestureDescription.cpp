@@ -50,13 +50,16 @@ std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture&
     for (const GestureRule& rule : rules) {
         GestureRule completed = rule;
         completed.isEnabled = true;
-        if (!completed.action.isConfigured())
-            completed.action.kind = ActionKind::middleClick;
+        const bool isSlide = rule.gesture == GestureKind::edgeSlide;
+        if (isSlide || !completed.action.isConfigured())
+            completed.action.kind = isSlide ? ActionKind::adjustVolume : ActionKind::middleClick;
         if (selectRule({&completed, 1}, detected, ShellCommands::allowed) == nullptr)
             continue;
         const std::string name = rule.name.empty() ? "a rule for it" : "the rule “" + rule.name + "”";
         if (!rule.action.isConfigured())
             return name + " has no complete action";
+        if (isSlide && rule.action.kind != ActionKind::adjustVolume)
+            return name + " has an action that a slide cannot run: it can only adjust the volume";
         return name + (rule.isEnabled ? " runs a shell command, and those are switched off" : " is off");
     }
     return "no rule is bound to it";

@@ -120,6 +120,7 @@ std::optional<RuleStore::Binding> RuleStore::binding(const Uuid& id) {
 
 void RuleStore::reload() {
     const std::optional<std::string> stored = m_defaults.data(storageKey);
+    m_problem.clear();
     if (!stored) {
         publishIfChanged({GestureRule::recommendedDefault()});
         return;
@@ -127,8 +128,10 @@ void RuleStore::reload() {
     const auto decoded = decodeRules(*stored);
     // What does not decode stays stored until the next change: merely looking at it must not destroy what a person
     // may still mend.
-    if (!decoded)
+    if (!decoded) {
+        m_problem = decoded.error().message;
         return;
+    }
     auto rules = disablingUnacknowledgedShellRules(*decoded);
     const bool isSwitchedOff = rules != *decoded;
     publishIfChanged(std::move(rules));

@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -60,6 +61,9 @@ class RuleStore {
     /// list is the default one; one that does not decode leaves the present list as it is.
     void reload();
 
+    /// Why the stored list was not taken over when it was last read, with the place; empty if it was.
+    const std::string& problem() const { return m_problem; }
+
     /// The list with every enabled shell-command rule that was not acknowledged switched off.
     static std::vector<GestureRule> disablingUnacknowledgedShellRules(std::vector<GestureRule> rules);
 
@@ -70,6 +74,7 @@ class RuleStore {
     void change(std::vector<GestureRule> rules);
 
     UserDefaults& m_defaults;
+    std::string m_problem;
     Published<std::vector<GestureRule>> m_rules;
 };
 

@@ -1,0 +1,24 @@
+#include "recognition/StoredRecognitionSettings.h"
+
+#include "recognition/MultitouchService.h"
+
+namespace kinesta {
+
+bool storedGestureEnabled(const UserDefaults& defaults) {
+    constexpr std::string_view key = MultitouchService::enabledStorageKey;
+    return !defaults.contains(key) || defaults.boolean(key).value_or(false);
+}
+
+TapWaitingInterval storedTapWaitingInterval(const UserDefaults& defaults) {
+    return tapWaitingInterval(defaults.integer(kTapWaitingIntervalStorageKey).value_or(0))
+        .value_or(kDefaultTapWaitingInterval);
+}
+
+CornerPalmRejectionSettings storedCornerPalmRejection(const UserDefaults& defaults) {
+    using Settings = CornerPalmRejectionSettings;
+    return {defaults.boolean(Settings::enabledStorageKey).value_or(false),
+            Settings::clampedSensitivity(
+                defaults.real(Settings::sensitivityStorageKey).value_or(Settings::defaultSensitivity))};
+}
+
+}  // namespace kinesta
