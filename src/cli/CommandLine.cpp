@@ -106,7 +106,7 @@ class Parser {
         command(m_app, "monitor", "Show the live pad and what is recognized; no action runs",
                 [this] { return monitor(m_console, m_places.defaults); });
         CLI::App* recording = command(m_app, "record", "Write what the pad reports to a recording",
-                                      [this] { return record(m_console, m_output, m_device); });
+                                      [this] { return record(m_console, m_places.defaults, m_output, m_device); });
         recording->add_option("-o,--output", m_output, "Where to write it (default: standard output)");
         recording->add_option("--device", m_device, "The touchpad to record, by path or name");
         addJson(command(m_app, "devices", "Show the touchpads of this machine",

@@ -7,6 +7,7 @@
 #include "cli/LiveRecognition.h"
 #include "cli/LogLines.h"
 #include "cli/StoredSettings.h"
+#include "cli/TextTable.h"
 #include "platform/linux/FileWatcher.h"
 #include "platform/linux/LinuxActions.h"
 #include "platform/linux/SignalListener.h"
@@ -17,6 +18,8 @@
 
 namespace kinesta {
 namespace {
+
+constexpr const char* kChanged = "The settings file was changed";
 
 /// The daemon's parts, in the order in which they depend on each other.
 class Daemon {
@@ -32,15 +35,17 @@ class Daemon {
           m_executor(m_actions.ports()),
           m_dispatcher(m_store, m_settings.defaults(), m_executor),
           m_recognition(m_loop, m_clock, m_settings.defaults()),
-          m_watcher(m_loop, defaults.string(), [this] { reload("The settings file was changed"); }) {
+          m_watcher(m_loop, defaults.string(), [this] { reload(kChanged); }) {
+        m_settings.check(m_store);
         m_dispatcher.setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {
             m_log.write(describe(gesture) + "  →  " + (rule ? ruleInWords(*rule) : whyNone(gesture)));
         });
         m_dispatcher.bind(m_recognition.service());
         m_disableAll = m_actions.notifications().observe(kAppActionRequested, [this](ActionKind kind) {
-            if (kind == ActionKind::disableAllRules)
+            if (kind == ActionKind::disableAllRules) {
                 m_store.disableAllRules();
-            else
+                tellRules();
+            } else
                 m_log.write("There is no configuration window to show: this is the daemon.");
         });
     }
@@ -49,6 +54,9 @@ class Daemon {
         m_statusSubscription = m_recognition.service().status().observe([this](const auto&) { tellStatus(); });
         m_recognition.start();
         tellRules();
+        if (!m_watcher.isWatching())
+            m_log.write("The settings file cannot be watched: after a change send SIGHUP.");
+        reload(kChanged);  // between the reading and the watching
         m_loop.run();
         m_log.write("Stopped.");
         return ExitStatus::success;
@@ -56,23 +64,30 @@ class Daemon {
 
   private:
     void receive(int signal) {
-        if (signal == SIGHUP)
-            reload("Asked to reload");
-        else
+        if (signal != SIGHUP)
             m_loop.quit();
+        else if (!reload("Asked to reload"))
+            m_log.write("Asked to reload: there is nothing new to be read.");
     }
 
-    void reload(std::string_view reason) {
+    /// Whether there was anything new.
+    bool reload(std::string_view reason) {
         // Our own saves wake the watcher too: then nothing has changed.
         if (!m_settings.defaults().reload())
-            return;
+            return false;
         m_log.write(std::string(reason) + ": rules and settings are read again.");
         m_store.reload();
+        m_settings.check(m_store);
+        const std::string padBefore = m_recognition.pad().state().path;
         m_recognition.reloadSettings();
+        if (!padBefore.empty() && !m_recognition.pad().state().path.empty() &&
+            padBefore != m_recognition.pad().state().path)
+            tellStatus();  // from one pad to another, the status stays what it is
         tellRules();
+        return true;
     }
 
-    void tellRules() const {
+    void tellRules() {
         const auto& rules = m_store.rules().value();
         std::size_t enabled = 0;
         for (const GestureRule& rule : rules) {
@@ -87,7 +102,7 @@ class Daemon {
         const auto& status = m_recognition.service().status().value();
         switch (status.kind) {
             case TrackpadContactProviderStatus::Kind::listening:
-                m_log.write("Trackpad listening: " + m_recognition.pad().state().name + " (" +
+                m_log.write("Trackpad listening: " + printable(m_recognition.pad().state().name) + " (" +
                             m_recognition.pad().state().path + ")" +
                             (m_recognition.pad().state().canTellPressure ? "" : ", which cannot tell a Force Click"));
                 break;
@@ -96,7 +111,7 @@ class Daemon {
                                                                                : "Gesture recognition is off");
                 break;
             case TrackpadContactProviderStatus::Kind::unavailable:
-                m_log.write(status.message);
+                m_log.write(printable(status.message));
                 break;
         }
     }

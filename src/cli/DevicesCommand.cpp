@@ -1,5 +1,6 @@
 #include "cli/DevicesCommand.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "cli/LiveRecognition.h"
@@ -34,7 +35,8 @@ Json asJson(const ListedTouchpad& listed) {
 
 ExitStatus listDevices(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
     StoredSettings settings(console, defaults);
-    const auto touchpads = listTouchpads(settings.defaults().string(kTouchpadSettingKey).value_or(""));
+    const std::string wanted = settings.defaults().string(kTouchpadSettingKey).value_or("");
+    const auto touchpads = listTouchpads(wanted);
     if (form == OutputForm::json) {
         Json array = Json::array();
         for (const ListedTouchpad& listed : touchpads)
@@ -43,7 +45,7 @@ ExitStatus listDevices(const Console& console, const std::filesystem::path& defa
         return settings.status();
     }
     if (touchpads.empty()) {
-        console.out << "No built-in trackpad was found.\n";
+        console.out << "No trackpad was found.\n";
         return settings.status();
     }
     TextTable table({"", "TOUCHPAD", "DEVICE", "FINGERS", "FORCE CLICK"});
@@ -54,9 +56,11 @@ ExitStatus listDevices(const Console& console, const std::filesystem::path& defa
                    : listed.canTellPressure ? "yes"
                                             : "impossible: it cannot tell pressure"});
     table.print(console);
+    if (!wanted.empty() && std::ranges::none_of(touchpads, [](const auto& listed) { return listed.isChosen; }))
+        console.out << '\n' << console.warning(printable(noTouchpadMessage(wanted))) << '\n';
     for (const ListedTouchpad& listed : touchpads)
         if (!listed.problem.empty())
-            console.out << '\n' << console.warning(listed.problem) << '\n';
+            console.out << '\n' << console.warning(printable(listed.problem)) << '\n';
     return settings.status();
 }
 

@@ -6,11 +6,17 @@
 #include <optional>
 #include <vector>
 
+#include "actions/WindowTilingMenuCommand.h"
+#include "cli/ActionObstacle.h"
+#include "cli/GestureReport.h"
 #include "cli/LiveRecognition.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
 #include "platform/linux/LinuxActions.h"
+#include "platform/linux/PosixHomeFolders.h"
 #include "platform/linux/TouchpadListing.h"
+#include "recognition/StoredRecognitionSettings.h"
+#include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
 #include "support/SteadyClock.h"
@@ -28,18 +34,20 @@ struct Finding {
     bool isNeeded = false;
 };
 
-/// What an action of this kind needs of the session, if anything.
-std::optional<DesktopCapability> capabilityFor(ActionKind kind) {
-    switch (kind) {
+bool needs(const GestureAction& action, DesktopCapability capability) {
+    switch (action.kind) {
         case ActionKind::keyboardShortcut:
+            if (action.keyCode && windowTilingMenuCommand(*action.keyCode, action.modifiers))
+                return capability == DesktopCapability::windows || capability == DesktopCapability::sendInput;
+            return capability == DesktopCapability::sendInput;
         case ActionKind::middleClick:
         case ActionKind::adjustVolume:
-            return DesktopCapability::sendInput;
-        case ActionKind::closeWindow:
-            return DesktopCapability::windows;
+            return capability == DesktopCapability::sendInput;
+        case ActionKind::closeWindow:  // which is allowed to those only who may send keys
+            return capability == DesktopCapability::windows || capability == DesktopCapability::sendInput;
         case ActionKind::openURL:
         case ActionKind::openFileOrFolder:
-            return DesktopCapability::open;
+            return capability == DesktopCapability::open;
         case ActionKind::unconfigured:
         case ActionKind::launchApplication:
         case ActionKind::shellCommand:
@@ -47,7 +55,7 @@ std::optional<DesktopCapability> capabilityFor(ActionKind kind) {
         case ActionKind::disableAllRules:
             break;
     }
-    return std::nullopt;
+    return false;
 }
 
 using Rules = std::vector<GestureRule>;
@@ -57,21 +65,30 @@ bool anyEnabled(const Rules& rules, const std::function<bool(const GestureRule&)
 }
 
 void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
-    const auto touchpads = listTouchpads(defaults.string(kTouchpadSettingKey).value_or(""));
+    const std::string wanted = defaults.string(kTouchpadSettingKey).value_or("");
+    const auto touchpads = listTouchpads(wanted);
     const auto chosen = std::ranges::find_if(touchpads, [](const auto& listed) { return listed.isChosen; });
     const bool isNeeded = anyEnabled(rules, [](const GestureRule&) { return true; });
     if (chosen == touchpads.end())
-        findings.push_back({"Touchpad", false, "No built-in trackpad was found.",
-                            "Connect one; recognition starts by itself.", isNeeded});
+        findings.push_back({"Touchpad", false, noTouchpadMessage(wanted),
+                            touchpads.empty() ? "Connect one; recognition starts by itself."
+                                              : "Choose one of those that kinesta devices shows, as the setting " +
+                                                    std::string(kTouchpadSettingKey) + ".",
+                            isNeeded});
     else
         findings.push_back(
             {"Touchpad", chosen->problem.empty(),
              chosen->problem.empty() ? chosen->candidate.name + " at " + chosen->candidate.path + "." : chosen->problem,
              "", isNeeded});
+    if (!storedGestureEnabled(defaults))
+        findings.push_back({"Gesture recognition", false, "It is switched off in the settings.",
+                            "Switch it on: the setting " + std::string(MultitouchService::enabledStorageKey) + ".",
+                            isNeeded});
     const bool canTellPressure = chosen != touchpads.end() && chosen->canTellPressure;
     findings.push_back({"Force Click", canTellPressure,
-                        canTellPressure ? "The touchpad tells pressure."
-                                        : "Force Click is impossible: no touchpad here can tell pressure.",
+                        canTellPressure
+                            ? "The touchpad tells pressure."
+                            : "Force Click is impossible: the touchpad in use, if any, cannot tell pressure.",
                         canTellPressure ? "" : "Bind those rules to a physical click of any pressure.",
                         anyEnabled(rules, [](const GestureRule& rule) {
                             return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
@@ -82,8 +99,8 @@ void addSession(std::vector<Finding>& findings, const Rules& rules, const UserDe
     const SteadyClock clock;
     LinuxActions actions(clock, defaults, [](const std::string&) {});
     for (DesktopFinding& finding : actions.session().findings()) {
-        const bool isNeeded = anyEnabled(
-            rules, [&](const GestureRule& rule) { return capabilityFor(rule.action.kind) == finding.capability; });
+        const bool isNeeded =
+            anyEnabled(rules, [&](const GestureRule& rule) { return needs(rule.action, finding.capability); });
         findings.push_back(
             {std::move(finding.what), finding.works, std::move(finding.why), std::move(finding.remedy), isNeeded});
     }
@@ -97,16 +114,27 @@ void addShellCommands(std::vector<Finding>& findings, const Rules& rules, const 
          anyEnabled(rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
 }
 
+/// What stands in the way of single rules, whatever the session.
+void addRules(std::vector<Finding>& findings, const Rules& rules) {
+    const PosixHomeFolders homes;
+    for (const GestureRule& rule : rules)
+        if (const auto obstacle = rule.isEnabled ? obstacleTo(rule.action, homes) : std::nullopt)
+            findings.push_back({"Rule “" + describeTrigger(rule) + "  →  " + ruleInWords(rule) + "”", false,
+                                obstacle->why, obstacle->remedy, true});
+}
+
 }  // namespace
 
 ExitStatus doctor(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
+    settings.check(store);
     const Rules& rules = store.rules().value();
     std::vector<Finding> findings;
     addTouchpad(findings, rules, settings.defaults());
     addSession(findings, rules, settings.defaults());
     addShellCommands(findings, rules, settings.defaults());
+    addRules(findings, rules);
     bool isMissing = false;
     nlohmann::ordered_json array = nlohmann::ordered_json::array();
     for (const Finding& finding : findings) {
@@ -122,7 +150,7 @@ ExitStatus doctor(const Console& console, const std::filesystem::path& defaults,
         const std::string mark = finding.works      ? console.good("✓")
                                  : finding.isNeeded ? console.warning("✗")
                                                     : console.dim("–");
-        console.out << mark << ' ' << console.bold(finding.what) << ": " << printable(finding.why) << '\n';
+        console.out << mark << ' ' << console.bold(printable(finding.what)) << ": " << printable(finding.why) << '\n';
         if (!finding.works && !finding.remedy.empty())
             console.out << "    " << finding.remedy << '\n';
     }

@@ -6,6 +6,7 @@ namespace kinesta {
 
 LiveRecognition::LiveRecognition(MainThread& mainThread, const Clock& clock, UserDefaults& defaults)
     : m_mainThread(mainThread),
+      m_defaults(defaults),
       m_provider(mainThread, {.device = defaults.string(kTouchpadSettingKey).value_or(""), .pressure = {}}),
       m_service(defaults, m_provider, m_pointer, mainThread, clock) {
     m_provider.setPointerHandler([this](const RecordingEvent& event) {
@@ -18,6 +19,11 @@ LiveRecognition::LiveRecognition(MainThread& mainThread, const Clock& clock, Use
 }
 
 LiveRecognition::~LiveRecognition() { m_provider.stop(); }
+
+void LiveRecognition::reloadSettings() {
+    m_provider.setDevice(m_defaults.string(kTouchpadSettingKey).value_or(""));
+    m_service.reloadSettings();
+}
 
 void LiveRecognition::setWatcher(std::function<void(const RecordingEvent&)> watcher) {
     m_watcher = std::move(watcher);

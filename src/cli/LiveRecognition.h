@@ -25,10 +25,11 @@ class LiveRecognition {
     void start() { m_service.startIfEnabled(); }
 
     /// Takes over what the stored settings say now.
-    void reloadSettings() { m_service.reloadSettings(); }
+    void reloadSettings();
 
   private:
     MainThread& m_mainThread;
+    const UserDefaults& m_defaults;
     PointerEventBroadcaster m_pointer;
     EvdevContactProvider m_provider;
     MultitouchService m_service;

@@ -9,6 +9,7 @@
 #include "cli/LogLines.h"
 #include "cli/PadScreen.h"
 #include "cli/StoredSettings.h"
+#include "cli/TextTable.h"
 #include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
@@ -22,6 +23,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
     const SteadyClock clock;
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
+    settings.check(store);
     const LogLines log(console);
     std::optional<PadScreen> screen;
     LiveRecognition live(loop, clock, settings.defaults());
@@ -46,7 +48,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
 
     const auto tellStatus = [&](const MultitouchService::Status& status) {
         const bool isListening = status == MultitouchService::Status::listening();
-        const std::string text = isListening ? live.pad().state().name : status.message;
+        const std::string text = printable(isListening ? live.pad().state().name : status.message);
         if (screen)
             screen->setTitle("Kinesta monitor", text + "   (no action runs; Ctrl-C ends)");
         else if (!text.empty())

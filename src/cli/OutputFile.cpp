@@ -40,7 +40,7 @@ Result<std::unique_ptr<OutputFile>> OutputFile::create(const std::string& file) 
 
 Outcome OutputFile::commit() {
     errno = 0;
-    m_stream.close();
+    m_stream.flush();
     if (!m_stream)
         return failure(m_target, lastError());
     if (m_written == m_target)

@@ -21,7 +21,7 @@ class OutputFile {
 
     std::ostream& stream() { return m_stream; }
 
-    /// Ends the writing and puts the file in its place.
+    /// Sees to it that all written so far is in the file, and puts the file in its place. More may be written.
     Outcome commit();
 
   private:

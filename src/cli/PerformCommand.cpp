@@ -3,9 +3,11 @@
 #include <mutex>
 
 #include "app/GestureDispatcher.h"
+#include "cli/ActionObstacle.h"
 #include "cli/GestureReport.h"
 #include "cli/StoredSettings.h"
 #include "platform/linux/LinuxActions.h"
+#include "platform/linux/PosixHomeFolders.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
 #include "support/SteadyClock.h"
@@ -35,6 +37,7 @@ bool needsPosting(ActionKind kind) {
 ExitStatus perform(const Console& console, const std::filesystem::path& defaults, const std::string& rule) {
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
+    settings.check(store);
     const GestureRule* found = findRule(store.rules().value(), rule);
     if (found == nullptr)
         return console.fail("No stored rule has the id or the name \"" + rule + "\". See: kinesta rules list");
@@ -45,6 +48,8 @@ ExitStatus perform(const Console& console, const std::filesystem::path& defaults
     if (found->action.kind == ActionKind::toggleConfigurationWindow ||
         found->action.kind == ActionKind::disableAllRules)
         return console.fail("This action is for the running application to perform.");
+    if (const auto obstacle = obstacleTo(found->action, PosixHomeFolders()))
+        return console.fail(obstacle->why + " " + obstacle->remedy);
     const SteadyClock clock;
     std::mutex lock;  // what goes wrong is told on more than one thread
     std::string problem;
@@ -56,13 +61,19 @@ ExitStatus perform(const Console& console, const std::filesystem::path& defaults
         });
         ActionExecutor executor(actions.ports());
         isTrusted = !needsPosting(found->action.kind) || executor.hasAccessibilityPermission();
+        const bool isPosting = isTrusted && needsPosting(found->action.kind);
+        if (isPosting)
+            actions.letDesktopCatchUp();
         executor.execute(found->action, 1, found->shouldShowActionCue(), found->resolvedVisualCueMessage());
+        if (isPosting)
+            actions.letDesktopCatchUp();
     }  // which waits until all has been handed over
     if (!isTrusted)
         return console.fail("Keys and clicks cannot be posted in this session. See: kinesta doctor");
     if (!problem.empty())
         return console.fail(problem);
-    console.out << "Performed: " << ruleInWords(*found) << '\n';
+    // Nobody tells what came of it: a window may ask before it closes, a program may refuse a file.
+    console.out << "Asked for: " << ruleInWords(*found) << '\n';
     return settings.status();
 }
 

@@ -1,5 +1,8 @@
 #include "cli/ReplayCommand.h"
 
+#include <mutex>
+#include <utility>
+
 #include "actions/ActionExecutor.h"
 #include "cli/GestureReport.h"
 #include "cli/OutputFile.h"
@@ -21,9 +24,18 @@ namespace {
 /// The actions of this machine, made only where they are to be performed.
 class Performer {
   public:
-    Performer(const Console& console, const UserDefaults& defaults)
-        : m_actions(m_clock, defaults, [&console](const std::string& problem) { console.err << problem + "\n"; }),
-          m_executor(m_actions.ports()) {}
+    explicit Performer(const UserDefaults& defaults)
+        : m_actions(m_clock, defaults,
+                    [this](const std::string& problem) {
+                        const std::lock_guard guard(m_lock);
+                        m_problems += problem + "\n";
+                    }),
+          m_executor(m_actions.ports()) {
+        m_actions.letDesktopCatchUp();
+    }
+    ~Performer() { m_actions.letDesktopCatchUp(); }
+    Performer(const Performer&) = delete;
+    Performer& operator=(const Performer&) = delete;
 
     void perform(const GestureRule& rule, const DetectedGesture& gesture) {
         const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture);
@@ -31,8 +43,16 @@ class Performer {
                            rule.resolvedVisualCueMessage());
     }
 
+    /// What went wrong since the last question, a line each.
+    std::string problems() {
+        const std::lock_guard guard(m_lock);
+        return std::exchange(m_problems, {});
+    }
+
   private:
     SteadyClock m_clock;
+    std::mutex m_lock;  // of the problems, which are told on more than one thread
+    std::string m_problems;
     LinuxActions m_actions;
     ActionExecutor m_executor;
 };
@@ -43,7 +63,7 @@ struct RulesInForce {
 };
 
 Result<RulesInForce> rulesInForce(const Console& console, const std::filesystem::path& defaults,
-                                  const ReplayRequest& request) {
+                                  const ReplayRequest& request, ExitStatus& status) {
     if (!request.rules.empty()) {
         auto rules = readRuleFile(request.rules, console.in);
         if (!rules)
@@ -52,6 +72,8 @@ Result<RulesInForce> rulesInForce(const Console& console, const std::filesystem:
     }
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
+    settings.check(store);
+    status = settings.status();
     return RulesInForce{store.rules().value(), ShellCommandSettings::isEnabled(settings.defaults())
                                                    ? ShellCommands::allowed
                                                    : ShellCommands::forbidden};
@@ -92,7 +114,8 @@ std::optional<Error> playInRealTime(RecordingFile& file, ReplaySession& session)
 ExitStatus replay(const Console& console, const std::filesystem::path& defaults, const ReplayRequest& request) {
     if (request.recording == "-" && request.rules == "-")
         return console.fail("The recording and the rules cannot both come from standard input.");
-    const auto inForce = rulesInForce(console, defaults, request);
+    ExitStatus status = ExitStatus::success;
+    const auto inForce = rulesInForce(console, defaults, request, status);
     if (!inForce)
         return console.fail(inForce.error().message);
     const auto file = RecordingFile::open(console, request.recording, request.device);
@@ -110,7 +133,7 @@ ExitStatus replay(const Console& console, const std::filesystem::path& defaults,
     performed.setBoolean(ShellCommandSettings::enabledKey, inForce->shellCommands == ShellCommands::allowed);
     std::optional<Performer> performer;
     if (request.performing == Performing::performed)
-        performer.emplace(console, performed);
+        performer.emplace(performed);
 
     std::size_t gestures = 0;
     ReplaySession session((*file)->reader().header(), [&](ReplaySession::Time time, const DetectedGesture& gesture) {
@@ -124,14 +147,18 @@ ExitStatus replay(const Console& console, const std::filesystem::path& defaults,
             console.out.flush();
         if (performer && rule)
             performer->perform(*rule, gesture);
+        if (performer)
+            console.err << performer->problems();
     });
     const auto error =
         request.pace == Pace::realTime ? playInRealTime(**file, session) : playAtOnce(console, **file, session);
+    if (performer)
+        console.err << performer->problems();
     if (error)
         return console.fail(error->message);
     if (request.form == OutputForm::forPeople && gestures == 0)
         console.out << "No gesture was recognized.\n";
-    return ExitStatus::success;
+    return status;
 }
 
 ExitStatus convert(const Console& console, const std::string& recording, const std::string& device,

@@ -4,6 +4,7 @@
 
 #include "cli/Console.h"
 #include "platform/linux/FileUserDefaults.h"
+#include "rules/RuleStore.h"
 
 namespace kinesta {
 
@@ -11,17 +12,27 @@ namespace kinesta {
 class StoredSettings {
   public:
     StoredSettings(const Console& console, const std::filesystem::path& path)
-        : m_defaults(path, [this, &console](const std::string& problem) {
-              console.fail(problem);
+        : m_console(console), m_defaults(path, [this](const std::string& problem) {
+              m_console.fail(problem);
               m_status = ExitStatus::badInput;
           }) {}
 
     FileUserDefaults& defaults() { return m_defaults; }
 
+    /// Reports a stored rule list that could not be read.
+    void check(const RuleStore& store) {
+        if (store.problem().empty())
+            return;
+        m_console.fail("The stored rules cannot be read: " + store.problem() +
+                       ". They are kept; mend them, or import others.");
+        m_status = ExitStatus::badInput;
+    }
+
     /// badInput once a problem was reported.
     ExitStatus status() const { return m_status; }
 
   private:
+    const Console& m_console;
     ExitStatus m_status = ExitStatus::success;
     FileUserDefaults m_defaults;
 };

@@ -68,7 +68,8 @@ TEST(KeyStroke, TurnsFnIntoTheKeysThatItStandsForAndTypesNoBareLetter) {
 }
 
 TEST(KeyStroke, ReadsModifiersFromFlags) {
-    EXPECT_EQ(modifiersForFlags(0xBE0000, Command::control), kShiftModifier | kControlModifier | kAltModifier);
+    EXPECT_EQ(modifiersForFlags(0xBA0000, Command::control), kShiftModifier | kControlModifier | kAltModifier);
+    EXPECT_EQ(modifiersForFlags(0x140000, Command::control), kSuperModifier | kControlModifier) << "two keys";
     EXPECT_EQ(modifiersForFlags(0x1E0000, Command::super), 15) << "all four";
     EXPECT_EQ(modifiersForFlags(0xA00000, Command::control), 0) << "fn and the numeric pad are no modifiers here";
 }

@@ -58,7 +58,7 @@ struct PostingEventSynthesizerTest : ::testing::Test {
 
 TEST_F(PostingEventSynthesizerTest, KeepsTheOrderOfAStrokeBetweenFnKeys) {
     key(63, KeyTransition::down, {});
-    stroke(123, 0xA40000);
+    stroke(123, 0xB00000);
     key(63, KeyTransition::up, {});
     EXPECT_EQ(poster.calls, (Calls{"+29 +102", "-102 -29"}));
     EXPECT_EQ(log, Calls{});
@@ -90,13 +90,14 @@ TEST_F(PostingEventSynthesizerTest, PutsModifiersBackEvenIfAKeyNeverComesUp) {
 
 TEST_F(PostingEventSynthesizerTest, SkipsKeysThatAreNotThereAndSaysSoOnce) {
     poster.missingKey = KEY_102ND;
-    for (const std::uint16_t code : std::initializer_list<std::uint16_t>{10, 52, 14})
-        stroke(code, code == 14 ? 0x800000 : 0);
+    for (const std::uint16_t code : std::initializer_list<std::uint16_t>{10, 52, 14, 123})
+        stroke(code, code == 14 ? 0x800000 : code == 123 ? 0xA60000 : 0);
     EXPECT_EQ(poster.calls, Calls{});
-    EXPECT_EQ(log, (Calls{"The key with code 10 is not on this keyboard; choose another key.",
-                          "The key with code 52 is not on this keyboard; choose another key.",
-                          "The key with code 14 has no meaning together with fn on this desktop; choose another "
-                          "shortcut."}));
+    EXPECT_EQ(log, (Calls{"The key with code 10 is not on this keyboard. Choose another key.",
+                          "The key with code 52 is not on keyboards here. Choose another key.",
+                          "The key with code 14 has no meaning together with fn on this desktop. Choose another "
+                          "shortcut.",
+                          "The shortcut tiles windows, and that was not possible. See: kinesta doctor"}));
 }
 
 TEST_F(PostingEventSynthesizerTest, PressesVolumeKeysWithoutModifiers) {

@@ -17,6 +17,8 @@ namespace {
 
 bool managesWindows(X11Connection& display) {
     xcb_connection_t* connection = display.open();
+    if (connection == nullptr)
+        return false;
     constexpr std::string_view kName = "_NET_SUPPORTING_WM_CHECK";
     const XcbPointer<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
         connection, xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(kName.size()), kName.data()), nullptr));
@@ -34,6 +36,8 @@ bool managesWindows(X11Connection& display) {
            nullptr;
 }
 
+}  // namespace
+
 bool answersWayland() {
     const char* name = std::getenv("WAYLAND_DISPLAY");
     const char* folder = std::getenv("XDG_RUNTIME_DIR");
@@ -49,14 +53,12 @@ bool answersWayland() {
     return connect(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-}  // namespace
-
 DesktopFacts DesktopFacts::probe(X11Connection& connection, SessionBus& bus, const std::string& uinputPath) {
     DesktopFacts facts;
     facts.hasX = connection.open() != nullptr;
     facts.hasXTest = facts.hasX && connection.canPostInput();
-    facts.hasWindowManager = facts.hasX && managesWindows(connection);
     facts.hasWayland = answersWayland();
+    facts.hasWindowManager = managesWindows(connection);
     facts.mayUseUinput =
         static_cast<bool>(FileDescriptor(::open(uinputPath.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)));
     facts.hasXdgOpen = isInSearchPath("xdg-open");

@@ -8,6 +8,9 @@
 
 namespace kinesta {
 
+/// Whether a Wayland compositor answers, where the environment says.
+bool answersWayland();
+
 /// What is there on this machine now, as far as actions need it.
 struct DesktopFacts {
     /// An X server answers; in a Wayland session that is XWayland, which shows the windows of older programs.

@@ -21,20 +21,6 @@ DesktopSession::Kind DesktopSession::kind() const {
     return m_facts.hasX ? Kind::x11 : Kind::none;
 }
 
-std::string DesktopSession::description() const {
-    switch (kind()) {
-        case Kind::x11:
-            return "an X11 session";
-        case Kind::wayland:
-            return "a Wayland session";
-        case Kind::waylandWithX:
-            return "a Wayland session with XWayland";
-        case Kind::none:
-            break;
-    }
-    return "no desktop session";
-}
-
 Route DesktopSession::inputRoute() const {
     if (m_wish != Route::automatic)
         return m_wish;
@@ -121,7 +107,11 @@ DesktopFinding DesktopSession::windows() const {
 
 DesktopFinding DesktopSession::open() const {
     DesktopFinding finding{DesktopCapability::open, "Opening addresses and files", true, "", ""};
-    if (m_facts.hasXdgOpen) {
+    if (kind() == Kind::none) {
+        finding.works = false;
+        finding.why = "There is no desktop session here in which they could be opened.";
+        finding.remedy = kStartInSession;
+    } else if (m_facts.hasXdgOpen) {
         finding.why = "They are opened with xdg-open.";
     } else if (m_facts.hasPortal) {
         finding.why = "They are opened through the desktop's portal.";

@@ -32,9 +32,6 @@ class DesktopSession {
     DesktopSession(const DesktopFacts& facts, LinuxActionSettings::InputRoute wish);
 
     Kind kind() const;
-    /// "an X11 session"
-    std::string description() const;
-
     /// The way that keys and clicks take: the person's wish, else the X server of an X11 session, else uinput. Never
     /// automatic.
     LinuxActionSettings::InputRoute inputRoute() const;

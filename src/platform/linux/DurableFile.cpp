@@ -1,6 +1,7 @@
 #include "platform/linux/DurableFile.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -12,6 +13,8 @@
 namespace kinesta {
 namespace {
 
+constexpr int kLockWaitMilliseconds = 5;
+constexpr int kMostLockTries = 400;
 constexpr int kMostLinks = 40;  // as many as the kernel follows
 
 Error failure(const std::string& path, int reason) {
@@ -114,9 +117,15 @@ Result<FileDescriptor> DurableFile::lock() const {
     FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!file)
         return failure(path, errno);
-    while (::flock(file.number(), LOCK_EX) != 0)
-        if (errno != EINTR)
+    // Others hold it for milliseconds. One that was stopped while it did must not stop us with it.
+    for (int tries = 0; ::flock(file.number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
+        if (errno == EWOULDBLOCK && tries < kMostLockTries)
+            ::poll(nullptr, 0, kLockWaitMilliseconds);
+        else if (errno == EWOULDBLOCK)
+            return Error{m_path + ": another program has been writing it for too long"};
+        else if (errno != EINTR)
             return failure(path, errno);
+    }
     return file;
 }
 

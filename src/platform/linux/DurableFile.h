@@ -20,8 +20,9 @@ class DurableFile {
     /// The content, or nothing if there is no such file. Only a regular file can be read.
     Result<std::optional<std::string>> read() const;
 
-    /// Waits until no other process holds the lock and keeps it until the result is destroyed. Creates the folder,
-    /// readable by its owner only. The lock is a file of its own, as the file itself is another one after each save.
+    /// Waits until no other process holds the lock, at most two seconds, and keeps it until the result is destroyed.
+    /// Creates the folder, readable by its owner only. The lock is a file of its own, as the file itself is another one
+    /// after each save.
     Result<FileDescriptor> lock() const;
 
     /// Replaces the content; afterwards it is on the disk. After an error the old content is still there, and no

@@ -72,6 +72,18 @@ void EvdevContactProvider::start() {
         });
 }
 
+void EvdevContactProvider::setDevice(std::string device) {
+    if (device == m_settings.device)
+        return;
+    m_settings.device = std::move(device);
+    if (!m_run)
+        return;
+    stop();
+    start();
+    if (m_statusHandler)
+        m_statusHandler();
+}
+
 void EvdevContactProvider::stop() {
     if (m_run) {
         const std::uint64_t one = 1;

@@ -63,7 +63,7 @@ EvdevReader::State EvdevReader::look() {
     const TouchpadCandidate* chosen = chooseTouchpad(candidates, m_settings.device, m_inputName);
     if (!chosen) {
         leaveDevice();
-        return unavailable(notFoundMessage());
+        return unavailable(noTouchpadMessage(m_settings.device));
     }
     if (isSwitchedOff(*chosen)) {
         leaveDevice();
@@ -89,13 +89,6 @@ bool EvdevReader::isSwitchedOff(const TouchpadCandidate& pad) {
     const SendEventsMode mode = m_switch.mode(pad.path);
     return mode == SendEventsMode::disabled ||
            (mode == SendEventsMode::disabledWithExternalMouse && m_scanner.hasExternalMouse());
-}
-
-std::string EvdevReader::notFoundMessage() const {
-    if (m_settings.device.empty())
-        return "No built-in trackpad was found.";
-    return m_settings.device.starts_with('/') ? "There is no trackpad at " + m_settings.device + "."
-                                              : "No trackpad named \"" + m_settings.device + "\" was found.";
 }
 
 void EvdevReader::leaveDevice() {

@@ -45,7 +45,6 @@ class EvdevReader {
   private:
     void lookAgain();
     State look();
-    std::string notFoundMessage() const;
     bool isSwitchedOff(const TouchpadCandidate& pad);
     void leaveDevice();
 

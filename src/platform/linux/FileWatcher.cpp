@@ -3,6 +3,7 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/inotify.h>
+#include <sys/stat.h>
 
 #include <array>
 #include <cstdint>
@@ -12,43 +13,35 @@
 namespace kinesta {
 namespace {
 
-/// Reads what is there; whether any of it is about `name`.
-bool concerns(int notifications, const std::string& name) {
-    alignas(inotify_event) std::array<char, 4096> buffer;
-    const ssize_t length = ::read(notifications, buffer.data(), buffer.size());
-    bool found = false;
-    for (ssize_t at = 0; at < length;) {
-        const auto* event = reinterpret_cast<const inotify_event*>(buffer.data() + at);
-        // After an overflow no one knows what was missed.
-        found = found || (event->mask & IN_Q_OVERFLOW) != 0 || (event->len > 0 && name == event->name);
-        at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+namespace fs = std::filesystem;
+
+constexpr std::uint32_t kChanges =
+    IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | IN_CREATE | IN_DELETE_SELF | IN_MOVE_SELF;
+
+/// Creates a folder that only its owner may read, with all above it.
+void createFolder(const fs::path& folder) {
+    std::error_code ignored;
+    if (!fs::exists(folder, ignored) && !folder.parent_path().empty() && folder != folder.parent_path()) {
+        createFolder(folder.parent_path());
+        ::mkdir(folder.c_str(), S_IRWXU);
     }
-    return found;
 }
 
 }  // namespace
 
-FileWatcher::FileWatcher(MainThread& mainThread, const std::string& path, std::function<void()> onChange) {
-    std::error_code ignored;
-    std::filesystem::path real = std::filesystem::weakly_canonical(path, ignored);
-    if (ignored)
-        real = path;
-    std::filesystem::create_directories(real.parent_path(), ignored);
-    m_notifications = FileDescriptor(::inotify_init1(IN_CLOEXEC));
-    m_stop = FileDescriptor(::eventfd(0, EFD_CLOEXEC));
-    m_isWatching = m_notifications && m_stop &&
-                   ::inotify_add_watch(m_notifications.number(), real.parent_path().c_str(),
-                                       IN_CLOSE_WRITE | IN_MOVED_TO | IN_DELETE) >= 0;
+FileWatcher::FileWatcher(MainThread& mainThread, const std::string& path, std::function<void()> onChange)
+    : m_path(path), m_notifications(::inotify_init1(IN_CLOEXEC)), m_stop(::eventfd(0, EFD_CLOEXEC)) {
+    m_isWatching = m_notifications && m_stop && watchFolders();
     if (!m_isWatching)
         return;
-    m_thread = std::thread([this, &mainThread, name = real.filename().string(), onChange = std::move(onChange)] {
+    m_thread = std::thread([this, &mainThread, onChange = std::move(onChange)] {
         std::array<pollfd, 2> sources{pollfd{m_notifications.number(), POLLIN, 0}, pollfd{m_stop.number(), POLLIN, 0}};
         for (;;) {
             if (::poll(sources.data(), sources.size(), -1) < 0)
                 continue;  // interrupted
             if (sources[1].revents != 0)
                 return;
-            if (concerns(m_notifications.number(), name))
+            if (readChanges())
                 mainThread.post(onChange);
         }
     });
@@ -61,6 +54,46 @@ FileWatcher::~FileWatcher() {
     while (::write(m_stop.number(), &one, sizeof one) < 0) {
     }
     m_thread.join();
+}
+
+/// Watches the folders where the file is now; to watch one again changes nothing.
+bool FileWatcher::watchFolders() {
+    std::error_code ignored;
+    fs::path real = fs::weakly_canonical(m_path, ignored);
+    if (ignored)
+        real = m_path;
+    const auto before = m_watches;
+    m_watches.clear();
+    m_names.clear();
+    for (const fs::path& file : {fs::path(m_path), real}) {
+        createFolder(file.parent_path());
+        m_names.insert(file.filename().string());
+        if (const int watch = ::inotify_add_watch(m_notifications.number(), file.parent_path().c_str(), kChanges);
+            watch >= 0)
+            m_watches.insert(watch);
+    }
+    for (const int watch : before)
+        if (!m_watches.contains(watch))
+            ::inotify_rm_watch(m_notifications.number(), watch);
+    return !m_watches.empty();
+}
+
+/// Reads what there is; whether any of it may be about the file.
+bool FileWatcher::readChanges() {
+    constexpr std::uint32_t kNoOneKnows = IN_Q_OVERFLOW | IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED;
+    alignas(inotify_event) std::array<char, 4096> buffer;
+    const ssize_t length = ::read(m_notifications.number(), buffer.data(), buffer.size());
+    bool isConcerned = false;
+    for (ssize_t at = 0; at < length;) {
+        const auto* event = reinterpret_cast<const inotify_event*>(buffer.data() + at);
+        const bool isOurs = m_watches.contains(event->wd) || event->wd < 0;  // not of a watch that was given up
+        if (isOurs && ((event->mask & kNoOneKnows) != 0 || (event->len > 0 && m_names.contains(event->name))))
+            isConcerned = true;
+        at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+    }
+    if (isConcerned)
+        watchFolders();
+    return isConcerned;
 }
 
 }  // namespace kinesta

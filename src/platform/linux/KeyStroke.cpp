@@ -62,8 +62,11 @@ DesktopModifiers modifiersForFlags(std::uint64_t flags, LinuxActionSettings::Com
         modifiers |= kControlModifier;
     if ((flags & kOptionFlag) != 0)
         modifiers |= kAltModifier;
+    // A shortcut with both ⌘ and ⌃ means two keys. As one it would be another shortcut: to lock the screen, ⌃⌘Q, would
+    // be to quit the program.
+    const bool isSuper = commandKey == LinuxActionSettings::CommandKey::super || (flags & kControlFlag) != 0;
     if ((flags & kCommandFlag) != 0)
-        modifiers |= commandKey == LinuxActionSettings::CommandKey::super ? kSuperModifier : kControlModifier;
+        modifiers |= isSuper ? kSuperModifier : kControlModifier;
     return modifiers;
 }
 

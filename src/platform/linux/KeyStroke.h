@@ -56,8 +56,8 @@ struct KeyStroke {
 /// and to press the bare letter instead would type into the person's text.
 std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint64_t flags);
 
-/// The modifiers here that event flags (the masks of ShortcutKey::eventFlags()) ask for. Flags without a counterpart
-/// are passed over.
+/// The modifiers here that event flags (the masks of ShortcutKey::eventFlags()) ask for. ⌘ is Super where
+/// ⌃ is wanted as well. Flags without a counterpart are passed over.
 DesktopModifiers modifiersForFlags(std::uint64_t flags, LinuxActionSettings::CommandKey commandKey);
 
 /// How to strike a key so that exactly the `wanted` modifiers are in force while it is down, and every modifier key is

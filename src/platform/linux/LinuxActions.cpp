@@ -1,6 +1,8 @@
 #include "platform/linux/LinuxActions.h"
 
-#include "platform/linux/BrokenPipes.h"
+#include <chrono>
+#include <thread>
+
 #include "platform/linux/DesktopFacts.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopPermission.h"
@@ -12,20 +14,22 @@
 #include "platform/linux/PosixProcessLauncher.h"
 #include "platform/linux/PostingEventSynthesizer.h"
 #include "platform/linux/SessionBus.h"
+#include "platform/linux/SessionInputPoster.h"
 #include "platform/linux/UinputDevice.h"
-#include "platform/linux/UinputInputPoster.h"
 #include "platform/linux/WindowAccessibility.h"
 #include "platform/linux/WindowOwnMenus.h"
 #include "platform/linux/WindowOwnWindows.h"
 #include "platform/linux/WindowTiler.h"
 #include "platform/linux/X11Connection.h"
-#include "platform/linux/X11InputPoster.h"
 #include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XdgWorkspace.h"
 #include "platform/linux/XkbKeyboardLayout.h"
 
 namespace kinesta {
 namespace {
+
+/// How long desktops take to notice a new input device, at most.
+constexpr std::chrono::seconds kNoticingDevice{1};
 
 /// There is no overlay without a window system's help; what ran is in the log.
 class NoCue final : public ActionCuePresenting {
@@ -41,16 +45,10 @@ struct LinuxActions::Parts {
         : clock(clockPort),
           defaults(defaultsPort),
           launcher({.zsh = "/bin/zsh", .loginShell = {}, .log = log}),
-          poster(makePoster(log)),
-          events(*poster, defaults, log),
+          poster(connection, keyboard, defaults, log),
+          events(poster, defaults, log),
           workspace(
               launcher, portal, [this] { return desktop.frontmostApplication(); }, log) {}
-
-    std::unique_ptr<InputPoster> makePoster(const Log& log) {
-        if (session().inputRoute() == LinuxActionSettings::InputRoute::uinput)
-            return std::make_unique<UinputInputPoster>(log);
-        return std::make_unique<X11InputPoster>(connection, keyboard);
-    }
 
     DesktopSession session() {
         return {DesktopFacts::probe(connection, bus, UinputDevice::kPath),
@@ -65,7 +63,7 @@ struct LinuxActions::Parts {
     SessionBus bus;
     DesktopPortal portal{bus};
     PosixProcessLauncher launcher;
-    std::unique_ptr<InputPoster> poster;
+    SessionInputPoster poster;
     PostingEventSynthesizer events;
     EwmhDesktop desktop;
     WindowTiler tiler{desktop};
@@ -74,7 +72,7 @@ struct LinuxActions::Parts {
     WindowOwnMenus ownMenus{tiler};
     XdgWorkspace workspace;
     DesktopNotifications notificationsOnScreen{bus};
-    DesktopPermission permission{*poster, notificationsOnScreen, [this] {
+    DesktopPermission permission{poster, notificationsOnScreen, [this] {
                                      const auto finding = session().finding(DesktopCapability::sendInput);
                                      return finding.why + " " + finding.remedy;
                                  }};
@@ -84,10 +82,8 @@ struct LinuxActions::Parts {
     NoCue cue;
 };
 
-LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log) {
-    surviveBrokenPipes();
-    m_parts = std::make_unique<Parts>(clock, defaults, log);
-}
+LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log)
+    : m_parts(std::make_unique<Parts>(clock, defaults, log)) {}
 
 LinuxActions::~LinuxActions() = default;
 
@@ -98,6 +94,11 @@ ActionPorts LinuxActions::ports() {
 }
 
 InProcessNotifications& LinuxActions::notifications() { return m_parts->notifications; }
+
+void LinuxActions::letDesktopCatchUp() {
+    if (m_parts->poster.usesVirtualDevice() && m_parts->poster.isAvailable())
+        std::this_thread::sleep_for(kNoticingDevice);
+}
 
 DesktopSession LinuxActions::session() { return m_parts->session(); }
 

@@ -24,6 +24,10 @@ class LinuxActions {
     ActionPorts ports();
     InProcessNotifications& notifications();
 
+    /// Waits until the desktop can have noticed a virtual device through which keys go out, or taken what went out:
+    /// for a process that posts at once, or ends right after. Returns at once where there is no such device.
+    void letDesktopCatchUp();
+
     /// What kind of session this is, and what works in it now.
     DesktopSession session();
 

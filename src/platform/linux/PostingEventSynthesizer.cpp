@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "platform/linux/AnsiKeyCodes.h"
+#include "platform/linux/KeyObstacle.h"
 #include "platform/linux/LinuxActionSettings.h"
 
 namespace kinesta {
@@ -45,16 +45,16 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
     if (keyCode == kFunctionKeyCode)
         return std::make_unique<Event>([](auto) {});
     return std::make_unique<Event>([this, keyCode, transition](std::optional<std::uint64_t> flags) {
-        const auto code = keyForShortcut(keyCode, flags.value_or(0));
+        const auto obstacle = obstacleToKey(keyCode, flags.value_or(0));
+        const auto code = obstacle ? std::nullopt : keyForShortcut(keyCode, flags.value_or(0));
         const auto settings = LinuxActionSettings::read(m_defaults);
         if (code && m_poster.canPost(*code)) {
             postKey(*code, transition,
                     flags ? std::optional(modifiersForFlags(*flags, settings.commandKey)) : std::nullopt);
         } else if (transition == KeyTransition::down) {
-            const bool fnIsAtFault = !code && evdevKeyCode(keyCode);
-            m_log("The key with code " + std::to_string(keyCode) +
-                  (fnIsAtFault ? " has no meaning together with fn on this desktop; choose another shortcut."
-                               : " is not on this keyboard; choose another key."));
+            m_log(obstacle ? obstacle->why + " " + obstacle->remedy
+                           : "The key with code " + std::to_string(keyCode) +
+                                 " is not on this keyboard. Choose another key.");
         }
     });
 }

@@ -16,7 +16,7 @@ SignalListener::SignalListener(MainThread& mainThread, const std::vector<int>& s
     ::sigemptyset(&set);
     for (const int signal : signals)
         ::sigaddset(&set, signal);
-    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+    ::pthread_sigmask(SIG_BLOCK, &set, &m_before);
     m_signals = FileDescriptor(::signalfd(-1, &set, SFD_CLOEXEC));
     m_stop = FileDescriptor(::eventfd(0, EFD_CLOEXEC));
     m_thread = std::thread([this, &mainThread, onSignal = std::move(onSignal)] {
@@ -38,6 +38,7 @@ SignalListener::~SignalListener() {
     while (::write(m_stop.number(), &one, sizeof one) < 0) {
     }
     m_thread.join();
+    ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
 }
 
 }  // namespace kinesta

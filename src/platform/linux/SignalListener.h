@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <functional>
 #include <thread>
 #include <vector>
@@ -10,7 +11,7 @@
 namespace kinesta {
 
 /// Turns signals into tasks on the main thread. To be made before any other thread starts, as threads inherit which
-/// signals they do not take; one at a time.
+/// signals they do not take; one at a time. Afterwards the signals are taken as before.
 class SignalListener {
   public:
     /// `onSignal` gets the number of each of `signals` that arrives, on the main thread.
@@ -20,6 +21,7 @@ class SignalListener {
     SignalListener& operator=(const SignalListener&) = delete;
 
   private:
+    sigset_t m_before;
     FileDescriptor m_signals;
     FileDescriptor m_stop;
     std::thread m_thread;

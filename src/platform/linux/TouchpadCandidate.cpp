@@ -36,4 +36,11 @@ const TouchpadCandidate* chooseTouchpad(std::span<const TouchpadCandidate> candi
     return best;
 }
 
+std::string noTouchpadMessage(const std::string& wanted) {
+    if (wanted.empty())
+        return "No built-in trackpad was found.";
+    return wanted.starts_with('/') ? "There is no trackpad at " + wanted + "."
+                                   : "No trackpad named \"" + wanted + "\" was found.";
+}
+
 }  // namespace kinesta

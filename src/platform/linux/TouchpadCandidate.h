@@ -23,4 +23,7 @@ struct TouchpadCandidate {
 const TouchpadCandidate* chooseTouchpad(std::span<const TouchpadCandidate> candidates, const std::string& wanted,
                                         const std::string& currentInputName);
 
+/// What to tell a person when there is none to read: one sentence.
+std::string noTouchpadMessage(const std::string& wanted);
+
 }  // namespace kinesta

@@ -41,18 +41,27 @@ TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
 
 TouchpadSwitch::TouchpadSwitch(const Desktop& desktop)
     : m_all(epoll_create1(EPOLL_CLOEXEC)), m_dconfDirectory(desktop.dconfDirectory) {
-    epoll_event readable{};
-    readable.events = EPOLLIN;
-    if (!desktop.display.empty()) {
-        m_x11.emplace(desktop.display);
-        epoll_ctl(m_all.number(), EPOLL_CTL_ADD, m_x11->fileDescriptor(), &readable);
-    }
+    m_display = desktop.display;
+    connect();
     if (!m_dconfDirectory.empty()) {
         m_directory = FileDescriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
         // The database is replaced as a whole.
         inotify_add_watch(m_directory.number(), m_dconfDirectory.c_str(), IN_MOVED_TO | IN_CLOSE_WRITE | IN_ONLYDIR);
-        epoll_ctl(m_all.number(), EPOLL_CTL_ADD, m_directory.number(), &readable);
+        watch(m_directory.number());
     }
+}
+
+void TouchpadSwitch::connect() {
+    if (m_display.empty())
+        return;
+    m_x11.emplace(m_display);
+    watch(m_x11->fileDescriptor());
+}
+
+void TouchpadSwitch::watch(int descriptor) {
+    epoll_event readable{};
+    readable.events = EPOLLIN;
+    epoll_ctl(m_all.number(), EPOLL_CTL_ADD, descriptor, &readable);
 }
 
 bool TouchpadSwitch::takeChanges() {
@@ -69,6 +78,9 @@ bool TouchpadSwitch::drainDirectory() {
 }
 
 SendEventsMode TouchpadSwitch::mode(const std::string& path) {
+    // The server may have come back since, or be another person's.
+    if (m_x11 && m_x11->fileDescriptor() < 0)
+        connect();
     const SendEventsMode driver = m_x11 ? m_x11->mode(path) : SendEventsMode::enabled;
     return driver == SendEventsMode::enabled ? storedMode() : driver;
 }

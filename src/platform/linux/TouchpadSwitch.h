@@ -35,12 +35,15 @@ class TouchpadSwitch {
     SendEventsMode mode(const std::string& path);
 
   private:
+    void connect();
+    void watch(int descriptor);
     bool drainDirectory();
     SendEventsMode storedMode() const;
 
     FileDescriptor m_all;  // an epoll of the others
     FileDescriptor m_directory;
     std::string m_dconfDirectory;
+    std::string m_display;
     std::optional<X11TouchpadProperties> m_x11;
 };
 

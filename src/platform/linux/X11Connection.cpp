@@ -3,21 +3,13 @@
 #include <poll.h>
 #include <xcb/xtest.h>
 
-#include <csignal>
 #include <utility>
 
+#include "platform/linux/BrokenPipes.h"
 #include "platform/linux/XcbPointer.h"
 
 namespace kinesta {
 namespace {
-
-// XCB writes to its socket without MSG_NOSIGNAL: a server that goes at that moment would end the process. Whoever has
-// set the signal knows what they do.
-void surviveBrokenPipes() {
-    struct sigaction current {};
-    if (sigaction(SIGPIPE, nullptr, &current) == 0 && current.sa_handler == SIG_DFL)
-        static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
-}
 
 bool hasTestExtension(xcb_connection_t* connection) {
     const auto* extension = xcb_get_extension_data(connection, &xcb_test_id);

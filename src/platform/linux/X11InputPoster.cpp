@@ -38,9 +38,9 @@ std::optional<DesktopLocation> X11InputPoster::pointerLocation() {
 }
 
 bool X11InputPoster::post(std::span<const InputTransition> transitions) {
-    if (!isAvailable())
-        return false;
     xcb_connection_t* connection = m_connection.open();
+    if (connection == nullptr || !m_connection.canPostInput())
+        return false;
     const xcb_window_t root = m_connection.root();
     for (const InputTransition& step : transitions) {
         const bool isDown = step.transition == KeyTransition::down;
