@@ -1,6 +1,7 @@
 #include "cli/RecordCommand.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "cli/Interrupts.h"
 #include "cli/LiveRecognition.h"
@@ -33,11 +34,22 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
     StoredSettings settings(console, defaults);
     const std::string wanted = device.empty() ? settings.defaults().string(kTouchpadSettingKey).value_or("") : device;
     EvdevContactProvider provider(loop, {.device = wanted, .pressure = {}});
+    std::function<void(RecordingEvent)> write;  // set before the loop runs
+    provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
+        loop.post([&write, frame, received = clock.uptime()] {
+            write({frame.timestamp, RecordedFrame{frame.samples, received}});
+        });
+    });
+    provider.setPointerHandler([&](const RecordingEvent& event) { write(event); });
+    provider.setStatusHandler([&] {
+        console.err << (provider.status() == TrackpadContactProviderStatus::listening()
+                            ? "Recording " + printable(provider.state().name) + " again."
+                            : printable(provider.status().message) + " Recording goes on when there is one.")
+                    << '\n';
+    });
     provider.start();
     if (provider.status().kind == TrackpadContactProviderStatus::Kind::unavailable)
-        return console.fail(provider.status().message);
-    const std::string name = provider.state().name;
-    provider.stop();
+        return console.fail(printable(provider.status().message));
 
     std::unique_ptr<OutputFile> file;
     if (output != "-") {
@@ -51,28 +63,21 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
     std::size_t events = 0;
     Seconds last = 0;
     // One whole line at a time reaches the file, so that whatever ends us leaves a valid recording.
-    const auto write = [&](RecordingEvent event) {
+    write = [&](RecordingEvent event) {
         last = event.time = std::max(last, event.time);
-        if (const Outcome written = writer.write(event); written)
+        if (writer.write(event))
             ++events;
         if (!stream)
             loop.quit();
     };
-    provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
-        loop.post([&write, frame, received = clock.uptime()] {
-            write({frame.timestamp, RecordedFrame{frame.samples, received}});
-        });
-    });
-    provider.setPointerHandler(write);
-    if (const Outcome written = writer.writeHeader({.device = name, .settings = settingsToRecord(settings.defaults())});
-        !written)
-        return console.fail(written.error().message);
-    if (file)
-        if (const Outcome placed = file->commit(); !placed)
-            return console.fail(placed.error().message);
-    provider.start();
+    const RecordingHeader header{provider.state().name, settingsToRecord(settings.defaults())};
+    Outcome begun = writer.writeHeader(header);
+    if (begun && file)
+        begun = file->commit();
+    if (!begun)
+        return console.fail(begun.error().message);
     if (console.errIsTerminal)
-        console.err << "Recording " << printable(name) << ". Ctrl-C ends.\n";
+        console.err << "Recording " << printable(header.device) << ". Ctrl-C ends.\n";
     loop.run();
     provider.stop();
     if (!stream)

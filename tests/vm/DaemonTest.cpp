@@ -3,11 +3,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <thread>
 
+#include "platform/linux/FileUserDefaults.h"
 #include "platform/linux/UinputDevice.h"
 #include "support/TemporaryFolder.h"
 #include "vm/DeviceListener.h"
@@ -27,44 +29,54 @@ constexpr const char* kRules = R"([
    "action":{"kind":"adjustVolume","modifiers":0,"value":""}},
   {"id":"00000000-0000-4000-8000-000000000004","name":"","isEnabled":true,"gesture":"anchorDraw",
    "anchorCorner":"topLeft","drawPattern":"lineUp",
-   "action":{"kind":"keyboardShortcut","keyCode":123,"modifiers":16,"value":""}}
+   "action":{"kind":"keyboardShortcut","keyCode":123,"modifiers":16,"value":""}},
+  {"id":"00000000-0000-4000-8000-000000000005","name":"","isEnabled":true,"fingerCount":3,"gesture":"singleForceClick",
+   "action":{"kind":"keyboardShortcut","keyCode":9,"modifiers":1,"value":""}}
 ])";
 
 /// How long a hand takes: gestures have their time, on a real pad as here.
 void rest(int milliseconds) { std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds)); }
 
-/// `kinesta daemon` with the rules above and settings of its own.
-class DaemonRun {
+/// Runs the program to its end, as a shell command; whether it ended well.
+bool kinesta(const std::string& words) { return std::system((std::string(kProgram) + " " + words).c_str()) == 0; }
+
+/// The program as a process of its own, ended if the test ends first.
+class ProgramRun {
   public:
-    DaemonRun() {
-        ::setenv("XDG_CONFIG_HOME", m_folder.path().c_str(), 1);
-        const std::string rules = m_folder.write("rules.json", kRules);
-        EXPECT_EQ(std::system((std::string(kProgram) + " rules import " + rules + " >/dev/null").c_str()), 0);
+    explicit ProgramRun(std::vector<std::string> words) {
+        words.insert(words.begin(), "kinesta");
+        std::vector<char*> pointers;
+        for (std::string& word : words)
+            pointers.push_back(word.data());
+        pointers.push_back(nullptr);
         int ends[2];
         EXPECT_EQ(::pipe(ends), 0);
         m_process = ::fork();
         if (m_process == 0) {
             ::dup2(ends[1], STDOUT_FILENO);
-            ::execl(kProgram, "kinesta", "daemon", nullptr);
+            ::execv(kProgram, pointers.data());
             ::_exit(127);
         }
         ::close(ends[1]);
         m_log = ends[0];
     }
-    ~DaemonRun() {
+    ProgramRun(const ProgramRun&) = delete;
+    ProgramRun& operator=(const ProgramRun&) = delete;
+    ~ProgramRun() {
         if (m_process > 0)
             end(SIGKILL);
         ::close(m_log);
     }
 
-    /// Waits until the log says so, from where the last wait ended.
-    bool says(const std::string& text) {
-        const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    /// Waits until it says so, from where the last wait ended.
+    bool says(const std::string& text, std::chrono::seconds patience = std::chrono::seconds(10)) {
+        const auto limit = std::chrono::steady_clock::now() + patience;
         for (;;) {
             if (const std::size_t at = m_said.find(text); at != std::string::npos) {
                 m_said.erase(0, at + text.size());
                 return true;
             }
+            m_said.erase(0, m_said.size() - std::min(m_said.size(), text.size()));
             const auto left =
                 std::chrono::duration_cast<std::chrono::milliseconds>(limit - std::chrono::steady_clock::now());
             pollfd readable{m_log, POLLIN, 0};
@@ -98,6 +110,11 @@ class DaemonRun {
 
     long residentKilobytes() const { return number("/proc/" + std::to_string(m_process) + "/status", "VmRSS:"); }
 
+    std::ptrdiff_t descriptors() const {
+        const std::filesystem::directory_iterator all("/proc/" + std::to_string(m_process) + "/fd");
+        return std::distance(std::filesystem::begin(all), std::filesystem::end(all));
+    }
+
   private:
     static long number(const std::filesystem::path& file, const std::string& label) {
         std::ifstream stream(file);
@@ -108,10 +125,19 @@ class DaemonRun {
         return 0;
     }
 
-    TemporaryFolder m_folder;
     pid_t m_process = -1;
     int m_log = -1;
     std::string m_said;
+};
+
+/// The rules above in settings of the test's own, and the program on them.
+struct Daemon : ::testing::Test {
+    Daemon() {
+        ::setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
+        EXPECT_TRUE(kinesta("rules import " + folder.write("rules.json", kRules) + " >/dev/null"));
+    }
+
+    TemporaryFolder folder;
 };
 
 void tapWithThree(VirtualTouchpad& pad) {
@@ -120,9 +146,9 @@ void tapWithThree(VirtualTouchpad& pad) {
     pad.up(0).up(1).up(2).report();
 }
 
-TEST(Daemon, PerformsWhatTheFingersMean) {
+TEST_F(Daemon, PerformsWhatTheFingersMean) {
     auto pad = std::make_unique<VirtualTouchpad>();
-    DaemonRun daemon;
+    ProgramRun daemon({"daemon"});
     ASSERT_TRUE(daemon.says("Trackpad listening: Virtual Touchpad"));
     DeviceListener desktop(UinputDevice::kName);
 
@@ -130,7 +156,7 @@ TEST(Daemon, PerformsWhatTheFingersMean) {
     const long before = daemon.sleeps();
     rest(2000);
     EXPECT_EQ(daemon.sleeps(), before) << "idle, it must not wake at all";
-    std::cout << "resident: " << daemon.residentKilobytes() << " kB\n";
+    EXPECT_LT(daemon.residentKilobytes(), 10240);
 
     tapWithThree(*pad);
     EXPECT_EQ(desktop.take(2), (Lines{"BTN_MIDDLE down", "BTN_MIDDLE up"}));
@@ -179,14 +205,132 @@ TEST(Daemon, PerformsWhatTheFingersMean) {
     EXPECT_EQ(desktop.take(1), (Lines{"gone"}));
 }
 
-TEST(Daemon, TakesOverRulesThatAnotherProcessStores) {
+TEST_F(Daemon, TakesOverRulesThatAnotherProcessStores) {
     VirtualTouchpad pad;
-    DaemonRun daemon;
-    ASSERT_TRUE(daemon.says("4 of 4 rules are on."));
-    ASSERT_EQ(std::system("echo '[]' | /usr/bin/kinesta rules import - >/dev/null"), 0);
+    ProgramRun daemon({"daemon"});
+    ASSERT_TRUE(daemon.says("5 of 5 rules are on."));
+    ASSERT_TRUE(kinesta("rules import " + folder.write("none.json", "[]") + " >/dev/null"));
     ASSERT_TRUE(daemon.says("0 of 0 rules are on."));
     tapWithThree(pad);
     EXPECT_TRUE(daemon.says("3-finger single tap  →  nothing: no rule is bound to it"));
+}
+
+TEST_F(Daemon, TellsAForceClickOnAPadThatCanTellPressure) {
+    VirtualTouchpad pad({.pressureResolution = 10, .maximumPressure = 1000});
+    ProgramRun daemon({"daemon"});
+    ASSERT_TRUE(daemon.says("Trackpad listening: Virtual Touchpad"));
+    for (const int force : {300, 900}) {
+        pad.down(0, 1, 300, 250).down(1, 2, 450, 250).down(2, 3, 600, 250).report();
+        rest(30);
+        pad.key(BTN_LEFT, true).report();
+        pad.pressure(0, force).report();
+        rest(30);
+        pad.pressure(0, 100).key(BTN_LEFT, false).report();
+        pad.up(0).up(1).up(2).report();
+        EXPECT_TRUE(daemon.says(force < 600 ? "3-finger single soft click (stage 1)  →  nothing"
+                                            : "3-finger single force click (stage 2)  →  ⌘V"));
+        rest(500);
+    }
+}
+
+TEST_F(Daemon, NeitherMisfiresNorStaysDeafWhenItMissedEvents) {
+    VirtualTouchpad pad;
+    ProgramRun daemon({"daemon"});
+    ASSERT_TRUE(daemon.says("Trackpad listening"));
+    DeviceListener desktop(UinputDevice::kName);
+    daemon.signal(SIGSTOP);
+    for (int i = 0; i < 200; ++i) {  // taps, more than the kernel keeps for a reader
+        pad.down(0, 3 * i, 300, 250).down(1, 3 * i + 1, 450, 250).down(2, 3 * i + 2, 600, 250).report();
+        pad.up(0).up(1).up(2).report();
+    }
+    pad.down(0, 700, 300, 250).report();
+    daemon.signal(SIGCONT);
+    rest(700);  // until whatever may have been understood would have been performed
+    pad.up(0).report();
+    const Lines missed = desktop.take(3, kMoment);
+    EXPECT_LE(missed.size(), 2U) << "what was lost is no reason to click";
+    tapWithThree(pad);
+    EXPECT_EQ(desktop.take(2), (Lines{"BTN_MIDDLE down", "BTN_MIDDLE up"}));
+}
+
+TEST_F(Daemon, HoldsOnToNothingOverThousandsOfActions) {
+    VirtualTouchpad pad;
+    ProgramRun daemon({"daemon"});
+    ASSERT_TRUE(daemon.says("Trackpad listening"));
+    long resident = 0;
+    std::ptrdiff_t descriptors = 0;
+    constexpr int kActionsARound = 500;
+    for (int round = 0; round <= 4; ++round) {
+        pad.down(0, 2 * round, 50, 250).down(1, 2 * round + 1, 150, 250).report();
+        std::thread fingers([&pad] {
+            for (int i = 0; i < kActionsARound; ++i) {  // up and down by 0.05: two steps each
+                rest(1);
+                const int y = i % 2 == 0 ? 225 : 250;
+                pad.move(0, 50, y).move(1, 150, y).report();
+            }
+        });
+        int told = 0;
+        while (told < kActionsARound && daemon.says("2-finger left edge slide", std::chrono::seconds(2)))
+            ++told;
+        fingers.join();
+        pad.up(0).up(1).report();
+        ASSERT_GE(told, kActionsARound * 9 / 10) << round;
+        if (round == 0) {
+            resident = daemon.residentKilobytes();
+            descriptors = daemon.descriptors();
+        }
+    }
+    EXPECT_EQ(daemon.descriptors(), descriptors);
+    EXPECT_LE(daemon.residentKilobytes(), resident + 128);
+}
+
+TEST_F(Daemon, FollowsTheChoiceOfThePad) {
+    VirtualTouchpad first({.name = "First Pad"});
+    VirtualTouchpad second({.name = "Second Pad", .bus = BUS_USB});
+    ProgramRun daemon({"daemon"});
+    ASSERT_TRUE(daemon.says("Trackpad listening: First Pad"));
+    FileUserDefaults(folder / "kinesta/defaults.json", {}).setString("linux.touchpad.v1", "Second Pad");
+    ASSERT_TRUE(daemon.says("Trackpad listening: Second Pad"));
+    tapWithThree(first);
+    tapWithThree(second);
+    EXPECT_TRUE(daemon.says("rules are on."));
+    EXPECT_TRUE(daemon.says("3-finger single tap  →  Middle click"));
+}
+
+TEST_F(Daemon, LeavesAValidRecordingWheneverItIsKilled) {
+    VirtualTouchpad pad;
+    const std::string file = folder / "pad.jsonl";
+    for (const int signal : {SIGKILL, SIGTERM}) {
+        ProgramRun record({"record", "-o", file});
+        const auto lines = [&] {
+            std::ifstream stream(file);
+            return std::count(std::istreambuf_iterator<char>(stream), {}, '\n');
+        };
+        const auto waitForLines = [&](std::ptrdiff_t count) {
+            for (int i = 0; i < 1000 && lines() < count; ++i)
+                rest(5);
+            return lines() >= count;
+        };
+        ASSERT_TRUE(waitForLines(1));
+        tapWithThree(pad);
+        ASSERT_TRUE(waitForLines(3));
+        record.end(signal);
+        EXPECT_TRUE(kinesta("replay --json " + file + " > " + (folder / "told")));
+        EXPECT_NE(readText(folder / "told").find(R"("gesture":"singleTap","fingers":3)"), std::string::npos);
+        std::filesystem::remove(file);
+    }
+}
+
+TEST_F(Daemon, MonitorTellsAndPerformsNothingAndDoctorIsContent) {
+    VirtualTouchpad pad({.pressureResolution = 10, .maximumPressure = 1000});
+    EXPECT_TRUE(kinesta("devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));
+    EXPECT_TRUE(kinesta("doctor > " + (folder / "told")));
+    EXPECT_NE(readText(folder / "told").find("✓ Touchpad: Virtual Touchpad at /dev/input/"), std::string::npos);
+    ProgramRun monitor({"monitor"});
+    ASSERT_TRUE(monitor.says("Virtual Touchpad"));
+    tapWithThree(pad);
+    EXPECT_TRUE(monitor.says("3-finger single tap  →  would run: Middle click"));
+    EXPECT_EQ(monitor.end(SIGTERM), 0);
 }
 
 }  // namespace
