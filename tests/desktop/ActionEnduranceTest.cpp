@@ -67,6 +67,8 @@ TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
     EXPECT_TRUE(kIsInstrumented || (median <= 1 && worst <= 5));
 }
 
+constexpr std::ptrdiff_t kOfOurOwn = 2;  // made at the first launch
+
 TEST_F(ActionEndurance, HoldsOnToNothingOverTenThousandActions) {
     const auto descriptors = [] {
         return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
@@ -78,7 +80,8 @@ TEST_F(ActionEndurance, HoldsOnToNothingOverTenThousandActions) {
         std::ifstream("/proc/self/statm") >> ignored >> resident;
         return resident;
     };
-    const auto perform = [this](int count) {
+    const auto base = descriptors();
+    const auto perform = [&](int count) {
         for (int i = 0; i < count; ++i) {
             run(ActionKind::keyboardShortcut);
             run(ActionKind::middleClick);
@@ -86,14 +89,16 @@ TEST_F(ActionEndurance, HoldsOnToNothingOverTenThousandActions) {
             run(ActionKind::closeWindow);
             if (i % 2 == 0)
                 run(ActionKind::launchApplication);
+            // Children that live at the same time have a place each in our lists, which stays.
+            if (i % 50 == 0) {
+                ASSERT_TRUE(eventually([&] { return descriptors() <= base + kOfOurOwn; })) << "a child's is left";
+            }
         }
     };
     perform(200);
-    const auto descriptorsBefore = descriptors();
     const std::size_t heapBefore = mallinfo2().uordblks;
     const std::size_t residentBefore = residentPages();
     perform(2200);  // 9,900 in all
-    EXPECT_TRUE(eventually([&] { return descriptors() <= descriptorsBefore; })) << "a child's is left";
     if (!kIsInstrumented) {
         EXPECT_LE(mallinfo2().uordblks, heapBefore + 16384) << "a byte and a half an action";
         EXPECT_LE(residentPages(), residentBefore + 128);

@@ -85,6 +85,7 @@ TEST_F(WindowCloseTest, LeavesWindowsAloneThatAreNotToBeClosed) {
     ClientWindow window(desktop, watch, {100, 100, 300, 200});
     window.show();
     for (const char* type : {"DESKTOP", "DOCK", "TOOLBAR", "MENU", "UTILITY", "SPLASH"}) {
+        ASSERT_TRUE(watch.awaitActive(window.window())) << "openbox is done with the one before";
         ClientWindow other(desktop, watch, {500, 100, 200, 100});
         // A type that only some other desktop knows says nothing.
         other.setAtoms("_NET_WM_WINDOW_TYPE",
@@ -94,6 +95,7 @@ TEST_F(WindowCloseTest, LeavesWindowsAloneThatAreNotToBeClosed) {
         EXPECT_FALSE(ports.closes()) << type;
         EXPECT_FALSE(other.wasAskedToClose()) << type;
     }
+    ASSERT_TRUE(watch.awaitActive(window.window()));
     ClientWindow stubborn(desktop, watch, {500, 300, 200, 100});
     stubborn.show();
     // Openbox, which writes this too, is done with it once it has done something about another window.
