@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 #include <unistd.h>
+#include <xcb/xtest.h>
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 
 #include "actions/ActionExecutor.h"
@@ -23,6 +25,9 @@ constexpr bool kIsInstrumented = true;  // which slows everything down and keeps
 #else
 constexpr bool kIsInstrumented = false;
 #endif
+
+constexpr std::uint8_t kC = 54;
+constexpr std::uint8_t kD = 40;
 
 /// All that lies between the decision for an action and the desktop.
 struct ActionEndurance : ::testing::Test {
@@ -43,28 +48,38 @@ struct ActionEndurance : ::testing::Test {
 };
 
 TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
-    using Milliseconds = std::chrono::duration<double, std::milli>;
     EventWindow window(desktop);
-    double median = 0;
-    double worst = 0;
-    // The machine has other things to do: a round in which it did them says nothing about us.
-    for (int round = 0; round < 10; ++round) {
+    const auto timed = [&](const std::function<void()>& send, std::uint8_t keycode) {
+        const auto began = std::chrono::steady_clock::now();
+        send();
+        EXPECT_TRUE(window.waitForKey(keycode));
+        const auto end = std::chrono::steady_clock::now();
+        window.all();
+        return std::chrono::duration<double, std::milli>(end - began).count();
+    };
+    const auto bareKey = [this] {
+        for (const auto type : {std::uint8_t{XCB_KEY_PRESS}, std::uint8_t{XCB_KEY_RELEASE}})
+            xcb_test_fake_input(desktop.connection(), type, kD, XCB_CURRENT_TIME, desktop.root(), 0, 0, 0);
+        xcb_flush(desktop.connection());
+    };
+    // The machine has other things to do: a round in which even a bare key was late says nothing about us.
+    bool isTold = false;
+    for (int round = 0; round < 10 && !isTold; ++round) {
         std::vector<double> times;
+        double worstOfBareKeys = 0;
         for (int i = 0; i < 1000; ++i) {
-            const auto decision = std::chrono::steady_clock::now();
-            run(ActionKind::keyboardShortcut);
-            ASSERT_TRUE(window.waitForKey(54)) << "c";
-            times.push_back(Milliseconds(std::chrono::steady_clock::now() - decision).count());
-            window.all();
+            times.push_back(timed([this] { run(ActionKind::keyboardShortcut); }, kC));
+            worstOfBareKeys = std::max(worstOfBareKeys, timed(bareKey, kD));
         }
         std::sort(times.begin(), times.end());
-        median = times[times.size() / 2];
-        worst = times.back();
-        std::cout << "from the decision to the client: median " << median << " ms, worst " << worst << " ms of 1000\n";
-        if (median <= 1 && worst <= 5)
-            break;
+        std::cout << "from the decision to the client: median " << times[500] << " ms, worst " << times.back()
+                  << " ms of 1000; a bare key: worst " << worstOfBareKeys << " ms\n";
+        isTold = times[500] <= 1 && times.back() <= 5;
+        if (kIsInstrumented || (!isTold && worstOfBareKeys > 1.5))
+            continue;
+        EXPECT_LE(times[500], 1);
+        EXPECT_LE(times.back(), 5);
     }
-    EXPECT_TRUE(kIsInstrumented || (median <= 1 && worst <= 5));
 }
 
 constexpr std::ptrdiff_t kOfOurOwn = 2;  // made at the first launch

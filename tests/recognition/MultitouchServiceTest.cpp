@@ -105,6 +105,45 @@ TEST(MultitouchService, FollowsTheProviderAndWatchesClicksOnlyWhileItListens) {
     EXPECT_EQ(rig.provider.calls, (Texts{"start", "start", "start", "stop"})) << "it is off";
 }
 
+TEST(MultitouchService, FollowsAProviderWhosePadComesAndGoesByItself) {
+    GestureRig rig;
+    MultitouchService& service = rig.launch();
+    const auto becomes = [&](const Status& status) {
+        rig.provider.becomes(status);
+        service.contactProviderDidChangeStatus();
+        return service.status().value() == status;
+    };
+    rig.play(PadScript().tap(1, 3));
+    EXPECT_TRUE(becomes(Status::unavailable("Gone.")));
+    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(rig.gestures, Gestures{}) << "what waited is not for a pad that is gone";
+    EXPECT_TRUE(becomes(Status::unavailable("No permission.")));
+    EXPECT_TRUE(becomes(Status::listening()));
+    EXPECT_TRUE(becomes(Status::listening()));
+    EXPECT_EQ(rig.pointer.monitorCount(), 2U);
+    rig.play(PadScript().tap(5, 3));
+    rig.mainThread.runRemaining();
+    EXPECT_EQ(rig.gestures.size(), 1U);
+    service.setGestureEnabled(false);
+    EXPECT_FALSE(becomes(Status::listening())) << "too late: it is off";
+}
+
+TEST(MultitouchService, TakesOverWhatAnotherProcessStoredAndStoresNothing) {
+    GestureRig rig;
+    MultitouchService& service = rig.launch();
+    rig.defaults.setInteger("tapWaitingInterval.v1", 400);
+    rig.defaults.setBoolean("cornerPalmRejectionEnabled.v1", true);
+    rig.defaults.writes = 0;
+    service.reloadSettings();
+    EXPECT_EQ(service.tapWaitingInterval().value(), TapWaitingInterval::veryLong);
+    EXPECT_TRUE(service.cornerPalmRejection().value().isEnabled);
+    rig.defaults.setBoolean("gesturesEnabled", false);
+    service.reloadSettings();
+    EXPECT_EQ(service.status().value(), Status::stopped());
+    EXPECT_EQ(rig.defaults.writes, 1) << "the test's own";
+}
+
 TEST(MultitouchService, ClicksInItsOwnWindowsCountLikeOthersAndBothButtonsDo) {
     using Kind = PointerEvent::Kind;
     for (const auto scope : {PointerEventScope::thisApplication, PointerEventScope::otherApplications})

@@ -27,6 +27,9 @@ class FakeContactProvider final : public TrackpadContactProviding {
         m_status = TrackpadContactProviderStatus::stopped();
     }
 
+    /// Changes the status as a pad that comes or goes does.
+    void becomes(TrackpadContactProviderStatus status) { m_status = std::move(status); }
+
     /// Hands a frame over, started or not: a driver may be late.
     void send(const TrackpadContactFrame& frame) const { m_handler.call(frame); }
 

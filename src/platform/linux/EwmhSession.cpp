@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/linux/X11Connect.h"
 #include "platform/linux/XcbPointer.h"
 
 namespace kinesta {
@@ -32,7 +33,7 @@ bool serverKnowsMonitors(xcb_connection_t* connection) {
 std::unique_ptr<EwmhSession> EwmhSession::open(const std::string& displayName) {
     int screenNumber = 0;
     std::unique_ptr<EwmhSession> session(new EwmhSession);
-    session->m_ewmh.connection = xcb_connect(displayName.empty() ? nullptr : displayName.c_str(), &screenNumber);
+    session->m_ewmh.connection = connectToXServer(displayName, &screenNumber);
     return session->prepare(screenNumber) ? std::move(session) : nullptr;
 }
 

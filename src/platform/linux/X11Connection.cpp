@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/linux/BrokenPipes.h"
+#include "platform/linux/X11Connect.h"
 #include "platform/linux/XcbPointer.h"
 
 namespace kinesta {
@@ -42,7 +43,7 @@ xcb_connection_t* X11Connection::open() {
         return m_connection;
     close();
     int screenNumber = 0;
-    m_connection = xcb_connect(m_displayName.empty() ? nullptr : m_displayName.c_str(), &screenNumber);
+    m_connection = connectToXServer(m_displayName, &screenNumber);
     if (xcb_connection_has_error(m_connection) != 0) {
         close();
         return nullptr;

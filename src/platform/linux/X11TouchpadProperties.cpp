@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "platform/linux/X11Connect.h"
+
 namespace kinesta {
 namespace {
 
@@ -17,8 +19,7 @@ std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
 
 void X11TouchpadProperties::Disconnect::operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
 
-X11TouchpadProperties::X11TouchpadProperties(const std::string& display)
-    : m_connection(xcb_connect(display.c_str(), nullptr)) {
+X11TouchpadProperties::X11TouchpadProperties(const std::string& display) : m_connection(connectToXServer(display)) {
     xcb_connection_t* connection = m_connection.get();
     const auto version = owned(
         xcb_connection_has_error(connection) != 0
