@@ -64,7 +64,13 @@ bool anyEnabled(const Rules& rules, const std::function<bool(const GestureRule&)
     return std::ranges::any_of(rules, [&](const GestureRule& rule) { return rule.isEnabled && needs(rule); });
 }
 
-void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
+/// How to change a setting while there is no window for it.
+std::string toSet(const std::filesystem::path& file, std::string_view key, const std::string& value) {
+    return "set \"" + std::string(key) + "\" to " + value + " in " + file.string() + ".";
+}
+
+void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults,
+                 const std::filesystem::path& file) {
     const std::string wanted = defaults.string(kTouchpadSettingKey).value_or("");
     const auto touchpads = listTouchpads(wanted);
     const auto chosen = std::ranges::find_if(touchpads, [](const auto& listed) { return listed.isChosen; });
@@ -72,8 +78,8 @@ void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserD
     if (chosen == touchpads.end())
         findings.push_back({"Touchpad", false, noTouchpadMessage(wanted),
                             touchpads.empty() ? "Connect one; recognition starts by itself."
-                                              : "Choose one of those that kinesta devices shows, as the setting " +
-                                                    std::string(kTouchpadSettingKey) + ".",
+                                              : "Choose one of those that kinesta devices shows: " +
+                                                    toSet(file, kTouchpadSettingKey, "its name"),
                             isNeeded});
     else
         findings.push_back(
@@ -82,13 +88,11 @@ void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserD
              "", isNeeded});
     if (!storedGestureEnabled(defaults))
         findings.push_back({"Gesture recognition", false, "It is switched off in the settings.",
-                            "Switch it on: the setting " + std::string(MultitouchService::enabledStorageKey) + ".",
-                            isNeeded});
+                            "To switch it on " + toSet(file, MultitouchService::enabledStorageKey, "true"), isNeeded});
     const bool canTellPressure = chosen != touchpads.end() && chosen->canTellPressure;
     findings.push_back({"Force Click", canTellPressure,
-                        canTellPressure
-                            ? "The touchpad tells pressure."
-                            : "Force Click is impossible: the touchpad in use, if any, cannot tell pressure.",
+                        canTellPressure ? "The touchpad tells pressure."
+                                        : "Impossible: the touchpad in use, if any, cannot tell pressure.",
                         canTellPressure ? "" : "Bind those rules to a physical click of any pressure.",
                         anyEnabled(rules, [](const GestureRule& rule) {
                             return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
@@ -106,11 +110,12 @@ void addSession(std::vector<Finding>& findings, const Rules& rules, const UserDe
     }
 }
 
-void addShellCommands(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
+void addShellCommands(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults,
+                      const std::filesystem::path& file) {
     const bool isOn = ShellCommandSettings::isEnabled(defaults);
     findings.push_back(
         {"Shell commands", isOn, isOn ? "Switched on." : "Switched off, as they are at first.",
-         isOn ? "" : "Switch them on in the settings if you trust every rule that runs one.",
+         isOn ? "" : "If you trust every rule that runs one: " + toSet(file, ShellCommandSettings::enabledKey, "true"),
          anyEnabled(rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
 }
 
@@ -131,9 +136,9 @@ ExitStatus doctor(const Console& console, const std::filesystem::path& defaults,
     settings.check(store);
     const Rules& rules = store.rules().value();
     std::vector<Finding> findings;
-    addTouchpad(findings, rules, settings.defaults());
+    addTouchpad(findings, rules, settings.defaults(), defaults);
     addSession(findings, rules, settings.defaults());
-    addShellCommands(findings, rules, settings.defaults());
+    addShellCommands(findings, rules, settings.defaults(), defaults);
     addRules(findings, rules);
     bool isMissing = false;
     nlohmann::ordered_json array = nlohmann::ordered_json::array();

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
+#include <sys/socket.h>
 #include <unistd.h>
 #include <xcb/xtest.h>
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -64,6 +66,7 @@ TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
     };
     // The machine has other things to do: a round in which even a bare key was late says nothing about us.
     bool isTold = false;
+    bool wasQuiet = false;
     for (int round = 0; round < 10 && !isTold; ++round) {
         std::vector<double> times;
         double worstOfBareKeys = 0;
@@ -75,11 +78,31 @@ TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
         std::cout << "from the decision to the client: median " << times[500] << " ms, worst " << times.back()
                   << " ms of 1000; a bare key: worst " << worstOfBareKeys << " ms\n";
         isTold = times[500] <= 1 && times.back() <= 5;
-        if (kIsInstrumented || (!isTold && worstOfBareKeys > 1.5))
-            continue;
-        EXPECT_LE(times[500], 1);
-        EXPECT_LE(times.back(), 5);
+        wasQuiet |= worstOfBareKeys <= 1;
     }
+    EXPECT_TRUE(isTold || !wasQuiet || kIsInstrumented);
+}
+
+TEST_F(ActionEndurance, IsNotHeldUpByAServerThatHangs) {
+    EventWindow window(desktop);
+    const auto clicks = [&] {
+        run(ActionKind::middleClick);
+        EXPECT_EQ(window.next(), "press Button2");
+        EXPECT_EQ(window.next(), "release Button2");
+    };
+    clicks();
+    ucred server{};
+    socklen_t size = sizeof server;
+    ASSERT_EQ(getsockopt(xcb_get_file_descriptor(desktop.connection()), SOL_SOCKET, SO_PEERCRED, &server, &size), 0);
+    ASSERT_EQ(kill(server.pid, SIGSTOP), 0);
+    const auto began = std::chrono::steady_clock::now();
+    for (const ActionKind kind : {ActionKind::middleClick, ActionKind::keyboardShortcut, ActionKind::closeWindow})
+        run(kind);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(3));
+    ASSERT_EQ(kill(server.pid, SIGCONT), 0);
+    clicks();  // and not those that could not be done in time
+    run(ActionKind::keyboardShortcut);
+    EXPECT_EQ(window.next(), "press Control_L");
 }
 
 constexpr std::ptrdiff_t kOfOurOwn = 2;  // made at the first launch
@@ -110,12 +133,12 @@ TEST_F(ActionEndurance, HoldsOnToNothingOverTenThousandActions) {
             }
         }
     };
-    perform(200);
+    perform(500);
     const std::size_t heapBefore = mallinfo2().uordblks;
     const std::size_t residentBefore = residentPages();
-    perform(2200);  // 9,900 in all
+    perform(2000);  // 11,250 in all
     if (!kIsInstrumented) {
-        EXPECT_LE(mallinfo2().uordblks, heapBefore + 16384) << "a byte and a half an action";
+        EXPECT_LE(mallinfo2().uordblks, heapBefore + 65536) << "six bytes an action";
         EXPECT_LE(residentPages(), residentBefore + 128);
     }
 }

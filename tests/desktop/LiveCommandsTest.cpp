@@ -135,7 +135,7 @@ TEST_F(LiveCommands, DoctorSaysWhatTheRulesMissAndWhatToDo) {
     const std::array<Row, 7> rows{{
         {kCloseWindow, "Closing and tiling windows", "Start a window manager"},
         {shortcut(123, 20), "Closing and tiling windows", "Start a window manager"},  // tile on the left
-        {shellCommand("true"), "Shell commands", "Switch them on"},
+        {shellCommand("true"), "Shell commands", "set \"shellCommandActionsEnabled.v1\" to true in "},
         {shortcut(14, 16), kRule, "Choose another shortcut."},
         {R"({"kind":"launchApplication","modifiers":0,"value":")" + missing + "\"}", kRule,
          "Choose the application again."},

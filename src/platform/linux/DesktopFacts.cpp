@@ -55,10 +55,10 @@ bool answersWayland() {
 
 DesktopFacts DesktopFacts::probe(X11Connection& connection, SessionBus& bus, const std::string& uinputPath) {
     DesktopFacts facts;
-    facts.hasX = connection.open() != nullptr;
+    facts.hasX = connection.answers();
     facts.hasXTest = facts.hasX && connection.canPostInput();
     facts.hasWayland = answersWayland();
-    facts.hasWindowManager = managesWindows(connection);
+    facts.hasWindowManager = facts.hasX && managesWindows(connection);
     facts.mayUseUinput =
         static_cast<bool>(FileDescriptor(::open(uinputPath.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)));
     facts.hasXdgOpen = isInSearchPath("xdg-open");

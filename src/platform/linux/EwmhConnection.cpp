@@ -1,28 +1,16 @@
 #include "platform/linux/EwmhConnection.h"
 
-#include <poll.h>
 #include <xcb/xcbext.h>
 
-#include <algorithm>
-#include <cerrno>
 #include <thread>
 #include <utility>
 
 #include "platform/linux/BrokenPipes.h"
 
 namespace kinesta {
-namespace {
-
-using Clock = std::chrono::steady_clock;
-
-}  // namespace
 
 EwmhConnection::EwmhConnection(std::string displayName) : m_displayName(std::move(displayName)) {
     surviveBrokenPipes();
-}
-
-EwmhConnection::Deadline EwmhConnection::deadlineIn(Seconds timeout) {
-    return Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout));
 }
 
 bool EwmhConnection::prepare(Deadline deadline) {
@@ -64,32 +52,14 @@ bool EwmhConnection::connect(Deadline deadline) {
 }
 
 void* EwmhConnection::awaitReply(unsigned sequence, Deadline deadline) {
-    void* reply = nullptr;
-    xcb_generic_error_t* error = nullptr;
-    xcb_flush(xcb());
-    while (xcb_poll_for_reply(xcb(), sequence, &reply, &error) == 0) {
-        if (xcb_connection_has_error(xcb()) != 0)
-            return nullptr;
-        if (awaitInput(deadline))
-            continue;
-        if (m_owed)
-            xcb_discard_reply(xcb(), sequence);
-        else
-            m_owed = sequence;
-        return nullptr;
-    }
-    std::free(error);
-    return reply;
-}
-
-bool EwmhConnection::awaitInput(Deadline deadline) {
-    while (true) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
-        pollfd input{xcb_get_file_descriptor(xcb()), POLLIN, 0};
-        const int ready = poll(&input, 1, static_cast<int>(std::clamp<std::int64_t>(left, 0, 60'000)));
-        if (ready >= 0 || errno != EINTR)
-            return ready > 0;
-    }
+    auto reply = awaitXcbReply(xcb(), sequence, deadline);
+    if (reply)
+        return reply->release();
+    if (m_owed)
+        xcb_discard_reply(xcb(), sequence);
+    else
+        m_owed = sequence;
+    return nullptr;
 }
 
 xcb_get_property_cookie_t EwmhConnection::requestProperty(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
@@ -111,7 +81,7 @@ bool EwmhConnection::awaitEvent(const std::function<bool(const xcb_generic_event
         while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(xcb())})
             if (isAwaited(*event))
                 return true;
-    } while (xcb_connection_has_error(xcb()) == 0 && awaitInput(deadline));
+    } while (xcb_connection_has_error(xcb()) == 0 && awaitXcbInput(xcb(), deadline));
     return false;
 }
 

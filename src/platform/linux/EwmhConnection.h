@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/linux/EwmhSession.h"
-#include "platform/linux/XcbPointer.h"
+#include "platform/linux/XcbWait.h"
 #include "support/Seconds.h"
 
 namespace kinesta {
@@ -19,12 +19,12 @@ namespace kinesta {
 /// give null replies; a connection that is lost is made anew when it is next needed. One thread only.
 class EwmhConnection {
   public:
-    using Deadline = std::chrono::steady_clock::time_point;
+    using Deadline = XcbDeadline;
 
     /// Connects nowhere yet. An empty name means the display in the environment.
     explicit EwmhConnection(std::string displayName = {});
 
-    static Deadline deadlineIn(Seconds timeout);
+    static Deadline deadlineIn(Seconds timeout) { return xcbDeadlineIn(timeout); }
 
     /// Whether requests may be sent now; connects if need be. False at once while an answer that came too late is
     /// still owed: a server that hangs costs one timeout, not one for each request.
@@ -70,7 +70,6 @@ class EwmhConnection {
   private:
     bool connect(Deadline deadline);
     void* awaitReply(unsigned sequence, Deadline deadline);
-    bool awaitInput(Deadline deadline);
 
     std::string m_displayName;
     std::unique_ptr<EwmhSession> m_session;

@@ -13,7 +13,8 @@ class InputPoster {
   public:
     virtual ~InputPoster() = default;
 
-    /// Whether posting would work now. Cheap enough for every action.
+    /// Whether posting would work now. Cheap enough for every action, and the question to ask before the others: they
+    /// may wait for a display server that this one does not wait for.
     virtual bool isAvailable() = 0;
 
     /// Whether the key or button (a kernel code) can be posted and means anything to the desktop.

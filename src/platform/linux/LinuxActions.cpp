@@ -83,7 +83,11 @@ struct LinuxActions::Parts {
 };
 
 LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log)
-    : m_parts(std::make_unique<Parts>(clock, defaults, log)) {}
+    : m_parts(std::make_unique<Parts>(clock, defaults, log)) {
+    // The layout is read now, not at the first stroke. Where keys take another way, to ask XWayland is to start it.
+    if (!m_parts->poster.usesVirtualDevice())
+        m_parts->layout.charactersWithoutModifiers();
+}
 
 LinuxActions::~LinuxActions() = default;
 

@@ -7,7 +7,7 @@
 
 #include "platform/linux/BrokenPipes.h"
 #include "platform/linux/X11Connect.h"
-#include "platform/linux/XcbPointer.h"
+#include "platform/linux/XcbWait.h"
 
 namespace kinesta {
 namespace {
@@ -33,8 +33,7 @@ X11Connection::X11Connection(std::string displayName) : m_displayName(std::move(
 X11Connection::~X11Connection() {
     // Requests are read in order, so an answer to the last says that none is left to be lost with the connection.
     if (m_connection != nullptr)
-        XcbPointer<xcb_get_input_focus_reply_t>(
-            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        answers(0.5);
     close();
 }
 
@@ -55,6 +54,17 @@ xcb_connection_t* X11Connection::open() {
     m_canPostInput = hasTestExtension(m_connection);
     ++m_generation;
     return m_connection;
+}
+
+bool X11Connection::answers(Seconds patience) {
+    xcb_connection_t* connection = open();
+    if (connection == nullptr)
+        return false;
+    const unsigned question = xcb_get_input_focus(connection).sequence;
+    const auto answer = awaitXcbReply(connection, question, xcbDeadlineIn(patience));
+    if (!answer)
+        xcb_discard_reply(connection, question);
+    return answer && *answer;
 }
 
 void X11Connection::close() {

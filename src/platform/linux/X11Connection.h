@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "support/Seconds.h"
+
 namespace kinesta {
 
 /// Our connection to the X server for keys, clicks and the layout. Main thread only.
@@ -17,11 +19,15 @@ class X11Connection {
     explicit X11Connection(std::string displayName = {});
     X11Connection(const X11Connection&) = delete;
     X11Connection& operator=(const X11Connection&) = delete;
-    /// Returns once the server has taken everything that was sent.
+    /// Returns once the server has taken everything that was sent, if it does so within half a second.
     ~X11Connection();
 
     /// The connection, made again if it was lost; null without a server.
     xcb_connection_t* open();
+
+    /// Whether the server answers now, waiting at most `patience` seconds. One that hangs, or that a hanging program
+    /// has grabbed, would hold us up at the next question, for as long as it likes.
+    bool answers(Seconds patience = 0.15);
 
     /// Counts the connections made: whoever keeps something that the server gave compares it.
     std::uint64_t generation() const { return m_generation; }

@@ -20,10 +20,12 @@ void fake(xcb_connection_t* connection, xcb_window_t root, std::uint8_t type, st
 X11InputPoster::X11InputPoster(X11Connection& connection, X11Keyboard& keyboard)
     : m_connection(connection), m_keyboard(keyboard) {}
 
-bool X11InputPoster::isAvailable() { return m_connection.open() != nullptr && m_connection.canPostInput(); }
+bool X11InputPoster::isAvailable() { return canPostInput() && m_connection.answers(); }
+
+bool X11InputPoster::canPostInput() { return m_connection.open() != nullptr && m_connection.canPostInput(); }
 
 bool X11InputPoster::canPost(std::uint16_t code) {
-    return isAvailable() && (code == BTN_MIDDLE || m_keyboard.hasKey(code));
+    return canPostInput() && (code == BTN_MIDDLE || m_keyboard.hasKey(code));
 }
 
 std::optional<DesktopLocation> X11InputPoster::pointerLocation() {

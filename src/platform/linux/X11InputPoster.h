@@ -19,6 +19,8 @@ class X11InputPoster final : public InputPoster {
     bool post(std::span<const InputTransition> transitions) override;
 
   private:
+    bool canPostInput();
+
     X11Connection& m_connection;
     X11Keyboard& m_keyboard;
 };

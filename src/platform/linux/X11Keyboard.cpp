@@ -2,13 +2,14 @@
 
 #include <xkbcommon/xkbcommon-x11.h>
 
-#include "platform/linux/XcbPointer.h"
+#include "platform/linux/XcbWait.h"
 #include "platform/linux/XcbXkb.h"
 #include "platform/linux/XkbKeys.h"
 
 namespace kinesta {
 namespace {
 
+constexpr Seconds kPatience = 0.15;
 constexpr std::uint16_t kCoreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
 }  // namespace
@@ -51,10 +52,14 @@ bool X11Keyboard::update() {
         return false;
     if (m_generation != m_connection.generation() && !prepareConnection(connection))
         return false;
-    const XcbPointer<xcb_xkb_get_state_reply_t> state(
-        xcb_xkb_get_state_reply(connection, xcb_xkb_get_state(connection, kCoreKeyboard), nullptr));
-    if (!state)
+    // The first question of every action: whoever answers it in time is not asked in vain for the rest.
+    const unsigned question = xcb_xkb_get_state(connection, kCoreKeyboard).sequence;
+    const auto answer = awaitXcbReply(connection, question, xcbDeadlineIn(kPatience));
+    if (!answer)
+        xcb_discard_reply(connection, question);
+    if (!answer || !*answer)
         return false;
+    const auto* state = static_cast<const xcb_xkb_get_state_reply_t*>(answer->get());
     // After the reply: what the server sent before it has arrived with it.
     if (drainChanges(connection))
         m_keymap.reset();
