@@ -39,17 +39,6 @@ TEST(TouchFrameProcessor, WhatIsOfAnOlderGenerationIsVoid) {
     }
 }
 
-TEST(TouchFrameProcessor, TheTapIntervalOutlivesAResetAndIsNotTheClicks) {
-    TouchFrameProcessor processor;
-    processor.setMaximumTapInterval(0.4);
-    processor.reset();
-    EXPECT_EQ(processor.maximumTapInterval(), 0.4);
-    EXPECT_EQ(processor.maximumTipTapInterval(), 0.4);
-    EXPECT_EQ(processor.maximumClickInterval(), 0.25);
-    tap(processor, 1);
-    EXPECT_EQ(text(tap(processor, 1.39).tapSequence), "2 fingers x2");
-}
-
 TEST(TouchFrameProcessor, BearsWhateverADriverMaySend) {
     constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
     TouchFrameProcessor processor;
