@@ -22,6 +22,31 @@ inline GestureRule makeRule(GestureKind gesture, std::optional<std::int64_t> fin
     return rule;
 }
 
+inline GestureRule makeSlide(std::optional<std::int64_t> fingers, std::optional<EdgeSlideSide> side) {
+    GestureRule rule = makeRule(GestureKind::edgeSlide, fingers, ActionKind::adjustVolume);
+    rule.edgeSlideSide = side;
+    return rule;
+}
+
+inline GestureRule makeDrawing(std::optional<AnchorCorner> corner, std::optional<DrawPattern> pattern) {
+    GestureRule rule = makeRule(GestureKind::anchorDraw);
+    rule.anchorCorner = corner;
+    rule.drawPattern = pattern;
+    return rule;
+}
+
+inline GestureRule makeShellCommand(std::optional<bool> acknowledged) {
+    GestureRule rule = makeRule(GestureKind::singleTap, 3, ActionKind::shellCommand);
+    rule.action.value = "ls";
+    rule.action.shellCommandAcknowledged = acknowledged;
+    return rule;
+}
+
+inline GestureRule disabled(GestureRule rule) {
+    rule.isEnabled = false;
+    return rule;
+}
+
 /// Random rules, the same ones for the same seed; few different values, so that rules often have them in common.
 class RandomRules {
   public:

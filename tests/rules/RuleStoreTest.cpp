@@ -15,18 +15,6 @@ using Result = RuleEnablementResult;
 
 constexpr std::string_view kKey = "gestureRules.v1";
 
-GestureRule shellRule(std::optional<bool> acknowledged) {
-    GestureRule rule = makeRule(GestureKind::singleTap, 4, ActionKind::shellCommand);
-    rule.action.value = "ls";
-    rule.action.shellCommandAcknowledged = acknowledged;
-    return rule;
-}
-
-GestureRule disabled(GestureRule rule) {
-    rule.isEnabled = false;
-    return rule;
-}
-
 /// A store over settings that hold a list, and what its observers were told.
 struct Fixture {
     explicit Fixture(const std::vector<GestureRule>& rules) {
@@ -84,13 +72,13 @@ TEST(RuleStore, StartsWithTheDefaultRuleAndLeavesTheStoredBytes) {
 }
 
 TEST(RuleStore, UnacknowledgedShellRulesComeBackSwitchedOffAndAreSavedSo) {
-    const std::vector<GestureRule> others{shellRule(true), disabled(shellRule(std::nullopt)),
+    const std::vector<GestureRule> others{makeShellCommand(true), disabled(makeShellCommand(std::nullopt)),
                                           makeRule(GestureKind::singleTap), makeRule(GestureKind::unconfigured)};
     Fixture quiet(others);
     EXPECT_EQ(quiet.rules(), others) << "a rule that is not ready stays as it was stored";
     EXPECT_EQ(quiet.changes(), "0/0");
     for (const std::optional<bool> acknowledged : {std::optional<bool>(), std::optional(false)}) {
-        const GestureRule shell = shellRule(acknowledged);
+        const GestureRule shell = makeShellCommand(acknowledged);
         Fixture fixture(std::vector{others[0], shell, others[2]});
         EXPECT_EQ(fixture.rules(), (std::vector{others[0], disabled(shell), others[2]}));
         EXPECT_EQ(fixture.changes(), "0/1");
@@ -218,9 +206,9 @@ TEST(RuleStore, ABindingFollowsItsRule) {
 TEST(RuleStore, ReplacesTheListWithTheUnreadySwitchedOff) {
     const GestureRule ready = makeRule(GestureKind::tipTapLeft);
     const GestureRule unready = makeRule(GestureKind::singleTap);
-    const GestureRule shell = shellRule(std::nullopt);
+    const GestureRule shell = makeShellCommand(std::nullopt);
     Fixture fixture(std::vector{ready});
-    fixture.store->replaceRules({shell, shellRule(true), unready, disabled(ready)});
+    fixture.store->replaceRules({shell, makeShellCommand(true), unready, disabled(ready)});
     EXPECT_EQ(fixture.changes(), "1/1");
     EXPECT_EQ(fixture.rules()[0], disabled(shell));
     EXPECT_TRUE(fixture.rules()[1].isEnabled);
@@ -230,7 +218,7 @@ TEST(RuleStore, ReplacesTheListWithTheUnreadySwitchedOff) {
 
 TEST(RuleStore, ReloadPublishesOnlyWhatDiffers) {
     const GestureRule rule = makeRule(GestureKind::tipTapLeft);
-    const GestureRule shell = shellRule(std::nullopt);
+    const GestureRule shell = makeShellCommand(std::nullopt);
     Fixture fixture(std::vector{rule});
     const auto reload = [&](const std::string& bytes) {
         fixture.defaults.setData(kKey, bytes);
