@@ -8,6 +8,7 @@
 #include "RecordingText.h"
 #include "input/EvdevCodes.h"
 #include "input/EvdevFrameAssembler.h"
+#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {
@@ -64,8 +65,8 @@ std::string play(const EvdevTouchpad& touchpad, const std::string& script) {
 
 /// Checks rows "what is special: script => events".
 void check(int slots, const std::string& table) {
-    for (const auto& [left, expected] : tableRows(table))
-        EXPECT_EQ(play(pad(slots), left.substr(left.find(": ") + 2)), expected) << left;
+    for (const auto& row : tableRows(table))
+        EXPECT_EQ(play(pad(slots), row[0].substr(row[0].find(": ") + 2)), row[1]) << row[0];
 }
 
 TEST(EvdevFrameAssembler, FollowsSlots) {

@@ -7,7 +7,6 @@
 #include <optional>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "input/RecordingReading.h"
@@ -77,19 +76,6 @@ inline Reading read(std::istream& stream, std::istream* device = nullptr) {
 inline Reading read(const std::string& text) {
     std::istringstream stream(text);
     return read(stream);
-}
-
-/// The rows "left => right" of a table, one a line.
-inline std::vector<std::pair<std::string, std::string>> tableRows(const std::string& table) {
-    std::vector<std::pair<std::string, std::string>> rows;
-    std::istringstream lines(table);
-    for (std::string line; std::getline(lines, line);) {
-        if (const auto arrow = line.find(" => "); arrow != std::string::npos)
-            rows.emplace_back(line.substr(0, arrow), line.substr(arrow + 4));
-        else
-            EXPECT_EQ(line, "") << "a row without an arrow";
-    }
-    return rows;
 }
 
 inline std::string exampleText(const std::string& name) {

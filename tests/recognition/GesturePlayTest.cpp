@@ -14,6 +14,9 @@ PadScript taps(std::initializer_list<Seconds> lifts) {
 
 PadScript touching(int fingers) { return PadScript().at(1).land(fingers); }
 
+/// Recognition that waits long for more, and was off since that was set.
+PadScript patient() { return PadScript().setTapWaiting(400).setGestures(false).setGestures(true); }
+
 struct Play {
     const char* name;
     PadScript script;
@@ -26,14 +29,13 @@ void expectPlays(const std::vector<Play>& plays) {
 }
 
 TEST(PlayedGestures, TapsWaitForMoreUnlessThereCanBeNoMore) {
-    const PadScript slow = PadScript().setTapWaiting(400).setGestures(false).setGestures(true).tap(1).tap(1.39);
     expectPlays({
         {"a fourth begins anew", taps({1, 1.2, 1.4, 1.6}), "1.4 tripleTap of 2; 1.85 singleTap of 2"},
         {"a frame at the very end of the wait comes first", taps({1, 1.25}), "1.5 doubleTap of 2"},
         {"a frame after it is late", taps({1, 1.2501}), "1.25 singleTap of 2; 1.5001 singleTap of 2"},
         {"other fingers end the wait of the tap before", taps({1}).tap(1.1, 3), "1.35 singleTap of 3"},
         {"a wait keeps the length with which it began", taps({1}).at(1.1).setTapWaiting(150), "1.25 singleTap of 2"},
-        {"the setting outlives being off", slow, "1.79 doubleTap of 2"},
+        {"the setting outlives being off", patient().tap(1).tap(1.39), "1.79 doubleTap of 2"},
     });
 }
 
@@ -45,11 +47,12 @@ TEST(PlayedGestures, TipTapsSlidesAndDrawingsAreToldInTheirTime) {
     };
     PadScript slide = PadScript().at(1).land(2, {0.05, 0.5}).at(1.1).move(1, {0.05, 0.54}).move(2, {0.1, 0.54});
     PadScript drawing = PadScript().at(1).down(1, {0.1, 0.9}).at(1.2).down(9, {0.5, 0.5}).glide({9}, {-0.3, 0}, 0.3);
-    const PadScript patient = touching(1).setTapWaiting(400);
     expectPlays({
         {"double tip-tap", tipTaps(touching(1), {1.2, 1.4}), "1.65 doubleTipTapRight of 2"},
         {"triple, at once", tipTaps(touching(1), {1.2, 1.4, 1.6}), "1.6 tripleTipTapRight of 2"},
-        {"the tap setting is for tip-taps too", tipTaps(patient, {1.2, 1.59}), "1.99 doubleTipTapRight of 2"},
+        {"waiting as taps do", tipTaps(touching(1).setTapWaiting(400), {1.2, 1.59}), "1.99 doubleTipTapRight of 2"},
+        {"and the setting outlives being off", tipTaps(patient().at(1).land(1), {1.2, 1.59}),
+         "1.99 doubleTipTapRight of 2"},
         {"a quick one is a tap of two fingers too", tipTaps(touching(1), {1.2}).at(1.23).upAll(),
          "1.45 tipTapRight of 2; 1.48 singleTap of 2"},
         {"a short slide is a tap too", slide.at(1.2).upAll(), "1.1 edgeSlide of 2 left +1; 1.45 singleTap of 2"},

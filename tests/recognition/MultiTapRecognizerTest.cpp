@@ -25,7 +25,7 @@ PadScript moved(std::initializer_list<Point> places) { return twoFingers().throu
 TEST(MultiTapRecognizer, ATapIsShortStillAndOfTwoFingersOrMore) {
     PadScript third = twoFingers().at(0.05).move(1, {0.05, 0.5}).down(3, {0.7, 0.5}).at(0.1).move(3, {0.754, 0.5});
     PadScript oneByOne = twoFingers().at(0.1).up(1).at(0.15).down(3, {0.6, 0.5}).at(0.2).up(2).at(0.22).up(3);
-    PadScript again = twoFingers().at(0.05).up(2).at(0.08).down(2, {0.6, 0.5}).at(0.1).upAll();
+    PadScript again = twoFingers().at(0.05).up(1).at(0.08).down(1, {0.6, 0.5}).at(0.1).upAll();
     PadScript late = PadScript().at(0).down(1, {0.2, 0.5}).at(0.2).down(2, {0.4, 0.5}).at(0.25).upAll();
     expectResults<MultiTapRecognizer>({
         {"as long as allowed", tap(0.24), "2 fingers x1"},
