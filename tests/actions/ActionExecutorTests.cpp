@@ -94,15 +94,8 @@ TEST_F(ActionExecutorTest, EveryKindShowsItsCueFirstAndThenActsOrAsksForThePermi
 TEST_F(ActionExecutorTest, AnActionThatIsNotConfiguredDoesNothingAndShowsNoCue) {
     desktop.defaults.setBoolean(ShellCommandSettings::enabledKey, true);
     desktop.permission.isGranted = false;
-    const GestureAction incomplete[] = {{},
-                                        action(ActionKind::keyboardShortcut),
-                                        action(ActionKind::openURL, " \n"),
-                                        action(ActionKind::openFileOrFolder),
-                                        action(ActionKind::launchApplication, "\t"),
-                                        shellCommand("ls", std::nullopt),
-                                        shellCommand("ls", false),
-                                        shellCommand("\n \u00A0")};
-    for (const GestureAction& what : incomplete) {
+    for (const GestureAction& what :
+         {GestureAction{}, action(ActionKind::keyboardShortcut), shellCommand("ls", false)}) {
         executor.execute(what, 3, true, "Label");
         EXPECT_EQ(desktop.log.take(), Calls{}) << rawValue(what.kind);
     }

@@ -5,11 +5,6 @@
 namespace kinesta {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-/// The inputs that one error is for.
-using Refusals = std::vector<std::pair<std::string, Texts>>;
-
 const std::string kSlots =
     "N: Pad  7 \nI: 0011 0002 0011 0001\nP: 0c 00\nB: 00 0b\nA: 35 0 1000 0 0 16\nA: 36 0 500 0\nA: 2f 0 1 0 0\n";
 const std::string kTouch =

@@ -13,9 +13,6 @@ const std::string kHeader = R"({"kinesta":"recording","version":1})";
 
 std::string firstError(const std::string& lines) { return read(kHeader + "\n" + lines).error; }
 
-/// The inputs that one error is for.
-using Refusals = std::vector<std::pair<std::string, std::vector<std::string>>>;
-
 TEST(KinestaRecording, GivesItsEventsInOrder) {
     const Reading reading = read(
         "\xEF\xBB\xBF\r\n \t\n"

@@ -7,12 +7,18 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "input/RecordingReading.h"
 #include "support/NumberText.h"
 
 namespace kinesta {
+
+using Texts = std::vector<std::string>;
+
+/// The inputs that one error is for.
+using Refusals = std::vector<std::pair<std::string, Texts>>;
 
 /// One event as short text: "5@0.25,0.75 6@0.5,0.5", "no finger", "down", "pressure 2", "settings".
 inline std::string contentText(const RecordingEvent& event) {
@@ -41,8 +47,8 @@ struct Reading {
     std::vector<RecordingEvent> events;
     std::string error;
 
-    std::vector<std::string> texts() const {
-        std::vector<std::string> texts;
+    Texts texts() const {
+        Texts texts;
         for (const RecordingEvent& event : events)
             texts.push_back(eventText(event));
         return texts;

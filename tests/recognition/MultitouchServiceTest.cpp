@@ -24,27 +24,22 @@ std::string settingsOf(const MultitouchService& service) {
 }
 
 TEST(MultitouchService, ReadsItsSettingsAndMakesSenseOfAnything) {
-    const auto read = [](const std::function<void(FakeUserDefaults&)>& store) {
+    const auto read = [](StoredValues values) {
         GestureRig rig;
-        store(rig.defaults);
-        rig.defaults.writes = 0;
-        const MultitouchService& service = rig.launch();
+        rig.defaults.replaceValues(std::move(values));
+        const std::string settings = settingsOf(rig.launch());
         EXPECT_EQ(rig.defaults.writes, 0);
-        return settingsOf(service);
+        return settings;
     };
-    EXPECT_EQ(read([](FakeUserDefaults&) {}), "on 250 ms no palm 0.5");
-    EXPECT_EQ(read([](FakeUserDefaults& d) {
-                  d.setString("gesturesEnabled", "true");
-                  d.setInteger("tapWaitingInterval.v1", 275);
-                  d.setInteger("cornerPalmRejectionEnabled.v1", 1);
-                  d.setInteger("cornerPalmRejectionSensitivity.v1", 3);
-              }),
+    EXPECT_EQ(read({}), "on 250 ms no palm 0.5");
+    EXPECT_EQ(read({{"gesturesEnabled", std::string("true")},
+                    {"tapWaitingInterval.v1", std::int64_t{275}},
+                    {"cornerPalmRejectionEnabled.v1", std::int64_t{1}},
+                    {"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}),
               "off 250 ms no palm 1");
-    EXPECT_EQ(read([](FakeUserDefaults& d) {
-                  d.setBoolean("gesturesEnabled", true);
-                  d.setString("tapWaitingInterval.v1", "150");
-                  d.setReal("cornerPalmRejectionSensitivity.v1", std::numeric_limits<double>::quiet_NaN());
-              }),
+    EXPECT_EQ(read({{"gesturesEnabled", true},
+                    {"tapWaitingInterval.v1", std::string("150")},
+                    {"cornerPalmRejectionSensitivity.v1", std::numeric_limits<double>::quiet_NaN()}}),
               "on 250 ms no palm 0.5");
 }
 

@@ -79,27 +79,21 @@ TEST(RuleCoding, ReadsWhatOthersMayWrite) {
     const auto plain = decodeRules(listOf(kRule));
     ASSERT_TRUE(plain) << plain.error().message;
     // Each of these is the same list in other words.
-    const std::vector<std::string> same{
-        "\xEF\xBB\xBF" + listOf(kRule),
-        " \t\r\n" + listOf(kRule) + "\r\n ",
-        listOf(replaced(kRule, kId, "11111111-2222-4333-8444-aaaaaaaaaaaa")),
-        listOf(replaced(kRule, "3,", "3.0,")),
-        listOf(replaced(kRule, "3,", "0.3e1,")),
-        listOf(replaced(kRule, "\"modifiers\": 0", "\"modifiers\": -0.0")),
-        listOf(replaced(kRule, "Close", "\\u0043lose")),
-        listOf(replaced(kRule, "\"isEnabled\"", "\"name\": \"earlier\", \"isEnabled\"")),
-        listOf(replaced(
-            kRule, "\"action\"",
-            "\"action\": {\"kind\": \"openURL\", \"modifiers\": 9, \"value\": \"x\", \"customCueLabel\": \"x\"}, "
-            "\"action\"")),
-        listOf(replaced(kRule, "\"isEnabled\"", R"("id2": {"id": 7, "x": [{"kind": {}}]}, "kind": null, "isEnabled")")),
-        listOf(replaced(kRule, "\"modifiers\"", R"("name": 5, "action": {"kind": 1}, "modifiers")")),
-        listOf(replaced(kRule, "\"isEnabled\"",
-                        R"("edgeSlideSide": null, "anchorCorner": null, "drawPattern": null, "showsActionCue": null,)"
-                        R"("isEnabled")")),
-        listOf(replaced(kRule, "\"modifiers\"",
-                        R"("customCueLabel": null, "shellCommandAcknowledged": null, "modifiers")")),
-    };
+    std::vector<std::string> same{"\xEF\xBB\xBF" + listOf(kRule), " \t\r\n" + listOf(kRule) + "\r\n "};
+    for (const auto& row : tableRows(R"(
+11111111-2222-4333-8444-AAAAAAAAAAAA => 11111111-2222-4333-8444-aaaaaaaaaaaa
+3, => 3.0,
+3, => 0.3e1,
+"modifiers": 0 => "modifiers": -0.0
+Close => \u0043lose
+"isEnabled" => "name": "earlier", "isEnabled"
+"action" => "action": {"kind": "openURL", "modifiers": 9, "value": "x", "customCueLabel": "x"}, "action"
+"isEnabled" => "id2": {"id": 7, "x": [{"kind": {}}]}, "kind": null, "isEnabled"
+"modifiers" => "name": 5, "action": {"kind": 1}, "modifiers"
+"isEnabled" => "edgeSlideSide": null, "anchorCorner": null, "drawPattern": null, "showsActionCue": null, "isEnabled"
+"modifiers" => "customCueLabel": null, "shellCommandAcknowledged": null, "modifiers"
+)"))
+        same.push_back(listOf(replaced(kRule, row[0], row[1])));
     for (const std::string& json : same) {
         const auto decoded = decodeRules(json);
         ASSERT_TRUE(decoded) << decoded.error().message << "\n" << json;
