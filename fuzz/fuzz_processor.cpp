@@ -1,6 +1,7 @@
 // Any stream of frames, clicks and settings through the whole of recognition: it never crashes, and what it reports is
 // always something that can be a gesture.
 
+#include <fuzzer/FuzzedDataProvider.h>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -15,13 +16,12 @@ namespace {
 
 using namespace kinesta;
 
-/// Takes the fuzzer's bytes one by one; zeros after the last.
-class Bytes {
+/// Takes the fuzzer's bytes one by one, from the last; zeros after the first.
+class Bytes : public FuzzedDataProvider {
   public:
-    Bytes(const std::uint8_t* data, std::size_t size) : m_data(data), m_end(data + size) {}
+    using FuzzedDataProvider::FuzzedDataProvider;
 
-    bool isEmpty() const { return m_data == m_end; }
-    std::uint8_t next() { return isEmpty() ? std::uint8_t(0) : *m_data++; }
+    std::uint8_t next() { return ConsumeIntegral<std::uint8_t>(); }
 
     /// Mostly on the pad, to 1/200; sometimes nowhere.
     double coordinate() {
@@ -37,10 +37,6 @@ class Bytes {
         const std::uint8_t byte = next();
         return byte < 240 ? time + (byte - 10) * 0.004 : coordinate();
     }
-
-  private:
-    const std::uint8_t* m_data;
-    const std::uint8_t* m_end;
 };
 
 class Session {
@@ -48,7 +44,7 @@ class Session {
     explicit Session(Bytes bytes) : m_bytes(bytes) {}
 
     void run() {
-        while (!m_bytes.isEmpty())
+        while (m_bytes.remaining_bytes() > 0)
             step(m_bytes.next());
     }
 

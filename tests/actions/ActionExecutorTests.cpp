@@ -115,15 +115,6 @@ TEST_F(ActionExecutorTest, AShellCommandRunsAsStoredIfTheSwitchIsOnAtThatMoment)
     EXPECT_EQ(runs(), Calls{});
 }
 
-TEST_F(ActionExecutorTest, AnswersForThePermission) {
-    for (const bool isTrusted : {false, true}) {
-        desktop.permission.isGranted = isTrusted;
-        EXPECT_EQ(executor.hasAccessibilityPermission(), isTrusted);
-        EXPECT_EQ(executor.requestAccessibilityPermission(), isTrusted);
-        EXPECT_EQ(desktop.log.take(), (Calls{"? trusted", "prompt"}));
-    }
-}
-
 TEST_F(ActionExecutorTest, PostsAStrokeWithItsFlagsAndFnOnlyAroundArrows) {
     EXPECT_EQ(calls(shortcut(123, {17})),
               (Calls{"? trusted", "+ source", "+ key 63 down", "+ key 123 down", "+ key 123 up", "+ key 63 up",

@@ -170,7 +170,7 @@ TEST(KinestaRecording, HoldsNoMoreThanALine) {
              {"version: 1\nname: ", 'a', "x:2: a value is longer than 1 MiB"},
              {"version: 1\nname: \"", '\n', "x:2: a value is longer than 1 MiB"},
              {"version: 1\nname: ", '[', "x:2: values are nested too deeply"}}) {
-        EndlessInput input(beginning, rest);
+        ContinuedInput input(beginning, rest);
         std::istream stream(&input);
         EXPECT_EQ(read(stream).error, error) << beginning;
         EXPECT_LT(input.given, 2 * kLimit) << beginning;
@@ -193,7 +193,7 @@ TEST(KinestaRecording, ReadsAnyKindOfStream) {
                                                   {kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", 2},
                                                   {"# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", 4},
                                                   {"version: 1\n", 1}}) {
-        BreakingInput input(text);
+        ContinuedInput input(text);
         std::istream stream(&input);
         EXPECT_EQ(read(stream).error, "x:" + std::to_string(line) + ": the input cannot be read") << text;
     }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -12,6 +10,7 @@
 
 #include "input/RecordingReading.h"
 #include "support/NumberText.h"
+#include "support/TemporaryFolder.h"
 
 namespace kinesta {
 
@@ -85,9 +84,7 @@ inline Reading read(const std::string& text) {
 }
 
 inline std::string exampleText(const std::string& name) {
-    std::ifstream stream(KINESTA_SOURCE_DIR "/examples/recordings/" + name, std::ios::binary);
-    EXPECT_TRUE(stream.is_open()) << name;
-    return {std::istreambuf_iterator<char>(stream), {}};
+    return readText(KINESTA_SOURCE_DIR "/examples/recordings/" + name);
 }
 
 }  // namespace kinesta

@@ -68,24 +68,6 @@ TEST(MultiTapRecognizer, OnlyTheExpectedSequenceIsFinalizedAndOnlyOnce) {
     EXPECT_EQ(run(recognizer, taps({{1.2, 2}})), "2 fingers x1") << "the last tap is forgotten";
 }
 
-TEST(MultiTapRecognizer, ACancelledContactIsNoTapButKeepsTheSequence) {
-    MultiTapRecognizer recognizer;
-    run(recognizer, taps({{1, 2}}));
-    run(recognizer, PadScript().at(1.02).land(2).through(1, {{0.5, 0.9}}));
-    recognizer.cancelCurrentContact();
-    EXPECT_EQ(run(recognizer, PadScript().at(1.06).hold()), "");
-    EXPECT_EQ(run(recognizer, taps({{1.2, 2}})), "2 fingers x2");
-}
-
-TEST(MultiTapRecognizer, TheIntervalCanChangeInTheMiddleOfASequence) {
-    MultiTapRecognizer recognizer;
-    run(recognizer, taps({{1, 2}}));
-    recognizer.setMaximumInterval(0.4);
-    EXPECT_EQ(run(recognizer, taps({{1.4, 2}})), "2 fingers x2");
-    recognizer.setMaximumInterval(0.15);
-    EXPECT_EQ(run(recognizer, taps({{1.6, 2}})), "2 fingers x1");
-}
-
 TEST(MultiTapRecognizer, TwoContactsWithOneIdAreABugOfTheDriver) {
     const auto tapWithTwins = [](Point second) {
         MultiTapRecognizer recognizer;

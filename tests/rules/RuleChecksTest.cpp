@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <map>
 
 #include "RuleMaking.h"
 #include "rules/GestureConflictChecker.h"
 #include "rules/GestureRuleCoding.h"
 #include "rules/SystemGestureWarningChecker.h"
+#include "support/TemporaryFolder.h"
 
 namespace kinesta {
 namespace {
@@ -90,8 +89,7 @@ TEST(SystemGestureWarningChecker, WarnsOfTheGesturesThatTheSystemUses) {
 }
 
 TEST(ExampleRules, AreLaidOutAsExportedAndInOrder) {
-    std::ifstream file(KINESTA_SOURCE_DIR "/examples/rules.json", std::ios::binary);
-    const std::string json{std::istreambuf_iterator<char>(file), {}};
+    const std::string json = readText(KINESTA_SOURCE_DIR "/examples/rules.json");
     const auto rules = decodeRules(json);
     ASSERT_TRUE(rules) << rules.error().message;
     EXPECT_EQ(encodeRules(*rules, RuleListLayout::indented), json) << "laid out as an export is";

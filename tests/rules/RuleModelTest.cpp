@@ -87,6 +87,12 @@ TEST(GestureAction, SummarySaysWhatItDoes) {
     EXPECT_EQ(shortcut.summary(), "⇧⌘A");
 }
 
+TEST(GestureAction, OnlyALaunchHasArguments) {
+    GestureAction action = makeAction(ActionKind::openURL, "https://a");
+    action.applicationArguments = {"-a"};
+    EXPECT_EQ(action.resolvedApplicationArguments(), std::vector<std::string>{});
+}
+
 TEST(GestureAction, CueNamesAShortcutByPresetThenLabelThenKeys) {
     GestureAction action = makeAction(ActionKind::keyboardShortcut);
     action.customCueLabel = " Mine\n";
