@@ -41,7 +41,7 @@ class Bytes : public FuzzedDataProvider {
 
 class Session {
   public:
-    explicit Session(Bytes bytes) : m_bytes(bytes) {}
+    Session(const std::uint8_t* data, std::size_t size) : m_bytes(data, size) {}
 
     void run() {
         while (m_bytes.remaining_bytes() > 0)
@@ -157,6 +157,6 @@ class Session {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    Session(Bytes(data, size)).run();
+    Session(data, size).run();
     return 0;
 }
