@@ -17,15 +17,9 @@ PadScript touching(int fingers) { return PadScript().at(1).land(fingers); }
 /// Recognition that waits long for more, and was off since that was set.
 PadScript patient() { return PadScript().setTapWaiting(400).setGestures(false).setGestures(true); }
 
-struct Play {
-    const char* name;
-    PadScript script;
-    const char* gestures;
-};
-
-void expectPlays(const std::vector<Play>& plays) {
-    for (const Play& p : plays)
-        EXPECT_EQ(play(p.script), p.gestures) << p.name;
+void expectPlays(const std::vector<std::tuple<const char*, PadScript, const char*>>& plays) {
+    for (const auto& [name, script, gestures] : plays)
+        EXPECT_EQ(play(script), gestures) << name;
 }
 
 TEST(PlayedGestures, TapsWaitForMoreUnlessThereCanBeNoMore) {

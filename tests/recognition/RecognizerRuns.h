@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "recognition/FrameRecognition.h"
@@ -53,21 +54,13 @@ std::string run(Recognizer& recognizer, const PadScript& script, bool isReversed
     return results;
 }
 
-/// A script and what a fresh recognizer makes of it.
-struct Case {
-    const char* name;
-    PadScript script;
-    const char* results;
-};
-
-/// In whatever order the driver lists the fingers of a frame.
+/// What each script is called and what a fresh recognizer makes of it, in whatever order the driver lists the fingers.
 template <typename Recognizer>
-void expectResults(const std::vector<Case>& cases) {
-    for (const Case& c : cases)
+void expectResults(const std::vector<std::tuple<const char*, PadScript, const char*>>& cases) {
+    for (const auto& [name, script, results] : cases)
         for (const bool isReversed : {false, true}) {
             Recognizer recognizer;
-            EXPECT_EQ(run(recognizer, c.script, isReversed), c.results)
-                << c.name << (isReversed ? ", the last finger first" : "");
+            EXPECT_EQ(run(recognizer, script, isReversed), results) << name << (isReversed ? ", reversed" : "");
         }
 }
 
