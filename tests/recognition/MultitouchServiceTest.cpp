@@ -175,7 +175,7 @@ TEST(MultitouchService, MayGoAwayWithWorkPending) {
     EXPECT_EQ(rig.gestures, "");
 }
 
-TEST(MultitouchService, MayGoAwayWhileFramesArrive) {
+TEST(MultitouchService, MayDoAnythingAndGoAwayWhileFramesArrive) {
     GestureRig rig;
     std::atomic<bool> isDone = false;
     std::atomic<int> allowed = 0;  // so that the driver is never far ahead, however slow the machine
@@ -190,15 +190,20 @@ TEST(MultitouchService, MayGoAwayWhileFramesArrive) {
             rig.provider.send({{}, time + 0.05});
         }
     });
-    for (int services = 0; services < 200; ++services) {
+    for (std::size_t services = 0; services < 300; ++services) {
         rig.launch().onTap = [&](int, GestureKind) { ++delivered; };
         do {
             allowed = 20;
             rig.mainThread.runPosted();
         } while (delivered == 0);  // so that the first service at least is at work
+        allowed = 20;
+        rig.send(PadScript().press().stage(2).release());
+        rig.service->setTapWaitingInterval(kTapWaitingIntervals[services % kTapWaitingIntervals.size()]);
+        rig.runUntil(static_cast<Seconds>(services));  // also what waits
         if (services % 2 == 0)
             rig.service->setCornerPalmRejectionEnabled(services % 4 == 0);
-        rig.mainThread.runPosted();
+        if (services % 3 == 0)
+            rig.service->stop();
         allowed = 20;
         rig.service.reset();
     }
