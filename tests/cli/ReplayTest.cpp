@@ -124,13 +124,10 @@ TEST_F(ReplayTest, recognizesInRealRecordingsWhatAPersonWouldSay) {
 }
 
 TEST_F(ReplayTest, selectsTheFirstRuleThatMayRun) {
-    const std::string shellRule =
-        R"({"id":"00000000-0000-4000-8000-000000000001","name":"","isEnabled":true,"fingerCount":3,"gesture":"singleTap",)"
-        R"("action":{"kind":"shellCommand","modifiers":0,"value":"ls","shellCommandAcknowledged":true}})";
-    const std::string clickRule =
-        R"({"id":"00000000-0000-4000-8000-00000000000a","name":"","isEnabled":true,"fingerCount":3,"gesture":"singleTap",)"
-        R"("action":{"kind":"middleClick","modifiers":0,"value":""}})";
-    const std::string rules = kinesta.folder.write("rules.json", "[" + shellRule + "," + clickRule + "]");
+    const std::string threeTaps = R"("name":"","fingerCount":3,"gesture":"singleTap")";
+    const std::string shell = R"("kind":"shellCommand","value":"ls","shellCommandAcknowledged":true)";
+    const std::string list = rule("01", threeTaps, shell) + "," + rule("0a", threeTaps, R"("kind":"middleClick")");
+    const std::string rules = kinesta.folder.write("rules.json", "[" + list + "]");
     const std::string tap = kinesta.folder.write("tap.jsonl", recorded(taps(3, {{"1.0", "1.1"}})));
 
     EXPECT_NE(kinesta.run({"replay", tap, "--rules", rules, "--json"})

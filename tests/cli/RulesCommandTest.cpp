@@ -5,11 +5,6 @@
 namespace kinesta::testing {
 namespace {
 
-std::string rule(const std::string& last, const std::string& fields, const std::string& action) {
-    return R"({"id":"00000000-0000-4000-8000-0000000000)" + last + R"(","isEnabled":true,)" + fields +
-           R"(,"action":{"modifiers":0,"value":"",)" + action + "}}";
-}
-
 const std::string kTap = rule("0a", R"("name":"Paste","fingerCount":2,"gesture":"doubleTap")",
                               R"("kind":"keyboardShortcut","keyCode":9,"modifiers":1,"customCueLabel":" Insert ")");
 const std::string kIncomplete = rule("0b", R"("name":"","gesture":"tipTapLeft")", R"("kind":"openURL")");
