@@ -91,13 +91,6 @@ this is not valid JSON: a number is out of range => {"t":1e999,"pointer":"up"} |
             EXPECT_EQ(firstError("{\"t\":0.5,\"pointer\":\"down\"}\n\n" + input), "x:4: " + row[0]) << input;
     for (const auto& row : tableRows(R"(
 "touches" is not an array => "touches":{}
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[1,2,3] | "touches":[[1,2]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[1,2,3,4]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[["1",2,3]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[1.5,2,3]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[2147483648,2,3]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[-2147483649,2,3]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[1,2,null]]
 "touches" holds an id twice => "touches":[[1,2,3],[2,2,3],[1,4,5]]
 "pointer" is neither "down" nor "up" => "pointer":"left" | "pointer":true
 "pressure" is not a whole number => "pressure":1.5 | "pressure":"1" | "pressure":9223372036854775808
@@ -108,6 +101,10 @@ a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => 
 )"))
         for (const std::string& input : split(row[1], " | "))
             EXPECT_EQ(firstError("{\"t\":1," + input + "}"), "x:2: " + row[0]) << input;
+    for (const std::string touch : {"1,2,3", "[1,2]", "[1,2,3,4]", "[\"1\",2,3]", "[1.5,2,3]", "[2147483648,2,3]",
+                                    "[-2147483649,2,3]", "[1,2,null]"})
+        EXPECT_EQ(firstError("{\"t\":1,\"touches\":[" + touch + "]}"),
+                  "x:2: a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers");
     for (const std::string interval : {"251", "250.5", "\"250\"", "4294967546"})
         EXPECT_EQ(firstError(R"({"t":1,"settings":{"tapWaitingInterval.v1":)" + interval + "}}"),
                   "x:2: \"tapWaitingInterval.v1\" is none of 150, 200, 250, 300 and 400");
