@@ -3,10 +3,10 @@
 #include <fuzzer/FuzzedDataProvider.h>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 #include "input/ContactIdSet.h"
 #include "input/EvdevFrameAssembler.h"
+#include "require.h"
 
 using namespace kinesta;
 
@@ -34,10 +34,6 @@ class Checker {
     }
 
   private:
-    static void require(bool condition) {
-        if (!condition)
-            std::abort();
-    }
     static bool isOnPad(double coordinate) { return coordinate >= 0 && coordinate <= 1; }
 
     bool m_hadFingers = false;

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -11,6 +10,7 @@
 
 #include "input/RecordingReading.h"
 #include "input/RecordingWriter.h"
+#include "require.h"
 
 using namespace kinesta;
 
@@ -20,8 +20,7 @@ std::vector<RecordingEvent> readAll(RecordingReading& reader) {
     std::vector<RecordingEvent> events;
     for (;;) {
         auto next = reader.next();
-        if (!next && !next.error().message.starts_with("x:"))
-            std::abort();
+        require(next || next.error().message.starts_with("x:"));
         if (!next || !*next)
             return events;
         events.push_back(**next);
@@ -42,13 +41,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     std::stringstream copy;
     RecordingWriter writer(copy);
-    if (!writer.writeHeader((*reader)->header()))
-        std::abort();
+    require(writer.writeHeader((*reader)->header()).isValue());
     for (const RecordingEvent& event : events)
-        if (!writer.write(event))
-            std::abort();
+        require(writer.write(event).isValue());
     const auto again = openRecording(copy, "x");
-    if (!again || (*again)->header().settings != (*reader)->header().settings || readAll(**again) != events)
-        std::abort();
+    require(again && (*again)->header().settings == (*reader)->header().settings && readAll(**again) == events);
     return 0;
 }

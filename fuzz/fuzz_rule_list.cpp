@@ -2,10 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 #include <vector>
 
+#include "require.h"
 #include "rules/GestureConflictChecker.h"
 #include "rules/GestureRuleCoding.h"
 #include "rules/RuleSelection.h"
@@ -14,11 +14,6 @@
 namespace {
 
 using namespace kinesta;
-
-void require(bool condition) {
-    if (!condition)
-        std::abort();
-}
 
 void exercise(const std::vector<GestureRule>& rules) {
     const auto conflicting = GestureConflictChecker::conflictingRuleIDs(rules);

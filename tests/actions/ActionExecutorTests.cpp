@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
+#include <tuple>
 
 #include "platform/null/NullActionPorts.h"
 #include "rules/ShellCommandSettings.h"
@@ -54,37 +56,33 @@ struct ActionExecutorTest : ::testing::Test {
 };
 
 TEST_F(ActionExecutorTest, EveryKindShowsItsCueFirstAndThenActsOrAsksForThePermission) {
-    const Calls asks{"prompt"};
-    const struct {
-        GestureAction what;
-        Calls trusted, untrusted;
-    } rows[] = {
-        {shortcut(8, {1}), {"post ⌘ C down", "post ⌘ C up"}, asks},
+    enum class Permission { needed, notNeeded };
+    using enum Permission;
+    const std::vector<std::tuple<GestureAction, Permission, Calls>> rows{
+        {shortcut(8, {1}), needed, {"post ⌘ C down", "post ⌘ C up"}},
         {action(ActionKind::middleClick),
-         {"post click 1 center down at 640 400.5", "post click 1 center up at 640 400.5"},
-         asks},
-        {action(ActionKind::closeWindow), {"AXPress button"}, asks},
-        {action(ActionKind::openURL, "https://a"), {"open URL https://a"}, {"open URL https://a"}},
-        {action(ActionKind::openFileOrFolder, "/a"), {"open file /a"}, {"open file /a"}},
-        {action(ActionKind::launchApplication, "/a"), {"launch /a"}, {"launch /a"}},
-        {shellCommand("ls"), {"run /bin/zsh [-lc] [ls]"}, {"run /bin/zsh [-lc] [ls]"}},
-        {action(ActionKind::toggleConfigurationWindow),
-         {"request toggleConfigurationWindow"},
-         {"request toggleConfigurationWindow"}},
-        {action(ActionKind::disableAllRules), {"request disableAllRules"}, {"request disableAllRules"}},
-        {action(ActionKind::adjustVolume), {"post - system 8 a00 -1", "post - system 8 b00 -1"}, asks},
+         needed,
+         {"post click 1 center down at 640 400.5", "post click 1 center up at 640 400.5"}},
+        {action(ActionKind::closeWindow), needed, {"AXPress button"}},
+        {action(ActionKind::openURL, "https://a"), notNeeded, {"open URL https://a"}},
+        {action(ActionKind::openFileOrFolder, "/a"), notNeeded, {"open file /a"}},
+        {action(ActionKind::launchApplication, "/a"), notNeeded, {"launch /a"}},
+        {shellCommand("ls"), notNeeded, {"run /bin/zsh [-lc] [ls]"}},
+        {action(ActionKind::toggleConfigurationWindow), notNeeded, {"request toggleConfigurationWindow"}},
+        {action(ActionKind::disableAllRules), notNeeded, {"request disableAllRules"}},
+        {action(ActionKind::adjustVolume), needed, {"post - system 8 a00 -1", "post - system 8 b00 -1"}},
     };
     desktop.defaults.setBoolean(ShellCommandSettings::enabledKey, true);
     desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow\n  AXCloseButton: button AXEnabled=yes");
-    for (const auto& row : rows) {
-        const std::string kind(rawValue(row.what.kind));
+    for (const auto& [what, permission, trusted] : rows) {
+        const std::string kind(rawValue(what.kind));
         // The prompt comes at every attempt, and the action once the permission is there.
         for (const bool isTrusted : {false, false, true}) {
             desktop.permission.isGranted = isTrusted;
-            Calls expected = isTrusted ? row.trusted : row.untrusted;
-            EXPECT_EQ(effects(row.what, 1), expected) << kind;
+            Calls expected = isTrusted || permission == notNeeded ? trusted : Calls{"prompt"};
+            EXPECT_EQ(effects(what, 1), expected) << kind;
             expected.insert(expected.begin(), "cue " + kind + " 1 Label");
-            executor.execute(row.what, 1, true, "Label");
+            executor.execute(what, 1, true, "Label");
             EXPECT_EQ(desktop.log.takeEffects(), expected) << kind;
         }
     }
@@ -96,15 +94,8 @@ TEST_F(ActionExecutorTest, EveryKindShowsItsCueFirstAndThenActsOrAsksForThePermi
 TEST_F(ActionExecutorTest, AnActionThatIsNotConfiguredDoesNothingAndShowsNoCue) {
     desktop.defaults.setBoolean(ShellCommandSettings::enabledKey, true);
     desktop.permission.isGranted = false;
-    const GestureAction incomplete[] = {{},
-                                        action(ActionKind::keyboardShortcut),
-                                        action(ActionKind::openURL, " \n"),
-                                        action(ActionKind::openFileOrFolder),
-                                        action(ActionKind::launchApplication, "\t"),
-                                        shellCommand("ls", std::nullopt),
-                                        shellCommand("ls", false),
-                                        shellCommand("\n \u00A0")};
-    for (const GestureAction& what : incomplete) {
+    for (const GestureAction& what :
+         {GestureAction{}, action(ActionKind::keyboardShortcut), shellCommand("ls", false)}) {
         executor.execute(what, 3, true, "Label");
         EXPECT_EQ(desktop.log.take(), Calls{}) << rawValue(what.kind);
     }
@@ -124,30 +115,14 @@ TEST_F(ActionExecutorTest, AShellCommandRunsAsStoredIfTheSwitchIsOnAtThatMoment)
     EXPECT_EQ(runs(), Calls{});
 }
 
-TEST_F(ActionExecutorTest, AnswersForThePermission) {
-    for (const bool isTrusted : {false, true}) {
-        desktop.permission.isGranted = isTrusted;
-        EXPECT_EQ(executor.hasAccessibilityPermission(), isTrusted);
-        EXPECT_EQ(executor.requestAccessibilityPermission(), isTrusted);
-        EXPECT_EQ(desktop.log.take(), (Calls{"? trusted", "prompt"}));
-    }
-}
-
 TEST_F(ActionExecutorTest, PostsAStrokeWithItsFlagsAndFnOnlyAroundArrows) {
     EXPECT_EQ(calls(shortcut(123, {17})),
               (Calls{"? trusted", "+ source", "+ key 63 down", "+ key 123 down", "+ key 123 up", "+ key 63 up",
                      "post - fn down", "post fn⌘# Left down", "post fn⌘# Left up", "post - fn up"}));
-    const struct {
-        std::uint16_t code;
-        std::int64_t modifiers;
-        std::string stroke;
-    } rows[] = {
-        {6, 9, "⇧⌘ Z"},           {14, 16, "fn E"},  {47, 0, "Key 47"},  {126, 4, "⌃# Up"},
-        {49, 31, "fn⌃⌥⇧⌘ Space"}, {53, 0, "Escape"}, {53, 32, "Escape"}, {65535, 0, "Key 65535"},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(effects(shortcut(row.code, {row.modifiers})),
-                  (Calls{"post " + row.stroke + " down", "post " + row.stroke + " up"}));
+    const std::vector<std::tuple<std::uint16_t, std::int64_t, std::string>> rows{
+        {14, 16, "fn E"}, {126, 4, "⌃# Up"}, {49, 31, "fn⌃⌥⇧⌘ Space"}, {53, 32, "Escape"}, {65535, 0, "Key 65535"}};
+    for (const auto& [code, modifiers, stroke] : rows)
+        EXPECT_EQ(effects(shortcut(code, {modifiers})), (Calls{"post " + stroke + " down", "post " + stroke + " up"}));
 }
 
 TEST_F(ActionExecutorTest, TakesFlagsAndFnFromTheKeyThatTheLayoutOfTheMomentGives) {
@@ -168,25 +143,21 @@ TEST_F(ActionExecutorTest, AnEventThatCannotBeMadeIsLeftOutAndTheOthersStillGoOu
     const GestureAction left = shortcut(123, {17});
     const GestureAction middle = action(ActionKind::middleClick);
     const GestureAction quieter = action(ActionKind::adjustVolume);
-    const struct {
-        std::string failing;
-        GestureAction what;
-        Calls all;
-        std::optional<int> missing;
-    } rows[] = {
+    constexpr int kNone = -1;
+    const std::vector<std::tuple<std::string, GestureAction, Calls, int>> rows{
         {"key 63 down", left, stroke, 0},        {"key 123 down", left, stroke, 1},
         {"key 123 up", left, stroke, 2},         {"key 63 up", left, stroke, 3},
-        {"source", left, stroke, std::nullopt},  {"center down", middle, click, 0},
-        {"center up", middle, click, 1},         {"source", middle, click, std::nullopt},
+        {"source", left, stroke, kNone},         {"center down", middle, click, 0},
+        {"center up", middle, click, 1},         {"source", middle, click, kNone},
         {"system 8 10a00 -1", quieter, step, 0}, {"system 8 10b00 -1", quieter, step, 1},
     };
     desktop.events.pointer = {-9.5, 0};
-    for (const auto& row : rows) {
-        desktop.events.failing = {row.failing};
-        Calls expected = row.all;
-        if (row.missing)
-            expected.erase(expected.begin() + *row.missing);
-        EXPECT_EQ(effects(row.what, -1), expected) << row.failing;
+    for (const auto& [failing, what, all, missing] : rows) {
+        desktop.events.failing = {failing};
+        Calls expected = all;
+        if (missing != kNone)
+            expected.erase(expected.begin() + missing);
+        EXPECT_EQ(effects(what, -1), expected) << failing;
     }
     desktop.events.failing = {"probe"};
     EXPECT_EQ(calls(middle), (Calls{"? trusted", "+ source", "+ probe"}));
@@ -198,22 +169,16 @@ TEST_F(ActionExecutorTest, PressesAVolumeKeyOnceAStepWithinABoundThatNobodyMeets
     const GestureAction volume = action(ActionKind::adjustVolume);
     EXPECT_EQ(calls(volume, 0), Calls{});
     constexpr std::int64_t kBound = ActionExecutor::kMaximumVolumePresses;
-    const struct {
-        std::int64_t steps, presses;
-    } rows[] = {{3, 3},
-                {-2, 2},
-                {kBound, kBound},
-                {kBound + 1, kBound},
-                {std::numeric_limits<std::int64_t>::max(), kBound},
-                {std::numeric_limits<std::int64_t>::min(), kBound},
-                {std::numeric_limits<int>::min(), kBound}};
-    for (const auto& row : rows) {
-        const std::string key = row.steps > 0 ? "system 8 " : "system 8 10";
+    using Limits = std::numeric_limits<std::int64_t>;
+    for (const std::int64_t steps : {std::int64_t{3}, std::int64_t{-2}, kBound, kBound + 1, Limits::max(),
+                                     Limits::min(), std::int64_t{std::numeric_limits<int>::min()}}) {
+        const std::string key = steps > 0 ? "system 8 " : "system 8 10";
+        const std::int64_t presses = steps == 3 ? 3 : steps == -2 ? 2 : kBound;
         Calls expected{"? trusted"};
-        for (std::int64_t i = 0; i < row.presses; ++i)
+        for (std::int64_t i = 0; i < presses; ++i)
             for (const std::string& event : {key + "a00 -1", key + "b00 -1"})
                 expected.insert(expected.end(), {"+ " + event, "post - " + event});
-        EXPECT_EQ(calls(volume, row.steps), expected);
+        EXPECT_EQ(calls(volume, steps), expected);
     }
 }
 
@@ -232,9 +197,7 @@ TEST_F(ActionExecutorTest, OpensWebAddressesAsStoredAndDropsAllElse) {
 }
 
 TEST_F(ActionExecutorTest, ExpandsHomeFoldersAndStandardizesOnlyWhatItOpens) {
-    const struct {
-        std::string value, opened, launched;
-    } rows[] = {
+    const std::vector<std::array<std::string, 3>> rows{
         {"~", "/home/ada", "/home/ada"},
         {"~/Notes/../a.txt", "/home/ada/a.txt", "/home/ada/Notes/../a.txt"},
         {"~/../x", "/home/x", "/home/ada/../x"},
@@ -250,9 +213,9 @@ TEST_F(ActionExecutorTest, ExpandsHomeFoldersAndStandardizesOnlyWhatItOpens) {
         {"a/..", ".", "a/.."},
         {"/ä ö/~/$HOME/*", "/ä ö/~/$HOME/*", "/ä ö/~/$HOME/*"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(effects(action(ActionKind::openFileOrFolder, row.value)), Calls{"open file " + row.opened});
-        EXPECT_EQ(effects(action(ActionKind::launchApplication, row.value)), Calls{"launch " + row.launched});
+    for (const auto& [value, opened, launched] : rows) {
+        EXPECT_EQ(effects(action(ActionKind::openFileOrFolder, value)), Calls{"open file " + opened});
+        EXPECT_EQ(effects(action(ActionKind::launchApplication, value)), Calls{"launch " + launched});
     }
     GestureAction launch = action(ActionKind::launchApplication, "/a");
     launch.applicationArguments = {{"", "-a", " ", "$HOME *", "", "~"}};

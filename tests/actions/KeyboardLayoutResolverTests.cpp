@@ -18,15 +18,12 @@ TEST(KeyboardLayoutResolverTest, FindsTheLowestKeyThatTypesTheCharacterInEitherC
     characters[30] = "Ä";
     characters[40] = "aa";
     characters[127] = "[";
-    const struct {
-        const char* name;
-        std::uint16_t expected;
-    } rows[] = {
+    const std::vector<std::pair<const char*, std::uint16_t>> rows{
         {"A", 12}, {"a", 12},      {"q", 0},       {"ä", 30},  {"Ä", 30}, {"[", 127},
         {"Z", 99}, {"Return", 99}, {"Key 47", 99}, {"aa", 99}, {"", 99},  {"\u00E4\u0308", 99},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(resolver.keyCode(row.name, 99), row.expected) << row.name;
+    for (const auto& [name, expected] : rows)
+        EXPECT_EQ(resolver.keyCode(name, 99), expected) << name;
     desktop.layout.characters.reset();
     EXPECT_EQ(resolver.keyCode("a", 99), 99);
 }

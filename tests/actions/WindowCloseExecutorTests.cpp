@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "support/FakeActionDesktop.h"
 
 namespace kinesta::testing {
@@ -29,9 +31,7 @@ TEST_F(WindowCloseExecutorTest, AsksInOrderAndPressesTheCloseButton) {
 }
 
 TEST_F(WindowCloseExecutorTest, LeavesAWindowAloneThatIsNotExactlyAsExpectedAndAsksNoFurther) {
-    const struct {
-        std::string window, last;
-    } rows[] = {
+    const std::vector<std::pair<std::string, std::string>> rows{
         {"" + kButton, "? AXRole of window"},
         {"AXRole=AXDialog" + kButton, "? AXRole of window"},
         {"AXRole=AXWindow AXMinimized=yes" + kButton, "? AXMinimized of window"},
@@ -41,10 +41,10 @@ TEST_F(WindowCloseExecutorTest, LeavesAWindowAloneThatIsNotExactlyAsExpectedAndA
         {"AXRole=AXWindow\n  AXCloseButton: button AXEnabled=no", "? AXEnabled of button"},
         {"AXRole=AXWindow\n  AXCloseButton: button AXEnabled=1", "? AXEnabled of button"},
     };
-    for (const auto& row : rows) {
-        desktop.accessibility.describe("AXFocusedWindow: window " + row.window);
-        EXPECT_FALSE(closes()) << row.window;
-        EXPECT_EQ(desktop.log.take().back(), row.last) << row.window;
+    for (const auto& [window, last] : rows) {
+        desktop.accessibility.describe("AXFocusedWindow: window " + window);
+        EXPECT_FALSE(closes()) << window;
+        EXPECT_EQ(desktop.log.take().back(), last) << window;
     }
 }
 
@@ -70,16 +70,14 @@ TEST_F(WindowCloseExecutorTest, TakesWhatCannotBeReadAsHarmlessAndTheMainWindowF
 }
 
 TEST_F(WindowCloseExecutorTest, PressesNothingIfTheFrontmostApplicationIsNoLongerTheSame) {
-    const struct {
-        std::vector<std::optional<ProcessIdentifier>> frontmost;
-        Calls effects;
-    } rows[] = {{{std::nullopt}, {}},    {{9}, {}},    {{7, 9}, {}},
-                {{7, std::nullopt}, {}}, {{7, 1}, {}}, {{7, 7, 9}, {"AXPress button"}}};
     desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow" + kButton);
-    for (const auto& row : rows) {
-        desktop.workspace.frontmost = row.frontmost;
-        EXPECT_EQ(closes(), !row.effects.empty());
-        EXPECT_EQ(desktop.log.takeEffects(), row.effects);
+    const std::vector<std::vector<std::optional<ProcessIdentifier>>> changes{{std::nullopt},    {9},    {7, 9},
+                                                                             {7, std::nullopt}, {7, 1}, {7, 7, 9}};
+    for (const auto& frontmost : changes) {
+        desktop.workspace.frontmost = frontmost;
+        const bool isSame = frontmost.size() == 3;  // until the press
+        EXPECT_EQ(closes(), isSame);
+        EXPECT_EQ(desktop.log.takeEffects(), isSame ? Calls{"AXPress button"} : Calls{});
     }
     desktop.workspace.frontmost = {7};
     desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow" + kButton + " AXPress=no");
@@ -92,10 +90,7 @@ TEST_F(WindowCloseExecutorTest, PressesNothingIfTheFrontmostApplicationIsNoLonge
 
 TEST_F(WindowCloseExecutorTest, ClosesItsOwnWindowUnlessItIsAPanelPutAwayOrBusyWithADialog) {
     const auto none = std::nullopt;
-    const struct {
-        std::optional<std::string> key, main;
-        Calls effects;
-    } rows[] = {
+    const std::vector<std::tuple<std::optional<std::string>, std::optional<std::string>, Calls>> rows{
         {"key button", "main button", {"close own key button"}},
         {none, "main button", {"close own main button"}},
         {none, none, {}},
@@ -106,11 +101,11 @@ TEST_F(WindowCloseExecutorTest, ClosesItsOwnWindowUnlessItIsAPanelPutAwayOrBusyW
         {"button panel", "main button", {}},
     };
     desktop.workspace.frontmost = {1};
-    for (const auto& row : rows) {
-        desktop.windows.key = row.key;
-        desktop.windows.main = row.main;
-        EXPECT_EQ(closes(), !row.effects.empty());
-        EXPECT_EQ(desktop.log.takeEffects(), row.effects);
+    for (const auto& [key, main, effects] : rows) {
+        desktop.windows.key = key;
+        desktop.windows.main = main;
+        EXPECT_EQ(closes(), !effects.empty());
+        EXPECT_EQ(desktop.log.takeEffects(), effects);
     }
 }
 

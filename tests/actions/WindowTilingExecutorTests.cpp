@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 #include "rules/CommonMacShortcut.h"
 #include "support/FakeActionDesktop.h"
@@ -44,23 +45,18 @@ std::string nested(int levels, const std::string& text) {
 }
 
 TEST_F(WindowTilingExecutorTest, EveryTilingPresetIsACommandAndNothingElseIs) {
-    const struct {
-        std::uint16_t code;
-        std::int64_t modifiers;
-        const char* identifier;
-    } rows[] = {
-        {3, 20, "_zoomFill:"},           {8, 20, "_zoomCenter:"},         {123, 20, "_zoomLeft:"},
-        {124, 20, "_zoomRight:"},        {126, 20, "_zoomTop:"},          {125, 20, "_zoomBottom:"},
-        {15, 20, "_zoomUntile:"},        {123, 28, "_zoomLeftAndRight:"}, {124, 28, "_zoomRightAndLeft:"},
-        {126, 28, "_zoomTopAndBottom:"}, {125, 28, "_zoomBottomAndTop:"}, {123, 30, "_zoomLeftThreeUp:"},
-        {124, 30, "_zoomRightThreeUp:"}, {126, 30, "_zoomTopThreeUp:"},   {125, 30, "_zoomBottomThreeUp:"},
-    };
-    for (const auto& row : rows) {
-        const auto command = windowTilingMenuCommand(row.code, {row.modifiers});
-        ASSERT_TRUE(command) << row.identifier;
-        EXPECT_EQ(rawValue(*command), row.identifier);
-        EXPECT_EQ(title(*command), CommonMacShortcut::actionTitle(row.code, {row.modifiers}));
-    }
+    std::string identifiers;
+    for (const CommonMacShortcut& preset : CommonMacShortcut::all())
+        if (preset.category == "Window Tiling") {
+            const auto command = windowTilingMenuCommand(preset.keyCode, preset.modifiers);
+            ASSERT_TRUE(command) << preset.title;
+            identifiers.append(rawValue(*command)).append(" ");
+            EXPECT_EQ(title(*command), preset.title);
+        }
+    EXPECT_EQ(identifiers,
+              "_zoomFill: _zoomCenter: _zoomLeft: _zoomRight: _zoomTop: _zoomBottom: _zoomUntile: _zoomLeftAndRight: "
+              "_zoomRightAndLeft: _zoomTopAndBottom: _zoomBottomAndTop: _zoomLeftThreeUp: _zoomRightThreeUp: "
+              "_zoomTopThreeUp: _zoomBottomThreeUp: ");
     int commands = 0;
     for (std::uint16_t code = 0; code < 128; ++code)
         for (std::int64_t modifiers = 0; modifiers < 64; ++modifiers)
@@ -88,14 +84,15 @@ TEST_F(WindowTilingExecutorTest, SearchesDepthFirstAndPressesTheFirstMatch) {
 }
 
 TEST_F(WindowTilingExecutorTest, PressesNothingUnlessAllIsAsExpected) {
-    for (const std::string& tree :
-         {"timeout=no\n " + kEnabledItem, "\n " + kItem, "\n " + kItem + "AXEnabled=no", "\n " + kItem + "AXEnabled=1",
-          "\n " + kItem + "AXEnabled=!", std::string("AXChildren=*"), std::string("AXChildren=[]"),
-          // A disabled first match hides a second one.
-          "\n " + kItem + "\n " + kEnabledItem}) {
-        EXPECT_FALSE(tilesLeft(tree)) << tree;
-        EXPECT_EQ(desktop.log.takeEffects(), Calls{}) << tree;
-    }
+    const auto pressesNothing = [&](const std::string& tree) {
+        return !tilesLeft(tree) && desktop.log.takeEffects().empty();
+    };
+    for (const std::string item : {"", "AXEnabled=no", "AXEnabled=1", "AXEnabled=!"})
+        EXPECT_TRUE(pressesNothing("\n " + kItem + item)) << item;
+    for (const std::string tree : {"AXChildren=*", "AXChildren=[]"})
+        EXPECT_TRUE(pressesNothing(tree)) << tree;
+    EXPECT_TRUE(pressesNothing("timeout=no\n " + kEnabledItem));
+    EXPECT_TRUE(pressesNothing("\n " + kItem + "\n " + kEnabledItem)) << "a disabled first match hides a second one";
     EXPECT_FALSE(tilesLeft("\n " + kEnabledItem, "timeout=no"));
     EXPECT_FALSE(tilesLeft("\n " + kEnabledItem + " AXPress=no"));
     EXPECT_EQ(desktop.log.takeEffects(), Calls{"AXPress item"});
@@ -151,18 +148,16 @@ TEST_F(WindowTilingExecutorTest, GivesEachRequestWhatIsLeftOfTheBudget) {
 
 TEST_F(WindowTilingExecutorTest, StopsAtTheDeadlineWhereverItFalls) {
     const std::string slow = "AXIdentifier=x@0.125 AXChildren=@0.125\n - item ";  // 0.25 s
-    const struct {
-        std::string item, last;
-    } rows[] = {
+    const std::vector<std::pair<std::string, std::string>> rows{
         // While searching, between finding and asking, between asking and pressing, and a hair's breadth too early.
         {"AXIdentifier=x@0.125 AXChildren=[]", "? AXIdentifier of item"},
         {"AXIdentifier=_zoomLeft:@0.125 AXEnabled=yes", "? AXIdentifier of item"},
         {"AXIdentifier=_zoomLeft:@0.0625 AXEnabled=yes@0.0625", "? frontmost"},
         {"AXIdentifier=_zoomLeft:@0.0625 AXEnabled=yes@0.0615", "AXPress item"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(tilesLeft(slow + row.item, "AXMenuBar=@0.125"), row.last == "AXPress item") << row.item;
-        EXPECT_EQ(desktop.log.take().back(), row.last) << row.item;
+    for (const auto& [item, last] : rows) {
+        EXPECT_EQ(tilesLeft(slow + item, "AXMenuBar=@0.125"), last == "AXPress item") << item;
+        EXPECT_EQ(desktop.log.take().back(), last) << item;
     }
     // An application that hangs blocks us for the budget at most, however many elements it has.
     const Uptime before = desktop.clock.uptime();
@@ -174,26 +169,21 @@ TEST_F(WindowTilingExecutorTest, SendsItsOwnMenuItemWithoutNeedingThePermission)
     desktop.workspace.frontmost = {1};
     desktop.permission.isGranted = false;
     EXPECT_FALSE(tilesLeft());
-    const struct {
-        std::string bar;
-        bool isTiled;
-        Calls effects;
-    } rows[] = {
-        {"", false, {}},
-        {"- a\n - b action=_zoomRight:\n- c\n - d identifier=_zoomLeft: action=x\n- action=_zoomLeft:",
-         true,
-         {"send x"}},
-        {"- a\n - b\n  - action=_zoomLeft:\n- identifier=_zoomLeft: action=x", true, {"send _zoomLeft:"}},
-        {"- a identifier=_zoomLeft: action=x enabled=no\n- action=_zoomLeft:", false, {}},
-        {"- a identifier=_zoomLeft:\n- action=_zoomLeft:", false, {}},
-        {"- a action=_zoomLeft: taken=no", false, {"send _zoomLeft:"}},
+    const Calls none, left{"send _zoomLeft:"}, other{"send x"};
+    const std::vector<std::tuple<std::string, bool, Calls>> rows{
+        {"", false, none},
+        {"- a\n - b action=_zoomRight:\n- c\n - d identifier=_zoomLeft: action=x\n- action=_zoomLeft:", true, other},
+        {"- a\n - b\n  - action=_zoomLeft:\n- identifier=_zoomLeft: action=x", true, left},
+        {"- a identifier=_zoomLeft: action=x enabled=no\n- action=_zoomLeft:", false, none},
+        {"- a identifier=_zoomLeft:\n- action=_zoomLeft:", false, none},
+        {"- a action=_zoomLeft: taken=no", false, left},
         // An item's state counts as its menu tells it once brought up to date.
-        {"- a action=_zoomLeft: enabled=updated", true, {"send _zoomLeft:"}},
+        {"- a action=_zoomLeft: enabled=updated", true, left},
     };
-    for (const auto& row : rows) {
-        desktop.menus.bar = FakeNode::parse(row.bar);
-        EXPECT_EQ(tilesLeft(), row.isTiled) << row.bar;
-        EXPECT_EQ(desktop.log.takeEffects(), row.effects) << row.bar;
+    for (const auto& [bar, isTiled, effects] : rows) {
+        desktop.menus.bar = FakeNode::parse(bar);
+        EXPECT_EQ(tilesLeft(), isTiled) << bar;
+        EXPECT_EQ(desktop.log.takeEffects(), effects) << bar;
     }
     for (const int depth : {12, 13}) {
         desktop.menus.bar = FakeNode::parse(nested(depth, "- action=_zoomLeft:"));

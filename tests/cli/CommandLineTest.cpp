@@ -66,16 +66,18 @@ TEST(CommandLineTest, vocabularyComesAsOneArrayInDeclarationOrder) {
 }
 
 TEST(TextTableTest, measuresAndCutsByColumnsNotBytes) {
-    struct Case {
-        std::string text;
-        std::size_t width;
-        std::string fittedToFour;
-    };
-    for (const Case& c : {Case{"", 0, ""}, Case{"abcd", 4, "abcd"}, Case{"abcde", 5, "abc…"}, Case{"⌃⇧⌘Tab", 6, "⌃⇧⌘…"},
-                          Case{"漢字", 4, "漢字"}, Case{"漢字x", 5, "漢…"}, Case{"e\u0301t", 2, "e\u0301t"},
-                          Case{"\xff\xfe", 2, "\xff\xfe"}, Case{"ab\xe2\x80", 4, "ab\xe2\x80"}}) {
-        EXPECT_EQ(displayWidth(c.text), c.width) << c.text;
-        EXPECT_EQ(fitted(c.text, 4), c.fittedToFour);
+    const std::vector<std::tuple<std::string, std::size_t, std::string>> rows{{"", 0, ""},
+                                                                              {"abcd", 4, "abcd"},
+                                                                              {"abcde", 5, "abc…"},
+                                                                              {"⌃⇧⌘Tab", 6, "⌃⇧⌘…"},
+                                                                              {"漢字", 4, "漢字"},
+                                                                              {"漢字x", 5, "漢…"},
+                                                                              {"e\u0301t", 2, "e\u0301t"},
+                                                                              {"\xff\xfe", 2, "\xff\xfe"},
+                                                                              {"ab\xe2\x80", 4, "ab\xe2\x80"}};
+    for (const auto& [text, width, fittedToFour] : rows) {
+        EXPECT_EQ(displayWidth(text), width) << text;
+        EXPECT_EQ(fitted(text, 4), fittedToFour);
     }
     EXPECT_EQ(fitted("abc", 0), "");
     EXPECT_EQ(printable("a\tb\x7f\u0085\u2028c"), "a·b···c");

@@ -41,4 +41,10 @@ inline std::string recording(const std::string& name) {
     return std::string(KINESTA_SOURCE_DIR) + "/examples/recordings/" + name;
 }
 
+/// A rule that is on, as JSON: the last digits of its identifier, its fields and those of its action.
+inline std::string rule(const std::string& last, const std::string& fields, const std::string& action) {
+    return R"({"id":"00000000-0000-4000-8000-0000000000)" + last + R"(","isEnabled":true,)" + fields +
+           R"(,"action":{"modifiers":0,"value":"",)" + action + "}}";
+}
+
 }  // namespace kinesta::testing

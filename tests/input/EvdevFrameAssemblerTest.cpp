@@ -8,6 +8,7 @@
 #include "RecordingText.h"
 #include "input/EvdevCodes.h"
 #include "input/EvdevFrameAssembler.h"
+#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {
@@ -64,8 +65,8 @@ std::string play(const EvdevTouchpad& touchpad, const std::string& script) {
 
 /// Checks rows "what is special: script => events".
 void check(int slots, const std::string& table) {
-    for (const auto& [left, expected] : tableRows(table))
-        EXPECT_EQ(play(pad(slots), left.substr(left.find(": ") + 2)), expected) << left;
+    for (const auto& row : tableRows(table))
+        EXPECT_EQ(play(pad(slots), row[0].substr(row[0].find(": ") + 2)), row[1]) << row[0];
 }
 
 TEST(EvdevFrameAssembler, FollowsSlots) {
@@ -166,23 +167,19 @@ a finger that hovers, and one without a place: two 1 onlyX 5 / touch 1 onlyX 250
 }
 
 TEST(EvdevFrameAssembler, NormalizesAnyRange) {
-    struct Case {
-        EvdevAxisRange range;
-        int value;
-        double expected;
-    };
-    for (const Case& tested : std::initializer_list<Case>{{{-4620, 5140}, 260, 0.5},
-                                                          {{5, 5}, 5, 0.5},
-                                                          {{5, 5}, 9, 0.5},
-                                                          {{10, -10}, 0, 0.5},
-                                                          {{kLeast, kMost}, kLeast, 0},
-                                                          {{kLeast, kMost}, kMost, 1},
-                                                          {{kMost - 1, kMost}, kLeast, 0},
-                                                          {{0, 1}, kMost, 1}}) {
-        const auto value = std::to_string(tested.value);
-        EXPECT_EQ(play(pad(1, tested.range, tested.range), "id 1 x " + value + " y " + value + " /"),
-                  "1 1@" + numberText(tested.expected) + "," + numberText(1 - tested.expected))
-            << tested.range.minimum << "…" << tested.range.maximum << ": " << value;
+    for (const auto& [range, place, expected] :
+         std::vector<std::tuple<EvdevAxisRange, int, double>>{{{-4620, 5140}, 260, 0.5},
+                                                              {{5, 5}, 5, 0.5},
+                                                              {{5, 5}, 9, 0.5},
+                                                              {{10, -10}, 0, 0.5},
+                                                              {{kLeast, kMost}, kLeast, 0},
+                                                              {{kLeast, kMost}, kMost, 1},
+                                                              {{kMost - 1, kMost}, kLeast, 0},
+                                                              {{0, 1}, kMost, 1}}) {
+        const auto value = std::to_string(place);
+        EXPECT_EQ(play(pad(1, range, range), "id 1 x " + value + " y " + value + " /"),
+                  "1 1@" + numberText(expected) + "," + numberText(1 - expected))
+            << range.minimum << "…" << range.maximum << ": " << value;
     }
     EXPECT_EQ(play(pad(kMost), "slot 255 id 1 slot 256 id 2 slot 2147483646 id 3 /"), "1 1@0.5,0.5");
     EXPECT_EQ(play(pad(kLeast), "touch 1 /"), "1 1@0.5,0.5");

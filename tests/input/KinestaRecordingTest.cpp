@@ -4,6 +4,7 @@
 
 #include "RecordingText.h"
 #include "StreamFakes.h"
+#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {
@@ -11,9 +12,6 @@ namespace {
 const std::string kHeader = R"({"kinesta":"recording","version":1})";
 
 std::string firstError(const std::string& lines) { return read(kHeader + "\n" + lines).error; }
-
-/// The inputs that one error is for.
-using Refusals = std::vector<std::pair<std::string, std::vector<std::string>>>;
 
 TEST(KinestaRecording, GivesItsEventsInOrder) {
     const Reading reading = read(
@@ -75,45 +73,41 @@ TEST(KinestaRecording, RefusesOtherHeaders) {
 }
 
 TEST(KinestaRecording, RefusesWhatIsNoEvent) {
-    const std::string kinds = " of \"touches\", \"pointer\", \"pressure\" and \"settings\" is given";
-    for (const auto& [error, inputs] :
-         Refusals{{"the line is not a JSON object", {"[1]"}},
-                  {"none" + kinds, {R"({"t":1})"}},
-                  {"more than one" + kinds,
-                   {R"({"t":1,"pointer":"up","pressure":1})", R"({"t":1,"pressure":1,"pressure":1})"}},
-                  {"\"t\" is missing", {kHeader, R"({"pointer":"up"})"}},
-                  {"\"t\" is not a number", {R"({"t":"1","pointer":"up"})", R"({"t":null,"pointer":"up"})"}},
-                  {"\"t\" is not within 9.2e9 seconds",
-                   {R"({"t":9200000001,"pointer":"up"})", R"({"t":-9.3e9,"pointer":"up"})"}},
-                  {"the time 0.25 is before 0.5, that of the event before", {R"({"t":0.25,"pointer":"up"})"}},
-                  {"this is not valid JSON: a value is missing", {R"({"t":NaN,"pointer":"up"})"}},
-                  {"this is not valid JSON: a number is out of range",
-                   {R"({"t":1e999,"pointer":"up"})", R"({"t":1,"touches":[[1,2,1e999]]})"}},
-                  {"\"received\" is not a number", {R"({"t":1,"touches":[],"received":"1"})"}},
-                  {"\"received\" is not within 9.2e9 seconds", {R"({"received":1e10,"t":1,"touches":[]})"}}})
-        for (const std::string& input : inputs)
-            EXPECT_EQ(firstError("{\"t\":0.5,\"pointer\":\"down\"}\n\n" + input), "x:4: " + error) << input;
-    const std::string interval = R"("settings":{"tapWaitingInterval.v1":)";
-    for (const auto& [error, inputs] :
-         Refusals{{"\"touches\" is not an array", {R"("touches":{})"}},
-                  {"a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers",
-                   {R"("touches":[1,2,3])", R"("touches":[[1,2]])", R"("touches":[[1,2,3,4]])",
-                    R"("touches":[["1",2,3]])", R"("touches":[[1.5,2,3]])", R"("touches":[[2147483648,2,3]])",
-                    R"("touches":[[-2147483649,2,3]])", R"("touches":[[1,2,null]])"}},
-                  {"\"touches\" holds an id twice", {R"("touches":[[1,2,3],[2,2,3],[1,4,5]])"}},
-                  {"\"pointer\" is neither \"down\" nor \"up\"", {R"("pointer":"left")", R"("pointer":true)"}},
-                  {"\"pressure\" is not a whole number",
-                   {R"("pressure":1.5)", R"("pressure":"1")", R"("pressure":9223372036854775808)"}},
-                  {"\"settings\" is not an object", {R"("settings":null)"}},
-                  {"\"gesturesEnabled\" is neither true nor false", {R"("settings":{"gesturesEnabled":1})"}},
-                  {"\"cornerPalmRejectionEnabled.v1\" is neither true nor false",
-                   {R"("settings":{"cornerPalmRejectionEnabled.v1":"true"})"}},
-                  {"\"cornerPalmRejectionSensitivity.v1\" is not a number",
-                   {R"("settings":{"cornerPalmRejectionSensitivity.v1":true})"}},
-                  {"\"tapWaitingInterval.v1\" is none of 150, 200, 250, 300 and 400",
-                   {interval + "251}", interval + "250.5}", interval + "\"250\"}", interval + "4294967546}"}}})
-        for (const std::string& input : inputs)
-            EXPECT_EQ(firstError("{\"t\":1," + input + "}"), "x:2: " + error) << input;
+    for (const auto& row : tableRows(R"(
+the line is not a JSON object => [1]
+none of "touches", "pointer", "pressure" and "settings" is given => {"t":1}
+more than one of "touches", "pointer", "pressure" and "settings" is given => {"t":1,"pointer":"up","pressure":1}
+more than one of "touches", "pointer", "pressure" and "settings" is given => {"t":1,"pressure":1,"pressure":1}
+"t" is missing => {"kinesta":"recording","version":1} | {"pointer":"up"}
+"t" is not a number => {"t":"1","pointer":"up"} | {"t":null,"pointer":"up"}
+"t" is not within 9.2e9 seconds => {"t":9200000001,"pointer":"up"} | {"t":-9.3e9,"pointer":"up"}
+the time 0.25 is before 0.5, that of the event before => {"t":0.25,"pointer":"up"}
+this is not valid JSON: a value is missing => {"t":NaN,"pointer":"up"}
+this is not valid JSON: a number is out of range => {"t":1e999,"pointer":"up"} | {"t":1,"touches":[[1,2,1e999]]}
+"received" is not a number => {"t":1,"touches":[],"received":"1"}
+"received" is not within 9.2e9 seconds => {"received":1e10,"t":1,"touches":[]}
+)"))
+        for (const std::string& input : split(row[1], " | "))
+            EXPECT_EQ(firstError("{\"t\":0.5,\"pointer\":\"down\"}\n\n" + input), "x:4: " + row[0]) << input;
+    for (const auto& row : tableRows(R"(
+"touches" is not an array => "touches":{}
+"touches" holds an id twice => "touches":[[1,2,3],[2,2,3],[1,4,5]]
+"pointer" is neither "down" nor "up" => "pointer":"left" | "pointer":true
+"pressure" is not a whole number => "pressure":1.5 | "pressure":"1" | "pressure":9223372036854775808
+"settings" is not an object => "settings":null
+"gesturesEnabled" is neither true nor false => "settings":{"gesturesEnabled":1}
+"cornerPalmRejectionEnabled.v1" is neither true nor false => "settings":{"cornerPalmRejectionEnabled.v1":"true"}
+"cornerPalmRejectionSensitivity.v1" is not a number => "settings":{"cornerPalmRejectionSensitivity.v1":true}
+)"))
+        for (const std::string& input : split(row[1], " | "))
+            EXPECT_EQ(firstError("{\"t\":1," + input + "}"), "x:2: " + row[0]) << input;
+    for (const std::string touch : {"1,2,3", "[1,2]", "[1,2,3,4]", "[\"1\",2,3]", "[1.5,2,3]", "[2147483648,2,3]",
+                                    "[-2147483649,2,3]", "[1,2,null]"})
+        EXPECT_EQ(firstError("{\"t\":1,\"touches\":[" + touch + "]}"),
+                  "x:2: a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers");
+    for (const std::string interval : {"251", "250.5", "\"250\"", "4294967546"})
+        EXPECT_EQ(firstError(R"({"t":1,"settings":{"tapWaitingInterval.v1":)" + interval + "}}"),
+                  "x:2: \"tapWaitingInterval.v1\" is none of 150, 200, 250, 300 and 400");
 }
 
 TEST(KinestaRecording, RefusesWhatIsNotJson) {
@@ -173,7 +167,7 @@ TEST(KinestaRecording, HoldsNoMoreThanALine) {
              {"version: 1\nname: ", 'a', "x:2: a value is longer than 1 MiB"},
              {"version: 1\nname: \"", '\n', "x:2: a value is longer than 1 MiB"},
              {"version: 1\nname: ", '[', "x:2: values are nested too deeply"}}) {
-        EndlessInput input(beginning, rest);
+        ContinuedInput input(beginning, rest);
         std::istream stream(&input);
         EXPECT_EQ(read(stream).error, error) << beginning;
         EXPECT_LT(input.given, 2 * kLimit) << beginning;
@@ -196,7 +190,7 @@ TEST(KinestaRecording, ReadsAnyKindOfStream) {
                                                   {kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", 2},
                                                   {"# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", 4},
                                                   {"version: 1\n", 1}}) {
-        BreakingInput input(text);
+        ContinuedInput input(text);
         std::istream stream(&input);
         EXPECT_EQ(read(stream).error, "x:" + std::to_string(line) + ": the input cannot be read") << text;
     }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 #include <vector>
 
 namespace kinesta {
@@ -10,19 +11,15 @@ namespace {
 
 TEST(PressureStageTracker, ChangesAtItsLimitsAndOnlyWhileTheButtonIsHeld) {
     PressureStageTracker tracker({.forcedFrom = 0.6, .softBelow = 0.4});
-    struct Report {
-        bool isButtonDown;
-        double pressure;
-        std::int64_t stage;  // 0: no change
-    };
     const double nothing = std::numeric_limits<double>::quiet_NaN();
-    const std::vector<Report> reports{
+    // Whether the button is down, the pressure, and the stage, or 0 for no change.
+    const std::vector<std::tuple<bool, double, std::int64_t>> reports{
         {false, 1.0, 0}, {true, 0.5999, 0}, {true, 0.6, 2}, {true, 1.0, 0},     {true, 0.4, 0},
         {true, 0.5, 0},  {true, 0.3999, 1}, {true, 0.5, 0}, {true, 0.6, 2},     {false, 0.9, 0},
         {true, 0.5, 0},  {false, 0.0, 0},   {true, 0.9, 2}, {true, nothing, 0}, {true, 0.0, 1},
     };
-    for (std::size_t i = 0; i < reports.size(); ++i)
-        EXPECT_EQ(tracker.process(reports[i].isButtonDown, reports[i].pressure).value_or(0), reports[i].stage) << i;
+    for (const auto& [isButtonDown, pressure, stage] : reports)
+        EXPECT_EQ(tracker.process(isButtonDown, pressure).value_or(0), stage) << pressure;
 }
 
 }  // namespace

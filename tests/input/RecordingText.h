@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -12,8 +10,14 @@
 
 #include "input/RecordingReading.h"
 #include "support/NumberText.h"
+#include "support/TemporaryFolder.h"
 
 namespace kinesta {
+
+using Texts = std::vector<std::string>;
+
+/// The inputs that one error is for.
+using Refusals = std::vector<std::pair<std::string, Texts>>;
 
 /// One event as short text: "5@0.25,0.75 6@0.5,0.5", "no finger", "down", "pressure 2", "settings".
 inline std::string contentText(const RecordingEvent& event) {
@@ -42,8 +46,8 @@ struct Reading {
     std::vector<RecordingEvent> events;
     std::string error;
 
-    std::vector<std::string> texts() const {
-        std::vector<std::string> texts;
+    Texts texts() const {
+        Texts texts;
         for (const RecordingEvent& event : events)
             texts.push_back(eventText(event));
         return texts;
@@ -79,23 +83,8 @@ inline Reading read(const std::string& text) {
     return read(stream);
 }
 
-/// The rows "left => right" of a table, one a line.
-inline std::vector<std::pair<std::string, std::string>> tableRows(const std::string& table) {
-    std::vector<std::pair<std::string, std::string>> rows;
-    std::istringstream lines(table);
-    for (std::string line; std::getline(lines, line);) {
-        if (const auto arrow = line.find(" => "); arrow != std::string::npos)
-            rows.emplace_back(line.substr(0, arrow), line.substr(arrow + 4));
-        else
-            EXPECT_EQ(line, "") << "a row without an arrow";
-    }
-    return rows;
-}
-
 inline std::string exampleText(const std::string& name) {
-    std::ifstream stream(KINESTA_SOURCE_DIR "/examples/recordings/" + name, std::ios::binary);
-    EXPECT_TRUE(stream.is_open()) << name;
-    return {std::istreambuf_iterator<char>(stream), {}};
+    return readText(KINESTA_SOURCE_DIR "/examples/recordings/" + name);
 }
 
 }  // namespace kinesta

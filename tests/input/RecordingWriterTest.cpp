@@ -47,18 +47,9 @@ TEST(RecordingWriter, IsReadBackToTheLastBit) {
             if (const auto number = std::bit_cast<double>(random()); std::isfinite(number))
                 return number;
     };
-    std::vector<double> numbers{0.0,
-                                -0.0,
-                                1.0 / 3,
-                                0.1 + 0.2,
-                                Limits::max(),
-                                Limits::lowest(),
-                                Limits::min(),
-                                Limits::denorm_min(),
-                                -Limits::denorm_min(),
-                                Limits::epsilon(),
-                                std::nextafter(1.0, 0.0),
-                                9007199254740993.0};
+    std::vector<double> numbers{0.0, -0.0, 1.0 / 3, 0.1 + 0.2, 9007199254740993.0, std::nextafter(1.0, 0.0)};
+    for (const double number : {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::epsilon()})
+        numbers.insert(numbers.end(), {number, -number});
     for (int i = 0; i < 2000; ++i)
         numbers.push_back(anyNumber());
     std::vector<RecordingEvent> events;

@@ -1,14 +1,19 @@
 #pragma once
 
+#include <optional>
 #include <streambuf>
 #include <string>
 
 namespace kinesta {
 
-/// An input without end: a beginning, then one character for ever.
-class EndlessInput final : public std::streambuf {
+/// An input that after its beginning goes on with one character for ever, or breaks, as a folder or a failing disk
+/// does.
+class ContinuedInput final : public std::streambuf {
   public:
-    EndlessInput(std::string beginning, char rest) : m_piece(std::move(beginning)), m_rest(rest) { show(); }
+    explicit ContinuedInput(std::string beginning, std::optional<char> rest = std::nullopt)
+        : m_piece(std::move(beginning)), m_rest(rest) {
+        show();
+    }
 
     /// How much has been taken of it.
     std::size_t given = 0;
@@ -16,14 +21,16 @@ class EndlessInput final : public std::streambuf {
   private:
     void show() { setg(m_piece.data(), m_piece.data(), m_piece.data() + m_piece.size()); }
     int_type underflow() override {
+        if (!m_rest)
+            throw 5;
         given += m_piece.size();
-        m_piece.assign(5000, m_rest);
+        m_piece.assign(5000, *m_rest);
         show();
-        return traits_type::to_int_type(m_rest);
+        return traits_type::to_int_type(*m_rest);
     }
 
     std::string m_piece;
-    char m_rest;
+    std::optional<char> m_rest;
 };
 
 /// An input that has no buffer and never tells how much it has, like that of a pipe shared with C.
@@ -43,19 +50,6 @@ class UnbufferedInput final : public std::streambuf {
 
     std::string m_text;
     std::size_t m_at = 0;
-};
-
-/// An input that breaks after its text, as a folder or a failing disk does.
-class BreakingInput final : public std::streambuf {
-  public:
-    explicit BreakingInput(std::string text) : m_text(std::move(text)) {
-        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
-    }
-
-  private:
-    int_type underflow() override { throw 5; }
-
-    std::string m_text;
 };
 
 /// An output that counts how often it is told to pass on what it has, and takes no more than a number of bytes.

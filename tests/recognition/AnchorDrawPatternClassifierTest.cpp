@@ -6,6 +6,7 @@
 #include <limits>
 #include <numbers>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace kinesta::testing {
@@ -39,15 +40,9 @@ Path arc(double radius, double turns) {
     return path;
 }
 
-struct PathCase {
-    const char* name;
-    Path path;
-    const char* pattern;
-};
-
-void expectPatterns(const std::vector<PathCase>& cases) {
-    for (const PathCase& c : cases)
-        EXPECT_EQ(patternOf(c.path), c.pattern) << c.name;
+void expectPatterns(const std::vector<std::tuple<const char*, Path, const char*>>& cases) {
+    for (const auto& [name, path, pattern] : cases)
+        EXPECT_EQ(patternOf(path), pattern) << name;
 }
 
 TEST(AnchorDrawPatternClassifier, Lines) {

@@ -4,6 +4,8 @@
 
 #include <limits>
 #include <string>
+#include <tuple>
+#include <vector>
 
 namespace kinesta::testing {
 namespace {
@@ -12,17 +14,19 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(CornerPalmRejectionSettings, SensitivityMakesTheInset) {
-    for (const auto& [sensitivity, inset] : {std::pair(0.5, 0.105),
-                                             {1.0, 0.18},
-                                             {2.0, 0.18},
-                                             {0.0, 0.03},
-                                             {-3.0, 0.03},
-                                             {kNaN, 0.105},
-                                             {kInfinity, 0.105},
-                                             {-kInfinity, 0.105}})
+    const std::vector<std::tuple<double, double, double>> rows{{0.5, 0.5, 0.105},
+                                                               {1, 1, 0.18},
+                                                               {2, 1, 0.18},
+                                                               {0.7, 0.7, 0.135},
+                                                               {0, 0, 0.03},
+                                                               {-3, 0, 0.03},
+                                                               {kNaN, 0.5, 0.105},
+                                                               {kInfinity, 0.5, 0.105},
+                                                               {-kInfinity, 0.5, 0.105}};
+    for (const auto& [sensitivity, clamped, inset] : rows) {
+        EXPECT_EQ(CornerPalmRejectionSettings::clampedSensitivity(sensitivity), clamped) << sensitivity;
         EXPECT_DOUBLE_EQ((CornerPalmRejectionSettings{true, sensitivity}.cornerInset()), inset) << sensitivity;
-    for (const auto& [value, clamped] : {std::pair(-2.0, 0.0), {3.0, 1.0}, {0.7, 0.7}, {kNaN, 0.5}, {-kInfinity, 0.5}})
-        EXPECT_EQ(CornerPalmRejectionSettings::clampedSensitivity(value), clamped) << value;
+    }
 }
 
 TEST(CornerPalmRejectionSettings, CornersAreSquaresWithTheirEdges) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "recognition/FrameRecognition.h"
@@ -9,8 +10,6 @@
 #include "support/PadScript.h"
 
 namespace kinesta::testing {
-
-using Texts = std::vector<std::string>;
 
 inline std::string text(const TapSequence& s) {
     return std::to_string(s.fingers) + " fingers x" + std::to_string(s.taps);
@@ -28,18 +27,17 @@ inline std::string text(const AnchorDrawEvent& e) {
     return std::string(rawValue(e.corner)) + " " + std::string(rawValue(e.pattern));
 }
 inline std::string text(const PhysicalClickSequence& s) {
-    return std::to_string(s.fingers) + " fingers x" + std::to_string(s.clicks) + " " +
-           (s.pressure ? std::string(rawValue(*s.pressure)) : "any");
+    return text(TapSequence{s.fingers, s.clicks}) + " " + (s.pressure ? std::string(rawValue(*s.pressure)) : "any");
 }
 template <typename T>
 std::string text(const std::optional<T>& value) {
     return value ? text(*value) : "nothing";
 }
 
-/// What a recognizer says of a script's frames; the frames without a result are left out.
+/// What a recognizer says of a script's frames, joined by "; "; the frames without a result are left out.
 template <typename Recognizer>
-Texts run(Recognizer& recognizer, const PadScript& script, bool isReversed = false) {
-    Texts results;
+std::string run(Recognizer& recognizer, const PadScript& script, bool isReversed = false) {
+    std::string results;
     for (const RecordingEvent& event : script.events()) {
         TouchSamples samples = std::get<RecordedFrame>(event.content).samples;
         if (isReversed)
@@ -51,28 +49,19 @@ Texts run(Recognizer& recognizer, const PadScript& script, bool isReversed = fal
                 return recognizer.process(samples);
         }();
         if (result)
-            results.push_back(text(*result));
+            results += (results.empty() ? "" : "; ") + text(*result);
     }
     return results;
 }
 
-/// A script and what a fresh recognizer makes of it.
-struct Case {
-    const char* name;
-    PadScript script;
-    Texts results;
-};
-
-/// In whatever order the driver lists the fingers of a frame.
+/// What each script is called and what a fresh recognizer makes of it, in whatever order the driver lists the fingers.
 template <typename Recognizer>
-void expectResults(const std::vector<Case>& cases) {
-    for (const Case& c : cases) {
+void expectResults(const std::vector<std::tuple<const char*, PadScript, const char*>>& cases) {
+    for (const auto& [name, script, results] : cases)
         for (const bool isReversed : {false, true}) {
             Recognizer recognizer;
-            EXPECT_EQ(run(recognizer, c.script, isReversed), c.results)
-                << c.name << (isReversed ? ", the last finger first" : "");
+            EXPECT_EQ(run(recognizer, script, isReversed), results) << name << (isReversed ? ", reversed" : "");
         }
-    }
 }
 
 }  // namespace kinesta::testing

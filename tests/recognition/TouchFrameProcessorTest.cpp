@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <functional>
 #include <limits>
-#include <thread>
 
 #include "RecognizerRuns.h"
 
@@ -39,17 +38,6 @@ TEST(TouchFrameProcessor, WhatIsOfAnOlderGenerationIsVoid) {
     }
 }
 
-TEST(TouchFrameProcessor, TheTapIntervalOutlivesAResetAndIsNotTheClicks) {
-    TouchFrameProcessor processor;
-    processor.setMaximumTapInterval(0.4);
-    processor.reset();
-    EXPECT_EQ(processor.maximumTapInterval(), 0.4);
-    EXPECT_EQ(processor.maximumTipTapInterval(), 0.4);
-    EXPECT_EQ(processor.maximumClickInterval(), 0.25);
-    tap(processor, 1);
-    EXPECT_EQ(text(tap(processor, 1.39).tapSequence), "2 fingers x2");
-}
-
 TEST(TouchFrameProcessor, BearsWhateverADriverMaySend) {
     constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
     TouchFrameProcessor processor;
@@ -68,37 +56,6 @@ TEST(TouchFrameProcessor, BearsWhateverADriverMaySend) {
     processor.process(TouchSamples{{1, {kNaN, 1e308}}, {2, {-1e308, kNaN}}}, 2, 2);
     EXPECT_EQ(text(processor.process({}, 2.1, 2.1).tapSequence), "nothing") << "in a corner, as far as can be told";
     EXPECT_EQ(text(tap(processor, 3).tapSequence), "2 fingers x1") << "all is well again";
-}
-
-TEST(TouchFrameProcessor, FramesAndEverythingElseMayComeFromTwoThreads) {
-    TouchFrameProcessor processor;
-    std::atomic<bool> isDone = false;
-    std::thread driver([&] {
-        for (Seconds time = 0; !isDone; time += 0.5)
-            tap(processor, time, 3);
-    });
-    std::uint64_t generation = 0;
-    int clicks = 0;
-    for (int i = 0; i < 2000 || clicks == 0; ++i) {
-        processor.beginPhysicalClick(0);
-        processor.registerPressureStage(2);
-        if (const auto click = processor.completePhysicalClick(i)) {
-            EXPECT_GE(click->generation, generation);
-            generation = click->generation;
-            processor.finalizePhysicalClick(click->sequence, click->generation);
-            ++clicks;
-        }
-        processor.finalize({3, 1}, generation);
-        processor.setMaximumTapInterval(i % 2 == 0 ? 0.15 : 0.4);
-        if (i % 100 == 0)
-            processor.setCornerPalmRejection({.isEnabled = i % 200 == 0});
-        if (i % 150 == 0)
-            processor.reset();
-    }
-    isDone = true;
-    driver.join();
-    processor.reset();
-    EXPECT_EQ(text(tap(processor, 1).tapSequence), "2 fingers x1");
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <regex>
 #include <string>
 
 #include "RuleMaking.h"
 #include "rules/GestureRuleCoding.h"
+#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {
@@ -77,27 +79,21 @@ TEST(RuleCoding, ReadsWhatOthersMayWrite) {
     const auto plain = decodeRules(listOf(kRule));
     ASSERT_TRUE(plain) << plain.error().message;
     // Each of these is the same list in other words.
-    const std::vector<std::string> same{
-        "\xEF\xBB\xBF" + listOf(kRule),
-        " \t\r\n" + listOf(kRule) + "\r\n ",
-        listOf(replaced(kRule, kId, "11111111-2222-4333-8444-aaaaaaaaaaaa")),
-        listOf(replaced(kRule, "3,", "3.0,")),
-        listOf(replaced(kRule, "3,", "0.3e1,")),
-        listOf(replaced(kRule, "\"modifiers\": 0", "\"modifiers\": -0.0")),
-        listOf(replaced(kRule, "Close", "\\u0043lose")),
-        listOf(replaced(kRule, "\"isEnabled\"", "\"name\": \"earlier\", \"isEnabled\"")),
-        listOf(replaced(
-            kRule, "\"action\"",
-            "\"action\": {\"kind\": \"openURL\", \"modifiers\": 9, \"value\": \"x\", \"customCueLabel\": \"x\"}, "
-            "\"action\"")),
-        listOf(replaced(kRule, "\"isEnabled\"", R"("id2": {"id": 7, "x": [{"kind": {}}]}, "kind": null, "isEnabled")")),
-        listOf(replaced(kRule, "\"modifiers\"", R"("name": 5, "action": {"kind": 1}, "modifiers")")),
-        listOf(replaced(kRule, "\"isEnabled\"",
-                        R"("edgeSlideSide": null, "anchorCorner": null, "drawPattern": null, "showsActionCue": null,)"
-                        R"("isEnabled")")),
-        listOf(replaced(kRule, "\"modifiers\"",
-                        R"("customCueLabel": null, "shellCommandAcknowledged": null, "modifiers")")),
-    };
+    std::vector<std::string> same{"\xEF\xBB\xBF" + listOf(kRule), " \t\r\n" + listOf(kRule) + "\r\n "};
+    for (const auto& row : tableRows(R"(
+11111111-2222-4333-8444-AAAAAAAAAAAA => 11111111-2222-4333-8444-aaaaaaaaaaaa
+3, => 3.0,
+3, => 0.3e1,
+"modifiers": 0 => "modifiers": -0.0
+Close => \u0043lose
+"isEnabled" => "name": "earlier", "isEnabled"
+"action" => "action": {"kind": "openURL", "modifiers": 9, "value": "x", "customCueLabel": "x"}, "action"
+"isEnabled" => "id2": {"id": 7, "x": [{"kind": {}}]}, "kind": null, "isEnabled"
+"modifiers" => "name": 5, "action": {"kind": 1}, "modifiers"
+"isEnabled" => "edgeSlideSide": null, "anchorCorner": null, "drawPattern": null, "showsActionCue": null, "isEnabled"
+"modifiers" => "customCueLabel": null, "shellCommandAcknowledged": null, "modifiers"
+)"))
+        same.push_back(listOf(replaced(kRule, row[0], row[1])));
     for (const std::string& json : same) {
         const auto decoded = decodeRules(json);
         ASSERT_TRUE(decoded) << decoded.error().message << "\n" << json;
@@ -134,50 +130,41 @@ TEST(RuleCoding, IntegersAreTakenUpToTheirBounds) {
 }
 
 TEST(RuleCoding, SaysWhereAndWhy) {
-    struct Case {
-        std::string from;
-        std::string to;
-        int line;
-        std::string message;
-    };
     const auto spoilt = [](const std::string& from, const std::string& to) {
         return messageOf("[\n" + kRule + ",\n\n" + replaced(kRule, from, to) + "]");
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {kId, "123", 11, R"("id" is "123", which is not a UUID)"},
-             {"true", "1", 11, R"("isEnabled" is 1, which is not true or false)"},
-             {"\"isEnabled\": true,", "", 10, R"("isEnabled" is missing; expected true or false)"},
-             {"singleTap", "singleTapp", 12, R"("gesture" is "singleTapp", which is not a gesture)"},
-             {"3,", "\n99999999999999999999\n,", 13,
-              R"("fingerCount" is 99999999999999999999, which is not a whole number of 64 bits)"},
-             {"3,", R"(3, "edgeSlideSide": "up",)", 12, R"("edgeSlideSide" is "up", which is not left, right or both)"},
-             {"3,", R"(3, "anchorCorner": 0,)", 12,
-              R"("anchorCorner" is 0, which is not topLeft, topRight, bottomLeft or bottomRight)"},
-             {"3,", R"(3, "drawPattern": [],)", 12, R"("drawPattern" is a list, which is not a pattern to draw)"},
-             {"3,", R"(3, "showsActionCue": 0,)", 12, R"("showsActionCue" is 0, which is not true or false)"},
-             {"\"action\": {", "\"action\": null, \"x\": {", 13, R"("action" is null, which is not an object)"},
-             {"\"action\"", "\"Action\"", 10, R"("action" is missing; expected an object)"},
-             {"launchApplication", "launch", 13, R"("action.kind" is "launch", which is not a kind of action)"},
-             {"\"kind\": \"launchApplication\",", "", 13, R"("action.kind" is missing; expected a kind of action)"},
-             {"\"kind\": \"launchApplication\",", "\"x\": {\"kind\": \"openURL\"},", 13,
-              R"("action.kind" is missing; expected a kind of action)"},
-             {"\"isEnabled\": true,", "\"x\": [{\"isEnabled\": true}],", 10,
-              R"("isEnabled" is missing; expected true or false)"},
-             {"\"modifiers\": 0", "\"modifiers\": \"0\"", 14,
-              R"("action.modifiers" is "0", which is not a whole number of 64 bits)"},
-             {"\"modifiers\": 0,", "", 13, R"("action.modifiers" is missing; expected a whole number of 64 bits)"},
-             {"\"value\": \"\"", "\"value\": {}", 14, R"("action.value" is an object, which is not text)"},
-             {"\"keyCode\": 5", "\"keyCode\": -1", 14,
-              R"("action.keyCode" is -1, which is not a whole number from 0 to 65535)"},
-             {"[\"-a\", \"b\"]", "\"-a\"", 15,
-              R"("action.applicationArguments" is "-a", which is not a list of texts)"},
-             {"\"b\"]", "\n[1]]", 16, R"(entry 2 of "action.applicationArguments" is a list, which is not text)"},
-             {"\"value\"", "\"customCueLabel\": 4, \"value\"", 14,
-              R"("action.customCueLabel" is 4, which is not text)"},
-             {"\"value\"", "\"shellCommandAcknowledged\": \"yes\", \"value\"", 14,
-              R"("action.shellCommandAcknowledged" is "yes", which is not true or false)"},
-         })
-        EXPECT_EQ(spoilt(c.from, c.to), "line " + std::to_string(c.line) + ": rule 2 \"Close tab\": " + c.message);
+    // What is replaced by what, where "¶" is a line break; the line and the message.
+    for (const auto& row : tableRows(R"(
+11111111-2222-4333-8444-AAAAAAAAAAAA => 123 => 11: "id" is "123", which is not a UUID
+true => 1 => 11: "isEnabled" is 1, which is not true or false
+"isEnabled": true, =>  => 10: "isEnabled" is missing; expected true or false
+"isEnabled": true, => "x": [{"isEnabled": true}], => 10: "isEnabled" is missing; expected true or false
+singleTap => singleTapp => 12: "gesture" is "singleTapp", which is not a gesture
+3, => ¶99999999999999999999¶, => 13: "fingerCount" is 99999999999999999999, which is not a whole number of 64 bits
+3, => 3, "edgeSlideSide": "up", => 12: "edgeSlideSide" is "up", which is not left, right or both
+3, => 3, "anchorCorner": 0, => 12: "anchorCorner" is 0, which is not topLeft, topRight, bottomLeft or bottomRight
+3, => 3, "drawPattern": [], => 12: "drawPattern" is a list, which is not a pattern to draw
+3, => 3, "showsActionCue": 0, => 12: "showsActionCue" is 0, which is not true or false
+"action": { => "action": null, "x": { => 13: "action" is null, which is not an object
+"action" => "Action" => 10: "action" is missing; expected an object
+launchApplication => launch => 13: "action.kind" is "launch", which is not a kind of action
+"kind": "launchApplication", =>  => 13: "action.kind" is missing; expected a kind of action
+"kind": "launchApplication", => "x": {"kind": "openURL"}, => 13: "action.kind" is missing; expected a kind of action
+"modifiers": 0 => "modifiers": "0" => 14: "action.modifiers" is "0", which is not a whole number of 64 bits
+"modifiers": 0, =>  => 13: "action.modifiers" is missing; expected a whole number of 64 bits
+"value": "" => "value": {} => 14: "action.value" is an object, which is not text
+"keyCode": 5 => "keyCode": -1 => 14: "action.keyCode" is -1, which is not a whole number from 0 to 65535
+["-a", "b"] => "-a" => 15: "action.applicationArguments" is "-a", which is not a list of texts
+"b"] => ¶[1]] => 16: entry 2 of "action.applicationArguments" is a list, which is not text
+"value" => "customCueLabel": 4, "value" => 14: "action.customCueLabel" is 4, which is not text
+"value" => "shellCommandAcknowledged": 1, "value" => 14: "action.shellCommandAcknowledged" is 1, which is not true or false
+)",
+                                     3)) {
+        const std::size_t colon = row[2].find(": ");
+        EXPECT_EQ(spoilt(row[0], std::regex_replace(row[1], std::regex("¶"), "\n")),
+                  "line " + row[2].substr(0, colon) + ": rule 2 \"Close tab\"" + row[2].substr(colon))
+            << row[1];
+    }
     for (const auto& [from, to, message] : std::initializer_list<std::array<std::string, 3>>{
              {"\"Close tab\"", "[[{}]]", R"(line 16: rule 2: "name" is a list, which is not text)"},
              {",\n\"name\": \"Close tab\"", "", R"(line 10: rule 2: "name" is missing; expected text)"},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <random>
@@ -22,18 +23,43 @@ inline GestureRule makeRule(GestureKind gesture, std::optional<std::int64_t> fin
     return rule;
 }
 
-/// Random rules, the same ones for the same seed; few different values, so that rules often have them in common.
+inline GestureRule makeSlide(std::optional<std::int64_t> fingers, std::optional<EdgeSlideSide> side) {
+    GestureRule rule = makeRule(GestureKind::edgeSlide, fingers, ActionKind::adjustVolume);
+    rule.edgeSlideSide = side;
+    return rule;
+}
+
+inline GestureRule makeDrawing(std::optional<AnchorCorner> corner, std::optional<DrawPattern> pattern) {
+    GestureRule rule = makeRule(GestureKind::anchorDraw);
+    rule.anchorCorner = corner;
+    rule.drawPattern = pattern;
+    return rule;
+}
+
+inline GestureRule makeShellCommand(std::optional<bool> acknowledged) {
+    GestureRule rule = makeRule(GestureKind::singleTap, 3, ActionKind::shellCommand);
+    rule.action.value = "ls";
+    rule.action.shellCommandAcknowledged = acknowledged;
+    return rule;
+}
+
+inline GestureRule disabled(GestureRule rule) {
+    rule.isEnabled = false;
+    return rule;
+}
+
+/// Random rules, the same ones for the same seed.
 class RandomRules {
   public:
     explicit RandomRules(std::uint32_t seed) : m_random(seed) {}
 
     std::vector<GestureRule> list(std::size_t length) {
         std::vector<GestureRule> rules(length);
-        for (GestureRule& rule : rules)
-            rule = next();
+        std::ranges::generate(rules, [this] { return next(); });
         return rules;
     }
 
+  private:
     GestureRule next() {
         GestureRule rule;
         for (std::uint8_t& byte : rule.id.bytes)
@@ -43,8 +69,8 @@ class RandomRules {
         rule.fingerCount = maybe([&] { return std::int64_t{2} + below(2); });
         rule.gesture = anyOf<GestureKind>();
         rule.edgeSlideSide = maybe([&] { return anyOf<EdgeSlideSide>(); });
-        rule.anchorCorner = maybe([&] { return static_cast<AnchorCorner>(below(2)); });
-        rule.drawPattern = maybe([&] { return static_cast<DrawPattern>(below(2)); });
+        rule.anchorCorner = maybe([&] { return anyOf<AnchorCorner>(); });
+        rule.drawPattern = maybe([&] { return anyOf<DrawPattern>(); });
         rule.showsActionCue = maybe([&] { return below(2) == 0; });
         rule.action.kind = anyOf<ActionKind>();
         rule.action.keyCode = maybe([&] { return static_cast<std::uint16_t>(below(65536)); });
@@ -60,7 +86,6 @@ class RandomRules {
         return std::uniform_int_distribution<std::uint32_t>(0, bound - 1)(m_random);
     }
 
-  private:
     template <typename Make>
     auto maybe(Make make) -> std::optional<decltype(make())> {
         return below(3) == 0 ? std::nullopt : std::optional(make());

@@ -3,8 +3,6 @@
 #include <set>
 
 #include "RuleMaking.h"
-#include "rules/ShellCommandSettings.h"
-#include "support/FakeUserDefaults.h"
 
 namespace kinesta {
 namespace {
@@ -47,25 +45,30 @@ TEST(Uuid, ParsesEitherCaseAndNothingElse) {
 }
 
 TEST(GestureAction, IsConfiguredWhenItsKindHasWhatItNeeds) {
-    for (const auto& row : enumTable<ActionKind>()) {
-        SCOPED_TRACE(row.rawValue);
-        const bool isShell = row.value == ActionKind::shellCommand;
-        const bool needsKey = row.value == ActionKind::keyboardShortcut;
-        const bool needsValue = isShell || row.value == ActionKind::openURL ||
-                                row.value == ActionKind::openFileOrFolder || row.value == ActionKind::launchApplication;
-        GestureAction action = makeAction(row.value);
-        EXPECT_EQ(action.isConfigured(), !needsKey && !needsValue && row.value != ActionKind::unconfigured);
-        action.keyCode = 0;
-        action.value = " \t\n\u00A0\u2028";
-        action.shellCommandAcknowledged = true;
-        EXPECT_EQ(action.isConfigured(), !needsValue && row.value != ActionKind::unconfigured);
-        action.value = " ls\n";
-        EXPECT_EQ(action.isConfigured(), row.value != ActionKind::unconfigured);
-        action.shellCommandAcknowledged = false;
-        EXPECT_EQ(action.isConfigured(), !isShell && row.value != ActionKind::unconfigured);
-        action.shellCommandAcknowledged.reset();
-        EXPECT_EQ(action.isConfigured(), !isShell && row.value != ActionKind::unconfigured);
-    }
+    GestureAction withKey, withBlanks, withValue, refused, acknowledged;
+    withKey.keyCode = 0;
+    withBlanks.value = " \t\n\u00A0\u2028";
+    withBlanks.shellCommandAcknowledged = true;
+    withValue.value = " ls\n";
+    refused = acknowledged = withValue;
+    refused.shellCommandAcknowledged = false;
+    acknowledged.shellCommandAcknowledged = true;
+    const auto configuredKinds = [](GestureAction action) {
+        std::string kinds;
+        for (const auto& row : enumTable<ActionKind>())
+            if (action.kind = row.value; action.isConfigured())
+                kinds.append(row.rawValue).append(" ");
+        return kinds;
+    };
+    const std::string always = "middleClick closeWindow ";
+    const std::string own = "toggleConfigurationWindow disableAllRules adjustVolume ";
+    const std::string valued = always + "openURL openFileOrFolder launchApplication ";
+    EXPECT_EQ(configuredKinds({}), always + own);
+    EXPECT_EQ(configuredKinds(withKey), "keyboardShortcut " + always + own);
+    EXPECT_EQ(configuredKinds(withBlanks), always + own);
+    EXPECT_EQ(configuredKinds(withValue), valued + own);
+    EXPECT_EQ(configuredKinds(refused), valued + own);
+    EXPECT_EQ(configuredKinds(acknowledged), valued + "shellCommand " + own);
 }
 
 TEST(GestureAction, SummarySaysWhatItDoes) {
@@ -84,13 +87,10 @@ TEST(GestureAction, SummarySaysWhatItDoes) {
     EXPECT_EQ(shortcut.summary(), "⇧⌘A");
 }
 
-TEST(GestureAction, ArgumentsLoseOnlyTheEmptyOnes) {
-    GestureAction launch = makeAction(ActionKind::launchApplication, "/Applications/A.app");
-    EXPECT_EQ(launch.resolvedApplicationArguments(), std::vector<std::string>{});
-    launch.applicationArguments = {"", "-a", " ", ""};
-    EXPECT_EQ(launch.resolvedApplicationArguments(), (std::vector<std::string>{"-a", " "}));
-    launch.kind = ActionKind::openURL;
-    EXPECT_EQ(launch.resolvedApplicationArguments(), std::vector<std::string>{});
+TEST(GestureAction, OnlyALaunchHasArguments) {
+    GestureAction action = makeAction(ActionKind::openURL, "https://a");
+    action.applicationArguments = {"-a"};
+    EXPECT_EQ(action.resolvedApplicationArguments(), std::vector<std::string>{});
 }
 
 TEST(GestureAction, CueNamesAShortcutByPresetThenLabelThenKeys) {
@@ -150,20 +150,6 @@ TEST(GestureRule, RecommendedDefaultIsOneRuleForTheWholeRun) {
     expected.name = "Middle click";
     EXPECT_EQ(rule, expected);
     EXPECT_TRUE(rule.isReady());
-}
-
-TEST(ShellCommandSettings, OnlyAShellCommandNeedsTheSwitch) {
-    FakeUserDefaults defaults;
-    const auto permits = [&](ActionKind kind) { return ShellCommandSettings::permits(makeAction(kind), defaults); };
-    EXPECT_FALSE(permits(ActionKind::shellCommand));
-    EXPECT_TRUE(permits(ActionKind::openURL));
-    defaults.setString("shellCommandActionsEnabled.v1", "true");
-    EXPECT_FALSE(permits(ActionKind::shellCommand)) << "a text is no switch";
-    defaults.setBoolean("shellCommandActionsEnabled.v1", true);
-    EXPECT_TRUE(permits(ActionKind::shellCommand));
-    defaults.setBoolean("shellCommandActionsEnabled.v1", false);
-    EXPECT_FALSE(permits(ActionKind::shellCommand));
-    EXPECT_TRUE(permits(ActionKind::middleClick));
 }
 
 }  // namespace

@@ -36,42 +36,31 @@ TEST(ShortcutKey, NamesAreDistinctAndInSearchOrder) {
 
 TEST(ShortcutKey, LabelsNameModifiersInOneOrder) {
     const std::vector<std::tuple<std::uint16_t, ShortcutModifiers, std::string>> cases{
-        {6, kCommand | kShift, "⇧⌘Z"},
-        {48, kControl | kShift, "⌃⇧Tab"},
-        {123, kControl | kFunction, "fn ⌃Left"},
-        {14, kFunction, "fn E"},
-        {49, {}, "Space"},
         {47, kCommand, "⌘Key 47"},
         {0, kAll, "fn ⌃⌥⇧⌘A"},
         {0, ShortcutModifiers{32}, "A"},
         {0, ShortcutModifiers{-1}, "fn ⌃⌥⇧⌘A"},
-        {9, kCommand | kOption, "⌥⌘V"},
     };
     for (const auto& [code, modifiers, expected] : cases)
         EXPECT_EQ(ShortcutKey::label(code, modifiers), expected);
 }
 
 TEST(ShortcutKey, FlagsAndTheFunctionKey) {
-    struct Case {
-        std::uint16_t code;
-        ShortcutModifiers modifiers;
-        std::uint64_t flags;
-        bool pressesFunction;
+    const std::vector<std::tuple<std::uint16_t, ShortcutModifiers, std::uint64_t, bool>> rows{
+        {6, {}, 0, false},
+        {6, kCommand | kShift, 0x120000, false},
+        {6, kAll, 0x9E0000, false},
+        {123, kControl | kFunction, 0xA40000, true},
+        {14, kFunction, 0x800000, false},
+        {122, kFunction, 0x800000, false},
+        {123, {}, 0x200000, false},
+        {126, kFunction, 0xA00000, true},
+        {127, kFunction, 0x800000, false},
+        {6, ShortcutModifiers{32}, 0, false},
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {6, {}, 0, false},
-             {6, kCommand | kShift, 0x120000, false},
-             {6, kAll, 0x9E0000, false},
-             {123, kControl | kFunction, 0xA40000, true},
-             {14, kFunction, 0x800000, false},
-             {122, kFunction, 0x800000, false},
-             {123, {}, 0x200000, false},
-             {126, kFunction, 0xA00000, true},
-             {127, kFunction, 0x800000, false},
-             {6, ShortcutModifiers{32}, 0, false},
-         }) {
-        EXPECT_EQ(ShortcutKey::eventFlags(c.code, c.modifiers), c.flags) << c.code;
-        EXPECT_EQ(ShortcutKey::requiresFunctionKeyTransition(c.code, c.modifiers), c.pressesFunction) << c.code;
+    for (const auto& [code, modifiers, flags, pressesFunction] : rows) {
+        EXPECT_EQ(ShortcutKey::eventFlags(code, modifiers), flags) << code;
+        EXPECT_EQ(ShortcutKey::requiresFunctionKeyTransition(code, modifiers), pressesFunction) << code;
     }
 }
 

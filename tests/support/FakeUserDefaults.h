@@ -7,6 +7,8 @@ namespace kinesta {
 /// Settings in memory that count what is written to them.
 class FakeUserDefaults final : public InMemoryUserDefaults {
   public:
+    using InMemoryUserDefaults::replaceValues;
+
     /// Stores and removals so far.
     int writes = 0;
 

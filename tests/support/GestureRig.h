@@ -1,35 +1,19 @@
 #pragma once
 
 #include <optional>
-#include <ostream>
+#include <sstream>
 #include <string>
-#include <vector>
 
 #include "recognition/MultitouchService.h"
 #include "support/FakeContactProvider.h"
 #include "support/FakePointerEvents.h"
 #include "support/FakeUserDefaults.h"
+#include "support/NumberText.h"
 #include "support/PadScript.h"
 #include "support/VirtualClock.h"
 #include "support/VirtualMainThread.h"
 
 namespace kinesta::testing {
-
-/// A finished gesture and when it was delivered: {0.37, "singleTap", 2}, {0.5, "edgeSlide", 2, "left -1"},
-/// {2.1, "anchorDraw", 0, "topLeft lineUp"}.
-struct PlayedGesture {
-    Seconds time = 0;
-    std::string gesture;
-    int fingers = 0;
-    std::string detail = {};
-
-    friend bool operator==(const PlayedGesture&, const PlayedGesture&) = default;
-    friend std::ostream& operator<<(std::ostream& out, const PlayedGesture& g) {
-        return out << "{" << g.time << ", \"" << g.gesture << "\", " << g.fingers << ", \"" << g.detail << "\"}";
-    }
-};
-
-using Gestures = std::vector<PlayedGesture>;
 
 /// The multitouch service among fakes, in virtual time, and what it has delivered.
 struct GestureRig {
@@ -38,18 +22,20 @@ struct GestureRig {
     FakePointerEvents pointer;
     VirtualMainThread mainThread;
     VirtualClock clock{mainThread};
-    Gestures gestures;
+    /// Each with its time, joined by "; ": "0.37 singleTap of 2", "0.5 edgeSlide of 2 left -1",
+    /// "2.1 anchorDraw topLeft lineUp".
+    std::string gestures;
     std::optional<MultitouchService> service;
 
     /// Makes the service, as at the start of the application.
     MultitouchService& launch() {
         service.emplace(defaults, provider, pointer, mainThread, clock);
-        service->onTap = [this](int fingers, GestureKind kind) { add(std::string(rawValue(kind)), fingers); };
+        service->onTap = [this](int fingers, GestureKind kind) { add(rawValue(kind), " of ", fingers); };
         service->onEdgeSlide = [this](int fingers, EdgeSlideSide side, std::int64_t steps) {
-            add("edgeSlide", fingers, std::string(rawValue(side)) + (steps > 0 ? " +" : " ") + std::to_string(steps));
+            add("edgeSlide of ", fingers, " ", rawValue(side), steps > 0 ? " +" : " ", steps);
         };
         service->onAnchorDraw = [this](AnchorCorner corner, DrawPattern pattern) {
-            add("anchorDraw", 0, std::string(rawValue(corner)) + " " + std::string(rawValue(pattern)));
+            add("anchorDraw ", rawValue(corner), " ", rawValue(pattern));
         };
         service->startIfEnabled();
         return *service;
@@ -65,7 +51,11 @@ struct GestureRig {
     }
     void runUntil(Seconds time) { mainThread.advanceTo(VirtualMainThread::Time(std::llround(time * 1e9))); }
 
-    /// Delivers an event and leaves what it posts for later.
+    /// Delivers what is given and leaves what that posts for later.
+    void send(const PadScript& script) {
+        for (const RecordingEvent& event : script.events())
+            send(event);
+    }
     void send(const RecordingEvent& event) {
         if (const auto* frame = std::get_if<RecordedFrame>(&event.content)) {
             clock.setUptime(frame->received.value_or(event.time));
@@ -82,8 +72,12 @@ struct GestureRig {
     }
 
   private:
-    void add(std::string gesture, int fingers, std::string detail = "") {
-        gestures.push_back({clock.wallClock(), std::move(gesture), fingers, std::move(detail)});
+    template <typename... Parts>
+    void add(const Parts&... parts) {
+        std::ostringstream text;
+        text << (gestures.empty() ? "" : "; ") << numberText(clock.wallClock()) << " ";
+        (text << ... << parts);
+        gestures += text.str();
     }
     void change(const RecordedSettings& settings) {
         if (settings.gesturesEnabled)
@@ -98,7 +92,7 @@ struct GestureRig {
 };
 
 /// All gestures of a script, played to its end and beyond.
-inline Gestures play(const PadScript& script) {
+inline std::string play(const PadScript& script) {
     GestureRig rig;
     rig.launch();
     rig.play(script);

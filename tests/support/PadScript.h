@@ -55,6 +55,13 @@ class PadScript {
     /// A frame like the one before.
     PadScript& hold() { return touch(); }
 
+    /// Moves a finger through places, one every 10 ms.
+    PadScript& through(ContactId id, std::initializer_list<Point> places) {
+        for (const Point place : places)
+            after(0.01).move(id, place);
+        return *this;
+    }
+
     /// Moves fingers together by `way` in frames of 8 ms; the last one is at the end of `duration` to the bit.
     PadScript& glide(const std::vector<ContactId>& ids, Point way, Seconds duration) {
         const Seconds start = m_time;

@@ -11,6 +11,12 @@
 
 namespace kinesta {
 
+inline void writeText(const std::string& path, std::string_view text) {
+    std::ofstream file(path, std::ios::binary);
+    file << text;
+    EXPECT_TRUE(file.flush()) << path;
+}
+
 /// A folder of a test's own, gone with everything in it at the end.
 class TemporaryFolder {
   public:
@@ -28,9 +34,7 @@ class TemporaryFolder {
 
     /// Writes a file in the folder and returns its path.
     std::string write(std::string_view name, std::string_view text) const {
-        std::ofstream file(m_path / name, std::ios::binary);
-        file << text;
-        EXPECT_TRUE(file.flush()) << name;
+        writeText(*this / name, text);
         return *this / name;
     }
 
@@ -42,12 +46,6 @@ inline std::string readText(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-inline void writeText(const std::string& path, std::string_view text) {
-    std::ofstream file(path, std::ios::binary);
-    file << text;
-    EXPECT_TRUE(file.flush()) << path;
 }
 
 }  // namespace kinesta

@@ -6,7 +6,6 @@
 #include <limits>
 #include <memory>
 #include <string>
-#include <thread>
 
 using namespace kinesta;
 using namespace std::chrono_literals;
@@ -107,23 +106,6 @@ TEST_F(VirtualMainThreadTest, timeEndsInsteadOfOverflowing) {
     thread.runRemaining();
     EXPECT_EQ(log.size(), 3u);
     EXPECT_EQ(log[2], "alsoEnd@9223372036854775807");
-}
-
-TEST_F(VirtualMainThreadTest, otherThreadsMayPostWhileItRuns) {
-    constexpr int kEach = 1000;
-    std::vector<int> counts(3, 0);
-    bool isInOrder = true;
-    std::vector<std::thread> posters;
-    for (std::size_t poster = 0; poster < counts.size(); ++poster)
-        posters.emplace_back([&, poster] {
-            for (int i = 0; i < kEach; ++i)
-                thread.post([&, poster, i] { isInOrder = counts[poster]++ == i && isInOrder; });
-        });
-    for (int time = 1; counts != std::vector<int>(3, kEach); ++time)
-        thread.advanceTo(std::chrono::nanoseconds(time));
-    for (auto& poster : posters)
-        poster.join();
-    EXPECT_TRUE(isInOrder);
 }
 
 TEST(VirtualMainThread, mayGoWhileTasksHoldHandlesOfEachOther) {
