@@ -102,14 +102,14 @@ TEST(MultitouchService, FollowsAProviderWhosePadComesAndGoesByItself) {
     EXPECT_TRUE(becomes(Status::unavailable("Gone.")));
     EXPECT_EQ(rig.pointer.monitorCount(), 0U);
     rig.mainThread.runRemaining();
-    EXPECT_EQ(rig.gestures, Gestures{}) << "what waited is not for a pad that is gone";
+    EXPECT_EQ(rig.gestures, "") << "what waited is not for a pad that is gone";
     EXPECT_TRUE(becomes(Status::unavailable("No permission.")));
     EXPECT_TRUE(becomes(Status::listening()));
     EXPECT_TRUE(becomes(Status::listening()));
     EXPECT_EQ(rig.pointer.monitorCount(), 2U);
     rig.play(PadScript().tap(5, 3));
     rig.mainThread.runRemaining();
-    EXPECT_EQ(rig.gestures.size(), 1U);
+    EXPECT_EQ(rig.gestures, "5.25 singleTap of 3");
     service.setGestureEnabled(false);
     EXPECT_FALSE(becomes(Status::listening())) << "too late: it is off";
 }
