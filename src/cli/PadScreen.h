@@ -21,7 +21,7 @@ class PadScreen {
     explicit PadScreen(const Console& console);
 
     void setTitle(std::string title, std::string detail);
-    /// Takes a frame or a press and draws, unless the last drawing was a moment ago.
+    /// Takes a frame or a press and draws; a mere movement only if the last drawing was more than a moment ago.
     void show(const RecordingEvent& event);
     /// Tells a gesture and what comes of it, both as they are shown.
     void tell(std::string gesture, std::string consequence);
@@ -36,6 +36,8 @@ class PadScreen {
     std::string m_detail;
     Seconds m_now = 0;
     Seconds m_drawnAt = -1e300;
+    std::size_t m_contactCount = 0;
+
     struct Told {
         std::string gesture;
         std::string consequence;

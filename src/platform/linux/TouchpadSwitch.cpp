@@ -40,8 +40,7 @@ TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
 }
 
 TouchpadSwitch::TouchpadSwitch(const Desktop& desktop)
-    : m_all(epoll_create1(EPOLL_CLOEXEC)), m_dconfDirectory(desktop.dconfDirectory) {
-    m_display = desktop.display;
+    : m_all(epoll_create1(EPOLL_CLOEXEC)), m_dconfDirectory(desktop.dconfDirectory), m_display(desktop.display) {
     connect();
     if (!m_dconfDirectory.empty()) {
         m_directory = FileDescriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
