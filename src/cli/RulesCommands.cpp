@@ -145,7 +145,7 @@ ExitStatus importRules(const Console& console, const std::filesystem::path& defa
     if (const Outcome written = writeOutputFile(copy.string(), before); !written)
         return console.fail(written.error().message + "\nNothing was changed.");
 
-    const std::size_t enabledInFile =
+    const auto enabledInFile =
         static_cast<std::size_t>(std::ranges::count_if(*rules, [](const auto& rule) { return rule.isEnabled; }));
     store.replaceRules(std::move(*rules));
     if (settings.status() != ExitStatus::success)

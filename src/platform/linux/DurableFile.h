@@ -17,6 +17,9 @@ class DurableFile {
     /// folder need not exist.
     static Result<DurableFile> at(std::string path);
 
+    /// Where it is, behind all links.
+    const std::string& path() const { return m_path; }
+
     /// The content, or nothing if there is no such file. Only a regular file can be read.
     Result<std::optional<std::string>> read() const;
 

@@ -9,6 +9,9 @@
 #include <cstdint>
 #include <filesystem>
 #include <system_error>
+#include <utility>
+
+#include "platform/linux/DurableFile.h"
 
 namespace kinesta {
 namespace {
@@ -29,9 +32,11 @@ void createFolder(const fs::path& folder) {
 
 }  // namespace
 
-FileWatcher::FileWatcher(MainThread& mainThread, const std::string& path, std::function<void()> onChange)
-    : m_path(path), m_notifications(::inotify_init1(IN_CLOEXEC)), m_stop(::eventfd(0, EFD_CLOEXEC)) {
-    m_isWatching = m_notifications && m_stop && watchFolders();
+FileWatcher::FileWatcher(MainThread& mainThread, std::string path, std::function<void()> onChange)
+    : m_path(std::move(path)),
+      m_notifications(::inotify_init1(IN_CLOEXEC)),
+      m_stop(::eventfd(0, EFD_CLOEXEC)),
+      m_isWatching(m_notifications && m_stop && watchFolders()) {
     if (!m_isWatching)
         return;
     m_thread = std::thread([this, &mainThread, onChange = std::move(onChange)] {
@@ -58,10 +63,8 @@ FileWatcher::~FileWatcher() {
 
 /// Watches the folders where the file is now; to watch one again changes nothing.
 bool FileWatcher::watchFolders() {
-    std::error_code ignored;
-    fs::path real = fs::weakly_canonical(m_path, ignored);
-    if (ignored)
-        real = m_path;
+    const auto target = DurableFile::at(m_path);
+    const fs::path real = target ? target->path() : m_path;
     const auto before = m_watches;
     m_watches.clear();
     m_names.clear();

@@ -15,7 +15,7 @@ namespace kinesta {
 /// leads to through symbolic links. They are created if need be, and watched anew when they or the links are replaced.
 class FileWatcher {
   public:
-    FileWatcher(MainThread& mainThread, const std::string& path, std::function<void()> onChange);
+    FileWatcher(MainThread& mainThread, std::string path, std::function<void()> onChange);
     ~FileWatcher();
     FileWatcher(const FileWatcher&) = delete;
     FileWatcher& operator=(const FileWatcher&) = delete;
@@ -30,10 +30,11 @@ class FileWatcher {
     std::string m_path;
     FileDescriptor m_notifications;
     FileDescriptor m_stop;
-    bool m_isWatching = false;
     // Of the thread, once it runs.
     std::set<int> m_watches;
     std::set<std::string> m_names;
+
+    bool m_isWatching;
     std::thread m_thread;
 };
 
