@@ -46,7 +46,9 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
         return std::make_unique<Event>([](auto) {});
     return std::make_unique<Event>([this, keyCode, transition](std::optional<std::uint64_t> flags) {
         const auto obstacle = obstacleToKey(keyCode, flags.value_or(0));
-        const auto code = obstacle ? std::nullopt : keyForShortcut(keyCode, flags.value_or(0));
+        std::optional<std::uint16_t> code;
+        if (!obstacle)
+            code = keyForShortcut(keyCode, flags.value_or(0));
         const auto settings = LinuxActionSettings::read(m_defaults);
         if (code && m_poster.canPost(*code)) {
             postKey(*code, transition,
