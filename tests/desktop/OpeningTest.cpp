@@ -31,7 +31,7 @@ struct Opening : ::testing::Test {
     TemporaryFolder folder;
     Words log;
     PosixProcessLauncher launcher;
-    SessionBus bus;
+    MessageBus bus;
     DesktopPortal portal{bus};
     XdgWorkspace workspace{launcher, portal, [] { return std::optional<ProcessIdentifier>(42); },
                            [this](const std::string& line) { log.push_back(line); }};

@@ -25,7 +25,7 @@ struct Permission : ::testing::Test {
     X11Connection connection;
     X11Keyboard keyboard{connection};
     X11InputPoster poster{connection, keyboard};
-    SessionBus bus;
+    MessageBus bus;
     DesktopNotifications notifications{bus};
     int asked = 0;
     DesktopPermission permission{poster, notifications, [this] { return "Do this & that " + std::to_string(++asked); }};
@@ -75,7 +75,7 @@ TEST_F(Permission, DoesNotWaitLongForABusThatHangs) {
     desktop.sessionBus().signal(SIGSTOP);
     const auto start = Clock::now();
     EXPECT_FALSE(permission.prompt());
-    EXPECT_LT(Clock::now() - start, 2 * SessionBus::kPatience);
+    EXPECT_LT(Clock::now() - start, 2 * MessageBus::kPatience);
     desktop.sessionBus().signal(SIGCONT);
     BusServices services;
     EXPECT_FALSE(permission.prompt());
@@ -98,7 +98,7 @@ TEST_F(Permission, DoesWithoutABusAndTakesUpWithTheNext) {
 TEST(DesktopFacts, AreWhatIsThere) {
     TestDesktop desktop({.hasWindowManager = true, .hasSessionBus = true});
     X11Connection connection;
-    SessionBus bus;
+    MessageBus bus;
     const auto probe = [&] { return DesktopFacts::probe(connection, bus, "/dev/null"); };
     DesktopFacts facts = probe();
     EXPECT_TRUE(facts.hasX && facts.hasXTest && facts.hasWindowManager && facts.hasSessionBus && facts.hasXdgOpen);

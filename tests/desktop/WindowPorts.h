@@ -82,7 +82,9 @@ class WindowPorts {
     Permission m_permission;
     Version m_version;
     FrontmostApplication m_workspace{desktop};
-    WindowAccessibility m_accessibility{desktop, tiler};
+    MessageBus m_bus;
+    AccessibilityBus m_programs{m_bus};
+    WindowAccessibility m_accessibility{desktop, tiler, m_programs};
     WindowOwnWindows m_ownWindows{desktop};
     WindowOwnMenus m_ownMenus{tiler};
 };

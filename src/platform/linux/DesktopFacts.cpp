@@ -53,7 +53,7 @@ bool answersWayland() {
     return connect(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-DesktopFacts DesktopFacts::probe(X11Connection& connection, SessionBus& bus, const std::string& uinputPath) {
+DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath) {
     DesktopFacts facts;
     facts.hasX = connection.answers();
     facts.hasXTest = facts.hasX && connection.canPostInput();

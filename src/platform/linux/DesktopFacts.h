@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/linux/LinuxActionSettings.h"
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/MessageBus.h"
 #include "platform/linux/X11Connection.h"
 
 namespace kinesta {
@@ -28,7 +28,7 @@ struct DesktopFacts {
     bool hasPortal = false;
 
     /// Looks around. Takes some milliseconds; up to some hundred if the bus hangs.
-    static DesktopFacts probe(X11Connection& connection, SessionBus& bus, const std::string& uinputPath);
+    static DesktopFacts probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath);
 };
 
 }  // namespace kinesta

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/MessageBus.h"
 
 namespace kinesta {
 
@@ -10,7 +10,7 @@ namespace kinesta {
 class DesktopNotifications {
   public:
     /// `bus` must outlive this.
-    explicit DesktopNotifications(SessionBus& bus) : m_bus(bus) {}
+    explicit DesktopNotifications(MessageBus& bus) : m_bus(bus) {}
     DesktopNotifications(const DesktopNotifications&) = delete;
     DesktopNotifications& operator=(const DesktopNotifications&) = delete;
 
@@ -21,7 +21,7 @@ class DesktopNotifications {
   private:
     static int handleAnswer(sd_bus_message* answer, void* self, sd_bus_error*);
 
-    SessionBus& m_bus;
+    MessageBus& m_bus;
     std::uint64_t m_generation = 0;
     std::uint32_t m_shown = 0;
     BusSlotPointer m_unanswered;

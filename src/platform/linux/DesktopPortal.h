@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/MessageBus.h"
 
 namespace kinesta {
 
@@ -11,13 +11,13 @@ namespace kinesta {
 class DesktopPortal {
   public:
     /// `bus` must outlive this.
-    explicit DesktopPortal(SessionBus& bus) : m_bus(bus) {}
+    explicit DesktopPortal(MessageBus& bus) : m_bus(bus) {}
 
     bool openURL(const std::string& url);
     bool openFile(const std::string& path);
 
   private:
-    SessionBus& m_bus;
+    MessageBus& m_bus;
 };
 
 }  // namespace kinesta

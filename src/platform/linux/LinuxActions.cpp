@@ -10,10 +10,10 @@
 #include "platform/linux/EwmhDesktop.h"
 #include "platform/linux/LinuxActionSettings.h"
 #include "platform/linux/LinuxSystemVersion.h"
+#include "platform/linux/MessageBus.h"
 #include "platform/linux/PosixHomeFolders.h"
 #include "platform/linux/PosixProcessLauncher.h"
 #include "platform/linux/PostingEventSynthesizer.h"
-#include "platform/linux/SessionBus.h"
 #include "platform/linux/SessionInputPoster.h"
 #include "platform/linux/UinputDevice.h"
 #include "platform/linux/WindowAccessibility.h"
@@ -60,14 +60,15 @@ struct LinuxActions::Parts {
     X11Connection connection;
     X11Keyboard keyboard{connection};
     XkbKeyboardLayout layout{keyboard};
-    SessionBus bus;
+    MessageBus bus;
     DesktopPortal portal{bus};
     PosixProcessLauncher launcher;
     SessionInputPoster poster;
     PostingEventSynthesizer events;
     EwmhDesktop desktop;
     WindowTiler tiler{desktop};
-    WindowAccessibility accessibility{desktop, tiler};
+    AccessibilityBus programs{bus};
+    WindowAccessibility accessibility{desktop, tiler, programs};
     WindowOwnWindows ownWindows{desktop};
     WindowOwnMenus ownMenus{tiler};
     XdgWorkspace workspace;

@@ -62,10 +62,20 @@ class CloseButtonElement : public WindowAccessibilityElement {
     EwmhWindowId m_window;
 };
 
+/// A dialog that a program draws inside its window.
+class SheetElement : public WindowAccessibilityElement {
+  public:
+    using WindowAccessibilityElement::WindowAccessibilityElement;
+
+    AccessibilityValue copyAttribute(std::string_view name) override {
+        return name == "AXRole" ? AccessibilityValue(std::string("AXSheet")) : AccessibilityFailure{};
+    }
+};
+
 class WindowElement : public WindowAccessibilityElement {
   public:
-    WindowElement(EwmhDesktop& desktop, EwmhWindowId window, Seconds timeout)
-        : WindowAccessibilityElement(timeout), m_desktop(desktop), m_window(window) {}
+    WindowElement(EwmhDesktop& desktop, AccessibilityBus& programs, EwmhWindowId window, Seconds timeout)
+        : WindowAccessibilityElement(timeout), m_desktop(desktop), m_programs(programs), m_window(window) {}
 
     AccessibilityValue copyAttribute(std::string_view name) override {
         if (name == "AXChildren")
@@ -91,11 +101,15 @@ class WindowElement : public WindowAccessibilityElement {
             return OtherAccessibilityValue{};
         AccessibilityList dialogs;
         for (const EwmhWindowId dialog : snapshot->modalDialogsOf(*window))
-            dialogs.items.push_back(std::make_unique<WindowElement>(m_desktop, dialog, timeout()));
+            dialogs.items.push_back(std::make_unique<WindowElement>(m_desktop, m_programs, dialog, timeout()));
+        if (dialogs.items.empty() && m_window == snapshot->activeWindow &&
+            m_programs.hasDialogInside(window->process, std::min(timeout(), AccessibilityBus::kTimeout)))
+            dialogs.items.push_back(std::make_unique<SheetElement>(timeout()));
         return dialogs;
     }
 
     EwmhDesktop& m_desktop;
+    AccessibilityBus& m_programs;
     EwmhWindowId m_window;
 };
 
@@ -144,8 +158,13 @@ class MenuBarElement : public WindowAccessibilityElement {
 
 class ApplicationElement : public WindowAccessibilityElement {
   public:
-    ApplicationElement(EwmhDesktop& desktop, WindowTiler& tiler, ProcessIdentifier application, Seconds timeout)
-        : WindowAccessibilityElement(timeout), m_desktop(desktop), m_tiler(tiler), m_application(application) {}
+    ApplicationElement(EwmhDesktop& desktop, WindowTiler& tiler, AccessibilityBus& programs,
+                       ProcessIdentifier application, Seconds timeout)
+        : WindowAccessibilityElement(timeout),
+          m_desktop(desktop),
+          m_tiler(tiler),
+          m_programs(programs),
+          m_application(application) {}
 
     AccessibilityValue copyAttribute(std::string_view name) override {
         if (name == "AXMenuBar")
@@ -170,18 +189,19 @@ class ApplicationElement : public WindowAccessibilityElement {
     }
 
     AccessibilityValue windowElement(EwmhWindowId window) {
-        return std::make_unique<WindowElement>(m_desktop, window, timeout());
+        return std::make_unique<WindowElement>(m_desktop, m_programs, window, timeout());
     }
 
     EwmhDesktop& m_desktop;
     WindowTiler& m_tiler;
+    AccessibilityBus& m_programs;
     ProcessIdentifier m_application;
 };
 
 }  // namespace
 
 AccessibilityElementHandle WindowAccessibility::applicationElement(ProcessIdentifier application) {
-    return std::make_unique<ApplicationElement>(m_desktop, m_tiler, application, kDefaultTimeout);
+    return std::make_unique<ApplicationElement>(m_desktop, m_tiler, m_programs, application, kDefaultTimeout);
 }
 
 }  // namespace kinesta

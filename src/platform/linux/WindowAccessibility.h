@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/AccessibilityElements.h"
+#include "platform/linux/AccessibilityBus.h"
 #include "platform/linux/EwmhDesktop.h"
 #include "platform/linux/WindowTiler.h"
 
@@ -9,7 +10,7 @@ namespace kinesta {
 /// The windows of X11 as the elements that actions look for:
 ///
 ///     application   AXFocusedWindow, AXMainWindow, AXMenuBar
-///     window        AXRole, AXMinimized, AXChildren (its modal dialogs), AXCloseButton
+///     window        AXRole, AXMinimized, AXChildren (its modal dialogs, also those inside it), AXCloseButton
 ///     close button  AXEnabled; AXPress
 ///     menu bar      AXChildren (one item for each tiling command)
 ///     menu item     AXIdentifier, AXEnabled; AXPress
@@ -23,13 +24,15 @@ class WindowAccessibility : public AccessibilityElements {
     /// How long a request waits when nobody said otherwise, in seconds.
     static constexpr Seconds kDefaultTimeout = 0.5;
 
-    WindowAccessibility(EwmhDesktop& desktop, WindowTiler& tiler) : m_desktop(desktop), m_tiler(tiler) {}
+    WindowAccessibility(EwmhDesktop& desktop, WindowTiler& tiler, AccessibilityBus& programs)
+        : m_desktop(desktop), m_tiler(tiler), m_programs(programs) {}
 
     AccessibilityElementHandle applicationElement(ProcessIdentifier application) override;
 
   private:
     EwmhDesktop& m_desktop;
     WindowTiler& m_tiler;
+    AccessibilityBus& m_programs;
 };
 
 }  // namespace kinesta

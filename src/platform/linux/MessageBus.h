@@ -6,6 +6,9 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
+
+#include "support/Seconds.h"
 
 namespace kinesta {
 
@@ -16,18 +19,25 @@ struct BusUnref {
 using BusMessagePointer = std::unique_ptr<sd_bus_message, BusUnref>;
 using BusSlotPointer = std::unique_ptr<sd_bus_slot, BusUnref>;
 
-/// Our connection to the desktop's message bus. Main thread only.
+/// An object of a program on a bus.
+struct BusObject {
+    std::string service;
+    std::string path;
+};
+
+/// Our connection to a message bus: the session's, or the one at an address. Main thread only.
 ///
 /// Nothing here waits for other programs. Messages go out at once; answers are read at the next use, since nobody waits
 /// for them.
-class SessionBus {
+class MessageBus {
   public:
     /// How long the bus itself, which only passes messages on, may hold us up.
     static constexpr std::chrono::milliseconds kPatience{200};
 
-    SessionBus() = default;
-    SessionBus(const SessionBus&) = delete;
-    SessionBus& operator=(const SessionBus&) = delete;
+    MessageBus() = default;
+    explicit MessageBus(std::string address) : m_address(std::move(address)) {}
+    MessageBus(const MessageBus&) = delete;
+    MessageBus& operator=(const MessageBus&) = delete;
 
     /// The connection, with every answer that has come handled; made (again) if there is none; null without a bus.
     sd_bus* open();
@@ -37,6 +47,11 @@ class SessionBus {
 
     /// Whether a program offers this service, or would be started for it. Waits for the bus's answer.
     bool offers(const std::string& service);
+
+    /// Calls a method without arguments, or with one text, of a program that runs; null if it does not answer well
+    /// within `timeout` seconds. Waits for the answer.
+    BusMessagePointer ask(const BusObject& object, const char* interface, const char* method, Seconds timeout,
+                          const char* argument = nullptr);
 
     /// Counts the connections made: whoever keeps something that another program gave compares it.
     std::uint64_t generation() const { return m_generation; }
@@ -49,6 +64,9 @@ class SessionBus {
     bool handleAnswers();
     bool isListed(const char* list, const std::string& service);
 
+    int connect(sd_bus** bus) const;
+
+    std::string m_address;
     std::unique_ptr<sd_bus, Close> m_bus;
     std::uint64_t m_generation = 0;
 };

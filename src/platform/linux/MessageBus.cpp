@@ -1,4 +1,4 @@
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/MessageBus.h"
 
 namespace kinesta {
 namespace {
@@ -12,12 +12,12 @@ std::uint64_t microsecondsUntil(Clock::time_point deadline) {
 
 }  // namespace
 
-sd_bus* SessionBus::open() {
+sd_bus* MessageBus::open() {
     if (m_bus && handleAnswers())
         return m_bus.get();
     m_bus.reset();
     sd_bus* bus = nullptr;
-    if (sd_bus_open_user(&bus) < 0)
+    if (connect(&bus) < 0)
         return nullptr;
     m_bus.reset(bus);
     ++m_generation;
@@ -26,7 +26,22 @@ sd_bus* SessionBus::open() {
     return m_bus.get();
 }
 
-bool SessionBus::flush() {
+int MessageBus::connect(sd_bus** bus) const {
+    if (m_address.empty())
+        return sd_bus_open_user(bus);
+    int outcome = sd_bus_new(bus);
+    if (outcome >= 0)
+        outcome = sd_bus_set_address(*bus, m_address.c_str());
+    if (outcome >= 0)
+        outcome = sd_bus_set_bus_client(*bus, 1);
+    if (outcome >= 0)
+        outcome = sd_bus_start(*bus);
+    if (outcome < 0)
+        *bus = sd_bus_unref(*bus);
+    return outcome;
+}
+
+bool MessageBus::flush() {
     const auto deadline = Clock::now() + kPatience;
     for (;;) {
         if (!m_bus || !handleAnswers())
@@ -41,11 +56,28 @@ bool SessionBus::flush() {
     }
 }
 
-bool SessionBus::offers(const std::string& service) {
+BusMessagePointer MessageBus::ask(const BusObject& object, const char* interface, const char* method, Seconds timeout,
+                                  const char* argument) {
+    sd_bus* bus = timeout > 0 ? open() : nullptr;
+    sd_bus_message* made = nullptr;
+    if (bus == nullptr ||
+        sd_bus_message_new_method_call(bus, &made, object.service.c_str(), object.path.c_str(), interface, method) < 0)
+        return nullptr;
+    const BusMessagePointer question(made);
+    sd_bus_message_set_auto_start(question.get(), 0);
+    if (argument != nullptr && sd_bus_message_append(question.get(), "s", argument) < 0)
+        return nullptr;
+    made = nullptr;
+    if (sd_bus_call(bus, question.get(), static_cast<std::uint64_t>(timeout * 1e6), nullptr, &made) < 0)
+        return nullptr;
+    return BusMessagePointer(made);
+}
+
+bool MessageBus::offers(const std::string& service) {
     return isListed("ListNames", service) || isListed("ListActivatableNames", service);
 }
 
-bool SessionBus::isListed(const char* list, const std::string& service) {
+bool MessageBus::isListed(const char* list, const std::string& service) {
     sd_bus* bus = open();
     if (bus == nullptr)
         return false;
@@ -67,7 +99,7 @@ bool SessionBus::isListed(const char* list, const std::string& service) {
     return false;
 }
 
-bool SessionBus::handleAnswers() {
+bool MessageBus::handleAnswers() {
     int handled = 0;
     while ((handled = sd_bus_process(m_bus.get(), nullptr)) > 0) {
     }
