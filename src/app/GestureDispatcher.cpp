@@ -2,18 +2,13 @@
 
 #include <utility>
 
+#include "recognition/EveryGesture.h"
 #include "rules/ShellCommandSettings.h"
 
 namespace kinesta {
 
 void GestureDispatcher::bind(MultitouchService& service) {
-    service.onTap = [this](int fingers, GestureKind gesture) { dispatch(DetectedTap{fingers, gesture}); };
-    service.onEdgeSlide = [this](int fingers, EdgeSlideSide side, std::int64_t steps) {
-        dispatch(DetectedEdgeSlide{fingers, side, steps});
-    };
-    service.onAnchorDraw = [this](AnchorCorner corner, DrawPattern pattern) {
-        dispatch(DetectedAnchorDraw{corner, pattern});
-    };
+    onEveryGesture(service, [this](const DetectedGesture& gesture) { dispatch(gesture); });
 }
 
 void GestureDispatcher::dispatch(const DetectedGesture& gesture) {

@@ -10,6 +10,7 @@
 #include "cli/PadScreen.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
+#include "recognition/EveryGesture.h"
 #include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
@@ -29,7 +30,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
     LiveRecognition live(loop, clock, settings.defaults());
     MultitouchService& service = live.service();
 
-    const auto tell = [&](const DetectedGesture& gesture) {
+    onEveryGesture(service, [&](const DetectedGesture& gesture) {
         const ShellCommands shellCommands =
             ShellCommandSettings::isEnabled(settings.defaults()) ? ShellCommands::allowed : ShellCommands::forbidden;
         const GestureRule* rule = selectRule(store.rules().value(), gesture, shellCommands);
@@ -39,12 +40,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
             screen->tell(describe(gesture), consequence);
         else
             log.write(describe(gesture) + "  →  " + consequence);
-    };
-    service.onTap = [&](int fingers, GestureKind gesture) { tell(DetectedTap{fingers, gesture}); };
-    service.onEdgeSlide = [&](int fingers, EdgeSlideSide side, std::int64_t steps) {
-        tell(DetectedEdgeSlide{fingers, side, steps});
-    };
-    service.onAnchorDraw = [&](AnchorCorner corner, DrawPattern pattern) { tell(DetectedAnchorDraw{corner, pattern}); };
+    });
 
     const auto tellStatus = [&](const MultitouchService::Status& status) {
         const bool isListening = status == MultitouchService::Status::listening();

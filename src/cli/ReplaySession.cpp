@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "recognition/EveryGesture.h"
 #include "recognition/RecordedPointerEvent.h"
 
 namespace kinesta {
@@ -17,15 +18,7 @@ ReplaySession::ReplaySession(const RecordingHeader& header, Handler onGesture) :
                            *settings.cornerPalmRejectionSensitivity);
 
     m_service.emplace(m_defaults, m_provider, m_pointer, m_mainThread, m_clock);
-    m_service->onTap = [this](int fingers, GestureKind gesture) {
-        m_onGesture(m_mainThread.now(), DetectedTap{fingers, gesture});
-    };
-    m_service->onEdgeSlide = [this](int fingers, EdgeSlideSide side, std::int64_t steps) {
-        m_onGesture(m_mainThread.now(), DetectedEdgeSlide{fingers, side, steps});
-    };
-    m_service->onAnchorDraw = [this](AnchorCorner corner, DrawPattern pattern) {
-        m_onGesture(m_mainThread.now(), DetectedAnchorDraw{corner, pattern});
-    };
+    onEveryGesture(*m_service, [this](const DetectedGesture& gesture) { m_onGesture(m_mainThread.now(), gesture); });
     m_service->startIfEnabled();
 }
 
