@@ -20,6 +20,12 @@ namespace {
 
 constexpr const char* kProgram = "/usr/bin/kinesta";
 
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kIsInstrumented = true;  // the program too, which then keeps freed memory
+#else
+constexpr bool kIsInstrumented = false;
+#endif
+
 constexpr const char* kRules = R"([
   {"id":"00000000-0000-4000-8000-000000000001","name":"","isEnabled":true,"fingerCount":3,"gesture":"singleTap",
    "action":{"kind":"middleClick","modifiers":0,"value":""}},
@@ -156,7 +162,7 @@ TEST_F(Daemon, PerformsWhatTheFingersMean) {
     const long before = daemon.sleeps();
     rest(2000);
     EXPECT_EQ(daemon.sleeps(), before) << "idle, it must not wake at all";
-    EXPECT_LT(daemon.residentKilobytes(), 10240);
+    EXPECT_TRUE(kIsInstrumented || daemon.residentKilobytes() < 10240) << daemon.residentKilobytes();
 
     tapWithThree(*pad);
     EXPECT_EQ(desktop.take(2), (Lines{"BTN_MIDDLE down", "BTN_MIDDLE up"}));
@@ -281,7 +287,7 @@ TEST_F(Daemon, HoldsOnToNothingOverThousandsOfActions) {
         }
     }
     EXPECT_EQ(daemon.descriptors(), descriptors);
-    EXPECT_LE(daemon.residentKilobytes(), resident + 128);
+    EXPECT_TRUE(kIsInstrumented || daemon.residentKilobytes() <= resident + 128) << daemon.residentKilobytes();
 }
 
 TEST_F(Daemon, FollowsTheChoiceOfThePad) {

@@ -9,7 +9,7 @@
 namespace kinesta {
 namespace {
 
-constexpr Seconds kPatience = 0.15;
+constexpr Seconds kPatience = 0.5;
 constexpr std::uint16_t kCoreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
 }  // namespace

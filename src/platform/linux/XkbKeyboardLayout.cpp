@@ -15,6 +15,7 @@ std::optional<KeyboardLayoutCharacters> charactersOfSystem(const std::string& pa
     const XkbContextPointer context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     if (!context)
         return std::nullopt;
+    xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);  // without a layout keys stay where they are
     const XkbKeymapPointer keymap(xkb_keymap_new_from_names(context.get(), &rules, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (!keymap)
         return std::nullopt;
