@@ -84,7 +84,7 @@ TEST_F(Posting, SendsMediaKeysAndTheMiddleClick) {
 }
 
 TEST_F(Posting, IsSeenByAProgramThatIsNotOurs) {
-    const auto xev = desktop.run({"xev", "-event", "keyboard"});
+    const auto xev = desktop.run({"xev", "-geometry", "1280x800+0+0", "-event", "keyboard", "-event", "button"});
     const auto topmost = [&] {
         const std::unique_ptr<xcb_query_tree_reply_t, decltype(&std::free)> tree(
             xcb_query_tree_reply(desktop.connection(), xcb_query_tree(desktop.connection(), desktop.root()), nullptr),
@@ -93,14 +93,40 @@ TEST_F(Posting, IsSeenByAProgramThatIsNotOurs) {
     };
     ASSERT_TRUE(eventually([&] { return topmost() != window.window(); }));
     ASSERT_TRUE(desktop.bringToKeyboard(topmost()));
-    stroke(115, 0);
-    std::string line;
-    while (line.find("keysym") == std::string::npos) {
-        const auto next = xev->readLine();
-        ASSERT_TRUE(next) << "xev saw no key";
-        line = *next;
-    }
-    EXPECT_NE(line.find("keysym 0xff50, Home"), std::string::npos) << line;
+    // The next press: "state 0x4, keycode 54 (keysym 0x63, c), same_screen YES" makes "0x4,c".
+    const auto next = [&xev]() -> std::string {
+        for (bool isPress = false; const auto line = xev->readLine();) {
+            isPress = line->find("Press event") != std::string::npos || (isPress && !line->empty());
+            const std::size_t state = line->find("state ");
+            if (!isPress || state == std::string::npos)
+                continue;
+            const std::size_t name = line->find("button ") != std::string::npos
+                                         ? line->find("button ")
+                                         : line->find(", ", line->find("keysym")) + 2;
+            return line->substr(state + 6, line->find(',', state) - state - 5) +
+                   line->substr(name, line->find_first_of(",)", name) - name);
+        }
+        return "nothing";
+    };
+    const auto seen = [&](std::size_t count) {
+        Events events;
+        while (events.size() < count)
+            events.push_back(next());
+        return events;
+    };
+    stroke(0, 0);
+    stroke(8, 0x120000);
+    stroke(123, 0xA00000);
+    for (const std::int64_t data1 : {0x00A00, 0x00B00})
+        synthesizer.makeSystemDefinedEvent({0, 8, data1, -1})->post();
+    for (const auto transition : {KeyTransition::down, KeyTransition::up})
+        synthesizer.makeCenterButtonEvent(nullptr, transition, {})->post();
+    settle();
+    EXPECT_EQ(seen(7), (Events{"0x0,a", "0x0,Shift_L", "0x1,Control_L", "0x5,C", "0x0,Home", "0x0,XF86AudioRaiseVolume",
+                               "0x0,button 2"}));
+    desktop.setLayout("fr");
+    stroke(12, 0x100000);  // where q is on other keyboards
+    EXPECT_EQ(seen(2), (Events{"0x0,Control_L", "0x4,a"}));
 }
 
 TEST_F(Posting, FollowsTheLayoutFromOneStrokeToTheNext) {
