@@ -2,18 +2,27 @@
 
 #include <xcb/xinput.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "platform/linux/X11Connect.h"
+#include "platform/linux/XcbWait.h"
 
 namespace kinesta {
 namespace {
 
-template <typename Reply>
-std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
-    return {reply, std::free};
+/// What the thread that reads the touchpad waits for the server, in seconds.
+constexpr Seconds kPatience = 0.5;
+
+/// The reply to a request; null after an error or if it does not come in time.
+template <typename Reply, typename Cookie>
+XcbPointer<Reply> answer(xcb_connection_t* connection, Cookie cookie) {
+    auto reply = awaitXcbReply(connection, cookie.sequence, xcbDeadlineIn(kPatience));
+    if (!reply)
+        xcb_discard_reply(connection, cookie.sequence);
+    return XcbPointer<Reply>(reply ? static_cast<Reply*>(reply->release()) : nullptr);
 }
+
+XcbPointer<xcb_generic_event_t> owned(xcb_generic_event_t* event) { return XcbPointer<xcb_generic_event_t>(event); }
 
 }  // namespace
 
@@ -21,11 +30,8 @@ void X11TouchpadProperties::Disconnect::operator()(xcb_connection_t* connection)
 
 X11TouchpadProperties::X11TouchpadProperties(const std::string& display) : m_connection(connectToXServer(display)) {
     xcb_connection_t* connection = m_connection.get();
-    const auto version = owned(
-        xcb_connection_has_error(connection) != 0
-            ? nullptr
-            : xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 0), nullptr));
-    if (!version) {
+    if (xcb_connection_has_error(connection) != 0 ||
+        !answer<xcb_input_xi_query_version_reply_t>(connection, xcb_input_xi_query_version(connection, 2, 0))) {
         m_connection.reset();
         return;
     }
@@ -59,23 +65,23 @@ bool X11TouchpadProperties::takeChanges() {
 }
 
 SendEventsMode X11TouchpadProperties::mode(const std::string& path) {
-    SendEventsMode mode = SendEventsMode::enabled;
-    bool isChanged = static_cast<bool>(m_connection);
-    while (isChanged) {
-        mode = presentMode(path);
+    if (!m_connection)
+        return SendEventsMode::enabled;
+    for (bool isChanged = true; isChanged;) {
+        m_mode = presentMode(path);
         // What changed meanwhile was read along with the answers and makes nothing readable any more.
         isChanged = false;
         while (const auto event = owned(xcb_poll_for_queued_event(m_connection.get())))
             isChanged = true;
     }
-    return mode;
+    return m_mode;
 }
 
 SendEventsMode X11TouchpadProperties::presentMode(const std::string& path) {
-    const auto devices = owned(xcb_input_xi_query_device_reply(
-        m_connection.get(), xcb_input_xi_query_device(m_connection.get(), XCB_INPUT_DEVICE_ALL), nullptr));
+    const auto devices = answer<xcb_input_xi_query_device_reply_t>(
+        m_connection.get(), xcb_input_xi_query_device(m_connection.get(), XCB_INPUT_DEVICE_ALL));
     if (!devices)
-        return SendEventsMode::enabled;
+        return m_mode;  // of a server that hangs: as it was
     for (auto info = xcb_input_xi_query_device_infos_iterator(devices.get()); info.rem > 0;
          xcb_input_xi_device_info_next(&info)) {
         const std::uint16_t device = info.data->deviceid;
@@ -95,9 +101,9 @@ SendEventsMode X11TouchpadProperties::presentMode(const std::string& path) {
 }
 
 std::uint32_t X11TouchpadProperties::atom(const char* name) {
-    const auto reply = owned(xcb_intern_atom_reply(
-        m_connection.get(), xcb_intern_atom(m_connection.get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name),
-        nullptr));
+    const auto reply = answer<xcb_intern_atom_reply_t>(
+        m_connection.get(),
+        xcb_intern_atom(m_connection.get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name));
     return reply ? reply->atom : 0;
 }
 
@@ -105,9 +111,8 @@ std::uint32_t X11TouchpadProperties::atom(const char* name) {
 std::string X11TouchpadProperties::property(std::uint16_t device, std::uint32_t atom) {
     constexpr std::uint32_t kMostWords = 1024;
     xcb_connection_t* connection = m_connection.get();
-    const auto reply = owned(xcb_input_xi_get_property_reply(
-        connection, xcb_input_xi_get_property(connection, device, 0, atom, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostWords),
-        nullptr));
+    const auto reply = answer<xcb_input_xi_get_property_reply_t>(
+        connection, xcb_input_xi_get_property(connection, device, 0, atom, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostWords));
     if (!reply || reply->format != 8)
         return {};
     const void* items = xcb_input_xi_get_property_items(reply.get());

@@ -36,6 +36,7 @@ class X11TouchpadProperties {
     std::string property(std::uint16_t device, std::uint32_t atom);
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    SendEventsMode m_mode = SendEventsMode::enabled;
     std::uint32_t m_deviceNode = 0;
     std::uint32_t m_deviceEnabled = 0;
     std::uint32_t m_libinputSendEvents = 0;
