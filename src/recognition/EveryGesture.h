@@ -8,6 +8,6 @@
 namespace kinesta {
 
 /// Lets `handler` hear of every finished gesture of any kind. Takes over the service's three callbacks; main thread.
-void onEveryGesture(MultitouchService& service, std::function<void(const DetectedGesture&)> handler);
+void onEveryGesture(MultitouchService& service, const std::function<void(const DetectedGesture&)>& handler);
 
 }  // namespace kinesta

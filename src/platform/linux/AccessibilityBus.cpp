@@ -1,6 +1,5 @@
 #include "platform/linux/AccessibilityBus.h"
 
-#include <array>
 #include <chrono>
 #include <cstdint>
 #include <deque>
@@ -73,10 +72,11 @@ class AccessibilityBus::Walk {
 
     std::uint64_t stateOf(const BusObject& element) {
         const auto answer = m_bus.ask(element, kAccessible, "GetState", timeLeft());
-        std::array<std::uint32_t, 2> halves{};
-        if (!answer || sd_bus_message_read(answer.get(), "au", 2, &halves[0], &halves[1]) <= 0)
+        std::uint32_t low = 0;
+        std::uint32_t high = 0;
+        if (!answer || sd_bus_message_read(answer.get(), "au", 2, &low, &high) <= 0)
             return 0;
-        return halves[0] | static_cast<std::uint64_t>(halves[1]) << 32U;
+        return low | static_cast<std::uint64_t>(high) << 32U;
     }
 
     ProcessIdentifier processOf(const BusObject& program) {
