@@ -11,6 +11,7 @@
 #include "platform/linux/FileWatcher.h"
 #include "platform/linux/LinuxActions.h"
 #include "platform/linux/SignalListener.h"
+#include "platform/linux/SingleInstance.h"
 #include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "support/RunLoop.h"
@@ -141,6 +142,9 @@ class Daemon {
 ExitStatus runDaemon(const Console& console, const std::filesystem::path& defaults, LogLevel level) {
     // Whoever reads the log may go away; that is no reason to stop.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    const auto instance = SingleInstance::claim(defaults);
+    if (!instance)
+        return console.fail(instance.error().message);
     return Daemon(console, defaults, level).run();
 }
 

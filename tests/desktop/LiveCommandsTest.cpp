@@ -211,6 +211,19 @@ TEST_F(DaemonOnADesktop, FollowsItsSettingsAndEndsCleanly) {
     EXPECT_TRUE(daemon->waitForEnd());
 }
 
+TEST_F(DaemonOnADesktop, IsTheOnlyOneThatActs) {
+    const auto first = start();
+    ASSERT_TRUE(says(*first, "rules are on."));
+    const std::string said = kinesta.folder / "said";
+    const int second = std::system((KINESTA_PROGRAM " daemon 2> " + said).c_str());
+    EXPECT_EQ(WEXITSTATUS(second), 1);
+    EXPECT_NE(readText(said).find("running already, as process " + std::to_string(first->pid())), std::string::npos);
+    first->signal(SIGKILL);
+    ASSERT_TRUE(first->waitForEnd());
+    const auto third = start();
+    EXPECT_TRUE(says(*third, "rules are on.")) << "what is left of one that was killed is in nobody's way";
+}
+
 TEST_F(DaemonOnADesktop, StartsAtOnceAndStaysSmall) {
     using Milliseconds = std::chrono::duration<double, std::milli>;
     std::string rules = rule(2, "", kMiddleClick);
