@@ -69,7 +69,7 @@ ExitStatus perform(const Console& console, const std::filesystem::path& defaults
             actions.letDesktopCatchUp();
     }  // which waits until all has been handed over
     if (!isTrusted)
-        return console.fail("Keys and clicks cannot be posted in this session. See: kinesta doctor");
+        return console.fail("Keys and clicks cannot be posted here. See: kinesta doctor");
     if (!problem.empty())
         return console.fail(problem);
     // Nobody tells what came of it: a window may ask before it closes, a program may refuse a file.

@@ -38,7 +38,7 @@ class ReplaySession {
     /// Runs what is left to run after the last event.
     void finish() { m_mainThread.runRemaining(); }
 
-    /// The time of an event on this session's clock: `seconds` × 10⁹ rounded to the nearest.
+    /// The time of an event on the clock of the replay: `seconds` × 10⁹ rounded to the nearest.
     static Time timeOf(Seconds seconds);
 
   private:
