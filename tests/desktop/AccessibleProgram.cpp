@@ -81,8 +81,12 @@ int AccessibleProgram::answer(sd_bus_message* call, void* self, sd_bus_error*) {
         const char* name = nullptr;
         sd_bus_get_unique_name(sd_bus_message_get_bus(call), &name);
         sd_bus_message_open_container(reply, 'a', "(so)");
-        for (const std::string& child : element->second.children)
-            sd_bus_message_append(reply, "(so)", name, (std::string(kFolder) + "/" + child).c_str());
+        const std::string folder = path.substr(0, path.rfind('/') + 1);
+        for (const std::string& child : element->second.children) {
+            std::string place = folder;
+            place += child;
+            sd_bus_message_append(reply, "(so)", name, place.c_str());
+        }
         sd_bus_message_close_container(reply);
     }
     sd_bus_send(nullptr, reply, nullptr);
