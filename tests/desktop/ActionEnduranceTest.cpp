@@ -67,6 +67,7 @@ TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
     // The machine has other things to do: a round in which even a bare key was late says nothing about us.
     bool isTold = false;
     bool wasQuiet = false;
+    double bestMedian = 1e9;
     for (int round = 0; round < 10 && !isTold; ++round) {
         std::vector<double> times;
         double worstOfBareKeys = 0;
@@ -79,8 +80,10 @@ TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
                   << " ms of 1000; a bare key: worst " << worstOfBareKeys << " ms\n";
         isTold = times[500] <= 1 && times.back() <= 5;
         wasQuiet |= worstOfBareKeys <= 1;
+        bestMedian = std::min(bestMedian, times[500]);
     }
-    EXPECT_TRUE(isTold || !wasQuiet || kIsInstrumented);
+    EXPECT_TRUE(kIsInstrumented || bestMedian <= 1) << bestMedian << ", however busy the machine is";
+    EXPECT_TRUE(kIsInstrumented || isTold || !wasQuiet);
 }
 
 TEST_F(ActionEndurance, IsNotHeldUpByAServerThatHangs) {
