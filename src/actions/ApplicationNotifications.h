@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "rules/ActionKind.h"
-#include "support/Published.h"
+#include "support/Subscription.h"
 
 namespace kinesta {
 

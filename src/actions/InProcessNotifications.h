@@ -1,10 +1,9 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
+#include <string_view>
 
 #include "actions/ApplicationNotifications.h"
+#include "support/Observers.h"
 
 namespace kinesta {
 
@@ -16,13 +15,7 @@ class InProcessNotifications final : public ApplicationNotifications {
     [[nodiscard]] Subscription observe(std::string_view name, Observer observer) override;
 
   private:
-    struct Entry {
-        std::string name;
-        std::shared_ptr<bool> isActive;
-        Observer observer;
-    };
-
-    std::vector<std::shared_ptr<Entry>> m_entries;
+    Observers<std::string_view, ActionKind> m_observers;
 };
 
 }  // namespace kinesta

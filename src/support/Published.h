@@ -1,44 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <memory>
 #include <utility>
-#include <vector>
+
+#include "support/Observers.h"
 
 namespace kinesta {
-
-/// Ends an observation when it is destroyed. May outlive what it observes.
-class Subscription {
-  public:
-    Subscription() = default;
-    explicit Subscription(std::shared_ptr<bool> isActive) : m_isActive(std::move(isActive)) {}
-    Subscription(Subscription&&) noexcept = default;
-    Subscription& operator=(Subscription&& other) noexcept {
-        if (this != &other) {
-            end();
-            m_isActive = std::move(other.m_isActive);
-        }
-        return *this;
-    }
-    ~Subscription() { end(); }
-
-    void end() {
-        if (m_isActive)
-            *m_isActive = false;
-        m_isActive.reset();
-    }
-
-  private:
-    std::shared_ptr<bool> m_isActive;
-};
 
 /// A value whose changes others can follow. Main thread only. Observers may subscribe, unsubscribe and set the
 /// value again from within their callback.
 template <typename T>
 class Published {
   public:
-    using Observer = std::function<void(const T&)>;
+    using Observer = typename Observers<const T&>::Observer;
 
     Published() = default;
     explicit Published(T value) : m_value(std::move(value)) {}
@@ -51,36 +25,17 @@ class Published {
     void set(T value) {
         m_value = std::move(value);
         const std::uint64_t change = ++m_changes;
-        // By index and up to the present size: a callback may subscribe, which may move the list; the newcomer
-        // has seen this value already. A nested set() has told everyone the newer value: nothing is left to say.
-        const std::size_t present = m_observers.size();
-        ++m_depth;
-        for (std::size_t i = 0; i < present && change == m_changes; ++i) {
-            const auto entry = m_observers[i];
-            if (*entry->isActive)
-                entry->observer(m_value);
-        }
-        if (--m_depth == 0)
-            std::erase_if(m_observers, [](const auto& entry) { return !*entry->isActive; });
+        // A nested set() has told everyone the newer value: nothing is left to say.
+        m_observers.tell([&] { return change == m_changes; }, m_value);
     }
 
     /// Calls `observer` after every later set(), until the subscription ends.
-    [[nodiscard]] Subscription observe(Observer observer) const {
-        auto isActive = std::make_shared<bool>(true);
-        m_observers.push_back(std::make_shared<Entry>(Entry{isActive, std::move(observer)}));
-        return Subscription(std::move(isActive));
-    }
+    [[nodiscard]] Subscription observe(Observer observer) const { return m_observers.add(std::move(observer)); }
 
   private:
-    struct Entry {
-        std::shared_ptr<bool> isActive;
-        Observer observer;
-    };
-
     T m_value{};
     std::uint64_t m_changes = 0;
-    int m_depth = 0;
-    mutable std::vector<std::shared_ptr<Entry>> m_observers;  // who may read may follow
+    mutable Observers<const T&> m_observers;  // who may read may follow
 };
 
 }  // namespace kinesta

@@ -68,6 +68,23 @@ TEST_F(PublishedTest, changesAndSubscriptionsMadeDuringNotificationAreToldOnce) 
     EXPECT_EQ(heard, (Heard{"before=4", "setter=4", "after=4", "new=4", "new=4"}));
 }
 
+TEST_F(PublishedTest, observersAreFreedWithTheirSubscriptions) {
+    const auto held = std::make_shared<int>();
+    Subscription inner = number.observe([held](int) {});
+    auto outer = std::make_shared<Subscription>(number.observe([held](int) {}));
+    Subscription both = number.observe([held, other = std::move(outer)](int) {});  // whose end ends another
+    EXPECT_EQ(held.use_count(), 4);
+    inner.end();
+    both.end();
+    EXPECT_EQ(held.use_count(), 1);
+
+    Subscription own;
+    auto third = std::make_shared<Subscription>(number.observe([held](int) {}));
+    own = number.observe([&own, held, other = std::move(third)](int) { own.end(); });
+    number.set(1);
+    EXPECT_EQ(held.use_count(), 1) << "those that end while they are told, too";
+}
+
 TEST_F(PublishedTest, subscriptionsMoveAndOutliveTheValue) {
     auto published = std::make_unique<Published<int>>();
     Subscription kept = published->observe(hear("first"));
