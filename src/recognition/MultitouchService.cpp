@@ -14,7 +14,7 @@ namespace {
 constexpr int kMostRepetitions = 3;  // what has come so far cannot become more
 
 constexpr int kFeedbackSeconds = 5;
-constexpr std::chrono::seconds kFeedbackTick{1};
+constexpr Seconds kFeedbackTick = 1;
 
 /// The wall clock is kept right by letting it run a little slower or faster than the timers; without this a tick
 /// that comes a trifle early would leave the countdown where it is for a whole second.
@@ -269,11 +269,18 @@ void MultitouchService::showGestureFeedback(const DetectedGesture& gesture) {
     m_lastGesture.set("Detected " + describe(gesture));
     m_gestureCountdown.set(kFeedbackSeconds);
     m_gestureFeedbackExpiresAt = m_clock.wallClock() + kFeedbackSeconds;
+    m_gestureFeedbackTickAt = m_clock.uptime();
     scheduleFeedbackTick();
 }
 
+// From the last tick's own time: a late tick must not make those after it late too. Ticks that were missed whole are
+// not made up for.
 void MultitouchService::scheduleFeedbackTick() {
-    m_gestureFeedbackTimer = m_mainThread.after(kFeedbackTick, [this] {
+    const Uptime now = m_clock.uptime();
+    do
+        m_gestureFeedbackTickAt += kFeedbackTick;
+    while (m_gestureFeedbackTickAt <= now);
+    m_gestureFeedbackTimer = m_mainThread.after(wholeNanoseconds(m_gestureFeedbackTickAt - now), [this] {
         scheduleFeedbackTick();
         updateGestureFeedback();
     });

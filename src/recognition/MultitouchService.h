@@ -121,6 +121,7 @@ class MultitouchService {
     PointerEventMonitor m_localClickMonitor;
     DelayedTask m_gestureFeedbackTimer;
     std::optional<Seconds> m_gestureFeedbackExpiresAt;  // wall clock
+    Uptime m_gestureFeedbackTickAt = 0;
 
     /// Points here while the service lives. Others hold it weakly and look at it on the main thread only.
     std::shared_ptr<MultitouchService*> m_self = std::make_shared<MultitouchService*>(this);

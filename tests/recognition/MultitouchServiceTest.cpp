@@ -168,6 +168,20 @@ TEST(MultitouchService, NamesTheGestureForFiveSeconds) {
         << "a new gesture begins anew, and stopping ends it";
 }
 
+TEST(MultitouchService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
+    GestureRig rig;
+    rig.launch();
+    rig.play(tapAtOne());
+    rig.runUntil(2);  // told at 1.25
+    const auto delayOfNext = [&](Seconds tick, Seconds uptime) {
+        rig.clock.setUptime(uptime);
+        rig.runUntil(tick + 0.01);
+        return std::chrono::duration<Seconds>(rig.mainThread.nextTimer().value()).count() - tick;
+    };
+    EXPECT_NEAR(delayOfNext(2.25, 2.65), 0.6, 1e-6);
+    EXPECT_NEAR(delayOfNext(2.85, 4.45), 0.8, 1e-6) << "3.25 and 4.25 are over";
+}
+
 TEST(MultitouchService, WhatAFrameCompletedBeforeAChangeIsDroppedAfterIt) {
     const std::function<void(MultitouchService&)> stop = [](auto& service) { service.stop(); };
     const std::function<void(MultitouchService&)> palm = [](auto& s) { s.setCornerPalmRejectionEnabled(true); };
