@@ -97,6 +97,23 @@ TEST(TouchpadComingAndGoing, PrefersTheBuiltInPadAndReadsOnlyOne) {
     EXPECT_EQ(wrong.status(), "No trackpad named \"No Such Pad\" was found.");
 }
 
+TEST(TouchpadComingAndGoing, LeavesThePadOfTheSettingsWithNoFingerOnIt) {
+    VirtualTouchpad first({.name = "First Touchpad"});
+    VirtualTouchpad second({.name = "Second Touchpad"});
+    PadReading reading({.device = "First Touchpad", .pressure = {}});
+    first.down(0, 1, 500, 250).report();
+    EXPECT_EQ(reading.take(1), (Lines{"t 1@0.50,0.50"}));
+    const double landed = reading.times()[0];
+    reading.provider().setDevice("Second Touchpad");
+    EXPECT_EQ(reading.take(2), (Lines{"t", "listening"}));
+    EXPECT_GT(reading.times()[0], landed);
+    first.up(0).report();
+    tap(second, 2);
+    EXPECT_EQ(reading.take(2), (Lines{"t 2@0.50,0.50", "t"}));
+    reading.provider().setDevice("First Touchpad");
+    EXPECT_EQ(reading.take(1), (Lines{"listening"})) << "no frame where there was no finger";
+}
+
 TEST(TouchpadComingAndGoing, FollowsThePermission) {
     VirtualTouchpad pad({.name = "Secret Touchpad"});
     ASSERT_EQ(chmod(pad.path().c_str(), 0600), 0);

@@ -3,6 +3,7 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cstdint>
 #include <future>
 #include <thread>
@@ -23,6 +24,8 @@ struct EvdevContactProvider::Run {
 
     /// Ends the thread's reading when it is written to.
     FileDescriptor ending{eventfd(0, EFD_CLOEXEC)};
+    /// Whether frames of another pad will follow, to which the fingers on this one must not count.
+    std::atomic<bool> isPadChanging = false;
     std::future<void> hasEnded;
     std::thread thread;  // owns the reader
 };
@@ -63,13 +66,14 @@ void EvdevContactProvider::start() {
     m_state = reader->open();
     std::promise<void> ended;
     m_run->hasEnded = ended.get_future();
-    m_run->thread =
-        std::thread([reader = std::move(reader), ended = std::move(ended), ending = m_run->ending.number()]() mutable {
-            reader->run(ending);
-            ended.set_value();
-            // Closing an input device takes the kernel some 50 ms, for which stop() need not wait.
-            reader.reset();
-        });
+    m_run->thread = std::thread([reader = std::move(reader), ended = std::move(ended), &current = *m_run]() mutable {
+        reader->run(current.ending.number());
+        if (current.isPadChanging)
+            reader->liftAll();
+        ended.set_value();  // then the run may be gone
+        // Closing an input device takes the kernel some 50 ms, for which stop() need not wait.
+        reader.reset();
+    });
 }
 
 void EvdevContactProvider::setDevice(std::string device) {
@@ -78,6 +82,7 @@ void EvdevContactProvider::setDevice(std::string device) {
     m_settings.device = std::move(device);
     if (!m_run)
         return;
+    m_run->isPadChanging = true;
     stop();
     start();
     if (m_statusHandler)

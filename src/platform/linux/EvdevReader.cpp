@@ -91,9 +91,13 @@ bool EvdevReader::isSwitchedOff(const TouchpadCandidate& pad) {
            (mode == SendEventsMode::disabledWithExternalMouse && m_scanner.hasExternalMouse());
 }
 
-void EvdevReader::leaveDevice() {
+void EvdevReader::liftAll() {
     if (m_device)
         m_device->liftAll(m_sink);
+}
+
+void EvdevReader::leaveDevice() {
+    liftAll();
     m_device.reset();
     m_inputName.clear();
 }

@@ -42,6 +42,9 @@ class EvdevReader {
     /// Reads until the descriptor `ending` becomes readable.
     void run(int ending);
 
+    /// Tells that no finger is on the touchpad any more, for it is given up. After run().
+    void liftAll();
+
   private:
     void lookAgain();
     State look();
