@@ -1,8 +1,10 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -31,6 +33,21 @@ struct Launching : ::testing::Test {
         std::string content = readText(file);
         fs::remove(file);
         return content;
+    }
+
+    /// Launches a shell from a process of its own, whose standard output is `output`, and ends that process.
+    static void runAndEnd(int output, const std::string& command) {
+        const pid_t us = fork();
+        if (us == 0) {
+            dup2(output, STDOUT_FILENO);
+            PosixProcessLauncher::Options options;
+            options.output = PosixProcessLauncher::Output::log;
+            PosixProcessLauncher(options).launch("/bin/sh", {"-c", command});
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(us, &status, 0), us);
+        ASSERT_EQ(status, 0);
     }
 
     TemporaryFolder folder;
@@ -66,6 +83,7 @@ TEST_F(Launching, GivesProgramsAFreshStart) {
     pthread_sigmask(SIG_BLOCK, &blocked, &before);
     const auto pipeBefore = std::signal(SIGPIPE, SIG_IGN);
     EXPECT_EQ(outputOf("exec ls /proc/self/fd"), "0\n1\n2\n3\n") << "3 is the folder that ls reads";
+    EXPECT_EQ(outputOf("readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2"), "/dev/null\n/dev/null\n/dev/null\n");
     EXPECT_EQ(outputOf("grep SigBlk /proc/self/status"), "SigBlk:\t0000000000000000\n");
     constexpr std::uint64_t kOwnedByTheLibrary = 0x180000000;  // the C library ignores its two in all it starts
     const std::uint64_t ignored = std::stoull(outputOf("sed -n 's/SigIgn:.//p' /proc/self/status"), nullptr, 16);
@@ -117,16 +135,24 @@ TEST_F(Launching, LetsProgramsSurviveUs) {
     const std::string fifo = folder.path() / "fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     const LaunchedProgram result(folder);
-    const pid_t us = fork();
-    if (us == 0) {
-        PosixProcessLauncher().launch("/bin/sh", {"-c", "read line < '" + fifo + "'; '" + result.path() + "' $line"});
-        _exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(us, &status, 0), us);
-    ASSERT_EQ(status, 0);
+    const std::string command = "echo word; read line < '" + fifo + "'; '" + result.path() + "' $line";
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
+    runAndEnd(pipe[1], command);
+    close(pipe[1]);
+    char byte = 0;
+    EXPECT_EQ(read(pipe[0], &byte, 1), 0) << "who reads our output waits for us alone";
+    close(pipe[0]);
     std::ofstream(fifo) << "alive\n";
     EXPECT_EQ(result.waitForArguments(), Words{"alive"});
+}
+
+TEST_F(Launching, WritesWhatProgramsSayIntoTheLog) {
+    const FileDescriptor log(open((folder / "log").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+    const LaunchedProgram result(folder);
+    runAndEnd(log.number(), "echo out; echo err >&2; '" + result.path() + "' end");
+    EXPECT_EQ(result.waitForArguments(), Words{"end"});
+    EXPECT_EQ(readText(folder / "log"), "out\nerr\n");
 }
 
 TEST_F(Launching, RunsShellCommandsWithZshOrElseTheLoginShell) {

@@ -12,7 +12,6 @@
 #include "platform/linux/LinuxSystemVersion.h"
 #include "platform/linux/MessageBus.h"
 #include "platform/linux/PosixHomeFolders.h"
-#include "platform/linux/PosixProcessLauncher.h"
 #include "platform/linux/PostingEventSynthesizer.h"
 #include "platform/linux/SessionInputPoster.h"
 #include "platform/linux/UinputDevice.h"
@@ -41,10 +40,10 @@ class NoCue final : public ActionCuePresenting {
 }  // namespace
 
 struct LinuxActions::Parts {
-    Parts(const Clock& clockPort, const UserDefaults& defaultsPort, const Log& log)
+    Parts(const Clock& clockPort, const UserDefaults& defaultsPort, const Log& log, Output output)
         : clock(clockPort),
           defaults(defaultsPort),
-          launcher({.zsh = "/bin/zsh", .loginShell = {}, .log = log}),
+          launcher({.zsh = "/bin/zsh", .loginShell = {}, .log = log, .output = output}),
           poster(connection, keyboard, defaults, log),
           events(poster, defaults, log),
           workspace(
@@ -83,8 +82,8 @@ struct LinuxActions::Parts {
     NoCue cue;
 };
 
-LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log)
-    : m_parts(std::make_unique<Parts>(clock, defaults, log)) {
+LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log, Output output)
+    : m_parts(std::make_unique<Parts>(clock, defaults, log, output)) {
     // The layout is read now, not at the first stroke. Where keys take another way, to ask XWayland is to start it.
     if (!m_parts->poster.usesVirtualDevice())
         m_parts->layout.charactersWithoutModifiers();

@@ -7,6 +7,7 @@
 #include "actions/ActionPorts.h"
 #include "actions/InProcessNotifications.h"
 #include "platform/linux/DesktopSession.h"
+#include "platform/linux/PosixProcessLauncher.h"
 
 namespace kinesta {
 
@@ -16,8 +17,10 @@ class LinuxActions {
     /// Is told, as one sentence, why something could not be done. Also from other threads.
     using Log = std::function<void(const std::string&)>;
 
-    /// Clock and defaults must outlive this.
-    LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log);
+    using Output = PosixProcessLauncher::Output;
+
+    /// `output` is that of the programs that are started. Clock and defaults must outlive this.
+    LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log, Output output = Output::nowhere);
     ~LinuxActions();
 
     /// Valid as long as this lives.

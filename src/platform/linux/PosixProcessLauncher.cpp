@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/eventfd.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,6 +20,12 @@ namespace kinesta {
 namespace {
 
 constexpr const char* kZsh = "/bin/zsh";
+constexpr const char* kNowhere = "/dev/null";
+
+bool isPipe(int descriptor) {
+    struct stat status {};
+    return ::fstat(descriptor, &status) != 0 || S_ISFIFO(status.st_mode);
+}
 
 class SpawnAttributes {
   public:
@@ -44,10 +51,14 @@ class SpawnAttributes {
 
 class SpawnFileActions {
   public:
-    explicit SpawnFileActions(const std::string& workingDirectory) {
+    SpawnFileActions(const std::string& workingDirectory, PosixProcessLauncher::Output output) {
         posix_spawn_file_actions_init(&m_actions);
         if (!workingDirectory.empty())
             posix_spawn_file_actions_addchdir_np(&m_actions, workingDirectory.c_str());
+        posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, kNowhere, O_RDONLY, 0);
+        if (output == PosixProcessLauncher::Output::nowhere || isPipe(STDOUT_FILENO))
+            posix_spawn_file_actions_addopen(&m_actions, STDOUT_FILENO, kNowhere, O_WRONLY, 0);
+        posix_spawn_file_actions_adddup2(&m_actions, STDOUT_FILENO, STDERR_FILENO);
         // Not every library marks what it opens as ours alone.
         posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1);
     }
@@ -137,7 +148,7 @@ void PosixProcessLauncher::start(const ProcessDescription& process) {
     pointers.push_back(nullptr);
 
     const SpawnAttributes attributes;
-    const SpawnFileActions actions(process.workingDirectory);
+    const SpawnFileActions actions(process.workingDirectory, m_options.output);
     pid_t child = -1;
     const int error =
         posix_spawnp(&child, executable.c_str(), actions.pointer(), attributes.pointer(), pointers.data(), environ);

@@ -22,13 +22,21 @@ struct ProcessDescription {
 };
 
 /// Starts programs that live on their own: in a session of their own, so that they survive us and no terminal's signal
-/// reaches them through us; with no descriptor of ours but the standard three; with the signals as programs expect
-/// them. Any thread.
+/// reaches them through us; with nothing to read, and no output of ours but the log; with the signals as programs
+/// expect them. Any thread.
 ///
 /// A thread, begun at the first launch, starts them and waits for their ends. It sleeps while nothing of that happens,
 /// and is told by process descriptors: SIGCHLD belongs to whoever else wants it, and so do other children.
 class PosixProcessLauncher final : public ProcessLauncher {
   public:
+    /// Where the standard output and standard error of programs go.
+    enum class Output {
+        nowhere,
+        /// To our standard output, which is the daemon's log. To nowhere if that is a pipe: whoever reads it would wait
+        /// for the end of programs that outlive us.
+        log
+    };
+
     struct Options {
         /// The shell that shell commands ask for.
         std::string zsh = "/bin/zsh";
@@ -36,6 +44,7 @@ class PosixProcessLauncher final : public ProcessLauncher {
         std::function<std::string()> loginShell;
         /// Is told, on another thread and as one sentence, what could not be started and why.
         std::function<void(const std::string&)> log;
+        Output output = Output::nowhere;
     };
 
     PosixProcessLauncher();
