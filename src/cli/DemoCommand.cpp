@@ -1,6 +1,7 @@
 #include "cli/DemoCommand.h"
 
 #include <array>
+#include <csignal>
 #include <memory>
 #include <optional>
 
@@ -9,6 +10,7 @@
 #include "cli/PadScreen.h"
 #include "cli/RecordingFile.h"
 #include "cli/RuleFile.h"
+#include "platform/linux/SignalListener.h"
 #include "rules/GestureDescription.h"
 #include "support/SteadyClock.h"
 
@@ -37,8 +39,10 @@ class DemoPlayer {
   public:
     DemoPlayer(const Console& console, std::filesystem::path recordings, std::vector<GestureRule> rules)
         : m_console(console), m_recordings(std::move(recordings)), m_rules(std::move(rules)) {
-        if (PadScreen::fits(console))
-            m_screen.emplace(console);
+        if (!PadScreen::fits(console))
+            return;
+        m_screen.emplace(console);
+        m_stops.emplace(m_loop, std::vector{SIGTSTP}, [this](int) { stopUntilContinued(); });
     }
 
     std::optional<Error> run() {
@@ -51,6 +55,13 @@ class DemoPlayer {
     const std::vector<std::string>& recognized() const { return m_recognized; }
 
   private:
+    void stopUntilContinued() {
+        const Uptime stopped = m_clock.uptime();
+        m_screen->stopUntilContinued();
+        if (m_player)
+            m_player->passOver(m_clock.uptime() - stopped);
+    }
+
     void playNext() {
         m_player.reset();
         m_session.reset();
@@ -112,6 +123,7 @@ class DemoPlayer {
     RunLoop m_loop;
     SteadyClock m_clock;
     std::optional<PadScreen> m_screen;
+    std::optional<SignalListener> m_stops;
     std::unique_ptr<RecordingFile> m_file;
     std::optional<ReplaySession> m_session;
     std::optional<PacedPlayer> m_player;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <csignal>
+#include <functional>
+#include <utility>
 
 #include "platform/linux/SignalListener.h"
 #include "support/RunLoop.h"
@@ -11,6 +13,11 @@ namespace kinesta {
 class Interrupts {
   public:
     explicit Interrupts(RunLoop& loop) : m_listener(loop, {SIGINT, SIGTERM}, [&loop](int) { loop.quit(); }) {}
+
+    /// Calls `onStop` at Ctrl-Z instead of being stopped.
+    Interrupts(RunLoop& loop, std::function<void()> onStop)
+        : m_listener(loop, {SIGINT, SIGTERM, SIGTSTP},
+                     [&loop, onStop = std::move(onStop)](int signal) { signal == SIGTSTP ? onStop() : loop.quit(); }) {}
 
   private:
     SignalListener m_listener;

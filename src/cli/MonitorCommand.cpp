@@ -20,13 +20,13 @@ namespace kinesta {
 
 ExitStatus monitor(const Console& console, const std::filesystem::path& defaults) {
     RunLoop loop;
-    const Interrupts interrupts(loop);
+    std::optional<PadScreen> screen;
+    const Interrupts interrupts(loop, [&] { screen ? screen->stopUntilContinued() : stopUntilContinued(); });
     const SteadyClock clock;
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
     settings.check(store);
     const LogLines log(console);
-    std::optional<PadScreen> screen;
     LiveRecognition live(loop, clock, settings.defaults());
     MultitouchService& service = live.service();
 

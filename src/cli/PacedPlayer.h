@@ -19,6 +19,9 @@ class PacedPlayer {
 
     void start();
 
+    /// Goes on as if this time had not passed, in which the program was stopped.
+    void passOver(Seconds time) { m_realStart += time; }
+
   private:
     void readNext();
     void proceed();

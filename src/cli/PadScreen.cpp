@@ -58,6 +58,11 @@ void PadScreen::tell(std::string gesture, std::string consequence) {
     draw();
 }
 
+void PadScreen::stopUntilContinued() {
+    m_terminal.stopUntilContinued();
+    draw();
+}
+
 void PadScreen::draw() {
     m_drawnAt = m_now;
     const std::string margin(kMargin, ' ');

@@ -27,6 +27,8 @@ class PadScreen {
     void tell(std::string gesture, std::string consequence);
     /// Draws what there is.
     void draw();
+    /// Stops the program, as Ctrl-Z asks for, with the terminal as it was before; draws again when it goes on.
+    void stopUntilContinued();
 
   private:
     const Console& m_console;

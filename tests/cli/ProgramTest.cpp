@@ -52,6 +52,7 @@ class Program {
         return true;
     }
 
+    void type(const std::string& keys) const { EXPECT_EQ(::write(m_terminal, keys.data(), keys.size()), keys.size()); }
     void signal(int number) const { ::kill(m_child, number); }
 
     /// Waits for the end, reading what is still said, and returns what waitpid() tells.
@@ -96,6 +97,26 @@ TEST(ProgramTest, anInterruptedDemoGivesTheTerminalBackAndEndsAsInterrupted) {
         EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == number) << number;
         EXPECT_GT(demo.output.find("\x1b[?1049l"), demo.output.find("\x1b[?1049h"));
         EXPECT_NE(demo.output.find("\x1b[?25h"), std::string::npos);
+    }
+}
+
+TEST(ProgramTest, stoppedItGivesTheTerminalBackAndGoesOnWithThePicture) {
+    const TemporaryFolder settings;
+    const std::string monitor = "XDG_CONFIG_HOME=" + settings.path().string() + " " + kKinesta + "monitor";
+    for (const auto& [command, title] : {std::pair(kKinesta + "demo", "Two fingers tap"), {monitor, "Waiting for"}}) {
+        Program shell("set -m; " + command + "; echo stopped by $?; read; fg");
+        ASSERT_TRUE(shell.waitFor(title));
+        shell.type("\x1a");
+        ASSERT_TRUE(shell.waitFor("stopped by " + std::to_string(128 + SIGTSTP)));
+        const std::string before = std::exchange(shell.output, {});
+        EXPECT_LT(before.find("\x1b[?25h"), before.find("stopped by"));
+        EXPECT_LT(before.find("\x1b[?1049l"), before.find("stopped by"));
+        shell.type("\n");
+        ASSERT_TRUE(shell.waitFor("\x1b[?1049h\x1b[?25l"));
+        ASSERT_TRUE(shell.waitFor(title));
+        shell.type("\x03");
+        shell.wait();
+        EXPECT_NE(shell.output.find("\x1b[?1049l"), std::string::npos);
     }
 }
 

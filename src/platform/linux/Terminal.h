@@ -23,7 +23,14 @@ class TerminalTakeover {
     ~TerminalTakeover();
     TerminalTakeover(const TerminalTakeover&) = delete;
     TerminalTakeover& operator=(const TerminalTakeover&) = delete;
+
+    /// Stops the program as below, with the terminal given back meanwhile.
+    void stopUntilContinued();
 };
+
+/// Stops the program as SIGTSTP does and returns when it goes on. For whoever is told of that signal by a
+/// SignalListener instead of being stopped.
+void stopUntilContinued();
 
 /// Lets a closed pipe end the program without a word, whatever the parent process left SIGPIPE set to.
 void endQuietlyOnClosedPipe();
