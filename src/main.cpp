@@ -1,11 +1,14 @@
+#include <cerrno>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include "cli/CommandLine.h"
 #include "platform/linux/Examples.h"
 #include "platform/linux/FileUserDefaults.h"
+#include "platform/linux/SystemError.h"
 #include "platform/linux/Terminal.h"
 
 int main(int argc, char** argv) {
@@ -27,9 +30,11 @@ int main(int argc, char** argv) {
     const Places places{.defaults = FileUserDefaults::defaultPath(), .examples = examplesFolder()};
     try {
         const ExitStatus status = runCommandLine(console, places, argc, argv);
+        errno = 0;
         std::cout.flush();
         if (!std::cout)
-            return static_cast<int>(console.fail("Writing to standard output failed."));
+            return static_cast<int>(console.fail("Writing to standard output failed" +
+                                                 (errno != 0 ? ": " + systemErrorText(errno) : std::string()) + "."));
         return static_cast<int>(status);
     } catch (const std::exception& error) {
         // Only what no one can do anything about arrives here: memory, above all.

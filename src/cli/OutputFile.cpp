@@ -3,19 +3,45 @@
 #include <cerrno>
 #include <system_error>
 
+#include "platform/linux/SystemError.h"
+
 namespace kinesta {
 namespace {
 
-Error failure(const std::filesystem::path& file, const std::error_code& reason) {
-    return {file.string() + ": the file cannot be written: " + reason.message()};
+Error failure(const std::filesystem::path& file, int reason) {
+    return {file.string() + ": the file cannot be written: " + systemErrorText(reason != 0 ? reason : EIO)};
 }
-
-std::error_code lastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
 
 }  // namespace
 
+OutputFile::Buffer::int_type OutputFile::Buffer::overflow(int_type character) {
+    errno = 0;
+    const int_type result = std::filebuf::overflow(character);
+    note(traits_type::eq_int_type(result, traits_type::eof()));
+    return result;
+}
+
+std::streamsize OutputFile::Buffer::xsputn(const char* text, std::streamsize length) {
+    errno = 0;
+    const std::streamsize written = std::filebuf::xsputn(text, length);
+    note(written < length);
+    return written;
+}
+
+int OutputFile::Buffer::sync() {
+    errno = 0;
+    const int result = std::filebuf::sync();
+    note(result != 0);
+    return result;
+}
+
+void OutputFile::Buffer::note(bool hasFailed) {
+    if (hasFailed && m_failure == 0)
+        m_failure = errno;
+}
+
 OutputFile::OutputFile(std::filesystem::path target, std::filesystem::path written)
-    : m_target(std::move(target)), m_written(std::move(written)), m_stream(m_written, std::ios::binary) {}
+    : m_target(std::move(target)), m_written(std::move(written)) {}
 
 OutputFile::~OutputFile() {
     std::error_code ignored;
@@ -30,25 +56,24 @@ Result<std::unique_ptr<OutputFile>> OutputFile::create(const std::string& file) 
     std::error_code ignored;
     const bool isInPlace =
         std::filesystem::exists(target, ignored) && !std::filesystem::is_regular_file(target, ignored);
-    errno = 0;
     std::unique_ptr<OutputFile> output(
         new OutputFile(target, isInPlace ? target : std::filesystem::path(target.string() + ".part")));
-    if (!output->m_stream)
-        return failure(target, lastError());
+    errno = 0;
+    if (output->m_buffer.open(output->m_written, std::ios::out | std::ios::binary) == nullptr)
+        return failure(target, errno);
     return output;
 }
 
 Outcome OutputFile::commit() {
-    errno = 0;
     m_stream.flush();
     if (!m_stream)
-        return failure(m_target, lastError());
+        return failure(m_target, m_buffer.failure());
     if (m_written == m_target)
         return success();
     std::error_code reason;
     std::filesystem::rename(m_written, m_target, reason);
     if (reason)
-        return failure(m_target, reason);
+        return failure(m_target, reason.value());
     m_written = m_target;
     return success();
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -27,9 +28,27 @@ class OutputFile {
   private:
     OutputFile(std::filesystem::path target, std::filesystem::path written);
 
+    /// Keeps why writing failed, which streams do not tell.
+    class Buffer final : public std::filebuf {
+      public:
+        /// errno of the first failure; 0 if there was none.
+        int failure() const { return m_failure; }
+
+      protected:
+        int_type overflow(int_type character) override;
+        std::streamsize xsputn(const char* text, std::streamsize length) override;
+        int sync() override;
+
+      private:
+        void note(bool hasFailed);
+
+        int m_failure = 0;
+    };
+
     std::filesystem::path m_target;
     std::filesystem::path m_written;
-    std::ofstream m_stream;
+    Buffer m_buffer;
+    std::ostream m_stream{&m_buffer};
 };
 
 /// The same for a content that is there already.

@@ -80,8 +80,10 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
         console.err << "Recording " << printable(header.device) << ". Ctrl-C ends.\n";
     loop.run();
     provider.stop();
+    if (const Outcome written = file ? file->commit() : success(); !written)
+        return console.fail(written.error().message);
     if (!stream)
-        return console.fail((output == "-" ? std::string("standard output") : output) + ": writing failed");
+        return console.fail("standard output: writing failed");
     if (output != "-")
         console.err << "Wrote " << events << " events to " << output << ".\n";
     return settings.status();

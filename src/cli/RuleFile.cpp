@@ -11,16 +11,19 @@
 namespace kinesta {
 namespace {
 
-// A hundred thousand long rules take a tenth of this. Whatever is larger is not a rule list.
-constexpr std::size_t kLargestFile = std::size_t{512} << 20U;
+// A hundred thousand long rules fit. Whatever is larger is not a rule list.
+constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
+
+Error tooLarge(const std::string& name) { return {name + ": this is larger than 64 MiB, so it is no rule list"}; }
 
 Result<std::string> readWhole(std::istream& input, const std::string& name) {
     std::string content;
     std::array<char, 1U << 16U> block;
     while (input.read(block.data(), block.size()), input.gcount() > 0) {
-        content.append(block.data(), static_cast<std::size_t>(input.gcount()));
-        if (content.size() > kLargestFile)
-            return Error{name + ": the file is larger than 512 MiB, so it is no rule list"};
+        const std::string_view read(block.data(), static_cast<std::size_t>(input.gcount()));
+        if (content.size() + read.size() > kLargestFile)
+            return tooLarge(name);
+        content += read;
     }
     if (input.bad())
         return Error{name + ": reading failed: " + std::generic_category().message(errno)};
@@ -36,6 +39,9 @@ Result<std::vector<GestureRule>> readRuleFile(const std::string& file, std::istr
     if (!isStandardInput) {
         if (std::error_code ignored; std::filesystem::is_directory(file, ignored))
             return Error{name + ": this is a folder, not a rule file"};
+        std::error_code unknown;
+        if (const auto size = std::filesystem::file_size(file, unknown); !unknown && size > kLargestFile)
+            return tooLarge(name);
         errno = 0;
         stream.open(file, std::ios::binary);
         if (!stream)

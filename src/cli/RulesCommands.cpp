@@ -11,6 +11,7 @@
 #include "cli/RuleFile.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
+#include "platform/linux/SystemError.h"
 #include "rules/GestureConflictChecker.h"
 #include "rules/GestureDescription.h"
 #include "rules/GestureRuleCoding.h"
@@ -107,13 +108,19 @@ ExitStatus checkRules(const Console& console, const std::string& file, OutputFor
 ExitStatus listRules(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
-    print(console, store.rules().value(), form);
+    settings.check(store);
+    if (settings.status() == ExitStatus::success)
+        print(console, store.rules().value(), form);
     return settings.status();
 }
 
 ExitStatus exportRules(const Console& console, const std::filesystem::path& defaults, const std::string& file) {
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
+    settings.check(store);
+    // What stands in for rules that cannot be read is not the person's: it must not pass for a copy of them.
+    if (settings.status() != ExitStatus::success)
+        return settings.status();
     const std::string text = encodeRules(store.rules().value(), RuleListLayout::indented);
     if (file == "-") {
         console.out << text;
@@ -135,12 +142,15 @@ ExitStatus importRules(const Console& console, const std::filesystem::path& defa
     if (settings.status() != ExitStatus::success)
         return settings.status();
     // What cannot be decoded any more is kept as it is: it may be all that is left of someone's rules.
-    const auto stored = settings.defaults().data(RuleStore::storageKey);
-    const std::string before =
-        stored && !decodeRules(*stored) ? *stored : encodeRules(store.rules().value(), RuleListLayout::indented);
-    std::error_code ignored;
-    if (std::filesystem::create_directories(defaults.parent_path(), ignored))
-        std::filesystem::permissions(defaults.parent_path(), std::filesystem::perms::owner_all, ignored);
+    const std::string before = store.problem().empty()
+                                   ? encodeRules(store.rules().value(), RuleListLayout::indented)
+                                   : settings.defaults().anyAsText(RuleStore::storageKey).value_or("");
+    std::error_code problem;
+    if (std::filesystem::create_directories(defaults.parent_path(), problem))
+        std::filesystem::permissions(defaults.parent_path(), std::filesystem::perms::owner_all, problem);
+    if (problem)
+        return console.fail(defaults.parent_path().string() + ": " + systemErrorText(problem.value()) +
+                            "\nNothing was changed.");
     const std::filesystem::path copy = freshCopyPath(defaults.parent_path());
     if (const Outcome written = writeOutputFile(copy.string(), before); !written)
         return console.fail(written.error().message + "\nNothing was changed.");

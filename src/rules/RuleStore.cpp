@@ -109,6 +109,7 @@ void RuleStore::replaceRules(std::vector<GestureRule> rules) {
     // Takes care of unacknowledged shell commands, too: such a rule is never ready.
     for (GestureRule& rule : rules)
         disableUnlessReady(rule);
+    m_problem.clear();
     change(std::move(rules));
 }
 
@@ -119,7 +120,8 @@ std::optional<RuleStore::Binding> RuleStore::binding(const Uuid& id) {
 }
 
 void RuleStore::reload() {
-    const std::optional<std::string> stored = m_defaults.data(storageKey);
+    // Written by hand, it may be text or plain JSON.
+    const std::optional<std::string> stored = m_defaults.anyAsText(storageKey);
     m_problem.clear();
     if (!stored) {
         publishIfChanged({GestureRule::recommendedDefault()});
@@ -146,7 +148,22 @@ std::vector<GestureRule> RuleStore::disablingUnacknowledgedShellRules(std::vecto
     return rules;
 }
 
-void RuleStore::save() { m_defaults.setData(storageKey, encodeRules(m_rules.value())); }
+void RuleStore::save() {
+    if (!m_problem.empty())
+        setUnreadableAside();
+    m_defaults.setData(storageKey, encodeRules(m_rules.value()));
+}
+
+void RuleStore::setUnreadableAside() {
+    m_problem.clear();
+    const auto stored = m_defaults.anyAsText(storageKey);
+    if (!stored)
+        return;
+    std::string key;
+    for (int number = 1; key.empty() || m_defaults.contains(key); ++number)
+        key = std::string(setAsideKey) + std::to_string(number);
+    m_defaults.setData(key, *stored);
+}
 
 void RuleStore::publishIfChanged(std::vector<GestureRule> rules) {
     if (rules != m_rules.value())

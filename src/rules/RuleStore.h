@@ -22,6 +22,7 @@ enum class RuleEnablementResult { changed, unchanged, ruleNotReady };
 class RuleStore {
   public:
     static constexpr std::string_view storageKey = "gestureRules.v1";
+    static constexpr std::string_view setAsideKey = "gestureRules.v1.unreadable-";
 
     /// A read-write view of one rule for an editor. Must not outlive the store.
     class Binding {
@@ -54,14 +55,16 @@ class RuleStore {
     bool canEnableAllRules() const;
     RuleEnablementResult enableAllRules();
     void disableAllRules();
-    /// Replaces the whole list, as an import does; enabled rules that are not ready are switched off.
+    /// Replaces the whole list, as an import does; enabled rules that are not ready are switched off. The caller keeps
+    /// what was stored before.
     void replaceRules(std::vector<GestureRule> rules);
     std::optional<Binding> binding(const Uuid& id);
     /// Reads the stored list again, after another process changed it; publishes only a list that differs. A removed
     /// list is the default one; one that does not decode leaves the present list as it is.
     void reload();
 
-    /// Why the stored list was not taken over when it was last read, with the place; empty if it was.
+    /// Why the stored list was not taken over when it was last read, with the place; empty if it was. Such a list stays
+    /// stored until the next change, which moves it to the key `setAsideKey` with a number behind.
     const std::string& problem() const { return m_problem; }
 
     /// The list with every enabled shell-command rule that was not acknowledged switched off.
@@ -70,6 +73,7 @@ class RuleStore {
     void save();
 
   private:
+    void setUnreadableAside();
     void publishIfChanged(std::vector<GestureRule> rules);
     void change(std::vector<GestureRule> rules);
 

@@ -3,6 +3,8 @@
 #include <utility>
 #include <variant>
 
+#include "support/NumberText.h"
+
 namespace kinesta {
 namespace {
 
@@ -17,6 +19,15 @@ std::optional<T> read(const StoredValues& values, std::string_view key) {
     const T* value = find<T>(values, key);
     return value ? std::optional(*value) : std::nullopt;
 }
+
+struct AsText {
+    std::string operator()(bool value) const { return value ? "true" : "false"; }
+    std::string operator()(std::int64_t value) const { return std::to_string(value); }
+    std::string operator()(double value) const { return numberText(value); }
+    std::string operator()(const std::string& value) const { return value; }
+    std::string operator()(const StoredData& value) const { return value.bytes; }
+    std::string operator()(const ForeignValue& value) const { return value.text; }
+};
 
 }  // namespace
 
@@ -41,6 +52,11 @@ std::optional<std::string> InMemoryUserDefaults::string(std::string_view key) co
 std::optional<std::string> InMemoryUserDefaults::data(std::string_view key) const {
     const auto* data = find<StoredData>(m_values, key);
     return data ? std::optional(data->bytes) : std::nullopt;
+}
+
+std::optional<std::string> InMemoryUserDefaults::anyAsText(std::string_view key) const {
+    const auto found = m_values.find(key);
+    return found == m_values.end() ? std::nullopt : std::optional(std::visit(AsText(), found->second));
 }
 
 void InMemoryUserDefaults::setBoolean(std::string_view key, bool value) { set(key, value); }

@@ -21,6 +21,7 @@ class InMemoryUserDefaults : public UserDefaults {
     std::optional<double> real(std::string_view key) const override;
     std::optional<std::string> string(std::string_view key) const override;
     std::optional<std::string> data(std::string_view key) const override;
+    std::optional<std::string> anyAsText(std::string_view key) const override;
 
     void setBoolean(std::string_view key, bool value) override;
     void setInteger(std::string_view key, std::int64_t value) override;

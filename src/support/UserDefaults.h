@@ -23,6 +23,8 @@ class UserDefaults {
     virtual std::optional<std::string> string(std::string_view key) const = 0;
     /// Bytes of any content.
     virtual std::optional<std::string> data(std::string_view key) const = 0;
+    /// What is stored under the key, whatever its type: data and strings as they are, all else as JSON text.
+    virtual std::optional<std::string> anyAsText(std::string_view key) const = 0;
 
     virtual void setBoolean(std::string_view key, bool value) = 0;
     virtual void setInteger(std::string_view key, std::int64_t value) = 0;

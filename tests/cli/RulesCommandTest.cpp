@@ -62,19 +62,51 @@ TEST_F(RulesCommandTest, importReplacesAllOrNothingAndCanBeUndone) {
     EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, exported);
 }
 
-TEST_F(RulesCommandTest, importKeepsEvenAListThatNoLongerDecodes) {
-    const std::string first = kinesta.folder.write("first.json", "[" + kTap + "]");
-    ASSERT_EQ(kinesta.run({"rules", "import", first}).status, 0);
-    std::string stored = readText(defaults());
-    stored.replace(stored.find("doubleTap"), 9, "futureTap");
-    std::ofstream(defaults(), std::ios::binary) << stored;
+TEST_F(RulesCommandTest, whatCannotBeReadIsNeitherShownNorExportedButKept) {
+    const std::string rules = kinesta.folder.write("rules.json", "[" + kTap + "]");
+    const std::string exported = kinesta.folder / "exported.json";
+    const std::string settings = std::filesystem::path(defaults()).parent_path();
+    for (const std::string stored :
+         {"5", R"([{"gesture":"futureTap"}])", R"("no JSON")", R"({"data":"[futureTap]"})"}) {
+        SCOPED_TRACE(stored);
+        std::filesystem::remove_all(settings);
+        std::filesystem::create_directory(settings);
+        writeText(defaults(), R"({"gestureRules.v1":)" + stored + "}");
+        for (const std::string& file : {std::string("-"), exported}) {
+            const Ran refused = kinesta.run({"rules", "export", file});
+            EXPECT_EQ(refused.status, 1);
+            EXPECT_EQ(refused.out, "");
+            EXPECT_NE(refused.err.find("The stored rules cannot be read: line 1: "), std::string::npos) << refused.err;
+        }
+        EXPECT_FALSE(std::filesystem::exists(exported));
+        EXPECT_EQ(kinesta.run({"rules", "list"}).status, 1);
+        EXPECT_EQ(kinesta.run({"rules", "list"}).out, "");
 
-    ASSERT_EQ(kinesta.run({"rules", "import", first}).status, 0);
-    bool isKept = false;
-    for (const auto& entry : std::filesystem::directory_iterator(kinesta.folder.path() / "settings"))
-        if (entry.path() != defaults())
-            isKept = isKept || readText(entry.path()).find("futureTap") != std::string::npos;
-    EXPECT_TRUE(isKept);
+        ASSERT_EQ(kinesta.run({"rules", "import", rules}).status, 0);
+        std::string copies;
+        for (const auto& entry : std::filesystem::directory_iterator(settings))
+            if (entry.path().filename().string().starts_with("rules-before-import"))
+                copies += readText(entry.path());
+        EXPECT_TRUE(!copies.empty() && stored.find(copies) != std::string::npos) << copies;
+    }
+    writeText(defaults(), R"({"gestureRules.v1":[)" + kTap + "]}");
+    const std::string plain = kinesta.run({"rules", "export", "-"}).out;
+    writeText(defaults(), "{");
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, "") << "nor what stands in for a damaged file";
+    ASSERT_EQ(kinesta.run({"rules", "import", rules}).status, 0);
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, plain) << "a plain list is read";
+}
+
+TEST_F(RulesCommandTest, refusesWhatIsTooLargeAndSaysWhenTheDiskIsFull) {
+    const std::string huge = kinesta.folder.write("huge.json", "");
+    std::filesystem::resize_file(huge, std::uintmax_t{1} << 40U);
+    for (const std::string& file : {huge, std::string("/dev/zero")}) {
+        const Ran ran = kinesta.run({"rules", "check", file});
+        EXPECT_EQ(ran.err, file + ": this is larger than 64 MiB, so it is no rule list\n");
+    }
+    const Ran full = kinesta.run({"rules", "export", "/dev/full"});
+    EXPECT_EQ(full.status, 1);
+    EXPECT_NE(full.err.find("/dev/full: the file cannot be written: the disk is full"), std::string::npos) << full.err;
 }
 
 TEST_F(RulesCommandTest, exportWritesWhatImportReads) {

@@ -71,11 +71,38 @@ TEST(RuleStore, StartsWithTheDefaultRuleAndLeavesTheStoredBytes) {
         fixture.store->moveRules({1}, 0);
         EXPECT_EQ(fixture.changes(), "0/0") << "nothing came of it, so nothing is overwritten";
         fixture.store->addRule();
-        EXPECT_EQ(fixture.changes(), "1/1");
+        EXPECT_EQ(fixture.changes(), bytes ? "1/2" : "1/1");
+        EXPECT_EQ(fixture.defaults.data(std::string(kKey) + ".unreadable-1"), bytes) << "set aside";
         fixture.start();
         EXPECT_EQ(fixture.rules().size(), 2U);
     }
     EXPECT_TRUE(Fixture(std::vector<GestureRule>{}).rules().empty()) << "an empty list is a list";
+}
+
+TEST(RuleStore, ReadsWhatIsWrittenByHandAndOverwritesNoneOfIt) {
+    const std::vector<GestureRule> rules{makeRule(GestureKind::tipTapLeft)};
+    Fixture fixture(std::nullopt);
+    const auto startWith = [&](StoredValue value) {
+        fixture.defaults.replaceValues({{std::string(kKey), std::move(value)}});
+        fixture.start();
+        return fixture.store->problem();
+    };
+    for (const StoredValue& plain : {StoredValue(ForeignValue{encodeRules(rules)}), StoredValue(encodeRules(rules))}) {
+        EXPECT_EQ(startWith(plain), "");
+        EXPECT_EQ(fixture.rules(), rules);
+    }
+    int number = 0;
+    for (const auto& [value, text] : std::vector<std::pair<StoredValue, std::string>>{
+             {std::int64_t{5}, "5"}, {2.5, "2.5"}, {true, "true"}, {ForeignValue{"[7]"}, "[7]"}}) {
+        EXPECT_NE(startWith(value), "");
+        fixture.store->disableAllRules();
+        EXPECT_EQ(fixture.defaults.data(std::string(kKey) + ".unreadable-1"), text);
+        EXPECT_EQ(fixture.defaults.data(kKey), encodeRules(fixture.rules()));
+        fixture.defaults.setInteger(kKey, ++number);
+        fixture.store->reload();
+        fixture.store->addRule();
+        EXPECT_EQ(fixture.defaults.data(std::string(kKey) + ".unreadable-2"), std::to_string(number));
+    }
 }
 
 TEST(RuleStore, UnacknowledgedShellRulesComeBackSwitchedOffAndAreSavedSo) {

@@ -8,7 +8,8 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <system_error>
+
+#include "platform/linux/SystemError.h"
 
 namespace kinesta {
 namespace {
@@ -17,9 +18,7 @@ constexpr int kLockWaitMilliseconds = 5;
 constexpr int kMostLockTries = 400;
 constexpr int kMostLinks = 40;  // as many as the kernel follows
 
-Error failure(const std::string& path, int reason) {
-    return {path + ": " + std::error_code(reason, std::generic_category()).message()};
-}
+Error failure(const std::string& path, int reason) { return {path + ": " + systemErrorText(reason)}; }
 
 std::string folderOf(const std::string& path) {
     const std::size_t slash = path.find_last_of('/');
