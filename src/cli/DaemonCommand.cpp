@@ -25,19 +25,25 @@ constexpr const char* kChanged = "The settings file was changed";
 /// The daemon's parts, in the order in which they depend on each other.
 class Daemon {
   public:
-    Daemon(const Console& console, const std::filesystem::path& defaults, LogLevel level)
+    Daemon(const Console& console, const std::filesystem::path& defaults, LogLevel level,
+           const SingleInstance& instance)
         : m_log(console),
           m_level(level),
           m_signals(m_loop, {SIGTERM, SIGINT, SIGHUP}, [this](int signal) { receive(signal); }),
-          m_settings(console, defaults),
+          m_settings([this](const std::string& problem) { m_log.write(problem); }, defaults),
           m_store(m_settings.defaults()),
-          m_actions(m_clock, m_settings.defaults(),
-                    [this](const std::string& text) { m_loop.post([this, text] { m_log.write(text); }); }),
+          m_actions(
+              m_clock, m_settings.defaults(),
+              [this](const std::string& text) { m_loop.post([this, text] { m_log.write(text); }); },
+              LinuxActions::Output::log),
           m_executor(m_actions.ports()),
           m_dispatcher(m_store, m_settings.defaults(), m_executor),
           m_recognition(m_loop, m_clock, m_settings.defaults()),
           m_watcher(m_loop, defaults.string(), [this] { reload(kChanged); }) {
         m_settings.check(m_store);
+        if (!instance.isCertain())
+            m_log.write(
+                "No folder takes a lock file. See to it that no other Kinesta runs: each action would run twice.");
         m_dispatcher.setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {
             m_log.write(describe(gesture) + "  →  " + (rule ? ruleInWords(*rule) : whyNone(gesture)));
         });
@@ -55,6 +61,9 @@ class Daemon {
         m_statusSubscription = m_recognition.service().status().observe([this](const auto&) { tellStatus(); });
         m_recognition.start();
         tellRules();
+        if (const Outcome possible = m_settings.defaults().checkSaving(); !possible)
+            m_log.write("Nothing can be saved; what changes lasts only until Kinesta quits: " +
+                        possible.error().message);
         if (!m_watcher.isWatching())
             m_log.write("The settings file cannot be watched: after a change send SIGHUP.");
         reload(kChanged);  // between the reading and the watching
@@ -145,7 +154,7 @@ ExitStatus runDaemon(const Console& console, const std::filesystem::path& defaul
     const auto instance = SingleInstance::claim(defaults);
     if (!instance)
         return console.fail(instance.error().message);
-    return Daemon(console, defaults, level).run();
+    return Daemon(console, defaults, level, *instance).run();
 }
 
 }  // namespace kinesta

@@ -205,6 +205,7 @@ TEST_F(DaemonOnADesktop, FollowsItsSettingsAndEndsCleanly) {
     set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", false); });
     EXPECT_TRUE(says(*daemon, "Gesture recognition is off"));
     writeText(kinesta.folder.path() / "settings" / "defaults.json", "{ broken");
+    EXPECT_TRUE(says(*daemon, "  The settings were changed elsewhere but could not be read")) << "in the log";
     daemon->signal(SIGHUP);
     daemon->signal(SIGTERM);
     EXPECT_TRUE(says(*daemon, "Stopped."));
@@ -222,6 +223,13 @@ TEST_F(DaemonOnADesktop, IsTheOnlyOneThatActs) {
     ASSERT_TRUE(first->waitForEnd());
     const auto third = start();
     EXPECT_TRUE(says(*third, "rules are on.")) << "what is left of one that was killed is in nobody's way";
+}
+
+TEST_F(DaemonOnADesktop, RunsWithoutAHomeAndSaysWhatThatMeans) {
+    const auto daemon = desktop.run({"env", "-u", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME=/proc/nowhere",
+                                     "TMPDIR=" + kinesta.folder.path().string(), KINESTA_PROGRAM, "daemon"});
+    EXPECT_TRUE(says(*daemon, "1 of 1 rules are on."));
+    EXPECT_TRUE(says(*daemon, "  Nothing can be saved; what changes lasts only until Kinesta quits: /proc/nowhere"));
 }
 
 TEST_F(DaemonOnADesktop, StartsAtOnceAndStaysSmall) {

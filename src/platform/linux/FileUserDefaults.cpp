@@ -30,6 +30,14 @@ bool FileUserDefaults::reload() {
     return values() != before;
 }
 
+Outcome FileUserDefaults::checkSaving() const {
+    const auto file = DurableFile::at(m_path);
+    if (!file)
+        return file.error();
+    const auto lock = file->lock();
+    return lock ? success() : lock.error();
+}
+
 std::string FileUserDefaults::defaultPath() {
     const auto path = [](const char* folder, const char* rest) { return std::string(folder) + rest; };
     if (const char* config = std::getenv("XDG_CONFIG_HOME"); config && *config == '/')

@@ -29,6 +29,10 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     /// the file cannot be read or understood.
     bool reload();
 
+    /// Whether changes can be stored, as far as that is known before one is: makes the folder and locks the file. The
+    /// error tells why not.
+    Outcome checkSaving() const;
+
     /// Where a person's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is
     /// not set or not absolute.
     static std::string defaultPath();

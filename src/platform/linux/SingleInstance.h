@@ -12,9 +12,12 @@ namespace kinesta {
 /// process ends, however it does.
 class SingleInstance {
   public:
-    /// Claims it for the person's session (XDG_RUNTIME_DIR), or for the machines that share `settings` where there is
-    /// no such folder. The error names the process that has it.
+    /// Claims it with a file in the first of these folders that takes one: that of the person's session
+    /// (XDG_RUNTIME_DIR), that of `settings`, that for temporary files. The error names the process that has it.
     static Result<SingleInstance> claim(const std::filesystem::path& settings);
+
+    /// Whether it is certain that there is no other: not where no folder took a file.
+    bool isCertain() const { return static_cast<bool>(m_lock); }
 
   private:
     explicit SingleInstance(FileDescriptor lock) : m_lock(std::move(lock)) {}
