@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/linux/CurrentDesktop.h"
 #include "platform/linux/DconfDatabase.h"
 
 namespace kinesta {
@@ -20,11 +21,6 @@ std::string variable(const char* name) {
     return value ? value : "";
 }
 
-/// Whether a list with colons holds the word.
-bool lists(const std::string& list, const std::string& word) {
-    return (':' + list + ':').find(':' + word + ':') != std::string::npos;
-}
-
 }  // namespace
 
 TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
@@ -32,7 +28,7 @@ TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
     // The X server inside a Wayland session knows no touchpads.
     if (variable("WAYLAND_DISPLAY").empty())
         desktop.display = variable("DISPLAY");
-    if (lists(variable("XDG_CURRENT_DESKTOP"), "GNOME")) {
+    if (isCurrentDesktop("GNOME")) {
         const std::string configuration = variable("XDG_CONFIG_HOME");
         desktop.dconfDirectory = (configuration.empty() ? variable("HOME") + "/.config" : configuration) + "/dconf";
     }
