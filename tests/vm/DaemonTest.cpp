@@ -327,6 +327,16 @@ TEST_F(Daemon, LeavesAValidRecordingWheneverItIsKilled) {
     }
 }
 
+TEST_F(Daemon, DoctorKnowsHowManyFingersThePadTells) {
+    for (const int fingers : {2, 3}) {
+        const VirtualTouchpad pad({.slots = 2, .fingers = fingers, .pressureResolution = 10, .maximumPressure = 1000});
+        EXPECT_EQ(kinesta("doctor > " + (folder / "told")), fingers == 3);
+        const bool isTold =
+            readText(folder / "told").find("tells of 2 fingers at once and no more.") != std::string::npos;
+        EXPECT_EQ(isTold, fingers == 2) << readText(folder / "told");
+    }
+}
+
 TEST_F(Daemon, MonitorTellsAndPerformsNothingAndDoctorIsContent) {
     VirtualTouchpad pad({.pressureResolution = 10, .maximumPressure = 1000});
     EXPECT_TRUE(kinesta("devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));

@@ -7,7 +7,8 @@
 namespace kinesta {
 
 std::vector<ListedTouchpad> listTouchpads(const std::string& wanted) {
-    const std::vector<TouchpadCandidate> candidates = TouchpadScanner().scan();
+    const TouchpadScanner scanner;
+    const std::vector<TouchpadCandidate> candidates = scanner.scan();
     const TouchpadCandidate* chosen = chooseTouchpad(candidates, wanted, {});
     TouchpadSwitch touchpadSwitch;
     std::vector<ListedTouchpad> list;
@@ -15,14 +16,14 @@ std::vector<ListedTouchpad> listTouchpads(const std::string& wanted) {
         ListedTouchpad& listed = list.emplace_back();
         listed.candidate = candidate;
         listed.isChosen = &candidate == chosen;
-        if (touchpadSwitch.mode(candidate.path) == SendEventsMode::disabled) {
-            listed.problem = "The trackpad is switched off in the desktop's settings.";
+        listed.problem = touchpadSwitch.whyOff(candidate.path, scanner);
+        if (!listed.problem.empty())
             continue;
-        }
         const auto device = EvdevDevice::open(candidate);
         if (device) {
             listed.touchpad = device.value()->touchpad();
             listed.canTellPressure = device.value()->canTellPressure();
+            listed.fingers = device.value()->fingers();
         } else {
             listed.problem = device.error().message;
         }

@@ -80,6 +80,20 @@ SendEventsMode TouchpadSwitch::mode(const std::string& path) {
     return driver == SendEventsMode::enabled ? storedMode() : driver;
 }
 
+std::string TouchpadSwitch::whyOff(const std::string& path, const TouchpadScanner& devices) {
+    switch (mode(path)) {
+        case SendEventsMode::disabled:
+            return "The trackpad is switched off in the desktop's settings.";
+        case SendEventsMode::disabledWithExternalMouse:
+            return devices.hasExternalMouse() ? "The trackpad is switched off in the desktop's settings while an "
+                                                "external mouse is connected."
+                                              : "";
+        case SendEventsMode::enabled:
+            break;
+    }
+    return "";
+}
+
 SendEventsMode TouchpadSwitch::storedMode() const {
     if (m_dconfDirectory.empty())
         return SendEventsMode::enabled;

@@ -5,6 +5,7 @@
 
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/SendEventsMode.h"
+#include "platform/linux/TouchpadScanner.h"
 #include "platform/linux/X11TouchpadProperties.h"
 
 namespace kinesta {
@@ -33,6 +34,10 @@ class TouchpadSwitch {
 
     /// What has been chosen for the touchpad at this device node.
     SendEventsMode mode(const std::string& path);
+
+    /// Why the touchpad at this device node is off now, as a sentence; empty if it is on. `devices` tells whether there
+    /// is an external mouse.
+    std::string whyOff(const std::string& path, const TouchpadScanner& devices);
 
   private:
     void connect();
