@@ -88,7 +88,10 @@ void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserD
     else
         findings.push_back(
             {"Touchpad", chosen->problem.empty(),
-             chosen->problem.empty() ? chosen->candidate.name + " at " + chosen->candidate.path + "." : chosen->problem,
+             chosen->problem.empty()
+                 ? chosen->candidate.name + " at " + chosen->candidate.path + "." +
+                       (chosen->mayBeOff ? " Kinesta also reads it while this desktop has it switched off." : "")
+                 : chosen->problem,
              "", isNeeded});
     if (!storedGestureEnabled(defaults))
         findings.push_back({"Gesture recognition", false, "It is switched off in the settings.",

@@ -342,6 +342,12 @@ TEST_F(Daemon, MonitorTellsAndPerformsNothingAndDoctorIsContent) {
     EXPECT_TRUE(kinesta("devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));
     EXPECT_TRUE(kinesta("doctor > " + (folder / "told")));
     EXPECT_NE(readText(folder / "told").find("✓ Touchpad: Virtual Touchpad at /dev/input/"), std::string::npos);
+    EXPECT_EQ(readText(folder / "told").find("also reads it"), std::string::npos);
+    ::setenv("WAYLAND_DISPLAY", "wayland-0", 1);
+    EXPECT_TRUE(kinesta("doctor > " + (folder / "told")));
+    ::unsetenv("WAYLAND_DISPLAY");
+    EXPECT_NE(readText(folder / "told").find("also reads it while this desktop has it switched off"),
+              std::string::npos);
     ProgramRun monitor({"monitor"});
     ASSERT_TRUE(monitor.says("Virtual Touchpad"));
     tapWithThree(pad);

@@ -10,12 +10,14 @@ std::vector<ListedTouchpad> listTouchpads(const std::string& wanted) {
     const TouchpadScanner scanner;
     const std::vector<TouchpadCandidate> candidates = scanner.scan();
     const TouchpadCandidate* chosen = chooseTouchpad(candidates, wanted, {});
-    TouchpadSwitch touchpadSwitch;
+    const TouchpadSwitch::Desktop desktop = TouchpadSwitch::Desktop::current();
+    TouchpadSwitch touchpadSwitch(desktop);
     std::vector<ListedTouchpad> list;
     for (const TouchpadCandidate& candidate : candidates) {
         ListedTouchpad& listed = list.emplace_back();
         listed.candidate = candidate;
         listed.isChosen = &candidate == chosen;
+        listed.mayBeOff = desktop.isSilent;
         listed.problem = touchpadSwitch.whyOff(candidate.path, scanner);
         if (!listed.problem.empty())
             continue;

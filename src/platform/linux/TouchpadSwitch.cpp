@@ -26,12 +26,14 @@ std::string variable(const char* name) {
 TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
     Desktop desktop;
     // The X server inside a Wayland session knows no touchpads.
-    if (variable("WAYLAND_DISPLAY").empty())
+    const bool isWayland = !variable("WAYLAND_DISPLAY").empty();
+    if (!isWayland)
         desktop.display = variable("DISPLAY");
     if (isCurrentDesktop("GNOME")) {
         const std::string configuration = variable("XDG_CONFIG_HOME");
         desktop.dconfDirectory = (configuration.empty() ? variable("HOME") + "/.config" : configuration) + "/dconf";
     }
+    desktop.isSilent = isWayland && desktop.dconfDirectory.empty();
     return desktop;
 }
 

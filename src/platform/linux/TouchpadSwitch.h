@@ -19,6 +19,8 @@ class TouchpadSwitch {
         std::string display;
         /// Where GNOME keeps its settings ("~/.config/dconf"), if this is GNOME.
         std::string dconfDirectory;
+        /// Whether it may have a switch that nothing tells of: any other on Wayland.
+        bool isSilent = false;
 
         /// What the environment tells.
         static Desktop current();
