@@ -19,7 +19,8 @@ void exercise(const std::vector<GestureRule>& rules) {
     const auto conflicting = GestureConflictChecker::conflictingRuleIDs(rules);
     require(conflicting.size() <= rules.size());
     for (const GestureRule& rule : rules) {
-        (void)SystemGestureWarningChecker::warning(rule);
+        for (const auto& system : enumTable<GestureSystem>())
+            (void)SystemGestureWarningChecker::warning(rule, system.value);
         (void)rule.action.summary();
         (void)rule.action.keyboardCueLabel();
         (void)rule.resolvedVisualCueMessage();

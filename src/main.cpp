@@ -6,10 +6,22 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
+#include "platform/linux/CurrentDesktop.h"
 #include "platform/linux/Examples.h"
 #include "platform/linux/FileUserDefaults.h"
 #include "platform/linux/SystemError.h"
 #include "platform/linux/Terminal.h"
+
+namespace {
+
+kinesta::GestureSystem runningSystem() {
+    using kinesta::GestureSystem, kinesta::isCurrentDesktop;
+    if (isCurrentDesktop("GNOME"))
+        return GestureSystem::gnome;
+    return isCurrentDesktop("KDE") ? GestureSystem::kde : GestureSystem::none;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     using namespace kinesta;
@@ -27,7 +39,8 @@ int main(int argc, char** argv) {
                           .colour = outIsTerminal && (noColour == nullptr || std::string_view(noColour).empty()),
                           .columns = size.columns,
                           .rows = size.rows};
-    const Places places{.defaults = FileUserDefaults::defaultPath(), .examples = examplesFolder()};
+    const Places places{
+        .defaults = FileUserDefaults::defaultPath(), .examples = examplesFolder(), .system = runningSystem()};
     try {
         const ExitStatus status = runCommandLine(console, places, argc, argv);
         errno = 0;

@@ -8,6 +8,7 @@
 #include "actions/WebAddress.h"
 #include "actions/WindowTilingMenuCommand.h"
 #include "platform/linux/DesktopEntry.h"
+#include "platform/linux/ExecutableSearch.h"
 #include "rules/ShortcutKey.h"
 
 namespace kinesta {
@@ -29,8 +30,13 @@ std::optional<Obstacle> obstacleToApplication(const std::string& path) {
     if (!exists(path))
         return Obstacle{path + " does not exist.", "Choose the application again."};
     if (path.ends_with(".desktop")) {
-        if (const auto entry = DesktopEntry::read(path, "C"); !entry)
+        const auto entry = DesktopEntry::read(path, "C");
+        if (!entry)
             return Obstacle{entry.error().message, ""};
+        if (const std::string& program = entry->command.front();
+            program.starts_with('/') ? ::access(program.c_str(), X_OK) != 0 : !isInSearchPath(program))
+            return Obstacle{path + " starts " + program + ", which is not there.",
+                            "Install that program, or choose another application."};
     } else if (std::filesystem::is_directory(path) || ::access(path.c_str(), X_OK) != 0) {
         return Obstacle{path + " is not a program that you may start.",
                         "Choose a program or a desktop file (*.desktop)."};
@@ -57,6 +63,8 @@ std::optional<Obstacle> obstacleTo(const GestureAction& action, const HomeFolder
                 return Obstacle{action.value + " is no address of a web page, and no other is opened.",
                                 "Write the whole address, with http:// or https:// before it."};
             break;
+        case ActionKind::toggleConfigurationWindow:
+            return Obstacle{"There is no configuration window yet.", "Choose another action."};
         default:
             break;
     }

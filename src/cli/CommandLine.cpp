@@ -64,6 +64,8 @@ class Parser {
 
     void addJson(CLI::App* app) { app->add_flag("--json", m_json, "Write JSON and nothing else to standard output"); }
 
+    GestureSystem system() const { return fromRawValue<GestureSystem>(m_system).value_or(m_places.system); }
+
     OutputForm form() const { return m_json ? OutputForm::json : OutputForm::forPeople; }
 
     void addPlaying() {
@@ -127,11 +129,15 @@ class Parser {
         CLI::App* rules = m_app.add_subcommand("rules", "Check, list, export and import rules");
         rules->require_subcommand(1);
         CLI::App* check = command(*rules, "check", "Judge a rule file without using it",
-                                  [this] { return checkRules(m_console, m_input, form()); });
+                                  [this] { return checkRules(m_console, m_input, system(), form()); });
         check->add_option("FILE", m_input, "A rule file; - for standard input")->required();
-        addJson(check);
-        addJson(command(*rules, "list", "Show the stored rules",
-                        [this] { return listRules(m_console, m_places.defaults, form()); }));
+        CLI::App* list = command(*rules, "list", "Show the stored rules",
+                                 [this] { return listRules(m_console, m_places.defaults, system(), form()); });
+        for (CLI::App* app : {check, list}) {
+            app->add_option("--system", m_system, "Whose own gestures to warn of (default: the running desktop's)")
+                ->check(CLI::IsMember({"macos", "gnome", "kde", "none"}));
+            addJson(app);
+        }
         command(*rules, "export", "Write the stored rules to a file",
                 [this] { return exportRules(m_console, m_places.defaults, m_output); })
             ->add_option("FILE", m_output, "Where to write; - for standard output")
@@ -159,6 +165,7 @@ class Parser {
     std::string m_input;
     std::string m_output = "-";
     std::string m_device;
+    std::string m_system;
     bool m_json = false;
     bool m_verbose = false;
     bool m_perform = false;

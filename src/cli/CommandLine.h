@@ -3,15 +3,18 @@
 #include <filesystem>
 
 #include "cli/Console.h"
+#include "rules/SystemGestureWarningChecker.h"
 
 namespace kinesta {
 
-/// Folders and files that the subcommands work with.
+/// What the subcommands work with on this machine.
 struct Places {
     /// The person's settings file.
     std::filesystem::path defaults;
     /// The bundled examples.
     std::filesystem::path examples;
+    /// The running system, as far as it has gestures of its own.
+    GestureSystem system = GestureSystem::none;
 };
 
 /// Runs the subcommand that the arguments name. `arguments` are those of main(), the program's name first.

@@ -26,6 +26,7 @@ Json asJson(const ListedTouchpad& listed) {
         object["x"] = range(listed.touchpad->x);
         object["y"] = range(listed.touchpad->y);
         object["slots"] = listed.touchpad->slotCount;
+        object["fingers"] = listed.fingers > 0 ? Json(listed.fingers) : Json(nullptr);
         object["pressure"] = listed.canTellPressure;
     }
     return object;
@@ -51,7 +52,7 @@ ExitStatus listDevices(const Console& console, const std::filesystem::path& defa
     TextTable table({"", "TOUCHPAD", "DEVICE", "FINGERS", "FORCE CLICK"});
     for (const ListedTouchpad& listed : touchpads)
         table.add({listed.isChosen ? "→" : "", listed.candidate.name, listed.candidate.path,
-                   listed.touchpad ? std::to_string(listed.touchpad->slotCount) : "?",
+                   listed.fingers > 0 ? std::to_string(listed.fingers) : "?",
                    !listed.touchpad         ? "?"
                    : listed.canTellPressure ? "yes"
                                             : "impossible: it cannot tell pressure"});

@@ -64,6 +64,10 @@ bool anyEnabled(const Rules& rules, const std::function<bool(const GestureRule&)
     return std::ranges::any_of(rules, [&](const GestureRule& rule) { return rule.isEnabled && needs(rule); });
 }
 
+std::string inQuotes(const GestureRule& rule) {
+    return "Rule “" + describeTrigger(rule) + "  →  " + ruleInWords(rule) + "”";
+}
+
 /// How to change a setting while there is no window for it.
 std::string toSet(const std::filesystem::path& file, std::string_view key, const std::string& value) {
     return "set \"" + std::string(key) + "\" to " + value + " in " + file.string() + ".";
@@ -84,19 +88,32 @@ void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserD
     else
         findings.push_back(
             {"Touchpad", chosen->problem.empty(),
-             chosen->problem.empty() ? chosen->candidate.name + " at " + chosen->candidate.path + "." : chosen->problem,
+             chosen->problem.empty()
+                 ? chosen->candidate.name + " at " + chosen->candidate.path + "." +
+                       (chosen->mayBeOff ? " Kinesta also reads it while this desktop has it switched off." : "")
+                 : chosen->problem,
              "", isNeeded});
     if (!storedGestureEnabled(defaults))
         findings.push_back({"Gesture recognition", false, "It is switched off in the settings.",
                             "To switch it on " + toSet(file, MultitouchService::enabledStorageKey, "true"), isNeeded});
-    const bool canTellPressure = chosen != touchpads.end() && chosen->canTellPressure;
+    const bool isRead = chosen != touchpads.end() && chosen->touchpad;
+    const bool canTellPressure = isRead && chosen->canTellPressure;
     findings.push_back({"Force Click", canTellPressure,
-                        canTellPressure ? "The touchpad tells pressure."
-                                        : "Impossible: the touchpad in use, if any, cannot tell pressure.",
-                        canTellPressure ? "" : "Bind those rules to a physical click of any pressure.",
+                        !isRead           ? "Not known while no touchpad can be read."
+                        : canTellPressure ? "The touchpad tells pressure."
+                                          : "Impossible: the touchpad cannot tell pressure.",
+                        canTellPressure || !isRead ? "" : "Bind those rules to a physical click of any pressure.",
                         anyEnabled(rules, [](const GestureRule& rule) {
                             return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
                         })});
+    if (!isRead || chosen->fingers == 0)
+        return;
+    for (const GestureRule& rule : rules)
+        if (rule.isEnabled && usesFingerCount(rule.gesture) && rule.fingerCount.value_or(0) > chosen->fingers)
+            findings.push_back(
+                {inQuotes(rule), false,
+                 "The touchpad tells of " + std::to_string(chosen->fingers) + " fingers at once and no more.",
+                 "Choose a gesture with fewer fingers.", true});
 }
 
 void addSession(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
@@ -124,8 +141,7 @@ void addRules(std::vector<Finding>& findings, const Rules& rules) {
     const PosixHomeFolders homes;
     for (const GestureRule& rule : rules)
         if (const auto obstacle = rule.isEnabled ? obstacleTo(rule.action, homes) : std::nullopt)
-            findings.push_back({"Rule “" + describeTrigger(rule) + "  →  " + ruleInWords(rule) + "”", false,
-                                obstacle->why, obstacle->remedy, true});
+            findings.push_back({inQuotes(rule), false, obstacle->why, obstacle->remedy, true});
 }
 
 }  // namespace

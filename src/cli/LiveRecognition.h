@@ -36,7 +36,7 @@ class LiveRecognition {
     std::function<void(const RecordingEvent&)> m_watcher;
 };
 
-/// The setting that names the touchpad to read, by path or name; absent or empty: the built-in one.
+/// The setting that names the touchpad to read, by path or name; absent or empty: a built-in one, else any.
 inline constexpr std::string_view kTouchpadSettingKey = "linux.touchpad.v1";
 
 }  // namespace kinesta

@@ -16,7 +16,6 @@
 #include "rules/GestureDescription.h"
 #include "rules/GestureRuleCoding.h"
 #include "rules/RuleStore.h"
-#include "rules/SystemGestureWarningChecker.h"
 
 namespace kinesta {
 namespace {
@@ -31,9 +30,9 @@ std::string state(const GestureRule& rule, bool conflicts) {
     return rule.isEnabled ? "on" : "off";
 }
 
-Json report(const GestureRule& rule, bool conflicts) {
+Json report(const GestureRule& rule, bool conflicts, GestureSystem system) {
     Json warning = nullptr;
-    if (const auto found = SystemGestureWarningChecker::warning(rule))
+    if (const auto found = SystemGestureWarningChecker::warning(rule, system))
         warning = {{"title", found->title}, {"detail", found->detail}};
     const auto cue = rule.resolvedVisualCueMessage();
     return {{"id", rule.id.toString()},
@@ -46,7 +45,8 @@ Json report(const GestureRule& rule, bool conflicts) {
             {"cue", cue ? Json(*cue) : Json(nullptr)}};
 }
 
-void printForPeople(const Console& console, const std::vector<GestureRule>& rules, const std::set<Uuid>& conflicts) {
+void printForPeople(const Console& console, const std::vector<GestureRule>& rules, const std::set<Uuid>& conflicts,
+                    GestureSystem system) {
     if (rules.empty()) {
         console.out << "There are no rules.\n";
         return;
@@ -62,20 +62,21 @@ void printForPeople(const Console& console, const std::vector<GestureRule>& rule
                     << "Only the first matching rule will run.\n";
     std::set<std::string> told;
     for (const GestureRule& rule : rules)
-        if (const auto warning = SystemGestureWarningChecker::warning(rule);
+        if (const auto warning = SystemGestureWarningChecker::warning(rule, system);
             warning && rule.isEnabled && told.insert(warning->title + warning->detail).second)
             console.out << '\n' << console.warning(warning->title) << '\n' << "  " << warning->detail << '\n';
 }
 
-void print(const Console& console, const std::vector<GestureRule>& rules, OutputForm form) {
+void print(const Console& console, const std::vector<GestureRule>& rules, GestureSystem system, OutputForm form) {
     const std::set<Uuid> conflicts = GestureConflictChecker::conflictingRuleIDs(rules);
     if (form == OutputForm::forPeople) {
-        printForPeople(console, rules, conflicts);
+        printForPeople(console, rules, conflicts, system);
         return;
     }
     for (const GestureRule& rule : rules)
-        console.out << report(rule, conflicts.contains(rule.id)).dump(-1, ' ', false, Json::error_handler_t::replace)
-                    << '\n';
+        console.out
+            << report(rule, conflicts.contains(rule.id), system).dump(-1, ' ', false, Json::error_handler_t::replace)
+            << '\n';
 }
 
 std::string counted(std::size_t count, std::string_view noun) {
@@ -97,20 +98,21 @@ std::filesystem::path freshCopyPath(const std::filesystem::path& folder) {
 
 }  // namespace
 
-ExitStatus checkRules(const Console& console, const std::string& file, OutputForm form) {
+ExitStatus checkRules(const Console& console, const std::string& file, GestureSystem system, OutputForm form) {
     const auto rules = readRuleFile(file, console.in);
     if (!rules)
         return console.fail(rules.error().message);
-    print(console, *rules, form);
+    print(console, *rules, system, form);
     return ExitStatus::success;
 }
 
-ExitStatus listRules(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
+ExitStatus listRules(const Console& console, const std::filesystem::path& defaults, GestureSystem system,
+                     OutputForm form) {
     StoredSettings settings(console, defaults);
     const RuleStore store(settings.defaults());
     settings.check(store);
     if (settings.status() == ExitStatus::success)
-        print(console, store.rules().value(), form);
+        print(console, store.rules().value(), system, form);
     return settings.status();
 }
 

@@ -4,14 +4,17 @@
 #include <string>
 
 #include "cli/Console.h"
+#include "rules/SystemGestureWarningChecker.h"
 
 namespace kinesta {
 
-/// `kinesta rules check FILE`: whether a rule file decodes, and what there is to say about each of its rules.
-ExitStatus checkRules(const Console& console, const std::string& file, OutputForm form);
+/// `kinesta rules check FILE`: whether a rule file decodes, and what there is to say about each of its rules, also
+/// against the system's own gestures.
+ExitStatus checkRules(const Console& console, const std::string& file, GestureSystem system, OutputForm form);
 
-/// `kinesta rules list`: the stored rules.
-ExitStatus listRules(const Console& console, const std::filesystem::path& defaults, OutputForm form);
+/// `kinesta rules list`: the stored rules, with the same notices.
+ExitStatus listRules(const Console& console, const std::filesystem::path& defaults, GestureSystem system,
+                     OutputForm form);
 
 /// `kinesta rules export FILE`: writes the stored rules to a file, or to the output for "-".
 ExitStatus exportRules(const Console& console, const std::filesystem::path& defaults, const std::string& file);

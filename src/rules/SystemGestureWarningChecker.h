@@ -4,8 +4,15 @@
 #include <string>
 
 #include "rules/GestureRule.h"
+#include "support/EnumTable.h"
 
 namespace kinesta {
+
+/// Systems and desktops whose own use of the trackpad is known. `none` stands for all others.
+enum class GestureSystem { none, macOS, gnome, kde };
+
+template <>
+std::span<const EnumRow<GestureSystem>> enumTable();
 
 /// A notice that the system may also act on a rule's gesture.
 struct SystemGestureWarning {
@@ -17,7 +24,7 @@ struct SystemGestureWarning {
 
 /// Tells whether a rule's gesture is likely to collide with one that the system itself uses.
 struct SystemGestureWarningChecker {
-    static std::optional<SystemGestureWarning> warning(const GestureRule& rule);
+    static std::optional<SystemGestureWarning> warning(const GestureRule& rule, GestureSystem system);
 };
 
 }  // namespace kinesta

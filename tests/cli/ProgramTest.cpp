@@ -132,6 +132,24 @@ TEST(ProgramTest, coloursOnlyOnATerminalThatWantsThem) {
     EXPECT_FALSE(escapes(kKinesta + "gestures | cat"));
 }
 
+TEST(ProgramTest, warnsOfTheGesturesOfTheDesktopThatRuns) {
+    const TemporaryFolder folder;
+    const std::string rules = folder.write(
+        "rules.json",
+        "[" + rule("0a", R"("name":"","fingerCount":3,"gesture":"edgeSlide")", R"("kind":"adjustVolume")") + "]");
+    const auto warned = [&](const std::string& desktop) {
+        Program check("XDG_CURRENT_DESKTOP=" + desktop + " " + kKinesta + "rules check --json " + rules);
+        check.wait();
+        const std::size_t start = check.output.find(R"("warning":)");
+        EXPECT_NE(start, std::string::npos) << check.output;
+        return check.output.substr(start, check.output.find(R"(,"summary")") - start);
+    };
+    EXPECT_NE(warned("ubuntu:GNOME").find("GNOME 40"), std::string::npos);
+    EXPECT_NE(warned("KDE").find("Plasma 6"), std::string::npos);
+    for (const char* other : {"", "XFCE", "GNOMEsque"})
+        EXPECT_EQ(warned(other), R"("warning":null)") << other;
+}
+
 TEST(ProgramTest, endsQuietlyWhenNobodyReads) {
     TemporaryFolder folder;
     std::string slide = "{\"kinesta\":\"recording\",\"version\":1}\n";

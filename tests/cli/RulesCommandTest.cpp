@@ -17,7 +17,8 @@ class RulesCommandTest : public ::testing::Test {
 
 TEST_F(RulesCommandTest, judgesEveryRuleAsItDecodes) {
     // Twice the modifiers key: the later one counts, as JSON readers do.
-    const Ran ran = kinesta.run({"rules", "check", "-", "--json"}, "[" + kTap + "," + kIncomplete + "," + kTap + "]");
+    const std::string rules = "[" + kTap + "," + kIncomplete + "," + kTap + "]";
+    const Ran ran = kinesta.run({"rules", "check", "-", "--json", "--system", "macos"}, rules);
     const std::string tap =
         R"({"id":"00000000-0000-4000-8000-00000000000A","name":"Paste","enabled":true,"ready":true,"conflict":true,)"
         R"("warning":{"title":"May conflict with Smart Zoom","detail":"macOS can use a two-finger double tap for Smart )"
@@ -29,6 +30,13 @@ TEST_F(RulesCommandTest, judgesEveryRuleAsItDecodes) {
         "\n";
     EXPECT_EQ(ran.out, tap + incomplete + tap);
     EXPECT_EQ(ran.status, 0);
+
+    const auto checkedFor = [&](const std::string& system) {
+        return kinesta.run({"rules", "check", "-", "--system", system}, rules);
+    };
+    EXPECT_NE(checkedFor("kde").out.find("KDE Plasma can take a two-finger tap"), std::string::npos);
+    EXPECT_EQ(checkedFor("none").out.find("two-finger"), std::string::npos);
+    EXPECT_EQ(checkedFor("beos").status, 2);
 
     const Ran empty = kinesta.run({"rules", "check", "-"}, "[]");
     EXPECT_EQ(empty.out, "There are no rules.\n");

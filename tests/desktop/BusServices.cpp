@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <stdexcept>
 
@@ -14,12 +15,20 @@ namespace kinesta::testing {
 
 struct BusHandlers {
     static int handle(sd_bus_message* message, void* data, sd_bus_error* error) {
+        if (static_cast<BusServices*>(data)->m_manner == BusServices::Manner::refusing)
+            return sd_bus_reply_method_errno(message, ENOTSUP, nullptr);
         if (sd_bus_message_is_method_call(message, "org.freedesktop.Notifications", "Notify") > 0)
             return notify(message, data, error);
         if (sd_bus_message_is_method_call(message, "org.freedesktop.portal.OpenURI", "OpenURI") > 0)
             return openURI(message, data, error);
         if (sd_bus_message_is_method_call(message, "org.freedesktop.portal.OpenURI", "OpenFile") > 0)
             return openFile(message, data, error);
+        if (static_cast<BusServices*>(data)->m_manner == BusServices::Manner::hanging)
+            return 1;
+        if (sd_bus_message_is_method_call(message, "org.freedesktop.Notifications", "GetServerInformation") > 0)
+            return sd_bus_reply_method_return(message, "ssss", "Test", "Kinesta", "1", "1.2");
+        if (sd_bus_message_is_method_call(message, "org.freedesktop.DBus.Properties", "GetAll") > 0)
+            return sd_bus_reply_method_return(message, "a{sv}", 0);
         return 0;
     }
 

@@ -14,8 +14,8 @@ namespace kinesta::testing {
 /// thread of their own and write down what they are asked.
 class BusServices {
   public:
-    /// Whether the services answer or, hanging, take requests and never say anything.
-    enum class Manner { answering, hanging };
+    /// Whether the services answer; refuse all; or, hanging, take requests and never say anything.
+    enum class Manner { answering, refusing, hanging };
 
     explicit BusServices(Manner manner = Manner::answering);
     BusServices(const BusServices&) = delete;

@@ -126,19 +126,24 @@ TEST_F(LiveCommands, DoctorSaysWhatTheRulesMissAndWhatToDo) {
     EXPECT_EQ(kinesta.run({"doctor"}).status, 0) << "nothing is needed";
     EXPECT_EQ(find(withoutRules, "Sending keys")["works"], true);
     EXPECT_EQ(find(withoutRules, "Touchpad")["why"], "There is no trackpad at /dev/none.");
+    EXPECT_EQ(find(withoutRules, "Force Click")["why"], "Not known while no touchpad can be read.");
 
     const std::string missing = kinesta.folder / "missing";
     constexpr const char* kRule = "Rule “3-finger single tap";
     struct Row {
         std::string action, what, remedy;
     };
-    const std::array<Row, 7> rows{{
+    const std::string application =
+        kinesta.folder.write("gone.desktop", "[Desktop Entry]\nType=Application\nName=Gone\nExec=no-such-program %U\n");
+    const std::array<Row, 9> rows{{
         {kCloseWindow, "Closing and tiling windows", "Start a window manager"},
         {shortcut(123, 20), "Closing and tiling windows", "Start a window manager"},  // tile on the left
         {shellCommand("true"), "Shell commands", "set \"shellCommandActionsEnabled.v1\" to true in "},
         {shortcut(14, 16), kRule, "Choose another shortcut."},
         {R"({"kind":"launchApplication","modifiers":0,"value":")" + missing + "\"}", kRule,
          "Choose the application again."},
+        {R"({"kind":"launchApplication","modifiers":0,"value":")" + application + "\"}", kRule, "Install that program"},
+        {R"({"kind":"toggleConfigurationWindow","modifiers":0,"value":""})", kRule, "Choose another action."},
         {R"({"kind":"openFileOrFolder","modifiers":0,"value":"~/../)" + missing + "\"}", kRule,
          "Choose the file or folder again."},
         {R"({"kind":"openURL","modifiers":0,"value":"ftp://kinesta.test/"})", kRule, "Write the whole address"},

@@ -102,13 +102,24 @@ TEST(DesktopFacts, AreWhatIsThere) {
     const auto probe = [&] { return DesktopFacts::probe(connection, bus, "/dev/null"); };
     DesktopFacts facts = probe();
     EXPECT_TRUE(facts.hasX && facts.hasXTest && facts.hasWindowManager && facts.hasSessionBus && facts.hasXdgOpen);
-    EXPECT_FALSE(facts.hasWayland || facts.hasNotifications || facts.hasPortal);
+    EXPECT_FALSE(facts.hasWayland);
+    EXPECT_EQ(facts.notifications, BusService::absent);
+    EXPECT_EQ(facts.portal, BusService::absent);
     EXPECT_TRUE(facts.mayUseUinput) << "stands for a device that may be opened";
     EXPECT_FALSE(DesktopFacts::probe(connection, bus, "/nonexistent").mayUseUinput);
     {
         const BusServices services;
         facts = probe();
-        EXPECT_TRUE(facts.hasNotifications && facts.hasPortal);
+        EXPECT_EQ(facts.notifications, BusService::answering);
+        EXPECT_EQ(facts.portal, BusService::absent) << "and not started for nothing: there is xdg-open";
+        const std::string programs = std::getenv("PATH");
+        setenv("PATH", "/nonexistent", 1);
+        EXPECT_EQ(probe().portal, BusService::answering);
+        setenv("PATH", programs.c_str(), 1);
+    }
+    {
+        const BusServices services(BusServices::Manner::refusing);
+        EXPECT_EQ(probe().notifications, BusService::silent) << "there, but of no use";
     }
     desktop.stopWindowManager();
     EXPECT_FALSE(probe().hasWindowManager) << "though it left its mark on the root window";
@@ -132,8 +143,8 @@ TEST(DesktopFacts, AreWhatIsThere) {
     desktop.stopServer();
     desktop.stopSessionBus();
     facts = probe();
-    EXPECT_FALSE(facts.hasX || facts.hasXTest || facts.hasWindowManager || facts.hasSessionBus ||
-                 facts.hasNotifications);
+    EXPECT_FALSE(facts.hasX || facts.hasXTest || facts.hasWindowManager || facts.hasSessionBus);
+    EXPECT_EQ(facts.notifications, BusService::absent);
 }
 
 }  // namespace

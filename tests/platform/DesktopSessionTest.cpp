@@ -15,12 +15,15 @@ DesktopFacts x11() {
             .hasWindowManager = true,
             .hasXdgOpen = true,
             .hasSessionBus = true,
-            .hasNotifications = true};
+            .notifications = BusService::answering};
 }
 
 DesktopFacts wayland() {
-    return {
-        .hasWayland = true, .mayUseUinput = true, .hasXdgOpen = true, .hasSessionBus = true, .hasNotifications = true};
+    return {.hasWayland = true,
+            .mayUseUinput = true,
+            .hasXdgOpen = true,
+            .hasSessionBus = true,
+            .notifications = BusService::answering};
 }
 
 DesktopFacts with(DesktopFacts facts, bool DesktopFacts::*fact, bool value) {
@@ -53,11 +56,16 @@ TEST(DesktopSession, ChoosesTheWayThatReachesEveryWindow) {
 }
 
 TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
-    // Every combination of facts that can be: 2 to the power of 9, with each wish.
-    for (unsigned bits = 0; bits < 512; ++bits) {
+    // Every combination of facts that can be, with each wish.
+    for (unsigned bits = 0; bits < 2048; ++bits) {
         const auto bit = [&](unsigned index) { return (bits >> index & 1U) != 0; };
-        const DesktopFacts facts{bit(0), bit(0) && bit(1), bit(0) && bit(2), bit(3),          bit(4),
-                                 bit(5), bit(6),           bit(6) && bit(7), bit(6) && bit(8)};
+        const auto service = [&](unsigned index) {
+            if (!bit(6) || !bit(index))
+                return BusService::absent;
+            return bit(index + 1) ? BusService::answering : BusService::silent;
+        };
+        const DesktopFacts facts{bit(0), bit(0) && bit(1), bit(0) && bit(2), bit(3),    bit(4),
+                                 bit(5), bit(6),           service(7),       service(9)};
         for (const Route wish : {Route::automatic, Route::xServer, Route::uinput}) {
             const DesktopSession session(facts, wish);
             EXPECT_NE(session.inputRoute(), Route::automatic);

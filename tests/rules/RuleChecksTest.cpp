@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <tuple>
 
 #include "RuleMaking.h"
 #include "rules/GestureConflictChecker.h"
@@ -55,15 +56,20 @@ TEST(GestureConflictChecker, ALongListIsNoDanger) {
     EXPECT_EQ(GestureConflictChecker::conflictingRuleIDs(rules).size(), rules.size());
 }
 
-TEST(SystemGestureWarningChecker, WarnsOfTheGesturesThatTheSystemUses) {
+/// Every notice of a system, with the finger counts and gestures that it is for.
+std::map<std::string, std::string> noticesOf(GestureSystem system) {
     std::map<std::string, std::string> users;
     for (const std::optional<std::int64_t> fingers :
          {std::optional<std::int64_t>(), {0}, {1}, {2}, {3}, {4}, std::optional(INT64_MAX)})
         for (const auto& row : enumTable<GestureKind>())
-            if (const auto warning = SystemGestureWarningChecker::warning(makeRule(row.value, fingers))) {
+            if (const auto warning = SystemGestureWarningChecker::warning(makeRule(row.value, fingers), system)) {
                 std::string& user = users[warning->title + ": " + warning->detail];
                 user.append(fingers ? std::to_string(*fingers) : "-").append(" ").append(row.rawValue).append(" ");
             }
+    return users;
+}
+
+TEST(SystemGestureWarningChecker, WarnsOfTheGesturesThatMacOSUses) {
     const std::string click = " Change it in System Settings \u2192 Trackpad \u2192 Point & Click.";
     const std::map<std::string, std::string> expected{
         {"May also trigger macOS gestures: The drawing finger creates two-finger movement. macOS may scroll or zoom "
@@ -85,7 +91,39 @@ TEST(SystemGestureWarningChecker, WarnsOfTheGesturesThatTheSystemUses) {
         {"May also scroll onscreen content: macOS handles two-finger movement as scrolling. Sliding at the edge can "
          "also scroll the app beneath the pointer.",
          "2 edgeSlide "}};
-    EXPECT_EQ(users, expected);
+    EXPECT_EQ(noticesOf(GestureSystem::macOS), expected);
+    EXPECT_TRUE(noticesOf(GestureSystem::none).empty());
+}
+
+TEST(SystemGestureWarningChecker, NamesTheLinuxDesktopThatAlsoActs) {
+    struct Row {
+        GestureRule rule;
+        std::string onGnome, onKde;
+    };
+    const std::string zoom = "May also scroll or zoom", scroll = "May also scroll onscreen content";
+    const std::string right = "May also click the right button", middle = "May also click the middle button";
+    const std::vector<Row> rows{
+        {makeDrawing(AnchorCorner::topLeft, std::nullopt), zoom, zoom},
+        {makeRule(doubleTap, 2), right, right},
+        {makeRule(tripleForceClick, 2), right, right},
+        {makeRule(singleTap, 3), middle, middle},
+        {makeRule(singleClick, 3), middle, middle},
+        {makeRule(singleTap, 4), "", ""},
+        {makeRule(singleClick, 4), "", ""},
+        {makeRule(singleTap), "", ""},
+        {makeRule(tipTapLeft, 2), "", ""},
+        {makeSlide(2, std::nullopt), scroll, scroll},
+        {makeSlide(3, std::nullopt), "May also open the Activities overview", "May also change the virtual desktop"},
+        {makeSlide(4, std::nullopt), "May also change the workspace", "May also open the overview"},
+        {makeSlide(5, std::nullopt), "", ""},
+    };
+    for (const Row& row : rows)
+        for (const auto& [system, expected, name] :
+             {std::tuple{GestureSystem::gnome, row.onGnome, "GNOME"}, {GestureSystem::kde, row.onKde, "Plasma"}}) {
+            const auto warning = SystemGestureWarningChecker::warning(row.rule, system);
+            EXPECT_EQ(warning ? warning->title : "", expected) << encodeRules(std::vector{row.rule});
+            EXPECT_TRUE(!warning || warning->detail.find(name) != std::string::npos) << warning->detail;
+        }
 }
 
 TEST(ExampleRules, AreLaidOutAsExportedAndInOrder) {

@@ -6,8 +6,8 @@
 namespace kinesta {
 
 /// A database that dconf itself has written, with the touchpad's "send-events" as 'disabled' and a number under
-/// "/org/gnome/desktop/interface/cursor-size".
-inline std::string dconfSample() {
+/// "/org/gnome/desktop/interface/cursor-size". Another text is put in the place of 'disabled', which is the last.
+inline std::string dconfSample(const std::string& sendEvents = "disabled") {
     const std::string digits =
         "4756617269616e740000000000000000180000001c0100000000002809000000000000000100000002000000030000000400"
         "000004000000070000000700000008000000b988fdda020000001c01000008004c00240100002c0100004b50900b04000000"
@@ -21,6 +21,10 @@ inline std::string dconfSample() {
     std::string bytes;
     for (std::size_t i = 0; i < digits.size(); i += 2)
         bytes.push_back(static_cast<char>(std::stoi(digits.substr(i, 2), nullptr, 16)));
+    constexpr std::size_t kEndOfValue = 0x118;
+    const std::size_t value = bytes.find("disabled");
+    bytes.replace(value, 8, sendEvents);
+    bytes[kEndOfValue] = static_cast<char>(bytes[kEndOfValue] + static_cast<int>(sendEvents.size()) - 8);
     return bytes;
 }
 

@@ -327,11 +327,27 @@ TEST_F(Daemon, LeavesAValidRecordingWheneverItIsKilled) {
     }
 }
 
+TEST_F(Daemon, DoctorKnowsHowManyFingersThePadTells) {
+    for (const int fingers : {2, 3}) {
+        const VirtualTouchpad pad({.slots = 2, .fingers = fingers, .pressureResolution = 10, .maximumPressure = 1000});
+        EXPECT_EQ(kinesta("doctor > " + (folder / "told")), fingers == 3);
+        const bool isTold =
+            readText(folder / "told").find("tells of 2 fingers at once and no more.") != std::string::npos;
+        EXPECT_EQ(isTold, fingers == 2) << readText(folder / "told");
+    }
+}
+
 TEST_F(Daemon, MonitorTellsAndPerformsNothingAndDoctorIsContent) {
     VirtualTouchpad pad({.pressureResolution = 10, .maximumPressure = 1000});
     EXPECT_TRUE(kinesta("devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));
     EXPECT_TRUE(kinesta("doctor > " + (folder / "told")));
     EXPECT_NE(readText(folder / "told").find("✓ Touchpad: Virtual Touchpad at /dev/input/"), std::string::npos);
+    EXPECT_EQ(readText(folder / "told").find("also reads it"), std::string::npos);
+    ::setenv("WAYLAND_DISPLAY", "wayland-0", 1);
+    EXPECT_TRUE(kinesta("doctor > " + (folder / "told")));
+    ::unsetenv("WAYLAND_DISPLAY");
+    EXPECT_NE(readText(folder / "told").find("also reads it while this desktop has it switched off"),
+              std::string::npos);
     ProgramRun monitor({"monitor"});
     ASSERT_TRUE(monitor.says("Virtual Touchpad"));
     tapWithThree(pad);

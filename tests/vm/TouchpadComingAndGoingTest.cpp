@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <libevdev/libevdev-uinput.h>
+#include <libevdev/libevdev.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -144,6 +146,19 @@ TEST(TouchpadComingAndGoing, FollowsThePermission) {
     EXPECT_EQ(reading->take(1), (Lines{"listening"}));
 }
 
+/// A mouse with a USB plug, connected from now until it is reset.
+std::shared_ptr<libevdev_uinput> connectMouse() {
+    const std::unique_ptr<libevdev, decltype(&libevdev_free)> device(libevdev_new(), libevdev_free);
+    libevdev_set_name(device.get(), "Mouse");
+    libevdev_set_id_bustype(device.get(), BUS_USB);
+    for (const unsigned axis : {0U + REL_X, 0U + REL_Y})
+        libevdev_enable_event_code(device.get(), EV_REL, axis, nullptr);
+    libevdev_enable_event_code(device.get(), EV_KEY, BTN_LEFT, nullptr);
+    libevdev_uinput* made = nullptr;
+    EXPECT_EQ(libevdev_uinput_create_from_device(device.get(), LIBEVDEV_UINPUT_OPEN_MANAGED, &made), 0);
+    return {made, libevdev_uinput_destroy};
+}
+
 TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder.path() / "dconf");
@@ -161,6 +176,18 @@ TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
     EXPECT_EQ(reading.take(1), (Lines{"listening"}));
     tap(pad, 3);
     EXPECT_EQ(reading.take(2), (Lines{"t 3@0.50,0.50", "t"}));
+
+    // Off with a mouse only: the list says what the reader does.
+    folder.write("dconf/user", dconfSample("disabled-on-external-mouse"));
+    EXPECT_EQ(listTouchpads().front().problem, "");
+    auto mouse = connectMouse();
+    const Lines told = reading.take(1);
+    EXPECT_EQ(told, (Lines{"The trackpad is switched off in the desktop's settings while an external mouse is "
+                           "connected."}));
+    EXPECT_EQ(Lines{listTouchpads().front().problem}, told);
+    mouse.reset();
+    EXPECT_EQ(reading.take(1), (Lines{"listening"}));
+    EXPECT_EQ(listTouchpads().front().problem, "");
     unsetenv("XDG_CURRENT_DESKTOP");
     unsetenv("XDG_CONFIG_HOME");
 }

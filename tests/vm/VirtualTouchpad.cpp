@@ -4,6 +4,7 @@
 #include <libevdev/libevdev.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -42,10 +43,13 @@ VirtualTouchpad::VirtualTouchpad(const PadShape& shape) {
     enableAxis(device.get(), ABS_MT_TRACKING_ID, 65535);
     if (shape.maximumPressure > 0)
         enableAxis(device.get(), ABS_MT_PRESSURE, shape.maximumPressure, shape.pressureResolution);
-    for (const unsigned key :
-         {0U + BTN_LEFT, 0U + BTN_RIGHT, 0U + BTN_TOUCH, 0U + BTN_TOOL_FINGER, 0U + BTN_TOOL_DOUBLETAP,
-          0U + BTN_TOOL_TRIPLETAP, 0U + BTN_TOOL_QUADTAP, 0U + BTN_TOOL_QUINTTAP})
+    for (const unsigned key : {0U + BTN_LEFT, 0U + BTN_RIGHT, 0U + BTN_TOUCH, 0U + BTN_TOOL_FINGER})
         libevdev_enable_event_code(device.get(), EV_KEY, key, nullptr);
+    constexpr std::array kFingerKeys{BTN_TOOL_DOUBLETAP, BTN_TOOL_TRIPLETAP, BTN_TOOL_QUADTAP, BTN_TOOL_QUINTTAP};
+    for (int fingers = 2; fingers <= shape.fingers; ++fingers)
+        libevdev_enable_event_code(device.get(), EV_KEY,
+                                   static_cast<unsigned>(kFingerKeys.at(static_cast<std::size_t>(fingers) - 2)),
+                                   nullptr);
     libevdev_uinput* made = nullptr;
     require(libevdev_uinput_create_from_device(device.get(), LIBEVDEV_UINPUT_OPEN_MANAGED, &made) == 0,
             "a virtual touchpad");

@@ -15,6 +15,8 @@ struct PadShape {
     std::string name = "Virtual Touchpad";
     int bus = BUS_I2C;
     int slots = 5;
+    /// Fingers that are told by a key of their own, 2 to 5; those beyond the slots have no place.
+    int fingers = 5;
     int maximumX = 1000;
     int maximumY = 500;
     /// Units of force per gram; 0 makes a pad that cannot tell pressure.

@@ -15,6 +15,9 @@
 namespace kinesta {
 namespace {
 
+/// How long a service may take to start and answer.
+constexpr Seconds kPatience = 3;
+
 bool managesWindows(X11Connection& display) {
     xcb_connection_t* connection = display.open();
     if (connection == nullptr)
@@ -36,6 +39,15 @@ bool managesWindows(X11Connection& display) {
            nullptr;
 }
 
+BusService serviceAt(MessageBus& bus, const BusObject& object, const char* interface, const char* method,
+                     const char* argument = nullptr) {
+    if (!bus.offers(object.service))
+        return BusService::absent;
+    return bus.ask(object, interface, method, kPatience, argument, MessageBus::Starting::ifNeeded)
+               ? BusService::answering
+               : BusService::silent;
+}
+
 }  // namespace
 
 bool answersWayland() {
@@ -53,18 +65,27 @@ bool answersWayland() {
     return connect(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath) {
+DesktopFacts DesktopFacts::probeInput(X11Connection& connection, const std::string& uinputPath) {
     DesktopFacts facts;
     facts.hasX = connection.answers();
     facts.hasXTest = facts.hasX && connection.canPostInput();
     facts.hasWayland = answersWayland();
-    facts.hasWindowManager = facts.hasX && managesWindows(connection);
     facts.mayUseUinput =
         static_cast<bool>(FileDescriptor(::open(uinputPath.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)));
+    return facts;
+}
+
+DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath) {
+    DesktopFacts facts = probeInput(connection, uinputPath);
+    facts.hasWindowManager = facts.hasX && managesWindows(connection);
     facts.hasXdgOpen = isInSearchPath("xdg-open");
     facts.hasSessionBus = bus.open() != nullptr;
-    facts.hasNotifications = bus.offers("org.freedesktop.Notifications");
-    facts.hasPortal = bus.offers("org.freedesktop.portal.Desktop");
+    facts.notifications = serviceAt(bus, {"org.freedesktop.Notifications", "/org/freedesktop/Notifications"},
+                                    "org.freedesktop.Notifications", "GetServerInformation");
+    // A portal may be there without the part that opens things; then it knows no such properties.
+    if (!facts.hasXdgOpen)
+        facts.portal = serviceAt(bus, {"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop"},
+                                 "org.freedesktop.DBus.Properties", "GetAll", "org.freedesktop.portal.OpenURI");
     return facts;
 }
 

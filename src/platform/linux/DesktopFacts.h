@@ -11,6 +11,9 @@ namespace kinesta {
 /// Whether a Wayland compositor answers, where the environment says.
 bool answersWayland();
 
+/// A service of the session bus: whether a program has it, or would be started for it, and whether it answers.
+enum class BusService { absent, silent, answering };
+
 /// What is there on this machine now, as far as actions need it.
 struct DesktopFacts {
     /// An X server answers; in a Wayland session that is XWayland, which shows the windows of older programs.
@@ -24,10 +27,15 @@ struct DesktopFacts {
     bool mayUseUinput = false;
     bool hasXdgOpen = false;
     bool hasSessionBus = false;
-    bool hasNotifications = false;
-    bool hasPortal = false;
+    BusService notifications = BusService::absent;
+    /// The portal that opens addresses and files. Only asked where there is no xdg-open, which goes first.
+    BusService portal = BusService::absent;
 
-    /// Looks around. Takes some milliseconds; up to some hundred if the bus hangs.
+    /// Looks at what sending keys and clicks takes, in some milliseconds. The rest stays as it is at first.
+    static DesktopFacts probeInput(X11Connection& connection, const std::string& uinputPath);
+
+    /// Looks around and asks the services, which are started if they do not run yet: as their first use would do.
+    /// Takes some milliseconds; some seconds for a service that does not answer.
     static DesktopFacts probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath);
 };
 

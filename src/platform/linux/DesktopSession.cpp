@@ -112,27 +112,37 @@ DesktopFinding DesktopSession::open() const {
         finding.why = "There is no desktop session here in which they could be opened.";
         finding.remedy = kStartInSession;
     } else if (m_facts.hasXdgOpen) {
-        finding.why = "They are opened with xdg-open.";
-    } else if (m_facts.hasPortal) {
-        finding.why = "They are opened through the desktop's portal.";
+        finding.why =
+            "They are handed to xdg-open, which looks for a program for each kind; whether it has one is "
+            "not known here.";
+    } else if (m_facts.portal == BusService::answering) {
+        finding.why = "They are handed to the desktop's portal, which answers.";
     } else {
         finding.works = false;
-        finding.why = "There is neither xdg-open nor a desktop portal.";
+        finding.why = m_facts.portal == BusService::silent
+                          ? "There is no xdg-open, and the desktop's portal does not answer or cannot open things."
+                          : "There is neither xdg-open nor a desktop portal.";
         finding.remedy = "Install xdg-utils: sudo apt install xdg-utils";
     }
     return finding;
 }
 
 DesktopFinding DesktopSession::notify() const {
-    DesktopFinding finding{DesktopCapability::notify, "Showing notifications", m_facts.hasNotifications, "", ""};
+    DesktopFinding finding{DesktopCapability::notify, "Showing notifications", false, "", ""};
     if (!m_facts.hasSessionBus) {
         finding.why = "There is no session bus, so Kinesta cannot tell you when it may not do something.";
         finding.remedy = kStartInSession;
-    } else if (!m_facts.hasNotifications) {
+    } else if (m_facts.notifications == BusService::absent) {
         finding.why = "No program shows notifications here, so Kinesta cannot tell you when it may not do something.";
         finding.remedy = "Install one: sudo apt install dunst";
+    } else if (m_facts.notifications == BusService::silent) {
+        finding.why =
+            "The program for notifications cannot be started or does not answer, so Kinesta cannot tell you when it "
+            "may not do something.";
+        finding.remedy = std::string(kStartInSession) + " If you did, log out and in again.";
     } else {
-        finding.why = "The desktop shows them.";
+        finding.works = true;
+        finding.why = "The program that shows them runs and answers.";
     }
     return finding;
 }

@@ -38,8 +38,8 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     /// readable, or was switched off or on. May start or stop the provider, but not destroy it.
     void setStatusHandler(std::function<void()> handler) { m_statusHandler = std::move(handler); }
 
-    /// The touchpad to read, by path or name, empty for the built-in one. Taken over at once, with an empty frame for
-    /// fingers on the one before; the status handler is called if the provider is running.
+    /// The touchpad to read, by path or name, empty for a built-in one, or any if there is none. Taken over at once,
+    /// with an empty frame for fingers on the one before; the status handler is called if the provider is running.
     void setDevice(std::string device);
 
     TrackpadContactProviderStatus status() const override { return m_state.status; }

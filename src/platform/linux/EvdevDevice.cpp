@@ -5,6 +5,7 @@
 #include <linux/input.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstring>
@@ -86,6 +87,18 @@ EvdevDevice::EvdevDevice(FileDescriptor descriptor, std::unique_ptr<libevdev, Li
       }) {}
 
 EvdevDevice::~EvdevDevice() = default;
+
+int EvdevDevice::fingers() const {
+    // Reports without slots list as many contacts as they like.
+    if (m_touchpad.slotCount == 0 && libevdev_has_event_code(m_device.get(), EV_ABS, ABS_MT_POSITION_X))
+        return 0;
+    int told = std::max(m_touchpad.slotCount, 1);
+    constexpr std::array kKeys{BTN_TOOL_DOUBLETAP, BTN_TOOL_TRIPLETAP, BTN_TOOL_QUADTAP, BTN_TOOL_QUINTTAP};
+    for (std::size_t i = 0; i < kKeys.size(); ++i)
+        if (libevdev_has_event_code(m_device.get(), EV_KEY, static_cast<unsigned>(kKeys[i])))
+            told = std::max(told, static_cast<int>(i) + 2);
+    return told;
+}
 
 void EvdevDevice::tellPresentState(const Sink& sink) {
     const Seconds time = now();

@@ -36,6 +36,8 @@ class EvdevDevice {
     int fileDescriptor() const { return m_descriptor.number(); }
     const EvdevTouchpad& touchpad() const { return m_touchpad; }
     bool canTellPressure() const { return m_pressureRange.has_value(); }
+    /// How many fingers it can tell of at once, be it without their places; 0 if that cannot be known beforehand.
+    int fingers() const;
 
     /// Tells what has happened, without waiting for more; the first time beginning with the fingers that rest on the
     /// pad already, but not a button that is held: its press was no one's click here. After a loss of events (the

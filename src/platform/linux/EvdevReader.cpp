@@ -65,9 +65,9 @@ EvdevReader::State EvdevReader::look() {
         leaveDevice();
         return unavailable(noTouchpadMessage(m_settings.device));
     }
-    if (isSwitchedOff(*chosen)) {
+    if (std::string why = m_switch.whyOff(chosen->path, m_scanner); !why.empty()) {
         leaveDevice();
-        return unavailable("The trackpad is switched off in the desktop's settings.");
+        return unavailable(std::move(why));
     }
     // An open device stays readable when the permission goes; but then another person sits at the pad.
     if (m_device && (chosen->inputName != m_inputName || access(chosen->path.c_str(), R_OK) != 0))
@@ -83,12 +83,6 @@ EvdevReader::State EvdevReader::look() {
             .path = chosen->path,
             .name = chosen->name,
             .canTellPressure = m_device->canTellPressure()};
-}
-
-bool EvdevReader::isSwitchedOff(const TouchpadCandidate& pad) {
-    const SendEventsMode mode = m_switch.mode(pad.path);
-    return mode == SendEventsMode::disabled ||
-           (mode == SendEventsMode::disabledWithExternalMouse && m_scanner.hasExternalMouse());
 }
 
 void EvdevReader::liftAll() {

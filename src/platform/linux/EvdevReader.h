@@ -48,7 +48,6 @@ class EvdevReader {
   private:
     void lookAgain();
     State look();
-    bool isSwitchedOff(const TouchpadCandidate& pad);
     void leaveDevice();
 
     Settings m_settings;

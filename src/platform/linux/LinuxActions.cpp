@@ -49,9 +49,8 @@ struct LinuxActions::Parts {
           workspace(
               launcher, portal, [this] { return desktop.frontmostApplication(); }, log) {}
 
-    DesktopSession session() {
-        return {DesktopFacts::probe(connection, bus, UinputDevice::kPath),
-                LinuxActionSettings::read(defaults).inputRoute};
+    DesktopSession session(const DesktopFacts& facts) const {
+        return {facts, LinuxActionSettings::read(defaults).inputRoute};
     }
 
     const Clock& clock;
@@ -73,7 +72,8 @@ struct LinuxActions::Parts {
     XdgWorkspace workspace;
     DesktopNotifications notificationsOnScreen{bus};
     DesktopPermission permission{poster, notificationsOnScreen, [this] {
-                                     const auto finding = session().finding(DesktopCapability::sendInput);
+                                     const auto facts = DesktopFacts::probeInput(connection, UinputDevice::kPath);
+                                     const auto finding = session(facts).finding(DesktopCapability::sendInput);
                                      return finding.why + " " + finding.remedy;
                                  }};
     LinuxSystemVersion systemVersion;
@@ -104,6 +104,8 @@ void LinuxActions::letDesktopCatchUp() {
         std::this_thread::sleep_for(kNoticingDevice);
 }
 
-DesktopSession LinuxActions::session() { return m_parts->session(); }
+DesktopSession LinuxActions::session() {
+    return m_parts->session(DesktopFacts::probe(m_parts->connection, m_parts->bus, UinputDevice::kPath));
+}
 
 }  // namespace kinesta

@@ -31,7 +31,7 @@ class LinuxActions {
     /// for a process that posts at once, or ends right after. Returns at once where there is no such device.
     void letDesktopCatchUp();
 
-    /// What kind of session this is, and what works in it now.
+    /// What kind of session this is, and what works in it now. May take seconds where services do not answer.
     DesktopSession session();
 
   private:

@@ -57,14 +57,14 @@ bool MessageBus::flush() {
 }
 
 BusMessagePointer MessageBus::ask(const BusObject& object, const char* interface, const char* method, Seconds timeout,
-                                  const char* argument) {
+                                  const char* argument, Starting starting) {
     sd_bus* bus = timeout > 0 ? open() : nullptr;
     sd_bus_message* made = nullptr;
     if (bus == nullptr ||
         sd_bus_message_new_method_call(bus, &made, object.service.c_str(), object.path.c_str(), interface, method) < 0)
         return nullptr;
     const BusMessagePointer question(made);
-    sd_bus_message_set_auto_start(question.get(), 0);
+    sd_bus_message_set_auto_start(question.get(), starting == Starting::ifNeeded ? 1 : 0);
     if (argument != nullptr && sd_bus_message_append(question.get(), "s", argument) < 0)
         return nullptr;
     made = nullptr;

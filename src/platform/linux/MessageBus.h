@@ -48,10 +48,13 @@ class MessageBus {
     /// Whether a program offers this service, or would be started for it. Waits for the bus's answer.
     bool offers(const std::string& service);
 
-    /// Calls a method without arguments, or with one text, of a program that runs; null if it does not answer well
-    /// within `timeout` seconds. Waits for the answer.
+    /// Whether a program that does not run yet is started to answer.
+    enum class Starting { never, ifNeeded };
+
+    /// Calls a method without arguments, or with one text, of another program; null if it does not answer well within
+    /// `timeout` seconds. Waits for the answer.
     BusMessagePointer ask(const BusObject& object, const char* interface, const char* method, Seconds timeout,
-                          const char* argument = nullptr);
+                          const char* argument = nullptr, Starting starting = Starting::never);
 
     /// Counts the connections made: whoever keeps something that another program gave compares it.
     std::uint64_t generation() const { return m_generation; }

@@ -7,22 +7,25 @@
 namespace kinesta {
 
 std::vector<ListedTouchpad> listTouchpads(const std::string& wanted) {
-    const std::vector<TouchpadCandidate> candidates = TouchpadScanner().scan();
+    const TouchpadScanner scanner;
+    const std::vector<TouchpadCandidate> candidates = scanner.scan();
     const TouchpadCandidate* chosen = chooseTouchpad(candidates, wanted, {});
-    TouchpadSwitch touchpadSwitch;
+    const TouchpadSwitch::Desktop desktop = TouchpadSwitch::Desktop::current();
+    TouchpadSwitch touchpadSwitch(desktop);
     std::vector<ListedTouchpad> list;
     for (const TouchpadCandidate& candidate : candidates) {
         ListedTouchpad& listed = list.emplace_back();
         listed.candidate = candidate;
         listed.isChosen = &candidate == chosen;
-        if (touchpadSwitch.mode(candidate.path) == SendEventsMode::disabled) {
-            listed.problem = "The trackpad is switched off in the desktop's settings.";
+        listed.mayBeOff = desktop.isSilent;
+        listed.problem = touchpadSwitch.whyOff(candidate.path, scanner);
+        if (!listed.problem.empty())
             continue;
-        }
         const auto device = EvdevDevice::open(candidate);
         if (device) {
             listed.touchpad = device.value()->touchpad();
             listed.canTellPressure = device.value()->canTellPressure();
+            listed.fingers = device.value()->fingers();
         } else {
             listed.problem = device.error().message;
         }

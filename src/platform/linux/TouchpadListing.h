@@ -17,6 +17,10 @@ struct ListedTouchpad {
     /// Axis ranges and slots; absent if the pad may not be read.
     std::optional<EvdevTouchpad> touchpad;
     bool canTellPressure = false;
+    /// Whether the desktop may have it switched off without anyone being told.
+    bool mayBeOff = false;
+    /// How many fingers it can tell of at once; 0 if that is not known.
+    int fingers = 0;
     /// Why it cannot be read and what to do, as a sentence; empty if it can.
     std::string problem;
 };

@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/linux/CurrentDesktop.h"
 #include "platform/linux/DconfDatabase.h"
 
 namespace kinesta {
@@ -20,22 +21,19 @@ std::string variable(const char* name) {
     return value ? value : "";
 }
 
-/// Whether a list with colons holds the word.
-bool lists(const std::string& list, const std::string& word) {
-    return (':' + list + ':').find(':' + word + ':') != std::string::npos;
-}
-
 }  // namespace
 
 TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
     Desktop desktop;
     // The X server inside a Wayland session knows no touchpads.
-    if (variable("WAYLAND_DISPLAY").empty())
+    const bool isWayland = !variable("WAYLAND_DISPLAY").empty();
+    if (!isWayland)
         desktop.display = variable("DISPLAY");
-    if (lists(variable("XDG_CURRENT_DESKTOP"), "GNOME")) {
+    if (isCurrentDesktop("GNOME")) {
         const std::string configuration = variable("XDG_CONFIG_HOME");
         desktop.dconfDirectory = (configuration.empty() ? variable("HOME") + "/.config" : configuration) + "/dconf";
     }
+    desktop.isSilent = isWayland && desktop.dconfDirectory.empty();
     return desktop;
 }
 
@@ -82,6 +80,20 @@ SendEventsMode TouchpadSwitch::mode(const std::string& path) {
         connect();
     const SendEventsMode driver = m_x11 ? m_x11->mode(path) : SendEventsMode::enabled;
     return driver == SendEventsMode::enabled ? storedMode() : driver;
+}
+
+std::string TouchpadSwitch::whyOff(const std::string& path, const TouchpadScanner& devices) {
+    switch (mode(path)) {
+        case SendEventsMode::disabled:
+            return "The trackpad is switched off in the desktop's settings.";
+        case SendEventsMode::disabledWithExternalMouse:
+            return devices.hasExternalMouse() ? "The trackpad is switched off in the desktop's settings while an "
+                                                "external mouse is connected."
+                                              : "";
+        case SendEventsMode::enabled:
+            break;
+    }
+    return "";
 }
 
 SendEventsMode TouchpadSwitch::storedMode() const {

@@ -5,6 +5,7 @@
 
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/SendEventsMode.h"
+#include "platform/linux/TouchpadScanner.h"
 #include "platform/linux/X11TouchpadProperties.h"
 
 namespace kinesta {
@@ -18,6 +19,8 @@ class TouchpadSwitch {
         std::string display;
         /// Where GNOME keeps its settings ("~/.config/dconf"), if this is GNOME.
         std::string dconfDirectory;
+        /// Whether it may have a switch that nothing tells of: any other on Wayland.
+        bool isSilent = false;
 
         /// What the environment tells.
         static Desktop current();
@@ -33,6 +36,10 @@ class TouchpadSwitch {
 
     /// What has been chosen for the touchpad at this device node.
     SendEventsMode mode(const std::string& path);
+
+    /// Why the touchpad at this device node is off now, as a sentence; empty if it is on. `devices` tells whether there
+    /// is an external mouse.
+    std::string whyOff(const std::string& path, const TouchpadScanner& devices);
 
   private:
     void connect();
