@@ -173,7 +173,7 @@ struct DaemonOnADesktop : LiveCommands {
     DaemonOnADesktop() {
         std::filesystem::create_directories(kinesta.folder.path() / "settings");
         std::filesystem::create_directory_symlink(kinesta.folder.path() / "settings",
-                                                  desktop.folder() / "home/config/kinesta");
+                                                  folderOf("XDG_CONFIG_HOME") / "kinesta");
     }
     std::unique_ptr<ChildProcess> start() const { return desktop.run({KINESTA_PROGRAM, "daemon", "--verbose"}); }
 
