@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 /// runs it. What a test changes in the environment is gone with it.
 class OwnSession final : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override {
-        // In /tmp wherever temporary files go: the paths of sockets must be short.
+        // In /tmp whatever TMPDIR says: the paths of sockets must be short.
         std::string pattern = "/tmp/kinesta-session-XXXXXX";
         if (mkdtemp(pattern.data()) == nullptr)
             throw std::runtime_error("no folder in /tmp");
@@ -54,7 +54,7 @@ class OwnSession final : public testing::EmptyTestEventListener {
     static std::map<std::string, std::string> kept() {
         std::map<std::string, std::string> variables;
         for (const char* name :
-             {"PATH", "TMPDIR", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS"})
+             {"PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS"})
             if (const char* value = std::getenv(name))
                 variables[name] = value;
         return variables;

@@ -141,6 +141,7 @@ void TestDesktop::stopServer() {
     if (m_connection != nullptr)
         xcb_disconnect(std::exchange(m_connection, nullptr));
     m_server.reset();
+    setenv("DISPLAY", ":54321", 1);  // the number that it had may be another's by now
 }
 
 std::unique_ptr<ChildProcess> TestDesktop::run(std::vector<std::string> command) const {
