@@ -141,7 +141,9 @@ TEST_F(ActionEndurance, HoldsOnToNothingOverTenThousandActions) {
     const std::size_t residentBefore = residentPages();
     perform(2000);  // 11,250 in all
     if (!kIsInstrumented) {
-        EXPECT_LE(mallinfo2().uordblks, heapBefore + 65536) << "six bytes an action";
+        // On a busy machine the last programs are still being launched.
+        EXPECT_TRUE(eventually([&] { return mallinfo2().uordblks <= heapBefore + 65536; }))
+            << mallinfo2().uordblks - heapBefore << " bytes more, beyond six an action";
         EXPECT_LE(residentPages(), residentBefore + 128);
     }
 }

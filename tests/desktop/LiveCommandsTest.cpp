@@ -178,7 +178,7 @@ struct DaemonOnADesktop : LiveCommands {
     DaemonOnADesktop() {
         std::filesystem::create_directories(kinesta.folder.path() / "settings");
         std::filesystem::create_directory_symlink(kinesta.folder.path() / "settings",
-                                                  desktop.folder() / "home/config/kinesta");
+                                                  folderOf("XDG_CONFIG_HOME") / "kinesta");
     }
     std::unique_ptr<ChildProcess> start() const { return desktop.run({KINESTA_PROGRAM, "daemon", "--verbose"}); }
 
@@ -221,7 +221,7 @@ TEST_F(DaemonOnADesktop, IsTheOnlyOneThatActs) {
     const auto first = start();
     ASSERT_TRUE(says(*first, "rules are on."));
     const std::string said = kinesta.folder / "said";
-    const int second = std::system((KINESTA_PROGRAM " daemon 2> " + said).c_str());
+    const int second = std::system(("'" KINESTA_PROGRAM "' daemon 2> " + said).c_str());
     EXPECT_EQ(WEXITSTATUS(second), 1);
     EXPECT_NE(readText(said).find("running already, as process " + std::to_string(first->pid())), std::string::npos);
     first->signal(SIGKILL);

@@ -19,12 +19,13 @@ using Words = std::vector<std::string>;
 struct Opening : ::testing::Test {
     /// Makes a program what the desktop opens files of a kind with.
     void handle(const std::string& kind, const LaunchedProgram& program) {
-        const fs::path home = desktop.folder() / "home";
-        fs::create_directories(home / "data/applications");
-        std::ofstream(home / "data/applications/handler.desktop")
+        const fs::path applications = folderOf("XDG_DATA_HOME") / "applications";
+        fs::create_directories(applications);
+        std::ofstream(applications / "handler.desktop")
             << "[Desktop Entry]\nType=Application\nName=Handler\nExec=" << program.path() << " %f\nMimeType=" << kind
             << ";\n";
-        std::ofstream(home / "config/mimeapps.list") << "[Default Applications]\n" << kind << "=handler.desktop\n";
+        std::ofstream(folderOf("XDG_CONFIG_HOME") / "mimeapps.list") << "[Default Applications]\n"
+                                                                     << kind << "=handler.desktop\n";
     }
 
     TestDesktop desktop{{.hasSessionBus = true}};
@@ -55,11 +56,9 @@ TEST_F(Opening, HandsFilesAndFoldersToTheirPrograms) {
         workspace.openFile(file);
         EXPECT_EQ(editor.waitForArguments(), Words{file});
     }
-    const fs::path before = fs::current_path();
     fs::current_path(folder.path());
     workspace.openFile("-dash.txt");
     EXPECT_EQ(editor.waitForArguments(), Words{folder.path() / "-dash.txt"});
-    fs::current_path(before);
     const LaunchedProgram fileManager(folder, "file-manager");
     handle("inode/directory", fileManager);
     workspace.openFile(folder.path());
@@ -82,13 +81,11 @@ TEST_F(Opening, LaunchesProgramsAndDesktopFilesWithTheirArguments) {
     EXPECT_EQ(program.workingDirectory(), place.string() + "\n");
 
     const LaunchedProgram terminal(folder, "x-terminal-emulator");
-    const std::string path = std::getenv("PATH");
-    setenv("PATH", (folder.path().string() + ":" + path).c_str(), 1);
+    setenv("PATH", (folder.path().string() + ":" + std::getenv("PATH")).c_str(), 1);
     workspace.launchApplication(
         folder.write("terminal.desktop", "[Desktop Entry]\nType=Application\nExec=top -b\nTerminal=true\n"),
         {"-n", "1"});
     EXPECT_EQ(terminal.waitForArguments(), (Words{"-e", "top", "-b", "-n", "1"}));
-    setenv("PATH", path.c_str(), 1);
 
     workspace.launchApplication(folder.path() / "missing.desktop", {});
     EXPECT_EQ(log,
@@ -96,7 +93,6 @@ TEST_F(Opening, LaunchesProgramsAndDesktopFilesWithTheirArguments) {
 }
 
 TEST_F(Opening, AsksThePortalWhereThereIsNoXdgOpen) {
-    const std::string path = std::getenv("PATH");
     setenv("PATH", folder.path().c_str(), 1);
     const std::string file = folder.write("a file", "");
     workspace.openFile(folder.path() / "missing");
@@ -109,7 +105,6 @@ TEST_F(Opening, AsksThePortalWhereThereIsNoXdgOpen) {
     EXPECT_TRUE(services.waitForRequests(3));
     EXPECT_EQ(services.requests(),
               (Words{"url http://kinesta.test/", "file " + file, "file " + folder.path().string()}));
-    setenv("PATH", path.c_str(), 1);
     EXPECT_EQ(workspace.frontmostApplication(), 42);
     EXPECT_EQ(workspace.ownProcessIdentifier(), getpid());
 }

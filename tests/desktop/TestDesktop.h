@@ -11,10 +11,11 @@
 
 namespace kinesta::testing {
 
+/// The folder that a variable of the environment names.
+std::filesystem::path folderOf(const char* variable);
+
 /// A desktop of a test's own: an X server without a screen to look at, and on request a window manager and a session
-/// bus. Its folders (HOME, XDG_RUNTIME_DIR, and the ones under them) are temporary, and nothing of the machine's real
-/// desktop can be reached while it lives: the environment of this process names only what was started here.
-/// One at a time; its parts end with it, by their process numbers.
+/// bus, which the environment names from then on. One at a time; its parts end with it, by their process numbers.
 class TestDesktop {
   public:
     struct Options {
@@ -29,9 +30,6 @@ class TestDesktop {
     TestDesktop(const TestDesktop&) = delete;
     TestDesktop& operator=(const TestDesktop&) = delete;
     ~TestDesktop();
-
-    /// The temporary folder; HOME is "home" in it.
-    const std::filesystem::path& folder() const { return m_folder; }
 
     /// The name of the display, as in DISPLAY.
     const std::string& display() const { return m_display; }
@@ -74,7 +72,6 @@ class TestDesktop {
     void startWindowManager();
 
     std::string m_screen;
-    std::filesystem::path m_folder;
     std::string m_display;
     std::unique_ptr<ChildProcess> m_server;
     std::unique_ptr<ChildProcess> m_bus;

@@ -241,7 +241,7 @@ TEST_F(FileUserDefaultsTest, savesThroughSymbolicLinks) {
 }
 
 TEST_F(FileUserDefaultsTest, processesThatWriteAtOnceLoseNothing) {
-    constexpr int kWriters = 3, kWrites = 40;
+    constexpr int kWriters = 3, kWrites = 15;
     std::vector<pid_t> writers;
     for (int writer = 0; writer < kWriters; ++writer) {
         writers.push_back(::fork());
