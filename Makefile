@@ -14,7 +14,7 @@ run: build ## Build Kinesta and watch it recognize real recordings
 
 build: ## Build the optimized program, build/release/bin/kinesta
 	@scripts/install-dependencies build
-	@scripts/build release
+	@scripts/build release kinesta
 
 test: ## Build and run every test
 	@scripts/install-dependencies test

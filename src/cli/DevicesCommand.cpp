@@ -1,19 +1,17 @@
 #include "cli/DevicesCommand.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 #include "cli/LiveRecognition.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
 #include "platform/linux/TouchpadListing.h"
+#include "support/Json.h"
 
 namespace kinesta {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json range(const EvdevAxisRange& axis) { return {axis.minimum, axis.maximum}; }
+Json range(const EvdevAxisRange& axis) { return Json::array({axis.minimum, axis.maximum}); }
 
 Json asJson(const ListedTouchpad& listed) {
     Json object{{"name", listed.candidate.name},
@@ -23,11 +21,11 @@ Json asJson(const ListedTouchpad& listed) {
                 {"readable", listed.problem.empty()},
                 {"problem", listed.problem.empty() ? Json(nullptr) : Json(listed.problem)}};
     if (listed.touchpad) {
-        object["x"] = range(listed.touchpad->x);
-        object["y"] = range(listed.touchpad->y);
-        object["slots"] = listed.touchpad->slotCount;
-        object["fingers"] = listed.fingers > 0 ? Json(listed.fingers) : Json(nullptr);
-        object["pressure"] = listed.canTellPressure;
+        object.set("x", range(listed.touchpad->x));
+        object.set("y", range(listed.touchpad->y));
+        object.set("slots", listed.touchpad->slotCount);
+        object.set("fingers", listed.fingers > 0 ? Json(listed.fingers) : Json(nullptr));
+        object.set("pressure", listed.canTellPressure);
     }
     return object;
 }
@@ -42,7 +40,7 @@ ExitStatus listDevices(const Console& console, const std::filesystem::path& defa
         Json array = Json::array();
         for (const ListedTouchpad& listed : touchpads)
             array.push_back(asJson(listed));
-        console.out << array.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+        console.out << array.text(2) << '\n';
         return settings.status();
     }
     if (touchpads.empty()) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <vector>
 
@@ -19,6 +18,7 @@
 #include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
+#include "support/Json.h"
 #include "support/SteadyClock.h"
 
 namespace kinesta {
@@ -157,7 +157,7 @@ ExitStatus doctor(const Console& console, const std::filesystem::path& defaults,
     addShellCommands(findings, rules, settings.defaults(), defaults);
     addRules(findings, rules);
     bool isMissing = false;
-    nlohmann::ordered_json array = nlohmann::ordered_json::array();
+    Json array = Json::array();
     for (const Finding& finding : findings) {
         isMissing = isMissing || (finding.isNeeded && !finding.works);
         if (form == OutputForm::json) {
@@ -176,7 +176,7 @@ ExitStatus doctor(const Console& console, const std::filesystem::path& defaults,
             console.out << "    " << finding.remedy << '\n';
     }
     if (form == OutputForm::json)
-        console.out << array.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+        console.out << array.text(2) << '\n';
     else
         console.out << '\n'
                     << (isMissing ? "Something that your rules need is missing (✗)."

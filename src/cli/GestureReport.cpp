@@ -2,15 +2,13 @@
 
 #include <array>
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 #include "cli/TextTable.h"
 #include "rules/GestureDescription.h"
+#include "support/Json.h"
 
 namespace kinesta {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 double inSeconds(std::chrono::nanoseconds time) { return static_cast<double>(time.count()) / 1e9; }
 
@@ -18,19 +16,19 @@ struct AddFields {
     Json& line;
 
     void operator()(const DetectedTap& tap) const {
-        line["gesture"] = rawValue(tap.gesture);
-        line["fingers"] = tap.fingerCount;
+        line.set("gesture", rawValue(tap.gesture));
+        line.set("fingers", tap.fingerCount);
     }
     void operator()(const DetectedEdgeSlide& slide) const {
-        line["gesture"] = rawValue(GestureKind::edgeSlide);
-        line["fingers"] = slide.fingerCount;
-        line["side"] = rawValue(slide.side);
-        line["steps"] = slide.steps;
+        line.set("gesture", rawValue(GestureKind::edgeSlide));
+        line.set("fingers", slide.fingerCount);
+        line.set("side", rawValue(slide.side));
+        line.set("steps", slide.steps);
     }
     void operator()(const DetectedAnchorDraw& draw) const {
-        line["gesture"] = rawValue(GestureKind::anchorDraw);
-        line["corner"] = rawValue(draw.corner);
-        line["pattern"] = rawValue(draw.pattern);
+        line.set("gesture", rawValue(GestureKind::anchorDraw));
+        line.set("corner", rawValue(draw.corner));
+        line.set("pattern", rawValue(draw.pattern));
     }
 };
 
@@ -39,9 +37,9 @@ struct AddFields {
 std::string gestureAsJson(std::chrono::nanoseconds time, const DetectedGesture& gesture, const GestureRule* rule) {
     Json line{{"t", inSeconds(time)}};
     std::visit(AddFields{line}, gesture);
-    line["rule"] = rule ? Json(rule->id.toString()) : Json(nullptr);
-    line["action"] = rule ? Json(rawValue(rule->action.kind)) : Json(nullptr);
-    return line.dump();
+    line.set("rule", rule ? Json(rule->id.toString()) : Json(nullptr));
+    line.set("action", rule ? Json(rawValue(rule->action.kind)) : Json(nullptr));
+    return line.text();
 }
 
 std::string ruleInWords(const GestureRule& rule) {

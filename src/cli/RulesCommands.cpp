@@ -4,7 +4,6 @@
 #include <array>
 #include <chrono>
 #include <ctime>
-#include <nlohmann/json.hpp>
 #include <set>
 
 #include "cli/OutputFile.h"
@@ -16,11 +15,10 @@
 #include "rules/GestureDescription.h"
 #include "rules/GestureRuleCoding.h"
 #include "rules/RuleStore.h"
+#include "support/Json.h"
 
 namespace kinesta {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 std::string state(const GestureRule& rule, bool conflicts) {
     if (!rule.isReady())
@@ -33,7 +31,7 @@ std::string state(const GestureRule& rule, bool conflicts) {
 Json report(const GestureRule& rule, bool conflicts, GestureSystem system) {
     Json warning = nullptr;
     if (const auto found = SystemGestureWarningChecker::warning(rule, system))
-        warning = {{"title", found->title}, {"detail", found->detail}};
+        warning = Json{{"title", found->title}, {"detail", found->detail}};
     const auto cue = rule.resolvedVisualCueMessage();
     return {{"id", rule.id.toString()},
             {"name", rule.name},
@@ -74,9 +72,7 @@ void print(const Console& console, const std::vector<GestureRule>& rules, Gestur
         return;
     }
     for (const GestureRule& rule : rules)
-        console.out
-            << report(rule, conflicts.contains(rule.id), system).dump(-1, ' ', false, Json::error_handler_t::replace)
-            << '\n';
+        console.out << report(rule, conflicts.contains(rule.id), system).text() << '\n';
 }
 
 std::string counted(std::size_t count, std::string_view noun) {

@@ -1,24 +1,21 @@
 #include "cli/VocabularyCommands.h"
 
-#include <nlohmann/json.hpp>
-
 #include "cli/TextTable.h"
 #include "rules/ActionKind.h"
 #include "rules/CommonMacShortcut.h"
 #include "rules/GestureKind.h"
 #include "rules/ShortcutKey.h"
+#include "support/Json.h"
 
 namespace kinesta {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 template <typename T>
 Json orNull(const std::optional<T>& value) {
     return value ? Json(*value) : Json(nullptr);
 }
 
-void printArray(const Console& console, const Json& array) { console.out << array.dump(2) << '\n'; }
+void printArray(const Console& console, const Json& array) { console.out << array.text(2) << '\n'; }
 
 std::string orDash(const std::optional<int>& value) { return value ? std::to_string(*value) : "–"; }
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <nlohmann/json.hpp>
 
 #include "input/ContactIdSet.h"
+#include "support/Json.h"
 #include "support/NumberText.h"
 
 namespace kinesta {
@@ -86,8 +86,7 @@ Error refusal(const std::string& problem) { return Error{"this cannot be recorde
 Outcome RecordingWriter::writeHeader(const RecordingHeader& header) {
     m_line = "{\"kinesta\":\"recording\",\"version\":" + std::to_string(RecordingFormat::kVersion);
     if (!header.device.empty())
-        m_line += ",\"device\":" +
-                  nlohmann::json(header.device).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+        m_line += ",\"device\":" + Json(header.device).text();
     if (header.settings != RecordedSettings{}) {
         m_line += ",";
         if (const Problem problem = append(m_line, header.settings))

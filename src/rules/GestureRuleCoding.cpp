@@ -1,13 +1,13 @@
 #include "rules/GestureRuleCoding.h"
 
-#include <nlohmann/json.hpp>
+#include <optional>
+#include <type_traits>
+#include <utility>
 
-#include "rules/RuleListDecoder.h"
+#include "support/Json.h"
 
 namespace kinesta {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kIndent = 4;
 
@@ -15,18 +15,24 @@ template <typename T>
 void setIfPresent(Json& object, const char* key, const std::optional<T>& value) {
     if (!value)
         return;
-    if constexpr (std::is_enum_v<T>)
-        object[key] = rawValue(*value);
-    else
-        object[key] = *value;
+    if constexpr (std::is_enum_v<T>) {
+        object.set(key, rawValue(*value));
+    } else if constexpr (std::is_same_v<T, std::vector<std::string>>) {
+        Json texts = Json::array();
+        for (const std::string& text : *value)
+            texts.push_back(text);
+        object.set(key, std::move(texts));
+    } else {
+        object.set(key, *value);
+    }
 }
 
 Json toJson(const GestureAction& action) {
     Json object;
-    object["kind"] = rawValue(action.kind);
+    object.set("kind", rawValue(action.kind));
     setIfPresent(object, "keyCode", action.keyCode);
-    object["modifiers"] = action.modifiers.rawValue;
-    object["value"] = action.value;
+    object.set("modifiers", action.modifiers.rawValue);
+    object.set("value", action.value);
     setIfPresent(object, "applicationArguments", action.applicationArguments);
     setIfPresent(object, "customCueLabel", action.customCueLabel);
     setIfPresent(object, "shellCommandAcknowledged", action.shellCommandAcknowledged);
@@ -35,15 +41,15 @@ Json toJson(const GestureAction& action) {
 
 Json toJson(const GestureRule& rule) {
     Json object;
-    object["id"] = rule.id.toString();
-    object["name"] = rule.name;
-    object["isEnabled"] = rule.isEnabled;
+    object.set("id", rule.id.toString());
+    object.set("name", rule.name);
+    object.set("isEnabled", rule.isEnabled);
     setIfPresent(object, "fingerCount", rule.fingerCount);
-    object["gesture"] = rawValue(rule.gesture);
+    object.set("gesture", rawValue(rule.gesture));
     setIfPresent(object, "edgeSlideSide", rule.edgeSlideSide);
     setIfPresent(object, "anchorCorner", rule.anchorCorner);
     setIfPresent(object, "drawPattern", rule.drawPattern);
-    object["action"] = toJson(rule.action);
+    object.set("action", toJson(rule.action));
     setIfPresent(object, "showsActionCue", rule.showsActionCue);
     return object;
 }
@@ -67,8 +73,7 @@ std::string encodeRules(std::span<const GestureRule> rules, RuleListLayout layou
     for (const GestureRule& rule : rules) {
         if (&rule != rules.data())
             out += ',';
-        const std::string text =
-            toJson(rule).dump(isIndented ? kIndent : -1, ' ', false, Json::error_handler_t::replace);
+        const std::string text = toJson(rule).text(isIndented ? kIndent : -1);
         if (isIndented)
             appendIndented(out, text);
         else
@@ -79,7 +84,5 @@ std::string encodeRules(std::span<const GestureRule> rules, RuleListLayout layou
     out += isIndented ? "]\n" : "]";
     return out;
 }
-
-Result<std::vector<GestureRule>> decodeRules(std::string_view json) { return RuleListDecoder(json).decode(); }
 
 }  // namespace kinesta

@@ -1,11 +1,12 @@
 #include "rules/RuleJsonFields.h"
 
 #include <array>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <type_traits>
 #include <utility>
 #include <vector>
+
+#include "support/Json.h"
 
 namespace kinesta {
 namespace {
@@ -117,7 +118,7 @@ std::span<const JsonField<GestureAction>> jsonFields() {
     return kFields;
 }
 
-std::string inQuotes(std::string_view text) { return nlohmann::json(shortened(text)).dump(); }
+std::string inQuotes(std::string_view text) { return Json(shortened(text)).text(); }
 
 std::string describe(const JsonValue& value) {
     switch (value.type) {

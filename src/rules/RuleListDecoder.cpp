@@ -6,6 +6,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "rules/GestureRuleCoding.h"
+
 namespace kinesta {
 namespace {
 
@@ -261,5 +263,8 @@ Error RuleListDecoder::error() const {
     }
     return {message + m_problem->text};
 }
+
+// Here rather than beside encodeRules(), so that the parser is compiled once.
+Result<std::vector<GestureRule>> decodeRules(std::string_view json) { return RuleListDecoder(json).decode(); }
 
 }  // namespace kinesta

@@ -12,7 +12,7 @@ constexpr std::string_view kHeader = R"({"kinesta":"recording","version":1})"
 std::string taps(int fingers, const std::vector<std::pair<std::string, std::string>>& times) {
     std::string touches;
     for (int i = 0; i < fingers; ++i)
-        touches += (i ? "," : "") + ("[" + std::to_string(i + 1) + ",0." + std::to_string(3 + i) + ",0.5]");
+        touches.append(i ? ",[" : "[").append(std::to_string(i + 1) + ",0." + std::to_string(3 + i) + ",0.5]");
     std::string lines;
     for (const auto& [down, up] : times)
         lines += "{\"t\":" + down + ",\"touches\":[" + touches + "]}\n{\"t\":" + up + ",\"touches\":[]}\n";

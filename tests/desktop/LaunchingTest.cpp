@@ -90,7 +90,7 @@ TEST_F(Launching, GivesProgramsAFreshStart) {
     const std::uint64_t ignored = std::stoull(outputOf("sed -n 's/SigIgn:.//p' /proc/self/status"), nullptr, 16);
     EXPECT_EQ(ignored & ~kOwnedByTheLibrary, 0U);
     EXPECT_EQ(outputOf("test $(cut -d' ' -f6 /proc/$$/stat) = $$ && echo own session"), "own session\n");
-    EXPECT_EQ(outputOf("echo $KINESTA_TEST; pwd"), "\n" + fs::current_path().string() + "\n");
+    EXPECT_EQ(outputOf("echo $KINESTA_TEST; pwd"), std::string("\n").append(fs::current_path().string() + "\n"));
     setenv("KINESTA_TEST", "inherited", 1);
     EXPECT_EQ(outputOf("echo $KINESTA_TEST"), "inherited\n");
     std::signal(SIGPIPE, pipeBefore);

@@ -92,7 +92,8 @@ TEST_F(LiveCommands, PerformRunsTheActionOfOneRule) {
 TEST_F(LiveCommands, ReplayPerformsWhatItRecognizesWhenAskedTo) {
     EventWindow window(desktop);
     const std::string tap = recording("CyPS2-Cypress-Trackpad.three_finger_tap.events");
-    const std::string rules = kinesta.folder.write("rules.json", "[" + rule(3, "", kMiddleClick) + "]");
+    const std::string rules =
+        kinesta.folder.write("rules.json", std::string("[").append(rule(3, "", kMiddleClick) + "]"));
     const Ran told = kinesta.run({"replay", tap, "--rules", rules, "--json"});
     EXPECT_EQ(window.all(), Events{});
     const Ran performed = kinesta.run({"replay", tap, "--rules", rules, "--json", "--perform"});
@@ -241,7 +242,7 @@ TEST_F(DaemonOnADesktop, StartsAtOnceAndStaysSmall) {
     using Milliseconds = std::chrono::duration<double, std::milli>;
     std::string rules = rule(2, "", kMiddleClick);
     for (int i = 3; i <= 5; ++i)
-        rules += "," + rule(i, "", shortcut(8, 1));
+        rules.append(",").append(rule(i, "", shortcut(8, 1)));
     import(rules);
     double best = 1e9;
     long resident = 0;

@@ -156,7 +156,7 @@ std::string story(const Reading& reading) {
         std::string word;
         if (const auto* frame = std::get_if<RecordedFrame>(&event.content))
             for (const TouchSample& sample : frame->samples)
-                word += (word.empty() ? "" : ",") + std::to_string(sample.id);
+                word.append(word.empty() ? "" : ",").append(std::to_string(sample.id));
         else
             word = contentText(event);
         if (word != last)

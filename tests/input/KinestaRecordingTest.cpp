@@ -149,7 +149,9 @@ TEST(KinestaRecording, HoldsNoMoreThanALine) {
     const auto crowd = [](int count, int last) {
         std::string touches;
         for (int id = 1; id <= count; ++id)
-            touches += "[" + std::to_string(id == count ? last : id) + ",0.123456789012345678,0.123456789012345678],";
+            touches.append("[")
+                .append(std::to_string(id == count ? last : id))
+                .append(",0.123456789012345678,0.123456789012345678],");
         touches.pop_back();
         return kHeader + "\n{\"t\":1,\"touches\":[" + touches + "]}";
     };

@@ -22,7 +22,7 @@ std::string text(const KeyStroke& stroke) {
     std::string result;
     const auto add = [&](std::span<const InputTransition> transitions) {
         for (const auto& step : transitions)
-            result += (step.transition == KeyTransition::down ? "+" : "-") + std::to_string(step.code) + " ";
+            result.append(step.transition == KeyTransition::down ? "+" : "-").append(std::to_string(step.code) + " ");
     };
     add(stroke.down.view());
     result += "| ";
@@ -103,8 +103,8 @@ TEST(KeyStroke, PutsExactlyTheWantedModifiersInForceAndEveryKeyBack) {
     std::string released, pressed;
     for (std::uint16_t code = 1; code <= 17; ++code) {
         many.held.push_back({code, kShiftModifier});
-        released += "-" + std::to_string(code) + " ";
-        pressed += " +" + std::to_string(code);
+        released.append("-").append(std::to_string(code) + " ");
+        pressed.append(" +").append(std::to_string(code));
     }
     EXPECT_EQ(text(strokeKey(KEY_C, 0, many)), released + "+46 | -46" + pressed);
 }

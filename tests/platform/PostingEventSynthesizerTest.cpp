@@ -27,7 +27,7 @@ class RecordingPoster final : public InputPoster {
             return false;
         std::string call;
         for (const auto& step : transitions)
-            call += (step.transition == KeyTransition::down ? "+" : "-") + std::to_string(step.code) + " ";
+            call.append(step.transition == KeyTransition::down ? "+" : "-").append(std::to_string(step.code) + " ");
         calls.push_back(call.substr(0, call.size() - 1));
         return true;
     }

@@ -85,7 +85,7 @@ TEST(CommonMacShortcut, Labels) {
         labels.append("\n").append(category).append(":");
         for (const CommonMacShortcut& preset : CommonMacShortcut::all())
             if (preset.category == category)
-                labels += "|" + ShortcutKey::label(preset.keyCode, preset.modifiers);
+                labels.append("|").append(ShortcutKey::label(preset.keyCode, preset.modifiers));
     }
     EXPECT_EQ(labels, R"(
 Editing:|⌘X|⌘C|⌘V|⌥⇧⌘V|⌘Z|⇧⌘Z|⌘A|⌘F|⌘G|⌘S|⌘O|⌘P
