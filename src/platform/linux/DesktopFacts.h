@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/linux/EwmhDesktop.h"
 #include "platform/linux/LinuxActionSettings.h"
 #include "platform/linux/MessageBus.h"
 #include "platform/linux/X11Connection.h"
@@ -26,9 +27,16 @@ struct DesktopFacts {
     bool hasSessionBus = false;
     bool hasNotifications = false;
     bool hasPortal = false;
+    /// The window manager as it calls itself, and what it does for others.
+    std::string windowManager{};
+    bool closesWindows = true;
+    bool movesWindows = true;
+    /// It does so at a socket of its own, and lays windows out itself.
+    bool takesI3Commands = false;
 
     /// Looks around. Takes some milliseconds; up to some hundred if the bus hangs.
-    static DesktopFacts probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath);
+    static DesktopFacts probe(X11Connection& connection, EwmhDesktop& desktop, MessageBus& bus,
+                              const std::string& uinputPath);
 };
 
 }  // namespace kinesta

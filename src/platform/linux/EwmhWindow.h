@@ -51,6 +51,8 @@ struct EwmhWindow {
     bool isMaximizedHorizontally = false;
     bool isMaximizedVertically = false;
     bool skipsTaskbar = false;
+    /// It has a place in the layout of a tiling window manager.
+    bool isInLayout = false;
 
     bool mayClose = true;
     bool mayMove = true;

@@ -1,8 +1,11 @@
 #include "platform/linux/LinuxActions.h"
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
+#include "actions/KeyboardLayoutResolver.h"
+#include "actions/LetterCase.h"
 #include "platform/linux/DesktopFacts.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopPermission.h"
@@ -24,6 +27,7 @@
 #include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XdgWorkspace.h"
 #include "platform/linux/XkbKeyboardLayout.h"
+#include "rules/ShortcutKey.h"
 
 namespace kinesta {
 namespace {
@@ -51,7 +55,7 @@ struct LinuxActions::Parts {
               launcher, portal, [this] { return desktop.frontmostApplication(); }, log) {}
 
     DesktopSession session() {
-        return {DesktopFacts::probe(connection, bus, UinputDevice::kPath),
+        return {DesktopFacts::probe(connection, desktop, bus, UinputDevice::kPath),
                 LinuxActionSettings::read(defaults).inputRoute};
     }
 
@@ -68,6 +72,7 @@ struct LinuxActions::Parts {
     EwmhDesktop desktop;
     WindowTiler tiler{desktop};
     AccessibilityBus programs{bus};
+    WindowOutcomes outcomes{desktop, programs};
     WindowAccessibility accessibility{desktop, tiler, programs};
     WindowOwnWindows ownWindows{desktop};
     WindowOwnMenus ownMenus{tiler};
@@ -99,6 +104,20 @@ ActionPorts LinuxActions::ports() {
 }
 
 InProcessNotifications& LinuxActions::notifications() { return m_parts->notifications; }
+
+WindowOutcomes& LinuxActions::windowOutcomes() { return m_parts->outcomes; }
+
+bool LinuxActions::typesLetterOf(std::uint16_t keyCode) {
+    const std::string name = ShortcutKey::nameFor(keyCode);
+    const std::string letter = lowerCasedLetters(name);
+    if (letter.size() != 1 || letter[0] < 'a' || letter[0] > 'z')
+        return true;
+    const std::uint16_t posted = KeyboardLayoutResolver(m_parts->layout).keyCode(name, keyCode);
+    const auto layouts = m_parts->layout.charactersOfLayouts();
+    return layouts.empty() || std::ranges::any_of(layouts, [&](const KeyboardLayoutCharacters& characters) {
+               return posted < characters.size() && lowerCasedLetters(characters[posted]) == letter;
+           });
+}
 
 void LinuxActions::letDesktopCatchUp() {
     if (m_parts->poster.usesVirtualDevice() && m_parts->poster.isAvailable())
