@@ -41,7 +41,7 @@ DesktopFinding DesktopSession::sendInput() const {
         finding.works = m_facts.mayUseUinput;
         finding.why = finding.works
                           ? "They go out through a virtual keyboard of the kernel's. Modifier keys that you "
-                            "hold yourself meanwhile count as part of a shortcut."
+                            "hold yourself meanwhile count as part of a shortcut, so let go of them first."
                           : "Here they would go out through a virtual keyboard of the kernel's, but /dev/uinput "
                             "is missing or may not be opened.";
         finding.remedy = finding.works ? "" : "Run once: " + uinputAccessCommand();

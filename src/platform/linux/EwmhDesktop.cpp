@@ -182,15 +182,18 @@ void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) 
     constexpr auto kMoveAndResize = kMove | XCB_EWMH_MOVERESIZE_WINDOW_WIDTH | XCB_EWMH_MOVERESIZE_WINDOW_HEIGHT;
     const bool keepsSize = frame.size() == window.frame.size();
     const WindowSize client = (frame - window.frameInsets).size();
-    // The place is that of the outer corner, shadows included; the size that of the window proper. The other way,
-    // static gravity, puts windows off by a border that they were made with and no longer have (openbox 3.6).
+    // With static gravity the place is that of the window proper, otherwise that of the outer corner, shadows included;
+    // the size is always that of the window proper. Openbox 3.6 keeps places in the window's own gravity: after a move
+    // in another one it puts the window off by its title bar at the end of the next maximization. Static gravity for
+    // all would put windows off by a border that they were made with and no longer have.
+    const WindowRectangle place = window.hasStaticGravity ? frame - window.frameInsets : frame + window.shadow;
+    const auto gravity = window.hasStaticGravity ? XCB_GRAVITY_STATIC : XCB_GRAVITY_NORTH_WEST;
     xcb_ewmh_request_moveresize_window(
-        m_connection.session().ewmh(), m_connection.session().screenNumber(), window.id, XCB_GRAVITY_NORTH_WEST,
+        m_connection.session().ewmh(), m_connection.session().screenNumber(), window.id, gravity,
         XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
         static_cast<xcb_ewmh_moveresize_window_opt_flags_t>(keepsSize ? kMove : kMoveAndResize),
-        static_cast<std::uint32_t>(frame.x - window.shadow.left),
-        static_cast<std::uint32_t>(frame.y - window.shadow.top), static_cast<std::uint32_t>(client.width),
-        static_cast<std::uint32_t>(client.height));
+        static_cast<std::uint32_t>(place.x), static_cast<std::uint32_t>(place.y),
+        static_cast<std::uint32_t>(client.width), static_cast<std::uint32_t>(client.height));
     tell({EwmhRequest::Kind::place, window.id, window.frame, frame});
 }
 
@@ -266,7 +269,9 @@ void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) 
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (change.atom == atoms._NET_WM_STATE)
             std::erase(waitingFor, change.window);
-        return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS;
+        // Shadows go with maximization and come back a moment after it.
+        return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS ||
+               change.atom == m_connection.session().gtkFrameExtents();
     };
     while (!watched.empty()) {
         const Deadline quiet = EwmhConnection::deadlineIn(kQuiet);
