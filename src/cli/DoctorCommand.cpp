@@ -120,7 +120,8 @@ void addShellCommands(std::vector<Finding>& findings, const Rules& rules, const 
 
 std::optional<Obstacle> obstacleToLetter(const GestureAction& action, LinuxActions& actions) {
     if (action.kind != ActionKind::keyboardShortcut || !action.keyCode ||
-        windowTilingMenuCommand(*action.keyCode, action.modifiers) || actions.typesLetterOf(*action.keyCode))
+        windowTilingMenuCommand(*action.keyCode, action.modifiers) ||
+        actions.typesLetterOf(*action.keyCode, ShortcutKey::nameFor(*action.keyCode)))
         return std::nullopt;
     return Obstacle{"Your keyboard layout has no letter " + ShortcutKey::nameFor(*action.keyCode) +
                         " where the shortcut would press it: as from the keyboard itself, programs do not take it.",

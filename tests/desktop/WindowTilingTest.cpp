@@ -275,7 +275,7 @@ TEST_F(WindowTilingTest, IsNotHeldUpByAProgramThatHangs) {
 TEST(WindowTilingOnI3, TakesWindowsOutOfTheLayoutAndGivesThemBack) {
     TestDesktop desktop;
     const std::string config = (desktop.folder() / "i3").string();
-    std::ofstream(config) << "font pango:DejaVu Sans 8\nbar {\n status_command true\n}\n";
+    std::ofstream(config) << "# i3 config file (v4)\nfont pango:DejaVu Sans 8\nbar {\n status_command true\n}\n";
     const auto i3 = desktop.run({"i3", "-c", config});
     WindowWatch watch(desktop);
     WindowPorts ports;

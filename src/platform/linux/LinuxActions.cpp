@@ -27,7 +27,6 @@
 #include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XdgWorkspace.h"
 #include "platform/linux/XkbKeyboardLayout.h"
-#include "rules/ShortcutKey.h"
 
 namespace kinesta {
 namespace {
@@ -107,8 +106,7 @@ InProcessNotifications& LinuxActions::notifications() { return m_parts->notifica
 
 WindowOutcomes& LinuxActions::windowOutcomes() { return m_parts->outcomes; }
 
-bool LinuxActions::typesLetterOf(std::uint16_t keyCode) {
-    const std::string name = ShortcutKey::nameFor(keyCode);
+bool LinuxActions::typesLetterOf(std::uint16_t keyCode, const std::string& name) {
     const std::string letter = lowerCasedLetters(name);
     if (letter.size() != 1 || letter[0] < 'a' || letter[0] > 'z')
         return true;

@@ -32,9 +32,10 @@ class LinuxActions {
     /// What came of an action on windows.
     WindowOutcomes& windowOutcomes();
 
-    /// Whether a shortcut with this key reaches programs as the letter that it names: not if no layout of the keyboard
-    /// has that letter, or another one where it is on a US keyboard. True of keys that name no letter.
-    bool typesLetterOf(std::uint16_t keyCode);
+    /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names: not if no
+    /// layout of the keyboard has that letter, or another one where it is on a US keyboard. True of keys that name no
+    /// letter.
+    bool typesLetterOf(std::uint16_t keyCode, const std::string& name);
 
     /// What kind of session this is, and what works in it now.
     DesktopSession session();
