@@ -18,6 +18,7 @@
 #include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
+#include "rules/ShortcutKey.h"
 #include "support/Json.h"
 #include "support/SteadyClock.h"
 
@@ -116,9 +117,7 @@ void addTouchpad(std::vector<Finding>& findings, const Rules& rules, const UserD
                  "Choose a gesture with fewer fingers.", true});
 }
 
-void addSession(std::vector<Finding>& findings, const Rules& rules, const UserDefaults& defaults) {
-    const SteadyClock clock;
-    LinuxActions actions(clock, defaults, [](const std::string&) {});
+void addSession(std::vector<Finding>& findings, const Rules& rules, LinuxActions& actions) {
     for (DesktopFinding& finding : actions.session().findings()) {
         const bool isNeeded =
             anyEnabled(rules, [&](const GestureRule& rule) { return needs(rule.action, finding.capability); });
@@ -136,12 +135,28 @@ void addShellCommands(std::vector<Finding>& findings, const Rules& rules, const 
          anyEnabled(rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
 }
 
-/// What stands in the way of single rules, whatever the session.
-void addRules(std::vector<Finding>& findings, const Rules& rules) {
+std::optional<Obstacle> obstacleToLetter(const GestureAction& action, LinuxActions& actions) {
+    if (action.kind != ActionKind::keyboardShortcut || !action.keyCode ||
+        windowTilingMenuCommand(*action.keyCode, action.modifiers) ||
+        actions.typesLetterOf(*action.keyCode, ShortcutKey::nameFor(*action.keyCode)))
+        return std::nullopt;
+    return Obstacle{"Your keyboard layout has no letter " + ShortcutKey::nameFor(*action.keyCode) +
+                        " where the shortcut would press it: as from the keyboard itself, programs do not take it.",
+                    "Add a layout with Latin letters, such as us, to those that you switch between."};
+}
+
+/// What stands in the way of single rules.
+void addRules(std::vector<Finding>& findings, const Rules& rules, LinuxActions& actions) {
     const PosixHomeFolders homes;
-    for (const GestureRule& rule : rules)
-        if (const auto obstacle = rule.isEnabled ? obstacleTo(rule.action, homes) : std::nullopt)
+    for (const GestureRule& rule : rules) {
+        if (!rule.isEnabled)
+            continue;
+        auto obstacle = obstacleTo(rule.action, homes);
+        if (!obstacle)
+            obstacle = obstacleToLetter(rule.action, actions);
+        if (obstacle)
             findings.push_back({inQuotes(rule), false, obstacle->why, obstacle->remedy, true});
+    }
 }
 
 }  // namespace
@@ -153,9 +168,11 @@ ExitStatus doctor(const Console& console, const std::filesystem::path& defaults,
     const Rules& rules = store.rules().value();
     std::vector<Finding> findings;
     addTouchpad(findings, rules, settings.defaults(), defaults);
-    addSession(findings, rules, settings.defaults());
+    const SteadyClock clock;
+    LinuxActions actions(clock, settings.defaults(), [](const std::string&) {});
+    addSession(findings, rules, actions);
     addShellCommands(findings, rules, settings.defaults(), defaults);
-    addRules(findings, rules);
+    addRules(findings, rules, actions);
     bool isMissing = false;
     Json array = Json::array();
     for (const Finding& finding : findings) {

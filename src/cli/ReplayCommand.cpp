@@ -1,9 +1,8 @@
 #include "cli/ReplayCommand.h"
 
-#include <mutex>
 #include <utility>
 
-#include "actions/ActionExecutor.h"
+#include "cli/ActionPerformer.h"
 #include "cli/GestureReport.h"
 #include "cli/OutputFile.h"
 #include "cli/PacedPlayer.h"
@@ -13,49 +12,12 @@
 #include "cli/StoredSettings.h"
 #include "input/RecordingWriter.h"
 #include "platform/linux/LinuxActionSettings.h"
-#include "platform/linux/LinuxActions.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
 #include "support/SteadyClock.h"
 
 namespace kinesta {
 namespace {
-
-/// The actions of this machine, made only where they are to be performed.
-class Performer {
-  public:
-    explicit Performer(const UserDefaults& defaults)
-        : m_actions(m_clock, defaults,
-                    [this](const std::string& problem) {
-                        const std::lock_guard guard(m_lock);
-                        m_problems += problem + "\n";
-                    }),
-          m_executor(m_actions.ports()) {
-        m_actions.letDesktopCatchUp();
-    }
-    ~Performer() { m_actions.letDesktopCatchUp(); }
-    Performer(const Performer&) = delete;
-    Performer& operator=(const Performer&) = delete;
-
-    void perform(const GestureRule& rule, const DetectedGesture& gesture) {
-        const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture);
-        m_executor.execute(rule.action, slide ? slide->steps : 0, rule.shouldShowActionCue(),
-                           rule.resolvedVisualCueMessage());
-    }
-
-    /// What went wrong since the last question, a line each.
-    std::string problems() {
-        const std::lock_guard guard(m_lock);
-        return std::exchange(m_problems, {});
-    }
-
-  private:
-    SteadyClock m_clock;
-    std::mutex m_lock;  // of the problems, which are told on more than one thread
-    std::string m_problems;
-    LinuxActions m_actions;
-    ActionExecutor m_executor;
-};
 
 struct RulesInForce {
     std::vector<GestureRule> rules;
@@ -115,7 +77,7 @@ ExitStatus replay(const Console& console, const std::filesystem::path& defaults,
     if (request.recording == "-" && request.rules == "-")
         return console.fail("The recording and the rules cannot both come from standard input.");
     ExitStatus status = ExitStatus::success;
-    const auto inForce = rulesInForce(console, defaults, request, status);
+    auto inForce = rulesInForce(console, defaults, request, status);
     if (!inForce)
         return console.fail(inForce.error().message);
     const auto file = RecordingFile::open(console, request.recording, request.device);
@@ -131,9 +93,20 @@ ExitStatus replay(const Console& console, const std::filesystem::path& defaults,
                 performed.setString(key, *value);
     }
     performed.setBoolean(ShellCommandSettings::enabledKey, inForce->shellCommands == ShellCommands::allowed);
-    std::optional<Performer> performer;
-    if (request.performing == Performing::performed)
-        performer.emplace(performed);
+    std::optional<ActionPerformer> performer;
+    if (request.performing == Performing::performed) {
+        performer.emplace(console, performed, defaults);
+        performer->prepareToPost();
+    }
+    const auto perform = [&](const GestureRule& rule, const DetectedGesture& gesture) {
+        const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture);
+        const auto report = performer->perform(rule, slide ? slide->steps : 0);
+        if (report.outcome == ActionPerformer::Outcome::failed)
+            status = console.fail(ruleInWords(rule) + ": " + report.why);
+        else if (rule.action.kind == ActionKind::disableAllRules)
+            for (GestureRule& each : inForce->rules)
+                each.isEnabled = false;
+    };
 
     std::size_t gestures = 0;
     ReplaySession session((*file)->reader().header(), [&](ReplaySession::Time time, const DetectedGesture& gesture) {
@@ -146,14 +119,12 @@ ExitStatus replay(const Console& console, const std::filesystem::path& defaults,
         if (request.pace == Pace::realTime || console.outIsTerminal)
             console.out.flush();
         if (performer && rule)
-            performer->perform(*rule, gesture);
-        if (performer)
-            console.err << performer->problems();
+            perform(*rule, gesture);
     });
     const auto error =
         request.pace == Pace::realTime ? playInRealTime(**file, session) : playAtOnce(console, **file, session);
-    if (performer)
-        console.err << performer->problems();
+    if (const std::string problems = performer ? performer->finish() : ""; !problems.empty())
+        status = console.fail(problems);
     if (error)
         return console.fail(error->message);
     if (request.form == OutputForm::forPeople && gestures == 0)

@@ -79,6 +79,13 @@ ClientWindow& ClientWindow::setFixedSize() {
     return *this;
 }
 
+ClientWindow& ClientWindow::setStaticGravity() {
+    xcb_size_hints_t hints{};
+    xcb_icccm_size_hints_set_win_gravity(&hints, XCB_GRAVITY_STATIC);
+    xcb_icccm_set_wm_normal_hints(m_connection.get(), m_window, &hints);
+    return *this;
+}
+
 ClientWindow& ClientWindow::setTransientFor(xcb_window_t owner) {
     return set("WM_TRANSIENT_FOR", XCB_ATOM_WINDOW, {owner});
 }

@@ -35,6 +35,8 @@ class ClientWindow {
     /// Says which sizes it accepts.
     ClientWindow& setMinimum(WindowSize size);
     ClientWindow& setFixedSize();
+    /// Says that its positions are those of the window proper, as Qt does.
+    ClientWindow& setStaticGravity();
     ClientWindow& setTransientFor(xcb_window_t owner);
     ClientWindow& setGroup(xcb_window_t leader);
 

@@ -159,6 +159,16 @@ TEST_F(LiveCommands, DoctorSaysWhatTheRulesMissAndWhatToDo) {
         EXPECT_NE(forPeople.out.find("✗"), std::string::npos);
         EXPECT_NE(forPeople.out.find("Something that your rules need is missing"), std::string::npos);
     }
+    import(rule(3, "", shortcut(8, 1)));  // Copy
+    const auto speaksOfRules = [&] { return kinesta.run({"doctor"}).out.find(kRule) != std::string::npos; };
+    for (const char* layout : {"ru", "gr", "ara", "il"}) {
+        desktop.setLayout(layout);
+        EXPECT_NE(find(examine(), kRule)["remedy"].get<std::string>().find("Latin letters"), std::string::npos);
+    }
+    for (const char* layout : {"ru,us", "fr"}) {
+        desktop.setLayout(layout);
+        EXPECT_FALSE(speaksOfRules()) << layout;
+    }
     import(rule(3, "", kMiddleClick));
     desktop.stopServer();
     const Json gone = find(examine(), "Closing and tiling windows");
@@ -201,9 +211,11 @@ TEST_F(DaemonOnADesktop, FollowsItsSettingsAndEndsCleanly) {
     EXPECT_TRUE(says(*daemon, "There is no trackpad at /dev/none."));
     EXPECT_TRUE(says(*daemon, "rule: 2-finger single tap  →  Middle click"));
     EXPECT_TRUE(says(*daemon, "2 of 2 rules are on."));
-    import(rule(4, "", kMiddleClick));
+    import(rule(4, "Off", R"({"kind":"disableAllRules","modifiers":0,"value":""})"));
     EXPECT_TRUE(says(*daemon, "The settings file was changed"));
     EXPECT_TRUE(says(*daemon, "1 of 1 rules are on."));
+    EXPECT_EQ(kinesta.run({"perform", "Off"}).status, 0);
+    EXPECT_TRUE(says(*daemon, "0 of 1 rules are on."));
     daemon->signal(SIGHUP);
     EXPECT_TRUE(says(*daemon, "Asked to reload: there is nothing new to be read."));
     set([](UserDefaults& settings) { settings.setString("linux.touchpad.v1", "No Such Pad"); });

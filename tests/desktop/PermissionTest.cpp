@@ -98,15 +98,16 @@ TEST_F(Permission, DoesWithoutABusAndTakesUpWithTheNext) {
 TEST(DesktopFacts, AreWhatIsThere) {
     TestDesktop desktop({.hasWindowManager = true, .hasSessionBus = true});
     X11Connection connection;
+    EwmhDesktop windows;
     MessageBus bus;
-    const auto probe = [&] { return DesktopFacts::probe(connection, bus, "/dev/null"); };
+    const auto probe = [&] { return DesktopFacts::probe(connection, windows, bus, "/dev/null"); };
     DesktopFacts facts = probe();
     EXPECT_TRUE(facts.hasX && facts.hasXTest && facts.hasWindowManager && facts.hasSessionBus && facts.hasXdgOpen);
     EXPECT_FALSE(facts.hasWayland);
     EXPECT_EQ(facts.notifications, BusService::absent);
     EXPECT_EQ(facts.portal, BusService::absent);
     EXPECT_TRUE(facts.mayUseUinput) << "stands for a device that may be opened";
-    EXPECT_FALSE(DesktopFacts::probe(connection, bus, "/nonexistent").mayUseUinput);
+    EXPECT_FALSE(DesktopFacts::probe(connection, windows, bus, "/nonexistent").mayUseUinput);
     {
         const BusServices services;
         facts = probe();

@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 
 #include "desktop/ClientWindow.h"
 #include "desktop/TestDesktop.h"
@@ -147,7 +148,7 @@ TEST_F(WindowTilingTest, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
 TEST_F(WindowTilingTest, EndsMaximizedAndFullscreenFirstAndReturnsToThem) {
     ClientWindow other(desktop, watch, {50, 50, 300, 200});
     ClientWindow window(desktop, watch, {200, 150, 400, 300});
-    other.show();
+    other.setStaticGravity().show();
     window.show();
     const auto before = watch.frame(window.window());
     const auto otherBefore = watch.frame(other.window());
@@ -269,6 +270,40 @@ TEST_F(WindowTilingTest, IsNotHeldUpByAProgramThatHangs) {
     EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(500));
     EXPECT_TRUE(isAt(terminal, {0, 0, 640, 800}, 26));
     program->signal(SIGCONT);
+}
+
+TEST(WindowTilingOnI3, TakesWindowsOutOfTheLayoutAndGivesThemBack) {
+    TestDesktop desktop;
+    const std::string config = (folderOf("HOME") / "i3").string();
+    std::ofstream(config) << "# i3 config file (v4)\nfont pango:DejaVu Sans 8\nbar {\n status_command true\n}\n";
+    const auto i3 = desktop.run({"i3", "-c", config});
+    WindowWatch watch(desktop);
+    WindowPorts ports;
+    ASSERT_TRUE(eventually([&] {
+        const auto seen = ports.desktop.snapshot();
+        return seen && seen->movesWindows && seen->monitors[0].workArea.height < 800;
+    })) << "the bar, which is in no list of windows, takes some";
+    const WindowRectangle area = ports.desktop.snapshot()->monitors[0].workArea;
+    ClientWindow other(desktop, watch, {50, 50, 300, 200});
+    ClientWindow window(desktop, watch, {50, 50, 300, 200});
+    other.show();
+    window.show();
+    const auto frame = [&] { return ports.desktop.window(window.window()).value_or(EwmhWindow{}).frame; };
+    const auto inLayout = frame();
+    EXPECT_EQ(inLayout, (WindowRectangle{640, area.y, 640, area.height}));
+    EXPECT_TRUE(ports.tiles(Command::left));
+    EXPECT_EQ(frame(), (WindowRectangle{0, area.y, 640, area.height})) << "at once: i3 says when it is done";
+    EXPECT_TRUE(ports.tiles(Command::topAndBottom));
+    EXPECT_EQ(frame(), (WindowRectangle{0, area.y, 1280, area.height / 2}));
+    EXPECT_EQ(ports.desktop.window(other.window())->frame.y, area.y + area.height / 2);
+    EXPECT_TRUE(ports.tiles(Command::untile));
+    EXPECT_TRUE(ports.desktop.window(window.window())->isInLayout);
+    EXPECT_TRUE(ports.closes());
+    EXPECT_TRUE(window.awaitCloseRequest());
+    i3->signal(SIGKILL);
+    ASSERT_TRUE(i3->waitForEnd());
+    EXPECT_FALSE(ports.tiles(Command::left)) << "what it left on the root window is no window manager";
+    EXPECT_FALSE(ports.closes());
 }
 
 }  // namespace

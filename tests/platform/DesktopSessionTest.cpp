@@ -80,6 +80,22 @@ TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
     }
 }
 
+TEST(DesktopSession, TellsWhatTheWindowManagerDoes) {
+    const auto tells = [](bool closes, bool moves, bool works, const std::string& expected) {
+        DesktopFacts facts = x11();
+        facts.windowManager = "Some";
+        facts.closesWindows = closes;
+        facts.movesWindows = moves;
+        const auto finding = DesktopSession(facts, Route::automatic).finding(Capability::windows);
+        EXPECT_EQ(finding.works, works) << finding.why;
+        EXPECT_EQ(finding.why, "The window manager “Some” " + expected);
+    };
+    tells(true, true, true, "takes such requests.");
+    tells(true, false, false, "closes windows for other programs and does not move them.");
+    tells(false, true, false, "moves windows for other programs and does not close them.");
+    tells(false, false, false, "takes no such requests, or does not answer.");
+}
+
 TEST(DesktopSession, NamesTheCommandThatMends) {
     const DesktopSession refused(with(wayland(), &DesktopFacts::mayUseUinput, false), Route::automatic);
     const std::string remedy = refused.finding(Capability::sendInput).remedy;

@@ -6,38 +6,15 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <string_view>
 
 #include "platform/linux/ExecutableSearch.h"
 #include "platform/linux/FileDescriptor.h"
-#include "platform/linux/XcbPointer.h"
 
 namespace kinesta {
 namespace {
 
 /// How long a service may take to start and answer.
 constexpr Seconds kPatience = 3;
-
-bool managesWindows(X11Connection& display) {
-    xcb_connection_t* connection = display.open();
-    if (connection == nullptr)
-        return false;
-    constexpr std::string_view kName = "_NET_SUPPORTING_WM_CHECK";
-    const XcbPointer<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
-        connection, xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(kName.size()), kName.data()), nullptr));
-    if (!atom || atom->atom == XCB_ATOM_NONE)
-        return false;
-    // The property may be left over from one that is gone: its window, then, is gone too.
-    const XcbPointer<xcb_get_property_reply_t> owner(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, display.root(), atom->atom, XCB_ATOM_WINDOW, 0, 1), nullptr));
-    if (!owner || xcb_get_property_value_length(owner.get()) != sizeof(xcb_window_t))
-        return false;
-    xcb_window_t window = XCB_WINDOW_NONE;
-    std::memcpy(&window, xcb_get_property_value(owner.get()), sizeof window);
-    return XcbPointer<xcb_get_property_reply_t>(xcb_get_property_reply(
-               connection, xcb_get_property(connection, 0, window, atom->atom, XCB_ATOM_WINDOW, 0, 1), nullptr)) !=
-           nullptr;
-}
 
 BusService serviceAt(MessageBus& bus, const BusObject& object, const char* interface, const char* method,
                      const char* argument = nullptr) {
@@ -75,9 +52,17 @@ DesktopFacts DesktopFacts::probeInput(X11Connection& connection, const std::stri
     return facts;
 }
 
-DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath) {
+DesktopFacts DesktopFacts::probe(X11Connection& connection, EwmhDesktop& desktop, MessageBus& bus,
+                                 const std::string& uinputPath) {
     DesktopFacts facts = probeInput(connection, uinputPath);
-    facts.hasWindowManager = facts.hasX && managesWindows(connection);
+    if (const auto manager = facts.hasX ? desktop.manager() : std::nullopt) {
+        facts.hasWindowManager = true;
+        facts.windowManager = manager->name;
+        facts.takesI3Commands = manager->takesI3Commands();
+        const auto snapshot = desktop.snapshot();
+        facts.closesWindows = snapshot && snapshot->closesWindows;
+        facts.movesWindows = snapshot && snapshot->movesWindows;
+    }
     facts.hasXdgOpen = isInSearchPath("xdg-open");
     facts.hasSessionBus = bus.open() != nullptr;
     facts.notifications = serviceAt(bus, {"org.freedesktop.Notifications", "/org/freedesktop/Notifications"},

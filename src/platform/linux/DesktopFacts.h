@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/linux/EwmhDesktop.h"
 #include "platform/linux/LinuxActionSettings.h"
 #include "platform/linux/MessageBus.h"
 #include "platform/linux/X11Connection.h"
@@ -30,13 +31,20 @@ struct DesktopFacts {
     BusService notifications = BusService::absent;
     /// The portal that opens addresses and files. Only asked where there is no xdg-open, which goes first.
     BusService portal = BusService::absent;
+    /// The window manager as it calls itself, and what it does for others.
+    std::string windowManager{};
+    bool closesWindows = true;
+    bool movesWindows = true;
+    /// It does so at a socket of its own, and lays windows out itself.
+    bool takesI3Commands = false;
 
     /// Looks at what sending keys and clicks takes, in some milliseconds. The rest stays as it is at first.
     static DesktopFacts probeInput(X11Connection& connection, const std::string& uinputPath);
 
     /// Looks around and asks the services, which are started if they do not run yet: as their first use would do.
     /// Takes some milliseconds; some seconds for a service that does not answer.
-    static DesktopFacts probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath);
+    static DesktopFacts probe(X11Connection& connection, EwmhDesktop& desktop, MessageBus& bus,
+                              const std::string& uinputPath);
 };
 
 }  // namespace kinesta

@@ -41,7 +41,7 @@ DesktopFinding DesktopSession::sendInput() const {
         finding.works = m_facts.mayUseUinput;
         finding.why = finding.works
                           ? "They go out through a virtual keyboard of the kernel's. Modifier keys that you "
-                            "hold yourself meanwhile count as part of a shortcut."
+                            "hold yourself meanwhile count as part of a shortcut, so let go of them first."
                           : "Here they would go out through a virtual keyboard of the kernel's, but /dev/uinput "
                             "is missing or may not be opened.";
         finding.remedy = finding.works ? "" : "Run once: " + uinputAccessCommand();
@@ -84,13 +84,14 @@ DesktopFinding DesktopSession::windows() const {
     DesktopFinding finding{DesktopCapability::windows, "Closing and tiling windows", false, "", ""};
     switch (kind()) {
         case Kind::x11:
-            finding.works = m_facts.hasWindowManager;
-            finding.why = finding.works ? "The window manager takes such requests."
-                                        : "No window manager that takes such requests runs.";
+            finding.works = m_facts.hasWindowManager && m_facts.closesWindows && m_facts.movesWindows;
+            finding.why = windowManagerInWords();
             finding.remedy = finding.works ? "" : "Start a window manager that follows the desktop standard (EWMH).";
             break;
         case Kind::waylandWithX:
-            finding.why = "Wayland hides windows from other programs: only those that use XWayland can be reached.";
+            finding.why =
+                "Wayland hides windows from other programs: only those that use XWayland can be reached. For them: " +
+                windowManagerInWords();
             finding.remedy = kUseX11;
             break;
         case Kind::wayland:
@@ -103,6 +104,22 @@ DesktopFinding DesktopSession::windows() const {
             break;
     }
     return finding;
+}
+
+std::string DesktopSession::windowManagerInWords() const {
+    if (!m_facts.hasWindowManager)
+        return "No window manager that takes such requests runs.";
+    const std::string name =
+        m_facts.windowManager.empty() ? "The window manager" : "The window manager “" + m_facts.windowManager + "”";
+    if (!m_facts.closesWindows && !m_facts.movesWindows)
+        return name + " takes no such requests, or does not answer.";
+    if (!m_facts.movesWindows)
+        return name + " closes windows for other programs and does not move them.";
+    if (!m_facts.closesWindows)
+        return name + " moves windows for other programs and does not close them.";
+    if (m_facts.takesI3Commands)
+        return name + " takes such requests; a window that Kinesta tiles leaves its layout for that and floats.";
+    return name + " takes such requests.";
 }
 
 DesktopFinding DesktopSession::open() const {

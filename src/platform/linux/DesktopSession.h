@@ -44,6 +44,7 @@ class DesktopSession {
     DesktopFinding sendInput() const;
     DesktopFinding keyboardLayout() const;
     DesktopFinding windows() const;
+    std::string windowManagerInWords() const;
     DesktopFinding open() const;
     DesktopFinding notify() const;
 

@@ -13,6 +13,13 @@ EwmhConnection::EwmhConnection(std::string displayName) : m_displayName(std::mov
     surviveBrokenPipes();
 }
 
+EwmhConnection::~EwmhConnection() {
+    // A server drops what it has not read when its client is gone. It reads in order, so an answer to the last request
+    // says that none is left.
+    if (m_session && xcb_connection_has_error(xcb()) == 0)
+        reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(xcb()), deadlineIn(0.5));
+}
+
 bool EwmhConnection::prepare(Deadline deadline) {
     if (m_session && xcb_connection_has_error(xcb()) != 0) {
         m_session.reset();

@@ -23,6 +23,10 @@ class EwmhConnection {
 
     /// Connects nowhere yet. An empty name means the display in the environment.
     explicit EwmhConnection(std::string displayName = {});
+    EwmhConnection(const EwmhConnection&) = delete;
+    EwmhConnection& operator=(const EwmhConnection&) = delete;
+    /// Returns once the server has taken everything that was sent, if it does so within half a second.
+    ~EwmhConnection();
 
     static Deadline deadlineIn(Seconds timeout) { return xcbDeadlineIn(timeout); }
 

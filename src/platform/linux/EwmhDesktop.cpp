@@ -1,9 +1,9 @@
 #include "platform/linux/EwmhDesktop.h"
 
 #include <algorithm>
-#include <string>
 #include <utility>
 
+#include "platform/linux/EwmhMonitors.h"
 #include "platform/linux/EwmhWindowQuery.h"
 #include "platform/linux/EwmhWorkAreas.h"
 
@@ -18,12 +18,6 @@ constexpr std::size_t kMostWindows = 200;
 /// A window manager ends maximization in several steps and does not say which is the last: so long without a step,
 /// in seconds, and it was.
 constexpr Seconds kQuiet = 0.02;
-
-WindowRectangle rectangleAt(const Items& items, std::size_t first) {
-    // No screen is larger, and nothing computed from such numbers overflows.
-    const auto item = [&](std::size_t i) { return static_cast<int>(std::min<std::uint32_t>(items[first + i], 32767)); };
-    return {item(0), item(1), item(2), item(3)};
-}
 
 }  // namespace
 
@@ -40,17 +34,26 @@ std::optional<EwmhWindow> EwmhDesktop::activeWindow(Seconds timeout) {
     return active ? EwmhWindowQuery(m_connection, *active).answer(deadline) : std::nullopt;
 }
 
+std::optional<EwmhManager> EwmhDesktop::manager(Seconds timeout) {
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    return m_connection.prepare(deadline) ? EwmhManager::ask(m_connection, deadline) : std::nullopt;
+}
+
 std::optional<EwmhWindow> EwmhDesktop::window(EwmhWindowId window, Seconds timeout) {
     const Deadline deadline = EwmhConnection::deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return std::nullopt;
-    return EwmhWindowQuery(m_connection, window).answer(deadline);
+    auto found = EwmhWindowQuery(m_connection, window).answer(deadline);
+    if (const auto i3 = this->i3(); found && i3 && !i3->locate({&*found, 1}, deadline))
+        return std::nullopt;
+    return found;
 }
 
 std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
     const Deadline deadline = EwmhConnection::deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return std::nullopt;
+    m_manager = EwmhManager::ask(m_connection, deadline);
     const auto& atoms = m_connection.atoms();
     const xcb_window_t root = m_connection.session().root();
     const auto request = [&](xcb_atom_t property, xcb_atom_t type) {
@@ -75,7 +78,7 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
     const auto workArea = rootItems(workAreaCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
     std::vector<WindowRectangle> monitors;
     if (monitorsCookie)
-        monitors = monitorBounds(*monitorsCookie, deadline);
+        monitors = ewmhMonitorBounds(m_connection, *monitorsCookie, deadline);
     const auto geometry = m_connection.reply<xcb_get_geometry_reply_t>(geometryCookie, deadline);
     if (!geometry)
         return std::nullopt;
@@ -97,15 +100,22 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
     if (monitors.empty())
         monitors.push_back(screen);
     std::vector<WindowRectangle> toldAreas;
-    if (monitors.size() > 1)
-        toldAreas = monitorWorkAreas(snapshot.currentDesktop, deadline);
+    if (const auto i3 = this->i3()) {
+        if (!i3->locate(snapshot.windows, deadline))
+            m_manager.reset();  // who does not answer there does nothing either
+        toldAreas = i3->workAreas(deadline);
+    } else if (monitors.size() > 1) {
+        toldAreas = ewmhMonitorWorkAreas(m_connection, snapshot.currentDesktop, deadline);
+    }
+    snapshot.closesWindows = m_manager && (m_manager->closesWindows || m_manager->takesI3Commands());
+    snapshot.movesWindows = m_manager && (m_manager->movesWindows || m_manager->takesI3Commands());
     // Four numbers for each desktop; a window manager that has only one area tells it once.
     const std::size_t first = std::size_t{4} * snapshot.currentDesktop;
     std::optional<WindowRectangle> screenWorkArea;
     if (workArea.size() >= first + 4)
-        screenWorkArea = rectangleAt(workArea, first);
+        screenWorkArea = ewmhRectangleAt(workArea, first);
     else if (workArea.size() >= 4)
-        screenWorkArea = rectangleAt(workArea, 0);
+        screenWorkArea = ewmhRectangleAt(workArea, 0);
     snapshot.monitors =
         ewmhWorkAreas({screen, monitors, screenWorkArea, toldAreas, snapshot.windows, snapshot.currentDesktop});
     // Otherwise windows may be missing.
@@ -116,11 +126,23 @@ bool EwmhDesktop::close(EwmhWindowId window, Seconds timeout) {
     const Deadline deadline = EwmhConnection::deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return false;
+    m_manager = EwmhManager::ask(m_connection, deadline);
+    if (const auto i3 = this->i3()) {
+        if (!i3->close(window, deadline))
+            return false;
+        tell({EwmhRequest::Kind::close, window});
+        return true;
+    }
+    if (!m_manager || !m_manager->closesWindows)
+        return false;
     const xcb_timestamp_t time = m_connection.serverTime(deadline);
     xcb_ewmh_request_close_window(m_connection.session().ewmh(), m_connection.session().screenNumber(), window, time,
                                   XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
     flush();
-    return m_connection.isAnswering();
+    if (!m_connection.isAnswering())
+        return false;
+    tell({EwmhRequest::Kind::close, window});
+    return true;
 }
 
 std::vector<std::optional<Items>> EwmhDesktop::tilingRecords(std::span<const EwmhWindowId> windows, Seconds timeout) {
@@ -151,24 +173,48 @@ void EwmhDesktop::setTilingRecord(EwmhWindowId window, std::span<const std::uint
 void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) {
     if (!m_connection.isAnswering())
         return;
+    if (const auto i3 = this->i3()) {
+        if (i3->place(window.id, frame, EwmhConnection::deadlineIn(kTimeout)))
+            tell({EwmhRequest::Kind::place, window.id, window.frame, frame});
+        return;
+    }
     constexpr auto kMove = XCB_EWMH_MOVERESIZE_WINDOW_X | XCB_EWMH_MOVERESIZE_WINDOW_Y;
     constexpr auto kMoveAndResize = kMove | XCB_EWMH_MOVERESIZE_WINDOW_WIDTH | XCB_EWMH_MOVERESIZE_WINDOW_HEIGHT;
     const bool keepsSize = frame.size() == window.frame.size();
     const WindowSize client = (frame - window.frameInsets).size();
-    // The place is that of the outer corner, shadows included; the size that of the window proper. The other way,
-    // static gravity, puts windows off by a border that they were made with and no longer have (openbox 3.6).
+    // With static gravity the place is that of the window proper, otherwise that of the outer corner, shadows included;
+    // the size is always that of the window proper. Openbox 3.6 keeps places in the window's own gravity: after a move
+    // in another one it puts the window off by its title bar at the end of the next maximization. Static gravity for
+    // all would put windows off by a border that they were made with and no longer have.
+    const WindowRectangle place = window.hasStaticGravity ? frame - window.frameInsets : frame + window.shadow;
+    const auto gravity = window.hasStaticGravity ? XCB_GRAVITY_STATIC : XCB_GRAVITY_NORTH_WEST;
     xcb_ewmh_request_moveresize_window(
-        m_connection.session().ewmh(), m_connection.session().screenNumber(), window.id, XCB_GRAVITY_NORTH_WEST,
+        m_connection.session().ewmh(), m_connection.session().screenNumber(), window.id, gravity,
         XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
         static_cast<xcb_ewmh_moveresize_window_opt_flags_t>(keepsSize ? kMove : kMoveAndResize),
-        static_cast<std::uint32_t>(frame.x - window.shadow.left),
-        static_cast<std::uint32_t>(frame.y - window.shadow.top), static_cast<std::uint32_t>(client.width),
-        static_cast<std::uint32_t>(client.height));
+        static_cast<std::uint32_t>(place.x), static_cast<std::uint32_t>(place.y),
+        static_cast<std::uint32_t>(client.width), static_cast<std::uint32_t>(client.height));
+    tell({EwmhRequest::Kind::place, window.id, window.frame, frame});
+}
+
+bool EwmhDesktop::returnToLayout(const EwmhWindow& window) {
+    const auto i3 = this->i3();
+    if (!i3 || !i3->returnToLayout(window.id, EwmhConnection::deadlineIn(kTimeout)))
+        return false;
+    tell({EwmhRequest::Kind::layout, window.id});
+    return true;
+}
+
+void EwmhDesktop::zoom(const EwmhWindow& window, bool isFullscreen, bool isHorizontal, bool isVertical) {
+    if (!m_connection.isAnswering() || (!isFullscreen && !isHorizontal && !isVertical))
+        return;
+    setMaximized(window.id, isHorizontal, isVertical, true);
+    if (isFullscreen)
+        setFullscreen(window.id, true);
+    tell({EwmhRequest::Kind::zoom, window.id});
 }
 
 void EwmhDesktop::setFullscreen(EwmhWindowId window, bool isFullscreen) {
-    if (!m_connection.isAnswering())
-        return;
     xcb_ewmh_request_change_wm_state(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
                                      isFullscreen ? XCB_EWMH_WM_STATE_ADD : XCB_EWMH_WM_STATE_REMOVE,
                                      m_connection.atoms()._NET_WM_STATE_FULLSCREEN, XCB_ATOM_NONE,
@@ -176,7 +222,7 @@ void EwmhDesktop::setFullscreen(EwmhWindowId window, bool isFullscreen) {
 }
 
 void EwmhDesktop::setMaximized(EwmhWindowId window, bool isHorizontal, bool isVertical, bool isMaximized) {
-    if (!m_connection.isAnswering() || (!isHorizontal && !isVertical))
+    if (!isHorizontal && !isVertical)
         return;
     const auto& atoms = m_connection.atoms();
     const xcb_atom_t vertical = isVertical ? atoms._NET_WM_STATE_MAXIMIZED_VERT : xcb_atom_t{XCB_ATOM_NONE};
@@ -223,7 +269,9 @@ void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) 
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (change.atom == atoms._NET_WM_STATE)
             std::erase(waitingFor, change.window);
-        return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS;
+        // Shadows go with maximization and come back a moment after it.
+        return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS ||
+               change.atom == m_connection.session().gtkFrameExtents();
     };
     while (!watched.empty()) {
         const Deadline quiet = EwmhConnection::deadlineIn(kQuiet);
@@ -246,36 +294,13 @@ std::optional<EwmhWindowId> EwmhDesktop::activeWindowId(Deadline deadline) {
     return active && !active->empty() && (*active)[0] != 0 ? std::optional((*active)[0]) : std::nullopt;
 }
 
-std::vector<WindowRectangle> EwmhDesktop::monitorBounds(xcb_randr_get_monitors_cookie_t cookie, Deadline deadline) {
-    std::vector<WindowRectangle> monitors;
-    const auto reply = m_connection.reply<xcb_randr_get_monitors_reply_t>(cookie, deadline);
-    if (!reply)
-        return monitors;
-    for (auto each = xcb_randr_get_monitors_monitors_iterator(reply.get()); each.rem > 0;
-         xcb_randr_monitor_info_next(&each)) {
-        const WindowRectangle bounds{each.data->x, each.data->y, each.data->width, each.data->height};
-        // Mirrored monitors show the same and are one.
-        if (!bounds.isEmpty() && std::find(monitors.begin(), monitors.end(), bounds) == monitors.end())
-            monitors.push_back(bounds);
-    }
-    return monitors;
+std::optional<I3Manager> EwmhDesktop::i3() const {
+    return m_manager && m_manager->takesI3Commands() ? std::optional(I3Manager(m_manager->i3Socket)) : std::nullopt;
 }
 
-/// GNOME's window manager tells the areas of each monitor, and its panel is no window that would tell struts.
-std::vector<WindowRectangle> EwmhDesktop::monitorWorkAreas(std::uint32_t desktop, Deadline deadline) {
-    const std::string name = "_GTK_WORKAREAS_D" + std::to_string(desktop);
-    const auto atom = m_connection.reply<xcb_intern_atom_reply_t>(
-        xcb_intern_atom(m_connection.xcb(), 1, static_cast<std::uint16_t>(name.size()), name.c_str()), deadline);
-    if (!atom || atom->atom == XCB_ATOM_NONE)
-        return {};
-    const auto numbers =
-        rootItems(m_connection.requestProperty(m_connection.session().root(), atom->atom, XCB_ATOM_CARDINAL),
-                  XCB_ATOM_CARDINAL, deadline)
-            .value_or(Items{});
-    std::vector<WindowRectangle> areas;
-    for (std::size_t first = 0; first + 4 <= numbers.size(); first += 4)
-        areas.push_back(rectangleAt(numbers, first));
-    return areas;
+void EwmhDesktop::tell(const EwmhRequest& request) {
+    if (m_observer)
+        m_observer(request);
 }
 
 void EwmhDesktop::watch(EwmhWindowId window, std::uint32_t events) {

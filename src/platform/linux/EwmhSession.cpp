@@ -48,6 +48,7 @@ bool EwmhSession::prepare(int screenNumber) {
         return false;
     const auto gtkFrameExtents = internAtom(connection, "_GTK_FRAME_EXTENTS");
     const auto tilingRecord = internAtom(connection, "_KINESTA_TILING_RECORD");
+    const auto i3SocketPath = internAtom(connection, "I3_SOCKET_PATH");
     auto* ewmhCookies = xcb_ewmh_init_atoms(connection, &m_ewmh);
     if (xcb_ewmh_init_atoms_replies(&m_ewmh, ewmhCookies, nullptr) == 0) {
         // The library has freed these already.
@@ -57,6 +58,7 @@ bool EwmhSession::prepare(int screenNumber) {
     }
     m_gtkFrameExtents = atomOf(connection, gtkFrameExtents);
     m_tilingRecord = atomOf(connection, tilingRecord);
+    m_i3SocketPath = atomOf(connection, i3SocketPath);
     m_screenNumber = screenNumber;
     m_knowsMonitors = serverKnowsMonitors(connection);
 

@@ -34,6 +34,9 @@ class EwmhSession {
     /// Where a window remembers where it was before it was tiled.
     xcb_atom_t tilingRecord() const { return m_tilingRecord; }
 
+    /// Where i3 tells its socket.
+    xcb_atom_t i3SocketPath() const { return m_i3SocketPath; }
+
     /// Whether the server tells monitors (RandR 1.5).
     bool knowsMonitors() const { return m_knowsMonitors; }
 
@@ -49,6 +52,7 @@ class EwmhSession {
     bool m_knowsMonitors = false;
     xcb_atom_t m_gtkFrameExtents = XCB_ATOM_NONE;
     xcb_atom_t m_tilingRecord = XCB_ATOM_NONE;
+    xcb_atom_t m_i3SocketPath = XCB_ATOM_NONE;
     xcb_window_t m_ownWindow = XCB_WINDOW_NONE;
 };
 

@@ -21,6 +21,9 @@ struct EwmhSnapshot {
     /// 0 if no window is active.
     EwmhWindowId activeWindow = 0;
     std::uint32_t currentDesktop = 0;
+    /// Whether a window manager runs that does it for others.
+    bool closesWindows = true;
+    bool movesWindows = true;
     /// All windows that are managed, on every desktop, the lowest first.
     std::vector<EwmhWindow> windows;
     /// At least one.

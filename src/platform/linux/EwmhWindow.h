@@ -51,6 +51,8 @@ struct EwmhWindow {
     bool isMaximizedHorizontally = false;
     bool isMaximizedVertically = false;
     bool skipsTaskbar = false;
+    /// It has a place in the layout of a tiling window manager.
+    bool isInLayout = false;
 
     bool mayClose = true;
     bool mayMove = true;
@@ -69,6 +71,8 @@ struct EwmhWindow {
     /// What the window keeps around `frame` for shadows that it draws itself.
     WindowInsets shadow;
     WindowSizeLimits limits;
+    /// Its positions are meant as those of the window proper, not of its frame.
+    bool hasStaticGravity = false;
     std::optional<EwmhStruts> struts;
 
     bool isOn(std::uint32_t someDesktop) const { return desktop == kAllDesktops || desktop == someDesktop; }

@@ -113,8 +113,7 @@ std::optional<EwmhWindow> EwmhWindowQuery::answer(EwmhConnection::Deadline deadl
                           extents.bottom - shadow.bottom};
     window.frame =
         WindowRectangle{position->dst_x, position->dst_y, geometry->width, geometry->height} + window.frameInsets;
-    if (const auto limits = sizeLimits(sizeHints.get()))
-        window.limits = *limits;
+    readSizeHints(window, sizeHints.get());
     window.struts = struts(strutPartial, EwmhConnection::items(strutReply.get(), XCB_ATOM_CARDINAL));
     return window;
 }
@@ -160,13 +159,14 @@ EwmhWindowType EwmhWindowQuery::typeAmong(const Items& types, bool isTransient) 
     return isTransient ? EwmhWindowType::dialog : EwmhWindowType::normal;
 }
 
-std::optional<WindowSizeLimits> EwmhWindowQuery::sizeLimits(const xcb_get_property_reply_t* reply) {
+void EwmhWindowQuery::readSizeHints(EwmhWindow& window, const xcb_get_property_reply_t* reply) {
     xcb_size_hints_t hints{};
     if (reply == nullptr || reply->type != XCB_ATOM_WM_SIZE_HINTS || reply->format != 32 ||
         xcb_icccm_get_wm_size_hints_from_reply(&hints, const_cast<xcb_get_property_reply_t*>(reply)) == 0)
-        return std::nullopt;
+        return;
     const auto has = [&hints](std::uint32_t flag) { return (hints.flags & flag) != 0; };
-    WindowSizeLimits limits;
+    window.hasStaticGravity = has(XCB_ICCCM_SIZE_HINT_P_WIN_GRAVITY) && hints.win_gravity == XCB_GRAVITY_STATIC;
+    WindowSizeLimits& limits = window.limits;
     if (has(XCB_ICCCM_SIZE_HINT_P_MIN_SIZE))
         limits.minimum = {std::max(1, length(hints.min_width)), std::max(1, length(hints.min_height))};
     if (has(XCB_ICCCM_SIZE_HINT_P_MAX_SIZE) && hints.max_width > 0 && hints.max_height > 0)
@@ -181,7 +181,6 @@ std::optional<WindowSizeLimits> EwmhWindowQuery::sizeLimits(const xcb_get_proper
         hints.max_aspect_num > 0 && hints.max_aspect_den > 0)
         limits.aspect = WindowSizeLimits::AspectRange{static_cast<double>(hints.min_aspect_num) / hints.min_aspect_den,
                                                       static_cast<double>(hints.max_aspect_num) / hints.max_aspect_den};
-    return limits;
 }
 
 ProcessIdentifier EwmhWindowQuery::processOf(const Items& pid, const xcb_get_property_reply_t* machine) const {

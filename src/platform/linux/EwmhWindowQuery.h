@@ -25,7 +25,7 @@ class EwmhWindowQuery {
     static void readAllowedActions(EwmhWindow& window, const xcb_ewmh_connection_t& atoms,
                                    const std::vector<std::uint32_t>& actions);
     EwmhWindowType typeAmong(const std::vector<std::uint32_t>& types, bool isTransient) const;
-    static std::optional<WindowSizeLimits> sizeLimits(const xcb_get_property_reply_t* reply);
+    static void readSizeHints(EwmhWindow& window, const xcb_get_property_reply_t* reply);
     ProcessIdentifier processOf(const std::vector<std::uint32_t>& pid, const xcb_get_property_reply_t* machine) const;
 
     EwmhConnection& m_connection;

@@ -1,8 +1,11 @@
 #include "platform/linux/LinuxActions.h"
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
+#include "actions/KeyboardLayoutResolver.h"
+#include "actions/LetterCase.h"
 #include "platform/linux/DesktopFacts.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopPermission.h"
@@ -66,6 +69,7 @@ struct LinuxActions::Parts {
     EwmhDesktop desktop;
     WindowTiler tiler{desktop};
     AccessibilityBus programs{bus};
+    WindowOutcomes outcomes{desktop, programs};
     WindowAccessibility accessibility{desktop, tiler, programs};
     WindowOwnWindows ownWindows{desktop};
     WindowOwnMenus ownMenus{tiler};
@@ -99,13 +103,27 @@ ActionPorts LinuxActions::ports() {
 
 InProcessNotifications& LinuxActions::notifications() { return m_parts->notifications; }
 
+WindowOutcomes& LinuxActions::windowOutcomes() { return m_parts->outcomes; }
+
+bool LinuxActions::typesLetterOf(std::uint16_t keyCode, const std::string& name) {
+    const std::string letter = lowerCasedLetters(name);
+    if (letter.size() != 1 || letter[0] < 'a' || letter[0] > 'z')
+        return true;
+    const std::uint16_t posted = KeyboardLayoutResolver(m_parts->layout).keyCode(name, keyCode);
+    const auto layouts = m_parts->layout.charactersOfLayouts();
+    return layouts.empty() || std::ranges::any_of(layouts, [&](const KeyboardLayoutCharacters& characters) {
+               return posted < characters.size() && lowerCasedLetters(characters[posted]) == letter;
+           });
+}
+
 void LinuxActions::letDesktopCatchUp() {
     if (m_parts->poster.usesVirtualDevice() && m_parts->poster.isAvailable())
         std::this_thread::sleep_for(kNoticingDevice);
 }
 
 DesktopSession LinuxActions::session() {
-    return m_parts->session(DesktopFacts::probe(m_parts->connection, m_parts->bus, UinputDevice::kPath));
+    return m_parts->session(
+        DesktopFacts::probe(m_parts->connection, m_parts->desktop, m_parts->bus, UinputDevice::kPath));
 }
 
 }  // namespace kinesta

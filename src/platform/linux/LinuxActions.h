@@ -8,6 +8,7 @@
 #include "actions/InProcessNotifications.h"
 #include "platform/linux/DesktopSession.h"
 #include "platform/linux/PosixProcessLauncher.h"
+#include "platform/linux/WindowOutcomes.h"
 
 namespace kinesta {
 
@@ -30,6 +31,14 @@ class LinuxActions {
     /// Waits until the desktop can have noticed a virtual device through which keys go out, or taken what went out:
     /// for a process that posts at once, or ends right after. Returns at once where there is no such device.
     void letDesktopCatchUp();
+
+    /// What came of an action on windows.
+    WindowOutcomes& windowOutcomes();
+
+    /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names: not if no
+    /// layout of the keyboard has that letter, or another one where it is on a US keyboard. True of keys that name no
+    /// letter.
+    bool typesLetterOf(std::uint16_t keyCode, const std::string& name);
 
     /// What kind of session this is, and what works in it now. May take seconds where services do not answer.
     DesktopSession session();

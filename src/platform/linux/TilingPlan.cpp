@@ -23,7 +23,7 @@ bool mayJoin(const EwmhWindow& window, const EwmhSnapshot& desktop) {
 
 bool canTile(WindowTilingMenuCommand command, const EwmhSnapshot& desktop) {
     const EwmhWindow* active = desktop.window(desktop.activeWindow);
-    return active != nullptr && isOrdinary(*active, desktop) &&
+    return desktop.movesWindows && active != nullptr && isOrdinary(*active, desktop) &&
            (command == WindowTilingMenuCommand::center || isResizable(*active));
 }
 

@@ -10,6 +10,7 @@ constexpr std::size_t kNumberCount = 9;
 constexpr std::uint32_t kFullscreen = 1;
 constexpr std::uint32_t kMaximizedHorizontally = 2;
 constexpr std::uint32_t kMaximizedVertically = 4;
+constexpr std::uint32_t kInLayout = 8;
 
 /// How far off a window manager may put a window, in pixels.
 constexpr int kTolerance = 8;
@@ -36,7 +37,7 @@ bool isPossible(const WindowRectangle& rectangle) {
 
 TilingRecord TilingRecord::of(const EwmhWindow& before, const EwmhWindow& restored) {
     return {restored.frame, before.isFullscreen, before.isMaximizedHorizontally, before.isMaximizedVertically,
-            restored.frame};
+            restored.frame, before.isInLayout};
 }
 
 bool TilingRecord::describes(const EwmhWindow& window) const {
@@ -52,7 +53,7 @@ std::vector<std::uint32_t> TilingRecord::encoded() const {
     append(numbers, previousFrame);
     append(numbers, tiledFrame);
     numbers.push_back((wasFullscreen ? kFullscreen : 0) | (wasMaximizedHorizontally ? kMaximizedHorizontally : 0) |
-                      (wasMaximizedVertically ? kMaximizedVertically : 0));
+                      (wasMaximizedVertically ? kMaximizedVertically : 0) | (wasInLayout ? kInLayout : 0));
     return numbers;
 }
 
@@ -60,9 +61,9 @@ std::optional<TilingRecord> TilingRecord::decoded(std::span<const std::uint32_t>
     if (numbers.size() != kNumberCount)
         return std::nullopt;
     const std::uint32_t states = numbers[8];
-    const TilingRecord record{rectangle(numbers.first(4)), (states & kFullscreen) != 0,
-                              (states & kMaximizedHorizontally) != 0, (states & kMaximizedVertically) != 0,
-                              rectangle(numbers.subspan(4, 4))};
+    const TilingRecord record{
+        rectangle(numbers.first(4)),          (states & kFullscreen) != 0,      (states & kMaximizedHorizontally) != 0,
+        (states & kMaximizedVertically) != 0, rectangle(numbers.subspan(4, 4)), (states & kInLayout) != 0};
     if (!isPossible(record.previousFrame) || !isPossible(record.tiledFrame))
         return std::nullopt;
     return record;

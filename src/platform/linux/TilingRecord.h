@@ -14,11 +14,13 @@ namespace kinesta {
 /// gone when the window is, and still there when we start again.
 struct TilingRecord {
     /// The frame that it had, or would have had if it had not been maximized or fullscreen.
-    WindowRectangle previousFrame;
+    WindowRectangle previousFrame{};
     bool wasFullscreen = false;
     bool wasMaximizedHorizontally = false;
     bool wasMaximizedVertically = false;
-    WindowRectangle tiledFrame;
+    WindowRectangle tiledFrame{};
+    /// It had a place in the layout of a tiling window manager, and takes one again.
+    bool wasInLayout = false;
 
     /// The record of a window that is tiled now: `before` in the state that it was in, `restored` without it.
     static TilingRecord of(const EwmhWindow& before, const EwmhWindow& restored);

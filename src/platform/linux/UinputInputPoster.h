@@ -9,8 +9,9 @@
 
 namespace kinesta {
 
-/// Posts through a virtual device of the kernel's. Where the pointer is and which modifiers the person holds on other
-/// keyboards cannot be known that way, so neither can be held modifiers be put out of the way of a shortcut.
+/// Posts through a virtual device of the kernel's. Where the pointer is cannot be known that way. Modifiers that the
+/// person holds on another keyboard count as part of a shortcut: to know them takes the right to read every key typed,
+/// and a desktop takes a key for held until it is up on all keyboards, so that ours could not let go of it.
 class UinputInputPoster final : public InputPoster {
   public:
     /// Is told, as one sentence, why nothing could be posted; once for every new reason.

@@ -78,16 +78,19 @@ bool WindowTiler::untile(const EwmhSnapshot& desktop, EwmhConnection::Deadline d
     const auto windows = restored({*desktop.window(id)}, deadline);
     if (windows.empty())
         return false;
+    m_desktop.setTilingRecord(id, {});
+    if (record->wasInLayout && m_desktop.returnToLayout(windows[0].restored)) {
+        m_desktop.flush();
+        return true;
+    }
     const auto isInSight = [&](const EwmhMonitor& monitor) { return monitor.bounds.intersects(record->previousFrame); };
     if (std::any_of(desktop.monitors.begin(), desktop.monitors.end(), isInSight))
         m_desktop.place(windows[0].restored, record->previousFrame);
     else  // Its monitor is gone.
         m_desktop.place(windows[0].restored,
                         centered(record->previousFrame.size(), desktop.monitorOf(windows[0].before.frame).workArea));
-    m_desktop.setMaximized(id, record->wasMaximizedHorizontally, record->wasMaximizedVertically, true);
-    if (record->wasFullscreen)
-        m_desktop.setFullscreen(id, true);
-    m_desktop.setTilingRecord(id, {});
+    m_desktop.zoom(windows[0].restored, record->wasFullscreen, record->wasMaximizedHorizontally,
+                   record->wasMaximizedVertically);
     m_desktop.flush();
     return true;
 }

@@ -19,6 +19,10 @@ X11Keyboard::X11Keyboard(X11Connection& connection)
 
 const KeyboardLayoutCharacters* X11Keyboard::characters() { return update() ? &m_characters : nullptr; }
 
+std::vector<KeyboardLayoutCharacters> X11Keyboard::charactersOfGroups() {
+    return update() ? kinesta::charactersOfGroups(m_keymap.get()) : std::vector<KeyboardLayoutCharacters>{};
+}
+
 bool X11Keyboard::hasKey(std::uint16_t code) {
     if (!update())
         return false;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "actions/KeyboardLayout.h"
 #include "platform/linux/KeyStroke.h"
@@ -24,6 +25,9 @@ class X11Keyboard {
 
     /// What every key types in the group in force; nothing without a server that knows XKB.
     const KeyboardLayoutCharacters* characters();
+
+    /// The same for every group of the keymap.
+    std::vector<KeyboardLayoutCharacters> charactersOfGroups();
 
     /// The modifier keys, and those that are down on any keyboard. Without a server, nothing is there.
     ModifierSituation modifiers();

@@ -8,18 +8,16 @@
 namespace kinesta {
 namespace {
 
-std::optional<KeyboardLayoutCharacters> charactersOfSystem(const std::string& path) {
+std::vector<KeyboardLayoutCharacters> charactersOfSystem(const std::string& path) {
     const KeyboardNames names = KeyboardNames::read(path);
     const xkb_rule_names rules{nullptr, names.model.c_str(), names.layout.c_str(), names.variant.c_str(),
                                names.options.c_str()};
     const XkbContextPointer context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     if (!context)
-        return std::nullopt;
+        return {};
     xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);  // without a layout keys stay where they are
     const XkbKeymapPointer keymap(xkb_keymap_new_from_names(context.get(), &rules, XKB_KEYMAP_COMPILE_NO_FLAGS));
-    if (!keymap)
-        return std::nullopt;
-    return charactersOfGroup(keymap.get(), 0);
+    return keymap ? charactersOfGroups(keymap.get()) : std::vector<KeyboardLayoutCharacters>{};
 }
 
 }  // namespace
@@ -30,7 +28,17 @@ XkbKeyboardLayout::XkbKeyboardLayout(X11Keyboard& keyboard, std::string systemKe
 std::optional<KeyboardLayoutCharacters> XkbKeyboardLayout::charactersWithoutModifiers() {
     if (const KeyboardLayoutCharacters* characters = m_keyboard.characters())
         return *characters;
-    if (!m_systemCharacters)  // read once: it changes when the machine is set up anew
+    const auto& layouts = systemLayouts();
+    return layouts.empty() ? std::nullopt : std::optional(layouts.front());
+}
+
+std::vector<KeyboardLayoutCharacters> XkbKeyboardLayout::charactersOfLayouts() {
+    auto layouts = m_keyboard.charactersOfGroups();
+    return layouts.empty() ? systemLayouts() : layouts;
+}
+
+const std::vector<KeyboardLayoutCharacters>& XkbKeyboardLayout::systemLayouts() {
+    if (m_systemCharacters.empty())  // read once: it changes when the machine is set up anew
         m_systemCharacters = charactersOfSystem(m_systemKeyboardFile);
     return m_systemCharacters;
 }

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "actions/KeyboardLayout.h"
 #include "platform/linux/X11Keyboard.h"
@@ -20,10 +21,15 @@ class XkbKeyboardLayout final : public KeyboardLayout {
 
     std::optional<KeyboardLayoutCharacters> charactersWithoutModifiers() override;
 
+    /// What every key types in each of the layouts that the person can switch between.
+    std::vector<KeyboardLayoutCharacters> charactersOfLayouts();
+
   private:
+    const std::vector<KeyboardLayoutCharacters>& systemLayouts();
+
     X11Keyboard& m_keyboard;
     std::string m_systemKeyboardFile;
-    std::optional<KeyboardLayoutCharacters> m_systemCharacters;
+    std::vector<KeyboardLayoutCharacters> m_systemCharacters;
 };
 
 }  // namespace kinesta

@@ -59,6 +59,13 @@ KeyboardLayoutCharacters charactersOfGroup(xkb_keymap* keymap, std::uint32_t gro
     return characters;
 }
 
+std::vector<KeyboardLayoutCharacters> charactersOfGroups(xkb_keymap* keymap) {
+    std::vector<KeyboardLayoutCharacters> groups;
+    for (xkb_layout_index_t group = 0; group < xkb_keymap_num_layouts(keymap); ++group)
+        groups.push_back(charactersOfGroup(keymap, group));
+    return groups;
+}
+
 std::array<DesktopModifiers, 256> modifiersByKey(xkb_keymap* keymap, std::uint32_t group) {
     std::array<DesktopModifiers, 256> result{};
     const XkbStatePointer state = stateInGroup(keymap, group);
