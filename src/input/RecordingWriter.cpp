@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "input/ContactIdSet.h"
-#include "support/NumberText.h"
+#include "support/Text.h"
 
 namespace kinesta {
 namespace {
