@@ -43,7 +43,8 @@ TEST(InlineVector, TruncatesAcrossItsCapacity) {
     for (std::size_t from = 0; from <= 7; ++from)
         for (std::size_t to = 0; to <= from; ++to) {
             SCOPED_TRACE(testing::Message() << from << " to " << to);
-            Four list = upTo(from);
+            Four list{9, 9, 9, 9};
+            list.assign(upTo(from).view());
             list.truncate(to);
             expectUpTo(to, list);
             EXPECT_EQ(list, upTo(to)) << "what was cut off does not count";
