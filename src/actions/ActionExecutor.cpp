@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "actions/FilePath.h"
 #include "actions/KeyboardLayoutResolver.h"
-#include "actions/WebAddress.h"
+#include "actions/OpenTarget.h"
 #include "actions/WindowCloseExecutor.h"
 #include "actions/WindowTilingExecutor.h"
 #include "rules/ShellCommandSettings.h"
@@ -27,7 +26,7 @@ void ActionExecutor::execute(const GestureAction& action, std::int64_t adjustmen
                              const std::optional<std::string>& visualCueMessage) {
     if (!action.isConfigured() || !ShellCommandSettings::permits(action, m_ports.defaults))
         return;
-    // Before the attempt: the cue says what the gesture meant, also when the permission for it is missing.
+    // Before the attempt: the cue also appears if the permission is missing.
     if (showsActionCue)
         m_ports.cue.show(action, adjustmentSteps, visualCueMessage);
     perform(action, adjustmentSteps);
@@ -44,7 +43,7 @@ void ActionExecutor::perform(const GestureAction& action, std::int64_t adjustmen
         case ActionKind::closeWindow:
             return closeWindow();
         case ActionKind::openURL:
-            // Web pages only: any other scheme would let a rule start whatever has registered itself for it.
+            // Web pages only: another scheme could start any program registered for it.
             if (isWebAddress(action.value))
                 m_ports.workspace.openURL(action.value);
             return;
@@ -73,8 +72,7 @@ void ActionExecutor::performShortcut(const GestureAction& action) {
     const std::uint16_t code =
         KeyboardLayoutResolver(m_ports.keyboardLayout).keyCode(ShortcutKey::nameFor(*action.keyCode), *action.keyCode);
     postKey(code, ShortcutKey::eventFlags(code, action.modifiers),
-            ShortcutKey::requiresFunctionKeyTransition(code, action.modifiers) ? FunctionKey::pressedAround
-                                                                               : FunctionKey::leftAlone);
+            ShortcutKey::requiresFunctionKeyTransition(code, action.modifiers));
 }
 
 void ActionExecutor::clickMiddle() {
@@ -103,32 +101,31 @@ void ActionExecutor::openFileOrFolder(const std::string& path) {
 }
 
 void ActionExecutor::launchApplication(const GestureAction& action) {
-    // Not standardized: an application may be told apart by the very path under which it was chosen.
+    // Not standardized: the path as chosen may matter to the application.
     m_ports.workspace.launchApplication(expandingTilde(action.value, m_ports.homeFolders),
                                         action.resolvedApplicationArguments());
 }
 
 void ActionExecutor::runShellCommand(const GestureAction& action) {
-    // Asked again at the last moment: an unacknowledged command must not run whatever leads here.
+    // Checked again: an unacknowledged command must never run.
     if (!action.isShellCommandAcknowledged() || trimmed(action.value).empty())
         return;
-    // A login shell, so that the person's usual PATH applies.
+    // A login shell, so that the user's usual PATH applies.
     m_ports.processes.launch("/bin/zsh", {"-lc", action.value});
 }
 
-void ActionExecutor::postKey(std::uint16_t code, std::uint64_t flags, FunctionKey functionKey) {
+void ActionExecutor::postKey(std::uint16_t code, std::uint64_t flags, bool postsFunctionKeyTransition) {
     if (!isTrustedElsePrompts())
         return;
     EventSynthesizer& events = m_ports.events;
-    const bool pressesFunctionKey = functionKey == FunctionKey::pressedAround;
     const auto source = events.makeSource();
     const auto functionDown =
-        pressesFunctionKey ? events.makeKeyEvent(source.get(), kFunctionKeyCode, KeyTransition::down) : nullptr;
+        postsFunctionKeyTransition ? events.makeKeyEvent(source.get(), kFunctionKeyCode, KeyTransition::down) : nullptr;
     const auto keyDown = events.makeKeyEvent(source.get(), code, KeyTransition::down);
     const auto keyUp = events.makeKeyEvent(source.get(), code, KeyTransition::up);
     const auto functionUp =
-        pressesFunctionKey ? events.makeKeyEvent(source.get(), kFunctionKeyCode, KeyTransition::up) : nullptr;
-    // Not on the fn events: they keep what the source says.
+        postsFunctionKeyTransition ? events.makeKeyEvent(source.get(), kFunctionKeyCode, KeyTransition::up) : nullptr;
+    // The fn events keep the default flags of the source.
     for (SynthesizedEvent* event : {keyDown.get(), keyUp.get()})
         if (event)
             event->setFlags(flags);

@@ -9,15 +9,15 @@
 #include "actions/OwnMenus.h"
 #include "actions/OwnWindows.h"
 #include "actions/ProcessLauncher.h"
-#include "actions/SystemVersion.h"
 #include "actions/Workspace.h"
 #include "feedback/ActionCuePresenting.h"
 #include "support/Clock.h"
+#include "support/SystemVersion.h"
 #include "support/UserDefaults.h"
 
 namespace kinesta {
 
-/// All that actions need of the machine. Everything referred to must outlive whoever was given the struct.
+/// Everything that actions need of the machine. The referents must outlive every user of the struct.
 struct ActionPorts {
     const Clock& clock;
     const UserDefaults& defaults;

@@ -5,13 +5,13 @@
 
 namespace kinesta {
 
-/// The port that knows where people live in the file system.
+/// The port to the home folders of users.
 class HomeFolders {
   public:
     virtual ~HomeFolders() = default;
 
-    /// The absolute path of the home folder of a user of this machine, or of the person running us if the name is
-    /// empty; nothing if there is no such user.
+    /// The absolute path of a user's home folder; of the current user if the name is empty. Empty if there is no such
+    /// user.
     virtual std::optional<std::string> homeFolder(const std::string& userName) const = 0;
 };
 

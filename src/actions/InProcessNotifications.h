@@ -7,8 +7,8 @@
 
 namespace kinesta {
 
-/// Notifications that need nothing of the system. Observers may post, subscribe and unsubscribe from within their
-/// call; one who comes during a post hears only of later ones.
+/// Notifications without system services. Observers may post, subscribe and unsubscribe while they are called. An
+/// observer added during a post receives later posts only.
 class InProcessNotifications final : public ApplicationNotifications {
   public:
     void post(std::string_view name, ActionKind object) override;

@@ -7,17 +7,16 @@
 
 namespace kinesta {
 
-/// What each key types (UTF-8), by ANSI virtual key code. Empty for a key that types nothing at once: a dead key, a
-/// modifier, a code without a key.
+/// What each key types (UTF-8), by ANSI virtual key code. Empty for dead keys, modifiers and unused codes.
 using KeyboardLayoutCharacters = std::array<std::string, 128>;
 
-/// The port to the keyboard layout in force. Main thread only.
+/// The port to the current keyboard layout. Main thread only.
 class KeyboardLayout {
   public:
     virtual ~KeyboardLayout() = default;
 
-    /// What every key types now, pressed alone with no modifier held and no dead key pending; nothing if the layout
-    /// cannot be known. Asked afresh for every stroke.
+    /// What every key types without modifiers or a pending dead key. Empty if the layout is unknown. Called for every
+    /// stroke.
     virtual std::optional<KeyboardLayoutCharacters> charactersWithoutModifiers() = 0;
 };
 

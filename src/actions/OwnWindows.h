@@ -9,14 +9,14 @@ class OwnWindow {
   public:
     virtual ~OwnWindow() = default;
 
-    /// Whether it is an auxiliary floating panel.
+    /// Whether it is a floating panel.
     virtual bool isPanel() = 0;
     virtual bool isMiniaturized() = 0;
-    /// Whether a dialog is attached to it that must be answered first.
+    /// Whether a modal dialog is attached to it.
     virtual bool hasAttachedSheet() = 0;
-    /// Whether it has a standard close button and that may be pressed.
+    /// Whether it has an enabled standard close button.
     virtual bool isCloseButtonEnabled() = 0;
-    /// Closes it as the close button would, with all that asks the person first.
+    /// Closes it as the close button would, including any confirmation.
     virtual void performClose() = 0;
 };
 
@@ -25,10 +25,10 @@ class OwnWindows {
   public:
     virtual ~OwnWindows() = default;
 
-    /// The window that takes the keys; null if none does.
+    /// The window with keyboard focus; null if there is none.
     virtual std::unique_ptr<OwnWindow> keyWindow() = 0;
 
-    /// The window that the person works in, which need not take the keys; null if there is none.
+    /// The main window, which may lack keyboard focus; null if there is none.
     virtual std::unique_ptr<OwnWindow> mainWindow() = 0;
 };
 

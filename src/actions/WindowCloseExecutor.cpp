@@ -41,7 +41,7 @@ bool WindowCloseExecutor::execute() {
     if (!button || !isTrue(button->copyAttribute("AXEnabled")))
         return false;
 
-    // All those questions took time, in which the person may have gone to another application.
+    // The user may have switched applications meanwhile.
     if (m_ports.workspace.frontmostApplication() != application)
         return false;
     return button->performAction("AXPress");
@@ -69,7 +69,7 @@ bool WindowCloseExecutor::hasSheet(AccessibilityElement& window) {
     if (std::holds_alternative<AccessibilityFailure>(children))
         return false;
     const auto* list = std::get_if<AccessibilityList>(&children);
-    // Something unheard of could hide a sheet.
+    // Cautious: an unknown value could hide a sheet.
     if (!list)
         return true;
     for (const auto& child : list->items)

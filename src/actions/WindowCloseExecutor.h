@@ -6,11 +6,11 @@
 
 namespace kinesta {
 
-/// Closes the focused window of the frontmost application by pressing its close button. Whatever is not exactly as
-/// expected leaves the window as it is. Posts no key and asks for no permission. Main thread only.
+/// Closes the focused window of the frontmost application by pressing its close button. Leaves the window alone if any
+/// check fails. Posts no key and never prompts. Main thread only.
 class WindowCloseExecutor {
   public:
-    /// How long the application may let us wait for an answer, in seconds.
+    /// Limit of each request to the application, in seconds.
     static constexpr Seconds kMessagingTimeout = 0.5;
 
     explicit WindowCloseExecutor(const ActionPorts& ports) : m_ports(ports) {}

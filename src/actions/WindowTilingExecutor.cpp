@@ -34,7 +34,7 @@ bool WindowTilingExecutor::execute(WindowTilingMenuCommand command) {
     if (!isEnabled || !*isEnabled)
         return false;
 
-    // The search took time, in which the person may have gone to another application.
+    // The user may have switched applications meanwhile.
     if (m_ports.workspace.frontmostApplication() != application)
         return false;
     return limitRequestTime(*item, deadline) && item->performAction("AXPress");
@@ -88,7 +88,7 @@ std::unique_ptr<OwnMenuItem> WindowTilingExecutor::localMenuItem(std::string_vie
                                                                  int depth) {
     if (depth > kMaximumDepth)
         return nullptr;
-    // Item states are only as fresh as the menu's last update.
+    // Item states are current only after an update.
     menu.update();
     for (auto& item : menu.items()) {
         if (item->identifier() == identifier || item->actionName() == identifier)

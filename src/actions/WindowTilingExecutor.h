@@ -8,20 +8,19 @@
 namespace kinesta {
 
 /// Performs a window tiling command by pressing its item in the frontmost application's menu, which works even where
-/// the shortcut itself would not reach the system. Whatever is not exactly as expected leaves the windows as they
-/// are. Posts no key and asks for no permission. Main thread only; the budgets bound how long an application that
-/// hangs can hold it up.
+/// the shortcut would not reach the system. Leaves the windows alone if any check fails. Posts no key and never
+/// prompts. Main thread only; the budgets limit how long a hanging application can block it.
 class WindowTilingExecutor {
   public:
-    /// The major system version from which on applications offer the commands.
+    /// The first major system version with the commands.
     static constexpr int kMinimumSystemVersion = 15;
-    /// How long one search may take, in seconds.
+    /// Limit of one search, in seconds.
     static constexpr Seconds kSearchBudget = 0.5;
-    /// How long one request may wait for the application, in seconds, and never beyond what is left of the search.
+    /// Limit of one request, in seconds, and never more than the search has left.
     static constexpr Seconds kRequestTimeout = 0.15;
-    /// How many elements one search visits.
+    /// Most elements visited by one search.
     static constexpr int kElementBudget = 1000;
-    /// How deep below the menu bar an element or a menu is looked at; the menu bar is at depth 0.
+    /// Greatest depth of a visited element or menu; the menu bar is at depth 0.
     static constexpr int kMaximumDepth = 12;
 
     explicit WindowTilingExecutor(const ActionPorts& ports) : m_ports(ports) {}
@@ -32,18 +31,18 @@ class WindowTilingExecutor {
   private:
     bool executeLocalMenuCommand(WindowTilingMenuCommand command);
 
-    /// The first element with the identifier, depth first, `element` itself included. Each visit takes one off
+    /// The first element with the identifier, depth first, starting with `element`. Each visit decrements
     /// `remainingElements`.
     AccessibilityElementHandle findMenuItem(std::string_view identifier, AccessibilityElementHandle element, int depth,
                                             int& remainingElements, Uptime deadline);
 
-    /// The first item with the identifier, or with an action of that name, depth first.
+    /// The first item with this identifier or action name, depth first.
     static std::unique_ptr<OwnMenuItem> localMenuItem(std::string_view identifier, OwnMenu& menu, int depth);
 
-    /// Reads an attribute within what is left until the deadline; a failure once nothing is.
+    /// Reads an attribute within the time left. Fails after the deadline.
     AccessibilityValue attribute(std::string_view name, AccessibilityElement& element, Uptime deadline);
 
-    /// Allows the next requests to the element what one may take now; false if nothing is left or it will not have it.
+    /// Limits the next requests to the element. False after the deadline or if the timeout cannot be set.
     bool limitRequestTime(AccessibilityElement& element, Uptime deadline);
 
     ActionPorts m_ports;

@@ -2,27 +2,12 @@
 
 #include <array>
 
+#include "rules/CommonMacShortcut.h"
+
 namespace kinesta {
 namespace {
 
 using Command = WindowTilingMenuCommand;
-
-struct Shortcut {
-    std::uint16_t keyCode;
-    ShortcutModifiers modifiers;
-};
-
-constexpr std::uint16_t kF = 3;
-constexpr std::uint16_t kC = 8;
-constexpr std::uint16_t kR = 15;
-constexpr std::uint16_t kLeft = 123;
-constexpr std::uint16_t kRight = 124;
-constexpr std::uint16_t kDown = 125;
-constexpr std::uint16_t kUp = 126;
-
-constexpr ShortcutModifiers kTile = ShortcutModifiers::control | ShortcutModifiers::function;
-constexpr ShortcutModifiers kArrangeTwo = kTile | ShortcutModifiers::shift;
-constexpr ShortcutModifiers kArrangeThree = kArrangeTwo | ShortcutModifiers::option;
 
 constexpr std::array<EnumRow<Command>, 15> kCommands{{
     {Command::fill, "_zoomFill:", "Fill Desktop"},
@@ -42,25 +27,6 @@ constexpr std::array<EnumRow<Command>, 15> kCommands{{
     {Command::bottomThreeUp, "_zoomBottomThreeUp:", "Bottom & Two Quarters"},
 }};
 
-// In the order of the cases.
-constexpr std::array<Shortcut, kCommands.size()> kShortcuts{{
-    {kF, kTile},
-    {kC, kTile},
-    {kLeft, kTile},
-    {kRight, kTile},
-    {kUp, kTile},
-    {kDown, kTile},
-    {kR, kTile},
-    {kLeft, kArrangeTwo},
-    {kRight, kArrangeTwo},
-    {kUp, kArrangeTwo},
-    {kDown, kArrangeTwo},
-    {kLeft, kArrangeThree},
-    {kRight, kArrangeThree},
-    {kUp, kArrangeThree},
-    {kDown, kArrangeThree},
-}};
-
 }  // namespace
 
 template <>
@@ -69,9 +35,10 @@ std::span<const EnumRow<WindowTilingMenuCommand>> enumTable() {
 }
 
 std::optional<WindowTilingMenuCommand> windowTilingMenuCommand(std::uint16_t keyCode, ShortcutModifiers modifiers) {
-    for (std::size_t i = 0; i < kShortcuts.size(); ++i)
-        if (kShortcuts[i].keyCode == keyCode && kShortcuts[i].modifiers == modifiers)
-            return kCommands[i].value;
+    const auto preset = CommonMacShortcut::actionTitle(keyCode, modifiers);
+    for (const auto& row : kCommands)
+        if (row.title == preset)
+            return row.value;
     return std::nullopt;
 }
 

@@ -8,8 +8,8 @@
 
 namespace kinesta {
 
-/// A window tiling command that applications offer in their Window menu. The raw value is the name of the menu item's
-/// action and the item's identifier.
+/// A window tiling command that applications offer in their Window menu. The raw value is both the name of the menu
+/// item's action and the item's identifier; the title is that of the preset shortcut.
 enum class WindowTilingMenuCommand {
     fill,
     center,

@@ -7,30 +7,29 @@
 
 namespace kinesta {
 
-/// Names a running application. Usually the process number; a desktop that shows a window without telling its
-/// process may use numbers of its own making, below zero, as long as they stay the same for that application.
+/// Identifies a running application, usually by its process number. For windows without a known process, a desktop may
+/// use its own negative numbers if they stay the same for that application.
 using ProcessIdentifier = std::int64_t;
 
-/// The port to the desktop's opening of things and its idea of what is in front. Main thread only. Nothing here
-/// waits for the outcome, and none is told: an address without a handler or a missing file is the desktop's affair.
+/// The port that opens files, addresses and applications and knows which application is in front. Main thread only.
+/// Opening does not wait and reports no failure.
 class Workspace {
   public:
     virtual ~Workspace() = default;
 
-    /// Opens an http or https address, given as it is stored, with the person's browser.
+    /// Opens an http or https address, exactly as stored, in the user's browser.
     virtual void openURL(const std::string& url) = 0;
 
-    /// Opens a file or folder with what the person opens it with. A path that does not begin with "/" is meant from
-    /// the working directory.
+    /// Opens a file or folder with its default application. A relative path starts at the working directory.
     virtual void openFile(const std::string& path) = 0;
 
-    /// Launches the application at `path`. Each argument reaches it as it is: nothing is split or expanded.
+    /// Launches the application at `path`. Passes each argument unchanged, neither split nor expanded.
     virtual void launchApplication(const std::string& path, const std::vector<std::string>& arguments) = 0;
 
-    /// The application that has the person's attention now, if any.
+    /// The frontmost application, if any.
     virtual std::optional<ProcessIdentifier> frontmostApplication() = 0;
 
-    /// What frontmostApplication() says when it is this process.
+    /// The value of frontmostApplication() for this process.
     virtual ProcessIdentifier ownProcessIdentifier() = 0;
 };
 

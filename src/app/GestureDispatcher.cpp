@@ -20,7 +20,7 @@ void GestureDispatcher::dispatch(const DetectedGesture& gesture) {
     if (rule == nullptr)
         return;
     const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture);
-    // A copy: the action may change the list in which the rule stands.
+    // A copy: the action may change the list that holds the rule.
     perform(GestureRule(*rule), slide ? slide->steps : 0);
 }
 

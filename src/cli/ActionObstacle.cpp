@@ -4,8 +4,7 @@
 
 #include <filesystem>
 
-#include "actions/FilePath.h"
-#include "actions/WebAddress.h"
+#include "actions/OpenTarget.h"
 #include "actions/WindowTilingMenuCommand.h"
 #include "platform/linux/DesktopEntry.h"
 #include "platform/linux/ExecutableSearch.h"

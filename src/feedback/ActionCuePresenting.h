@@ -8,13 +8,13 @@
 
 namespace kinesta {
 
-/// The port through which an action announces itself on the screen. Main thread only.
+/// The port that shows the action cue. Main thread only.
 class ActionCuePresenting {
   public:
     virtual ~ActionCuePresenting() = default;
 
-    /// Shows the cue of `action`, which is about to be attempted. `adjustmentSteps` is the signed number of volume
-    /// steps, 0 for all but a slide. A `message` that is not empty is shown in place of the action's own words.
+    /// Shows the cue of `action` before it is attempted. `adjustmentSteps` is the signed number of volume steps, 0
+    /// unless the gesture is a slide. A non-empty `message` replaces the action's own text.
     virtual void show(const GestureAction& action, std::int64_t adjustmentSteps,
                       const std::optional<std::string>& message) = 0;
 };

@@ -1,6 +1,6 @@
 #include "input/RecordingFormat.h"
 
-#include "support/NumberText.h"
+#include "support/Text.h"
 
 namespace kinesta {
 

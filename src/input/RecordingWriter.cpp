@@ -5,7 +5,7 @@
 
 #include "input/ContactIdSet.h"
 #include "support/Json.h"
-#include "support/NumberText.h"
+#include "support/Text.h"
 
 namespace kinesta {
 namespace {

@@ -65,8 +65,8 @@ void MultitouchService::start() {
 
 void MultitouchService::stop() {
     cancelPendingRecognitions();
-    m_globalClickMonitor.remove();
-    m_localClickMonitor.remove();
+    m_globalClickMonitor.cancel();
+    m_localClickMonitor.cancel();
     clearGestureFeedback();
     m_contactProvider.stop();
     m_status.set(Status::stopped());
@@ -91,8 +91,8 @@ void MultitouchService::contactProviderDidChangeStatus() {
         startClickMonitoring();
     } else if (m_status.value() == Status::listening()) {
         cancelPendingRecognitions();
-        m_globalClickMonitor.remove();
-        m_localClickMonitor.remove();
+        m_globalClickMonitor.cancel();
+        m_localClickMonitor.cancel();
         m_frameProcessor->reset();
     }
     m_status.set(std::move(status));

@@ -26,7 +26,7 @@ class PointerEventBroadcaster final : public PointerEventMonitoring {
     }
 
   protected:
-    void remove(std::uint64_t id) override { m_monitors.erase(id); }
+    void cancel(std::uint64_t id) override { m_monitors.erase(id); }
 
   private:
     struct Monitor {

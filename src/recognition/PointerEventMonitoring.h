@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <functional>
-#include <utility>
 
+#include "support/Registration.h"
 #include "support/Seconds.h"
 
 namespace kinesta {
@@ -26,29 +26,8 @@ enum class PointerEventScope { otherApplications, thisApplication };
 
 class PointerEventMonitoring;
 
-/// Keeps a monitor installed as long as it lives. Main thread only; must not outlive the port that gave it.
-class PointerEventMonitor {
-  public:
-    PointerEventMonitor() = default;
-    PointerEventMonitor(PointerEventMonitoring* port, std::uint64_t id) : m_port(port), m_id(id) {}
-    PointerEventMonitor(PointerEventMonitor&& other) noexcept
-        : m_port(std::exchange(other.m_port, nullptr)), m_id(other.m_id) {}
-    PointerEventMonitor& operator=(PointerEventMonitor&& other) noexcept {
-        if (this != &other) {
-            remove();
-            m_port = std::exchange(other.m_port, nullptr);
-            m_id = other.m_id;
-        }
-        return *this;
-    }
-    ~PointerEventMonitor() { remove(); }
-
-    void remove();
-
-  private:
-    PointerEventMonitoring* m_port = nullptr;
-    std::uint64_t m_id = 0;
-};
+/// Keeps a monitor installed as long as it lives.
+using PointerEventMonitor = Registration<PointerEventMonitoring>;
 
 /// The port to the pointer events of the desktop. Main thread only.
 class PointerEventMonitoring {
@@ -62,13 +41,8 @@ class PointerEventMonitoring {
     [[nodiscard]] virtual PointerEventMonitor monitor(PointerEventScope scope, Handler handler) = 0;
 
   protected:
-    friend class PointerEventMonitor;
-    virtual void remove(std::uint64_t id) = 0;
+    friend PointerEventMonitor;
+    virtual void cancel(std::uint64_t id) = 0;
 };
-
-inline void PointerEventMonitor::remove() {
-    if (PointerEventMonitoring* port = std::exchange(m_port, nullptr))
-        port->remove(m_id);
-}
 
 }  // namespace kinesta

@@ -109,11 +109,11 @@ std::span<const std::string_view> CommonMacShortcut::categoryOrder() {
     return kOrder;
 }
 
-std::vector<std::string_view> CommonMacShortcut::availableCategoryOrder(int macOSMajorVersion) {
+std::vector<std::string_view> CommonMacShortcut::availableCategoryOrder(const SystemVersion& current) {
     std::vector<std::string_view> categories;
     for (const std::string_view category : categoryOrder()) {
         const bool hasPreset = std::any_of(all().begin(), all().end(), [&](const CommonMacShortcut& preset) {
-            return preset.category == category && preset.isAvailable(macOSMajorVersion);
+            return preset.category == category && preset.isAvailableOnCurrentSystem(current);
         });
         if (hasPreset)
             categories.push_back(category);

@@ -47,7 +47,7 @@ std::string GestureAction::summary() const {
         case ActionKind::openFileOrFolder:
         case ActionKind::launchApplication:
         case ActionKind::shellCommand:
-            // What was typed is shown as it is, blanks and all, though blanks alone do not configure the action.
+            // Not trimmed: shows what was typed, even blanks, which do not configure the action.
             return value.empty() ? std::string(kNotConfigured) : value;
         case ActionKind::toggleConfigurationWindow:
             return "Show or hide Kinesta";

@@ -10,33 +10,33 @@
 
 namespace kinesta {
 
-/// What a rule does when its gesture is recognized. A default-made action is blank.
+/// What a rule does when its gesture is recognized. Default-constructed, it is blank.
 struct GestureAction {
     ActionKind kind = ActionKind::unconfigured;
     /// ANSI virtual key code of a keyboard shortcut.
     std::optional<std::uint16_t> keyCode;
     ShortcutModifiers modifiers;
-    /// The URL, the file or folder, the application's path, or the shell command, by kind; empty otherwise.
+    /// URL, path of the file, folder or application, or shell command, by kind. Otherwise empty.
     std::string value;
     std::optional<std::vector<std::string>> applicationArguments;
     /// Shown in the action cue instead of the rule's name.
     std::optional<std::string> customCueLabel;
-    /// Whether the person has acknowledged the risk of this shell command.
+    /// Whether the user has acknowledged the risk of this shell command.
     std::optional<bool> shellCommandAcknowledged;
 
-    /// Whether everything that the kind needs is there.
+    /// Whether all that the kind needs is set.
     bool isConfigured() const;
 
-    /// What the action does, in a few words for a person.
+    /// What the action does, in a few words for the user.
     std::string summary() const;
 
-    /// The arguments of an application launch, without the empty ones; none for other kinds.
+    /// The non-empty arguments of an application launch. Empty for other kinds.
     std::vector<std::string> resolvedApplicationArguments() const;
 
-    /// The custom cue label without blanks around it, if anything is left of it.
+    /// The custom cue label, trimmed, if it is not blank.
     std::optional<std::string> resolvedCustomCueLabel() const;
 
-    /// What the cue says of a keyboard shortcut: the preset's title, the custom label, or the shortcut itself.
+    /// The cue text of a keyboard shortcut: the preset's title, else the custom label, else the keys.
     std::optional<std::string> keyboardCueLabel() const;
 
     bool isShellCommandAcknowledged() const { return shellCommandAcknowledged.value_or(false); }

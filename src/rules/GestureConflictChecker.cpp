@@ -9,34 +9,34 @@
 namespace kinesta {
 namespace {
 
-// What rules must have in common to compete at all. The pressures of a click share the group of their count.
-struct Ground {
+// Rules compete only if they have this in common. All pressures of a click count share one group.
+struct Group {
     GestureKind gesture;
     std::optional<std::int64_t> fingerCount;
     std::optional<AnchorCorner> corner;
     std::optional<DrawPattern> pattern;
 
-    friend auto operator<=>(const Ground&, const Ground&) = default;
+    friend auto operator<=>(const Group&, const Group&) = default;
 };
 
-// Within a group, a rule takes everything (any pressure, both sides) or one of two halves that exclude each other.
+// Within a group, a rule takes everything (any pressure, both sides) or one of two disjoint halves.
 enum class Share { everything, firstHalf, secondHalf };
 
 using Counts = std::array<std::size_t, 3>;  // rules of a group by share
 
 bool isChecked(const GestureRule& rule) { return rule.isEnabled && isConfigured(rule.gesture); }
 
-Ground ground(const GestureRule& rule) {
-    Ground ground{rule.gesture, std::nullopt, std::nullopt, std::nullopt};
+Group group(const GestureRule& rule) {
+    Group group{rule.gesture, std::nullopt, std::nullopt, std::nullopt};
     if (const auto count = physicalClickCount(rule.gesture))
-        ground.gesture = *physicalClickGesture(*count, std::nullopt);
+        group.gesture = *physicalClickGesture(*count, std::nullopt);
     if (usesFingerCount(rule.gesture))
-        ground.fingerCount = rule.fingerCount;
+        group.fingerCount = rule.fingerCount;
     if (rule.gesture == GestureKind::anchorDraw) {
-        ground.corner = rule.anchorCorner;
-        ground.pattern = rule.drawPattern;
+        group.corner = rule.anchorCorner;
+        group.pattern = rule.drawPattern;
     }
-    return ground;
+    return group;
 }
 
 Share share(const GestureRule& rule) {
@@ -55,15 +55,15 @@ bool hasRival(const Counts& counts, Share share) {
 
 }  // namespace
 
-// By groups rather than by pairs: an imported list may be long, and the window checks it at every change.
+// By groups, not pairs: an imported list may be long, and the window checks it at every change.
 std::set<Uuid> GestureConflictChecker::conflictingRuleIDs(std::span<const GestureRule> rules) {
-    std::map<Ground, Counts> groups;
+    std::map<Group, Counts> groups;
     for (const GestureRule& rule : rules)
         if (isChecked(rule))
-            ++groups[ground(rule)][static_cast<std::size_t>(share(rule))];
+            ++groups[group(rule)][static_cast<std::size_t>(share(rule))];
     std::set<Uuid> ids;
     for (const GestureRule& rule : rules)
-        if (isChecked(rule) && hasRival(groups[ground(rule)], share(rule)))
+        if (isChecked(rule) && hasRival(groups[group(rule)], share(rule)))
             ids.insert(rule.id);
     return ids;
 }

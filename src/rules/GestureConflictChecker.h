@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// Finds the enabled rules that compete for the same gesture; only the first of them in list order can run.
+/// Finds the enabled rules that compete for a gesture, of which only the first in the list runs.
 struct GestureConflictChecker {
     static std::set<Uuid> conflictingRuleIDs(std::span<const GestureRule> rules);
 };

@@ -12,12 +12,12 @@ namespace kinesta {
 /// "top left line up".
 std::string describe(const DetectedGesture& detected);
 
-/// What a rule waits for, in words: "3-finger single tap", "2-finger vertical edge slide, both edges"; what is not
-/// chosen yet shows as "…".
+/// The gesture of a rule in words: "3-finger single tap", "2-finger vertical edge slide, both edges". A field that is
+/// not set shows as "…".
 std::string describeTrigger(const GestureRule& rule);
 
-/// Why no rule ran for a gesture, in words: the nearest rule that would take it if it were on, complete or permitted;
-/// or that there is none.
+/// Why no rule ran for a gesture: names the first rule that would match if it were enabled, complete or permitted, or
+/// says that there is none.
 std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected);
 
 }  // namespace kinesta

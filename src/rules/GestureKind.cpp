@@ -10,7 +10,7 @@ enum class Family { none, tap, click, tipTap, edgeSlide, anchorDraw };
 
 struct Facts {
     Family family = Family::none;
-    int repetitions = 0;  // 0: the gesture does not repeat
+    int repetitions = 0;  // 0: does not repeat
     std::optional<PhysicalClickPressure> pressure;
 };
 
@@ -52,7 +52,7 @@ std::optional<GestureKind> nth(const std::array<GestureKind, 3>& forms, std::int
 template <>
 std::span<const EnumRow<GestureKind>> enumTable() {
     using enum GestureKind;
-    // The single tip-taps carry no "single": the strings are what people's stored rules hold.
+    // The single tip-taps have no "single" in the raw value. Stored rules contain these strings, so they stay.
     static constexpr std::array<EnumRow<GestureKind>, 21> kTable{{
         {unconfigured, "unconfigured", "Choose a gesture…"},
         {singleTap, "singleTap", "Single tap"},

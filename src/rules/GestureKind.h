@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// What a rule can be bound to, and what the recognizers report. The finger count is a field of its own.
+/// The gestures that recognizers report and rules are bound to. The finger count is a separate field.
 enum class GestureKind {
     unconfigured,
     singleTap,
@@ -35,7 +35,7 @@ enum class GestureKind {
 template <>
 std::span<const EnumRow<GestureKind>> enumTable();
 
-/// Whether a rule for this gesture also names a number of fingers: taps, physical clicks and the edge slide.
+/// Whether rules for this gesture have a finger count: taps, physical clicks and the edge slide.
 bool usesFingerCount(GestureKind kind);
 
 /// False only for `unconfigured`.
@@ -43,23 +43,23 @@ bool isConfigured(GestureKind kind);
 
 bool isPhysicalClick(GestureKind kind);
 
-/// 1, 2 or 3 for a physical click, otherwise nothing.
+/// 1, 2 or 3 for a physical click. Otherwise empty.
 std::optional<int> physicalClickCount(GestureKind kind);
 
-/// 1, 2 or 3 for a tap, click or tip-tap, otherwise nothing.
+/// 1, 2 or 3 for a tap, click or tip-tap. Otherwise empty.
 std::optional<int> repetitionCount(GestureKind kind);
 
-/// The pressure that a click asks for; nothing for "any pressure" and for everything that is no click.
+/// The pressure of a click. Empty for "any pressure" and for other gestures.
 std::optional<PhysicalClickPressure> physicalClickPressure(GestureKind kind);
 
-/// The gesture of so many repetitions (1 to 3); nothing for any other count.
+/// The gesture with 1 to 3 repetitions. Empty for any other count.
 std::optional<GestureKind> tapGesture(std::int64_t tapCount);
 std::optional<GestureKind> physicalClickGesture(std::int64_t physicalClickCount,
                                                 std::optional<PhysicalClickPressure> pressure);
 std::optional<GestureKind> tipTapGesture(std::int64_t tipTapCount, TipTapDirection direction);
 
-/// Whether a rule bound to `rule` fires for `detected`. An any-pressure click takes the soft and the Force Click of
-/// its count, never the other way round.
+/// Whether a rule bound to `rule` fires for `detected`. An any-pressure click also matches the soft and the Force Click
+/// of its count, but not the reverse.
 bool matches(GestureKind rule, GestureKind detected);
 
 }  // namespace kinesta

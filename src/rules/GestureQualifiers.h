@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// How deep a physical click went. "Any pressure" is the absence of a value.
+/// The pressure of a physical click. "Any pressure" is an empty optional.
 enum class PhysicalClickPressure { soft, force };
 
 /// The side of the resting finger on which the second finger taps.
@@ -16,7 +16,7 @@ enum class EdgeSlideSide { left, right, both };
 /// The corner in which the first finger rests while the second draws.
 enum class AnchorCorner { topLeft, topRight, bottomLeft, bottomRight };
 
-/// The figure that the second finger draws.
+/// The pattern that the second finger draws.
 enum class DrawPattern {
     lineUp,
     lineDown,
@@ -34,7 +34,7 @@ inline bool matches(EdgeSlideSide rule, EdgeSlideSide detected) {
     return rule == EdgeSlideSide::both || rule == detected;
 }
 
-/// Whether some slide is on both sides' ground.
+/// Whether a slide can match both sides.
 inline bool overlaps(EdgeSlideSide a, EdgeSlideSide b) {
     return a == EdgeSlideSide::both || b == EdgeSlideSide::both || a == b;
 }

@@ -10,12 +10,12 @@
 
 namespace kinesta {
 
-/// One gesture bound to one action. A default-made rule is blank but for its identity, which is all zero.
+/// One gesture bound to one action. Default-constructed, it is blank and has an all-zero id.
 struct GestureRule {
     Uuid id;
     std::string name;
     bool isEnabled = false;
-    /// Number of fingers, for the gestures that use one.
+    /// For gestures that use a finger count.
     std::optional<std::int64_t> fingerCount;
     GestureKind gesture = GestureKind::unconfigured;
     std::optional<EdgeSlideSide> edgeSlideSide;
@@ -24,17 +24,16 @@ struct GestureRule {
     GestureAction action;
     std::optional<bool> showsActionCue;
 
-    /// The rule that a fresh installation starts with: a three-finger tap is a middle click. The same identity for
-    /// the whole run.
+    /// The rule of a new installation: a three-finger tap is a middle click. Keeps its id until the program ends.
     static const GestureRule& recommendedDefault();
 
     EdgeSlideSide resolvedEdgeSlideSide() const { return edgeSlideSide.value_or(EdgeSlideSide::both); }
     bool shouldShowActionCue() const { return showsActionCue.value_or(true); }
 
-    /// What the cue says for this rule: the action's own label, else the rule's name, else nothing.
+    /// The cue text: the action's custom label, else the rule's name, else nothing.
     std::optional<std::string> resolvedVisualCueMessage() const;
 
-    /// Whether gesture and action are complete, so that the rule may be enabled.
+    /// Whether gesture and action are complete. Only then may the rule be enabled.
     bool isReady() const;
 
     friend bool operator==(const GestureRule&, const GestureRule&) = default;

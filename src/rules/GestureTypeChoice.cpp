@@ -56,9 +56,9 @@ GestureKind gestureKind(GestureTypeChoice choice, std::int64_t repetitions) {
 }
 
 GestureTypeChoice gestureTypeChoice(GestureKind kind) {
-    for (const auto& row : enumTable<GestureTypeChoice>())
-        if (gestureKind(row.value, repetitionCount(kind).value_or(1)) == kind)
-            return row.value;
+    for (const GestureTypeChoice choice : allCases<GestureTypeChoice>())
+        if (gestureKind(choice, repetitionCount(kind).value_or(1)) == kind)
+            return choice;
     return GestureTypeChoice::unconfigured;
 }
 

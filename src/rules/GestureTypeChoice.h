@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// The entries of the editor's gesture picker; the number of repetitions is chosen beside it.
+/// The entries of the editor's gesture picker. The repetition is chosen separately.
 enum class GestureTypeChoice {
     unconfigured,
     tap,
@@ -23,10 +23,10 @@ enum class GestureTypeChoice {
 template <>
 std::span<const EnumRow<GestureTypeChoice>> enumTable();
 
-/// The gesture of a picker entry and a number of repetitions; the single form when the number is not 1 to 3.
+/// The gesture for a picker entry and a repetition. The single form if the repetition is not 1 to 3.
 GestureKind gestureKind(GestureTypeChoice choice, std::int64_t repetitions);
 
-/// The picker entry that stands for a gesture.
+/// The picker entry of a gesture.
 GestureTypeChoice gestureTypeChoice(GestureKind kind);
 
 }  // namespace kinesta

@@ -51,7 +51,7 @@ bool read(const JsonValue& value, Name& result) {
     return named.has_value();
 }
 
-// What these hold arrives in events of their own; a single value is never right.
+// Lists and objects arrive as events, so a single value is always wrong here.
 bool read(const JsonValue&, std::vector<std::string>&) { return false; }
 bool read(const JsonValue&, GestureAction&) { return false; }
 
@@ -73,7 +73,7 @@ constexpr std::string_view kInteger = "a whole number of 64 bits";
 constexpr Requirement kRequired = Requirement::required;
 constexpr Requirement kOptional = Requirement::optional;
 
-// Cuts what is too long to be read in a message, between two characters.
+// Shortens long text for a message without splitting a character.
 std::string shortened(std::string_view text) {
     constexpr std::size_t kLongest = 60;
     if (text.size() <= kLongest)

@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// One value of a JSON text as it is met. Its text, if any, may be taken.
+/// One value of a JSON text. The consumer may move `text` away.
 struct JsonValue {
     enum class Type { null, boolean, integer, otherNumber, text, list, object };
 
@@ -17,13 +17,13 @@ struct JsonValue {
     bool boolean = false;
     std::int64_t integer = 0;
     std::string* text = nullptr;
-    std::string_view literal = {};  // of `otherNumber`: how it is written
+    std::string_view literal = {};  // the notation of an `otherNumber`
 };
 
-/// `text` in quotes for a message: escaped, so that it stays one line and commands no terminal, and not too long.
+/// `text` in quotes for a message: shortened, and escaped so that it has no line breaks or terminal sequences.
 std::string inQuotes(std::string_view text);
 
-/// The value as a message names it.
+/// The value in words for a message.
 std::string describe(const JsonValue& value);
 
 enum class Requirement { required, optional };
@@ -33,9 +33,9 @@ template <typename Record>
 struct JsonField {
     std::string_view key;
     Requirement requirement;
-    /// What the value should be; completes "which is not …" and "expected …".
+    /// The expected value; completes "which is not …" and "expected …".
     std::string_view meaning;
-    /// Stores the value; false if it is none that the field can hold.
+    /// Stores the value. False if the field cannot hold it.
     bool (*assign)(Record& record, const JsonValue& value);
 };
 

@@ -13,7 +13,7 @@ namespace {
 
 using Type = JsonValue::Type;
 
-// Reads the text for the parser and leaves word of how far it is: its events do not say where they are.
+// Feeds the parser and records how far it has read, because its events carry no position.
 class TrackingIterator {
   public:
     using iterator_category = std::input_iterator_tag;
@@ -37,7 +37,7 @@ class TrackingIterator {
     const char** m_next;
 };
 
-// The key as a person finds it: with the way to it.
+// The key with the path to it.
 template <typename Record>
 std::string path(const JsonField<Record>& field) {
     const std::string_view prefix = std::is_same_v<Record, GestureAction> ? "action." : "";
@@ -48,7 +48,7 @@ std::string isNot(const JsonValue& value, std::string_view meaning) {
     return " is " + describe(value) + ", which is not " + std::string(meaning);
 }
 
-// What the parser says, without its name, the place (told apart) and the text (which may be endless).
+// The message of the parser without its name, the position (reported separately) and the text read (unlimited).
 std::string reason(std::string_view what) {
     constexpr std::string_view kIntroduction = " - ";
     if (const std::size_t start = what.find(kIntroduction); start != std::string_view::npos)
@@ -59,7 +59,7 @@ std::string reason(std::string_view what) {
 }  // namespace
 
 Result<std::vector<GestureRule>> RuleListDecoder::decode() {
-    // The parser would take it for the end of the text.
+    // The parser would take it as the end of the text.
     if (const std::size_t zero = m_json.find('\0'); zero != std::string_view::npos) {
         report(zero, "a NUL byte, which JSON text cannot hold", false);
         return error();
@@ -84,7 +84,7 @@ bool RuleListDecoder::number_unsigned(std::uint64_t number) {
 }
 
 bool RuleListDecoder::number_float(double number, const std::string& literal) {
-    // An integer of more than 64 bits comes here too, rounded: it must not pass for its neighbour.
+    // Integers of more than 64 bits arrive here too, rounded, and must not be taken as integers.
     const bool isFraction = literal.find_first_of(".eE") != std::string::npos;
     if (isFraction && std::trunc(number) == number && number >= -0x1p63 && number < 0x1p63)
         return number_integer(static_cast<std::int64_t>(number));
@@ -213,7 +213,7 @@ void RuleListDecoder::assign(Record& record, const Object& object, const JsonVal
         report(offset(), path(field) + isNot(value, field.meaning), true);
 }
 
-// Takes note of the key whose value comes next; a key of no meaning here is passed over.
+// Remembers the key of the next value. Ignores unknown keys.
 template <typename Record>
 void RuleListDecoder::open(Object& object, std::string_view key) {
     object.field.reset();
@@ -240,13 +240,13 @@ bool RuleListDecoder::isAt(std::string_view key) const {
     return m_action.field && jsonFields<GestureAction>()[*m_action.field].key == key;
 }
 
-// Keeps the first problem. Reading goes on to the end of the rule, because its name may come later.
+// Keeps the first problem. Reading continues to the end of the rule, because its name may come later.
 void RuleListDecoder::report(std::size_t offset, std::string text, bool isInRule) {
     if (!m_problem)
         m_problem = Problem{offset, std::move(text), isInRule};
 }
 
-// The place of the last character that was read: inside the token at hand, or right behind it when it is a number.
+// The offset of the last character read: inside the current token, or right after it if it is a number.
 std::size_t RuleListDecoder::offset() const {
     const auto read = static_cast<std::size_t>(m_next - m_json.data());
     return read - std::min<std::size_t>(read, 1);

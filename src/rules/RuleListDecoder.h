@@ -14,8 +14,8 @@
 
 namespace kinesta {
 
-/// Builds a rule list from the events of the JSON parser. There is no tree in between and nothing recurses, so the
-/// depth of the nesting costs next to nothing. Only for decodeRules().
+/// Builds a rule list from the events of the JSON parser, without a tree or recursion, so that deep nesting costs
+/// almost nothing. Only for decodeRules().
 class RuleListDecoder {
   public:
     /// `json` must outlive the decoder.
@@ -48,10 +48,10 @@ class RuleListDecoder {
         bool isInRule;
     };
 
-    /// What was met of the object that is being read.
+    /// What has been read of the current object.
     struct Object {
         std::size_t offset = 0;
-        std::uint32_t seenFields = 0;  // bit set, by place in the field table
+        std::uint32_t seenFields = 0;  // bit set, by index in the field table
         std::optional<std::size_t> field;
     };
 
@@ -71,7 +71,7 @@ class RuleListDecoder {
     const char* m_next = m_json.data();  // how far the parser has read
     std::vector<GestureRule> m_rules;
     Level m_level = Level::document;
-    std::size_t m_skippedDepth = 0;  // open lists and objects below a value that is of no use
+    std::size_t m_skippedDepth = 0;  // open lists and objects below an ignored value
     Object m_rule;
     Object m_action;
     std::optional<Problem> m_problem;

@@ -18,7 +18,7 @@ bool accepts(const GestureRule& rule, const DetectedAnchorDraw& draw) {
            rule.drawPattern == draw.pattern;
 }
 
-// Cheap comparisons first: the scan runs between a gesture and its action. The trim in isConfigured() comes last.
+// Cheap comparisons first: the scan delays the action. isConfigured() comes last because it trims text.
 template <typename Detected>
 const GestureRule* firstRule(std::span<const GestureRule> rules, const Detected& detected,
                              ShellCommands shellCommands) {

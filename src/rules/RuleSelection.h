@@ -16,7 +16,7 @@ struct DetectedTap {
     friend bool operator==(const DetectedTap&, const DetectedTap&) = default;
 };
 
-/// One movement of a recognized edge slide: `steps` is never 0, positive upward.
+/// A movement of a recognized edge slide. `steps` is positive upward and never 0.
 struct DetectedEdgeSlide {
     std::int64_t fingerCount = 0;
     EdgeSlideSide side = EdgeSlideSide::left;
@@ -35,10 +35,10 @@ struct DetectedAnchorDraw {
 
 using DetectedGesture = std::variant<DetectedTap, DetectedEdgeSlide, DetectedAnchorDraw>;
 
-/// Whether shell-command rules may be chosen now.
+/// Whether shell-command rules may be selected.
 enum class ShellCommands { forbidden, allowed };
 
-/// The first rule in list order that takes the gesture, or null. The pointer is into `rules`.
+/// The first rule in the list that runs for the gesture, or null. Points into `rules`.
 const GestureRule* selectRule(std::span<const GestureRule> rules, const DetectedGesture& detected,
                               ShellCommands shellCommands);
 

@@ -106,7 +106,7 @@ void RuleStore::disableAllRules() {
 }
 
 void RuleStore::replaceRules(std::vector<GestureRule> rules) {
-    // Takes care of unacknowledged shell commands, too: such a rule is never ready.
+    // This also disables unacknowledged shell commands, which are never ready.
     for (GestureRule& rule : rules)
         disableUnlessReady(rule);
     m_problem.clear();
@@ -128,8 +128,7 @@ void RuleStore::reload() {
         return;
     }
     const auto decoded = decodeRules(*stored);
-    // What does not decode stays stored until the next change: merely looking at it must not destroy what a person
-    // may still mend.
+    // A list that does not decode stays stored until the next change, so that the user can still repair it.
     if (!decoded) {
         m_problem = decoded.error().message;
         return;

@@ -15,7 +15,7 @@
 
 namespace kinesta {
 
-/// What came of an attempt to enable or disable.
+/// The outcome of enabling or disabling.
 enum class RuleEnablementResult { changed, unchanged, ruleNotReady };
 
 /// The one ordered list of rules, saved after every change. Main thread only.

@@ -7,14 +7,16 @@
 
 namespace kinesta {
 
-/// The global switch without which no shell command runs.
+/// The global switch that allows shell commands to run.
 struct ShellCommandSettings {
     static constexpr std::string_view enabledKey = "shellCommandActionsEnabled.v1";
 
-    static bool isEnabled(const UserDefaults& defaults);
+    static bool isEnabled(const UserDefaults& defaults) { return defaults.boolean(enabledKey).value_or(false); }
 
-    /// Whether the switch lets this action run: every action but a shell command, and that if the switch is on.
-    static bool permits(const GestureAction& action, const UserDefaults& defaults);
+    /// Whether the switch allows this action. It concerns shell commands only.
+    static bool permits(const GestureAction& action, const UserDefaults& defaults) {
+        return action.kind != ActionKind::shellCommand || isEnabled(defaults);
+    }
 };
 
 }  // namespace kinesta

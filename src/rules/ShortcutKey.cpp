@@ -14,7 +14,7 @@ struct Modifier {
     std::string_view symbol;
 };
 
-// In the order in which a label names them.
+// In label order.
 constexpr std::array<Modifier, 5> kModifiers{{
     {ShortcutModifiers::function, 0x800000, "fn "},
     {ShortcutModifiers::control, 0x040000, "⌃"},
@@ -28,8 +28,8 @@ constexpr bool isArrow(std::uint16_t keyCode) { return keyCode >= 123 && keyCode
 }  // namespace
 
 std::span<const ShortcutKey> ShortcutKey::choices() {
-    // The period, semicolon, apostrophe and backslash are missing on purpose: without a name they are posted by
-    // their code, whatever the keyboard layout.
+    // Deliberately without period, semicolon, apostrophe and backslash: unnamed keys are posted by their code in every
+    // keyboard layout.
     static constexpr std::array<ShortcutKey, 52> kChoices{{
         {"A", 0},       {"S", 1},       {"D", 2},    {"F", 3},      {"H", 4},       {"G", 5},       {"Z", 6},
         {"X", 7},       {"C", 8},       {"V", 9},    {"B", 11},     {"Q", 12},      {"W", 13},      {"E", 14},

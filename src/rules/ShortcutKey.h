@@ -14,20 +14,20 @@ struct ShortcutKey {
     std::string_view name;
     std::uint16_t keyCode;
 
-    /// The keys that can be chosen, in the order in which they are searched.
+    /// The selectable keys, in search order.
     static std::span<const ShortcutKey> choices();
 
-    /// The name of a key code; for one without a name "Key " and the code in decimal.
+    /// The name of a key code, or "Key " and the code in decimal if it has no name.
     static std::string nameFor(std::uint16_t keyCode);
 
-    /// What a person reads: the modifiers in the order fn ⌃ ⌥ ⇧ ⌘, then the key's name; a blank follows fn.
+    /// The text shown to the user: the modifiers in the order "fn ", ⌃, ⌥, ⇧, ⌘, then the name of the key.
     static std::string label(std::uint16_t keyCode, ShortcutModifiers modifiers);
 
-    /// The event flags of a stroke: one mask a modifier (command 0x100000, option 0x080000, control 0x040000,
-    /// shift 0x020000, function 0x800000), and 0x200000, the numeric-pad mask, for the arrow keys.
+    /// The event flags of a stroke: command 0x100000, option 0x080000, control 0x040000, shift 0x020000, function
+    /// 0x800000, and for arrow keys the numeric-pad mask 0x200000.
     static std::uint64_t eventFlags(std::uint16_t keyCode, ShortcutModifiers modifiers);
 
-    /// Whether the fn key must go down before the key and up after it: an arrow key with `function`.
+    /// Whether fn must be pressed before the key and released after it: an arrow key with `function`.
     static bool requiresFunctionKeyTransition(std::uint16_t keyCode, ShortcutModifiers modifiers);
 };
 

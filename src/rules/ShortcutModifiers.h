@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// A set of modifier keys, stored as the sum of its members' bits. Unknown bits of a stored value are kept.
+/// A set of modifier keys, stored as a sum of bits. Keeps unknown bits of a stored value.
 struct ShortcutModifiers {
     std::int64_t rawValue = 0;
 

@@ -22,7 +22,7 @@ struct SystemGestureWarning {
     friend bool operator==(const SystemGestureWarning&, const SystemGestureWarning&) = default;
 };
 
-/// Tells whether a rule's gesture is likely to collide with one that the system itself uses.
+/// Warns if a rule's gesture is likely to collide with one of the system.
 struct SystemGestureWarningChecker {
     static std::optional<SystemGestureWarning> warning(const GestureRule& rule, GestureSystem system);
 };

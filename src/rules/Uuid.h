@@ -13,10 +13,10 @@ namespace kinesta {
 struct Uuid {
     std::array<std::uint8_t, 16> bytes{};
 
-    /// A fresh random identifier (version 4, RFC 4122).
+    /// A new random identifier (version 4, RFC 4122).
     static Uuid random();
 
-    /// Reads the hyphenated form, in either case; nothing if it is anything else.
+    /// Parses the hyphenated form, in either case.
     static std::optional<Uuid> parse(std::string_view text);
 
     std::string toString() const;

@@ -4,15 +4,15 @@
 
 namespace kinesta {
 
-/// The port through which the core learns the time. May be asked from any thread.
+/// The port to the time. Any thread.
 class Clock {
   public:
     virtual ~Clock() = default;
 
-    /// The system's uptime now.
+    /// Time since the system started.
     virtual Uptime uptime() const = 0;
 
-    /// Wall-clock time now, in seconds since an epoch of the implementation's choosing.
+    /// Wall-clock time. The epoch is up to the implementation.
     virtual Seconds wallClock() const = 0;
 };
 

@@ -4,10 +4,11 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace kinesta {
 
-/// One case of an enumeration that has a persisted form.
+/// One case of an enumeration with its persisted string and the text shown to the user.
 template <typename E>
 struct EnumRow {
     E value;
@@ -15,18 +16,27 @@ struct EnumRow {
     std::string_view title;
 };
 
-/// The cases of `E` in declaration order, case 0 first and without gaps. Each enumeration that is stored or shown
-/// defines its own.
+/// The cases of `E` in declaration order, case 0 first and without gaps. Each stored or shown enumeration defines its
+/// own table.
 template <typename E>
 std::span<const EnumRow<E>> enumTable();
 
-/// The persisted string of a case; it never changes between versions.
+/// Every case of `E`, in declaration order.
+template <typename E>
+std::vector<E> allCases() {
+    std::vector<E> cases;
+    for (const auto& row : enumTable<E>())
+        cases.push_back(row.value);
+    return cases;
+}
+
+/// The persisted string of a case. Never changes between versions.
 template <typename E>
 std::string_view rawValue(E value) {
     return enumTable<E>()[static_cast<std::size_t>(value)].rawValue;
 }
 
-/// The text that a person reads for a case.
+/// The text shown to the user for a case.
 template <typename E>
 std::string_view title(E value) {
     return enumTable<E>()[static_cast<std::size_t>(value)].title;

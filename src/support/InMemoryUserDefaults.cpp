@@ -3,7 +3,7 @@
 #include <utility>
 #include <variant>
 
-#include "support/NumberText.h"
+#include "support/Text.h"
 
 namespace kinesta {
 namespace {

@@ -10,7 +10,7 @@
 
 namespace kinesta {
 
-/// Settings that last as long as the object. The ground of implementations that also store them. Main thread only.
+/// Settings kept in memory, and the base of implementations that also store them. Main thread only.
 class InMemoryUserDefaults : public UserDefaults {
   public:
     const StoredValues& values() const { return m_values; }

@@ -9,8 +9,8 @@
 
 namespace kinesta {
 
-/// A list that keeps its first `Capacity` elements in place and moves to the heap only beyond that, so that the
-/// usual handful of contacts costs no allocation and a driver gone wild is still held in full.
+/// A list that stays in place up to `Capacity` elements and moves to the heap beyond that: the usual few contacts need
+/// no allocation, and no number of them overflows it.
 template <typename T, std::size_t Capacity>
 class InlineVector {
     static_assert(std::is_trivially_copyable_v<T>);
@@ -39,7 +39,7 @@ class InlineVector {
     const T& operator[](std::size_t index) const { return data()[index]; }
     std::span<const T> view() const { return {data(), m_size}; }
 
-    /// Empties the list and lets go of the heap.
+    /// Empties the list and frees its heap memory.
     void clear() {
         m_size = 0;
         if (m_spilled.capacity() != 0)
@@ -85,7 +85,7 @@ class InlineVector {
     bool isSpilled() const { return m_size > Capacity; }
 
     std::size_t m_size = 0;
-    std::array<T, Capacity> m_inline;  // left unset beyond m_size: a frame must not pay for contacts it lacks
+    std::array<T, Capacity> m_inline;  // not initialized beyond m_size: most frames use little of it
     std::vector<T> m_spilled;
 };
 

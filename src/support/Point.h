@@ -5,8 +5,8 @@
 
 namespace kinesta {
 
-/// A place on the trackpad in normalized units: 0…1 over the whole pad on both axes, x to the right, y upward.
-/// Also used for a vector between two places.
+/// A position on the trackpad in normalized units: 0…1 on both axes, x to the right, y upward. Also a vector between
+/// two positions.
 struct Point {
     double x = 0;
     double y = 0;
@@ -14,10 +14,10 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
-/// Euclidean distance of two places, in normalized units.
+/// Euclidean distance.
 inline double distance(Point a, Point b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
-/// `distance(a, b) <=> limit`, with the same answer down to the last bit, but seldom at the price of a square root.
+/// Exactly `distance(a, b) <=> limit`, but usually without a square root.
 /// `limit` is 0 or a length whose square is a normal number.
 inline std::partial_ordering compareDistance(Point a, Point b, double limit) {
     const double dx = a.x - b.x;

@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// A value whose changes others can follow. Main thread only. Observers may subscribe, unsubscribe and set the
+/// A value with observers. Main thread only. Observers may subscribe, unsubscribe and set the
 /// value again from within their callback.
 template <typename T>
 class Published {
@@ -21,7 +21,7 @@ class Published {
 
     const T& value() const { return m_value; }
 
-    /// Stores `value` and tells every observer, also when it equals the old one.
+    /// Stores `value` and calls every observer, even if the value is unchanged.
     void set(T value) {
         m_value = std::move(value);
         const std::uint64_t change = ++m_changes;

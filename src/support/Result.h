@@ -6,12 +6,12 @@
 
 namespace kinesta {
 
-/// What went wrong, as one plain sentence for a person: what, where, what to do.
+/// What went wrong, as one plain sentence for the user: what, where, what to do.
 struct Error {
     std::string message;
 };
 
-/// The outcome of an operation at the edge of the program: a value, or the error that prevented it.
+/// A value, or the error that prevented it.
 template <typename T>
 class [[nodiscard]] Result {
   public:
@@ -36,7 +36,7 @@ class [[nodiscard]] Result {
     std::variant<T, Error> m_content;
 };
 
-/// The outcome of an operation that yields nothing but success or an error.
+/// Success or an error.
 using Outcome = Result<std::monostate>;
 
 inline Outcome success() { return std::monostate{}; }

@@ -20,7 +20,7 @@ void RunLoop::run() {
 void RunLoop::quit() {
     const std::lock_guard lock(m_lock);
     m_isQuitting = true;
-    // Under the lock, here and below: else the loop could be gone before it is told.
+    // Under the lock, here and below: otherwise the loop could be destroyed before the call.
     m_wake.notify_one();
 }
 
@@ -34,7 +34,7 @@ void RunLoop::post(Task task) {
 DelayedTask RunLoop::after(std::chrono::nanoseconds delay, Task task) {
     assert(task);
     const std::lock_guard lock(m_lock);
-    // Nothing to wake: only the main thread comes here, and it looks for the next due time before it sleeps.
+    // No wake-up needed: only the main thread calls this, and it checks the next due time before it sleeps.
     return {this, m_tasks.schedule(now(), delay, std::move(task))};
 }
 
@@ -44,7 +44,7 @@ void RunLoop::cancel(std::uint64_t id) {
     cancelled = m_tasks.cancel(id);
 }
 
-/// The next task, once it is due; an empty one on quit().
+/// Waits for the next due task. An empty one on quit().
 MainThread::Task RunLoop::waitForTask() {
     std::unique_lock lock(m_lock);
     while (!std::exchange(m_isQuitting, false)) {

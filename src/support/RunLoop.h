@@ -10,19 +10,18 @@
 
 namespace kinesta {
 
-/// The main thread of a program without a window: sleeps until there is work or the next delayed task is due, and
-/// does not wake for anything else. Work runs in the order of time: a task as of when it was posted, a delayed task as
-/// of when it was due, so that neither kind can starve the other.
+/// The main thread of a program without a window. Sleeps until a task is posted or the next delayed task is due. Runs
+/// tasks in order of time (when posted or when due), so that neither kind starves the other.
 class RunLoop final : public MainThread {
   public:
     RunLoop() = default;
     ~RunLoop() override = default;
 
-    /// Makes the calling thread the main thread until quit(). Not from a task.
+    /// Makes the calling thread the main thread until quit(). Must not be called from a task.
     void run();
 
-    /// Makes run() return once the task that runs now has ended, or the next run() return at once. Work that is left
-    /// stays for another run(). Any thread, but not a signal handler: let a thread wait for the signal and call this.
+    /// Makes run() return after the current task, or the next run() return at once. Remaining tasks stay for another
+    /// run(). Any thread, but not a signal handler: let a thread wait for the signal and call this.
     void quit();
 
     void post(Task task) override;
@@ -34,7 +33,7 @@ class RunLoop final : public MainThread {
   private:
     Task waitForTask();
 
-    std::mutex m_lock;  // guards all below; never held while a task runs or is destroyed
+    std::mutex m_lock;  // guards everything below; never held while a task runs or is destroyed
     std::condition_variable m_wake;
     TimerQueue m_tasks;
     bool m_isQuitting = false;

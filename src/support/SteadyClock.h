@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// The time of the standard library's clocks.
+/// The standard library's clocks.
 class SteadyClock final : public Clock {
   public:
     Uptime uptime() const override { return seconds(std::chrono::steady_clock::now()); }

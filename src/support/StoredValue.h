@@ -8,14 +8,14 @@
 
 namespace kinesta {
 
-/// Bytes of any content, told from text.
+/// Arbitrary bytes, as opposed to text.
 struct StoredData {
     std::string bytes;
 
     friend bool operator==(const StoredData&, const StoredData&) = default;
 };
 
-/// A value of a form that this version does not know, kept as it was found, in the notation of its file.
+/// A value of a form unknown to this version, kept in the notation of its file.
 struct ForeignValue {
     std::string text;
 

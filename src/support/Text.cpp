@@ -1,11 +1,12 @@
 #include "support/Text.h"
 
 #include <array>
+#include <charconv>
 
 namespace kinesta {
 namespace {
 
-// UTF-8 forms of the code points that count as white space or line break.
+// White space and line breaks, in UTF-8.
 constexpr std::array<std::string_view, 25> kBlanks{" ",      "\t",     "\n",     "\v",     "\f",     "\r",     "\u0085",
                                                    "\u00A0", "\u1680", "\u2000", "\u2001", "\u2002", "\u2003", "\u2004",
                                                    "\u2005", "\u2006", "\u2007", "\u2008", "\u2009", "\u200A", "\u2028",
@@ -46,7 +47,7 @@ bool isUtf8(std::string_view bytes) {
         const int continuations = lead < 0xC2 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : lead < 0xF5 ? 3 : 0;
         if (continuations == 0 || bytes.size() - i < static_cast<std::size_t>(continuations))
             return false;
-        // The first continuation byte's range rules out overlong forms, surrogates and what is too large.
+        // The range of the first continuation byte excludes overlong forms, surrogates and code points too large.
         unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
         unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
         for (int left = continuations; left > 0; --left) {
@@ -77,6 +78,18 @@ void appendUtf8(std::string& text, std::uint32_t codePoint) {
         put(0x80 | (codePoint >> 6 & 0x3F));
         put(0x80 | (codePoint & 0x3F));
     }
+}
+
+std::string numberText(double value) {
+    std::string text;
+    appendNumber(text, value);
+    return text;
+}
+
+void appendNumber(std::string& text, double value) {
+    std::array<char, 32> digits{};  // the longest, -1.7976931348623157e+308, takes 24
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    text.append(digits.data(), end);
 }
 
 }  // namespace kinesta

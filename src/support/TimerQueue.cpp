@@ -5,7 +5,7 @@
 
 namespace kinesta {
 
-// One by one: a task that is destroyed may cancel others by the handles that it owns.
+// One by one: destroying a task may cancel others whose handles it owns.
 TimerQueue::~TimerQueue() {
     while (!m_tasks.empty())
         takeFirst();
@@ -19,7 +19,7 @@ std::uint64_t TimerQueue::schedule(Time now, Time delay, Task task) {
 }
 
 TimerQueue::Task TimerQueue::cancel(std::uint64_t id) {
-    // A handful of tasks at most are ever pending: an index by id would cost more than this search.
+    // Few tasks are ever pending, so an index by id would cost more than this search.
     const auto found =
         std::find_if(m_tasks.begin(), m_tasks.end(), [&](const auto& e) { return e.first.second == id; });
     if (found == m_tasks.end())

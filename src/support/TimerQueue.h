@@ -9,9 +9,8 @@
 
 namespace kinesta {
 
-/// Delayed work in the order in which it is due, work due at the same time in the order in which it was scheduled.
-/// Knows no clock and no lock: its owner brings both. What leaves the queue is handed to the owner, who runs or
-/// destroys it outside his lock, since a task may own handles of other tasks.
+/// Delayed tasks by due time, then by the order in which they were scheduled. The owner provides the clock and the
+/// lock, and runs or destroys removed tasks outside that lock: a task may own handles of other tasks.
 class TimerQueue {
   public:
     using Task = std::function<void()>;
@@ -22,17 +21,17 @@ class TimerQueue {
     TimerQueue& operator=(const TimerQueue&) = delete;
     ~TimerQueue();
 
-    /// Keeps `task` until `delay` (not negative) after `now`, or until the end of time where that comes first. The
-    /// id is never given twice.
+    /// Keeps `task` until `delay` (not negative) after `now`; a sum that would overflow counts as the latest time.
+    /// Returns a unique id.
     std::uint64_t schedule(Time now, Time delay, Task task);
 
-    /// Removes the task with this id and gives it back; an empty one if it is not in the queue.
+    /// Removes and returns the task with this id. Empty if it is not in the queue.
     Task cancel(std::uint64_t id);
 
-    /// When the first task is due, or nothing if the queue is empty.
+    /// When the first task is due. Empty if the queue is.
     std::optional<Time> nextDue() const;
 
-    /// Removes the first task and gives it back. Only when there is one.
+    /// Removes and returns the first task. Requires a task in the queue.
     Task takeFirst();
 
   private:

@@ -7,11 +7,11 @@
 
 namespace kinesta {
 
-/// The port to the person's stored settings: typed values under string keys. Main thread only.
+/// The port to the user's stored settings: typed values under string keys. Main thread only.
 ///
-/// A reader yields nothing when the key is absent or holds a value of another type; `contains` tells the two
-/// apart. `real` also reads an integer. Writers store at once; a failure to store is reported by the
-/// implementation and leaves the value readable in this process.
+/// A reader returns nothing if the key is absent or holds another type; `contains` distinguishes the two. `real` also
+/// reads integers. Writers store at once. If storing fails, the implementation reports it and this process still reads
+/// the new value.
 class UserDefaults {
   public:
     virtual ~UserDefaults() = default;
@@ -21,7 +21,7 @@ class UserDefaults {
     virtual std::optional<std::int64_t> integer(std::string_view key) const = 0;
     virtual std::optional<double> real(std::string_view key) const = 0;
     virtual std::optional<std::string> string(std::string_view key) const = 0;
-    /// Bytes of any content.
+    /// Arbitrary bytes.
     virtual std::optional<std::string> data(std::string_view key) const = 0;
     /// What is stored under the key, whatever its type: data and strings as they are, all else as JSON text.
     virtual std::optional<std::string> anyAsText(std::string_view key) const = 0;

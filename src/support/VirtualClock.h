@@ -10,13 +10,13 @@
 
 namespace kinesta {
 
-/// Tells the time of a VirtualMainThread in seconds, which must outlive it. While an event is delivered that knows
-/// the exact uptime of its own arrival, that one can be told instead.
+/// The time of a VirtualMainThread, which must outlive it, in seconds. The uptime can be set while an event is
+/// delivered that has its own exact arrival time.
 class VirtualClock final : public Clock {
   public:
     explicit VirtualClock(const VirtualMainThread& thread) : m_thread(thread) {}
 
-    /// Makes uptime() tell `uptime` (finite) until clearUptime(), whatever the thread's time.
+    /// Makes uptime() return `uptime` (finite) until clearUptime().
     void setUptime(Uptime uptime) { m_uptime = uptime; }
     void clearUptime() { m_uptime = kNone; }
 

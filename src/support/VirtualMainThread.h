@@ -12,31 +12,30 @@
 
 namespace kinesta {
 
-/// A main thread on which no one waits: time is a number that moves only when it is told to, in whole nanoseconds
-/// since 0. The thread that calls the run functions is the main thread; tasks do not call them.
+/// A main thread in virtual time: whole nanoseconds from 0 that advance only through the run functions. The thread that
+/// calls these is the main thread. Tasks must not call them.
 class VirtualMainThread final : public MainThread {
   public:
     using Time = std::chrono::nanoseconds;
 
-    /// Time begins at `start`.
+    /// Time starts at `start`.
     explicit VirtualMainThread(Time start = Time::zero()) : m_now(start.count()) {}
     ~VirtualMainThread() override;
 
-    /// The present time. Any thread.
+    /// The current time. Any thread.
     Time now() const { return Time(m_now.load()); }
 
-    /// When the next delayed task is due, if there is one.
+    /// When the next delayed task is due.
     std::optional<Time> nextTimer() const { return m_timers.nextDue(); }
 
-    /// Runs what is posted, then every task due strictly before `time`, each at its own due time and with what it
-    /// posts right after it, in the order of the due times. Then it is `time`, unless it is later already.
+    /// Runs posted tasks, then every task due before `time` in order, each at its due time and followed by the tasks it
+    /// posts. Then sets the time to `time` unless it is later already.
     void advanceTo(Time time);
 
-    /// Runs all that is posted, also what that posts in turn, at the present time.
+    /// Runs posted tasks, and those that they post, at the current time.
     void runPosted();
 
-    /// Runs what is posted and all delayed tasks, each at its own due time. Does not end if a task always schedules
-    /// another.
+    /// Runs posted and all delayed tasks, each at its due time. Never returns if a task always schedules another.
     void runRemaining();
 
     void post(Task task) override;

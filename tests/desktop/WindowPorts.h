@@ -8,28 +8,18 @@
 #include <utility>
 #include <vector>
 
-#include "actions/ActionPorts.h"
-#include "actions/InProcessNotifications.h"
 #include "actions/WindowCloseExecutor.h"
 #include "actions/WindowTilingExecutor.h"
 #include "platform/linux/WindowAccessibility.h"
 #include "platform/linux/WindowOwnMenus.h"
 #include "platform/linux/WindowOwnWindows.h"
-#include "platform/null/NullActionPorts.h"
-#include "support/InMemoryUserDefaults.h"
+#include "support/FakeActionDesktop.h"
 #include "support/SteadyClock.h"
 
 namespace kinesta::testing {
 
-/// What the executors of window actions need: real windows, and nothing else that works.
+/// The ports of the window actions: real windows, everything else a fake.
 class WindowPorts {
-    struct Permission final : AccessibilityPermission {
-        bool isTrusted() override { return true; }
-        bool prompt() override { return true; }
-    };
-    struct Version final : SystemVersion {
-        int majorVersion() const override { return 15; }
-    };
     struct FrontmostApplication final : Workspace {
         explicit FrontmostApplication(EwmhDesktop& ewmh) : desktop(ewmh) {}
         void openURL(const std::string&) override {}
@@ -69,18 +59,14 @@ class WindowPorts {
     }
 
     ActionPorts ports() {
-        const ActionPorts none = m_null.ports(m_clock, m_defaults, m_notifications);
-        return {m_clock,      m_defaults,          m_version,       none.homeFolders, m_permission,
-                none.events,  none.keyboardLayout, m_workspace,     none.processes,   m_accessibility,
-                m_ownWindows, m_ownMenus,          m_notifications, none.cue};
+        const ActionPorts fake = m_fake.ports();
+        return {m_clock,      fake.defaults,       fake.systemVersion, fake.homeFolders, fake.permission,
+                fake.events,  fake.keyboardLayout, m_workspace,        fake.processes,   m_accessibility,
+                m_ownWindows, m_ownMenus,          fake.notifications, fake.cue};
     }
 
     SteadyClock m_clock;
-    InMemoryUserDefaults m_defaults;
-    InProcessNotifications m_notifications;
-    NullActionPorts m_null;
-    Permission m_permission;
-    Version m_version;
+    FakeActionDesktop m_fake;
     FrontmostApplication m_workspace{desktop};
     MessageBus m_bus;
     AccessibilityBus m_programs{m_bus};

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "input/RecordingReading.h"
-#include "support/NumberText.h"
 #include "support/TemporaryFolder.h"
+#include "support/Text.h"
 
 namespace kinesta {
 

@@ -14,17 +14,15 @@ GestureAction makeAction(ActionKind kind, std::string value = {}) {
     return action;
 }
 
-TEST(Uuid, IsRandomVersionFourAndRoundTrips) {
+TEST(Uuid, IsRandomAndOfVersionFour) {
     std::set<Uuid> seen;
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 100; ++i) {
         const Uuid id = Uuid::random();
         const std::string text = id.toString();
-        EXPECT_EQ(text[14], '4') << text;
-        EXPECT_NE(std::string("89AB").find(text[19]), std::string::npos) << text;
+        EXPECT_TRUE(text[14] == '4' && std::string("89AB").find(text[19]) != std::string::npos) << text;
         EXPECT_EQ(Uuid::parse(text), id) << text;
-        seen.insert(id);
+        EXPECT_TRUE(seen.insert(id).second) << text;
     }
-    EXPECT_EQ(seen.size(), 1000U);
 }
 
 TEST(Uuid, ParsesEitherCaseAndNothingElse) {
@@ -32,68 +30,53 @@ TEST(Uuid, ParsesEitherCaseAndNothingElse) {
     const auto id = Uuid::parse(text);
     ASSERT_TRUE(id);
     EXPECT_EQ(id->toString(), "0123ABCD-EF45-6789-ABCD-EF0123456789");
-    EXPECT_EQ(Uuid::parse(text + "0"), std::nullopt);
-    EXPECT_EQ(Uuid::parse("{" + text.substr(1, 34) + "}"), std::nullopt);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        EXPECT_EQ(Uuid::parse(text.substr(0, i)), std::nullopt);
-        for (const char wrong : {text[i] == '-' ? '0' : '-', 'g', 'G', '\0', ' ', '`', '@', '/', ':'}) {
+    for (const std::string& wrong : {std::string(), text + "0", text.substr(1), "{" + text.substr(1, 34) + "}"})
+        EXPECT_EQ(Uuid::parse(wrong), std::nullopt) << wrong;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        for (const char wrong : {text[i] == '-' ? '0' : '-', 'g', 'G', '\0', '`', '@', '/', ':'}) {
             std::string broken = text;
             broken[i] = wrong;
             EXPECT_EQ(Uuid::parse(broken), std::nullopt) << broken;
         }
-    }
 }
 
 TEST(GestureAction, IsConfiguredWhenItsKindHasWhatItNeeds) {
-    GestureAction withKey, withBlanks, withValue, refused, acknowledged;
-    withKey.keyCode = 0;
-    withBlanks.value = " \t\n\u00A0\u2028";
-    withBlanks.shellCommandAcknowledged = true;
-    withValue.value = " ls\n";
-    refused = acknowledged = withValue;
-    refused.shellCommandAcknowledged = false;
-    acknowledged.shellCommandAcknowledged = true;
-    const auto configuredKinds = [](GestureAction action) {
+    const auto configuredKinds = [](std::optional<std::uint16_t> key, const std::string& value, bool acknowledged) {
         std::string kinds;
-        for (const auto& row : enumTable<ActionKind>())
-            if (action.kind = row.value; action.isConfigured())
-                kinds.append(row.rawValue).append(" ");
+        for (const ActionKind kind : allCases<ActionKind>()) {
+            GestureAction action = makeAction(kind, value);
+            action.keyCode = key;
+            action.shellCommandAcknowledged = acknowledged;
+            if (action.isConfigured())
+                kinds.append(rawValue(kind)).append(" ");
+        }
         return kinds;
     };
     const std::string always = "middleClick closeWindow ";
     const std::string own = "toggleConfigurationWindow disableAllRules adjustVolume ";
     const std::string valued = always + "openURL openFileOrFolder launchApplication ";
-    EXPECT_EQ(configuredKinds({}), always + own);
-    EXPECT_EQ(configuredKinds(withKey), "keyboardShortcut " + always + own);
-    EXPECT_EQ(configuredKinds(withBlanks), always + own);
-    EXPECT_EQ(configuredKinds(withValue), valued + own);
-    EXPECT_EQ(configuredKinds(refused), valued + own);
-    EXPECT_EQ(configuredKinds(acknowledged), valued + "shellCommand " + own);
+    EXPECT_EQ(configuredKinds(std::nullopt, " \t\n\u00A0\u2028", true), always + own);
+    EXPECT_EQ(configuredKinds(0, "", false), "keyboardShortcut " + always + own);
+    EXPECT_EQ(configuredKinds(std::nullopt, " ls\n", false), valued + own);
+    EXPECT_EQ(configuredKinds(std::nullopt, " ls\n", true), valued + "shellCommand " + own);
+    EXPECT_FALSE(makeAction(ActionKind::shellCommand, "ls").isConfigured()) << "acknowledgement empty";
 }
 
-TEST(GestureAction, SummarySaysWhatItDoes) {
+TEST(GestureAction, SummarizesWhatItDoes) {
     std::string fixed;
-    for (const auto& row : enumTable<ActionKind>())
-        fixed += makeAction(row.value).summary() + "|";
+    for (const ActionKind kind : allCases<ActionKind>())
+        fixed += makeAction(kind).summary() + "|";
     EXPECT_EQ(fixed,
               "No action|Not configured|Middle click|Close window|Not configured|Not configured|Not configured|"
               "Not configured|Show or hide Kinesta|Disable every rule|Slide up/down to adjust volume|");
     EXPECT_EQ(makeAction(ActionKind::launchApplication, "   ").summary(), "   ");
-    EXPECT_EQ(makeAction(ActionKind::middleClick, "ignored").summary(), "Middle click");
     GestureAction shortcut = makeAction(ActionKind::keyboardShortcut, "ignored");
     shortcut.keyCode = 0;
-    EXPECT_EQ(shortcut.summary(), "A");
     shortcut.modifiers = ShortcutModifiers::shift | ShortcutModifiers::command;
     EXPECT_EQ(shortcut.summary(), "⇧⌘A");
 }
 
-TEST(GestureAction, OnlyALaunchHasArguments) {
-    GestureAction action = makeAction(ActionKind::openURL, "https://a");
-    action.applicationArguments = {"-a"};
-    EXPECT_EQ(action.resolvedApplicationArguments(), std::vector<std::string>{});
-}
-
-TEST(GestureAction, CueNamesAShortcutByPresetThenLabelThenKeys) {
+TEST(GestureAction, LabelsAShortcutByPresetThenCustomLabelThenKeys) {
     GestureAction action = makeAction(ActionKind::keyboardShortcut);
     action.customCueLabel = " Mine\n";
     EXPECT_EQ(action.keyboardCueLabel(), std::nullopt) << "no key yet";
@@ -108,13 +91,11 @@ TEST(GestureAction, CueNamesAShortcutByPresetThenLabelThenKeys) {
     EXPECT_EQ(action.keyboardCueLabel(), std::nullopt);
 }
 
-TEST(GestureRule, CueMessageIsTheLabelElseTheName) {
+TEST(GestureRule, ResolvesTheCueMessageFromLabelThenName) {
     GestureRule rule = makeRule(GestureKind::singleTap, 3);
-    EXPECT_EQ(rule.resolvedVisualCueMessage(), std::nullopt);
     rule.name = "\u3000 \t";
     EXPECT_EQ(rule.resolvedVisualCueMessage(), std::nullopt);
     rule.name = " Name of it ";
-    EXPECT_EQ(rule.resolvedVisualCueMessage(), "Name of it");
     rule.action.customCueLabel = "\n";
     EXPECT_EQ(rule.resolvedVisualCueMessage(), "Name of it");
     rule.action.customCueLabel = "\nLabel ";
@@ -122,34 +103,31 @@ TEST(GestureRule, CueMessageIsTheLabelElseTheName) {
 }
 
 TEST(GestureRule, IsReadyWhenGestureAndActionAreComplete) {
-    for (const auto& row : enumTable<GestureKind>()) {
-        SCOPED_TRACE(row.rawValue);
-        const bool isDraw = row.value == GestureKind::anchorDraw;
-        GestureRule rule = makeRule(row.value);
-        EXPECT_EQ(rule.isReady(), isConfigured(row.value) && !usesFingerCount(row.value) && !isDraw);
-        rule.fingerCount = -7;
-        EXPECT_EQ(rule.isReady(), isConfigured(row.value) && !isDraw) << "the number itself is not judged";
-        rule.anchorCorner = AnchorCorner::topLeft;
-        EXPECT_EQ(rule.isReady(), isConfigured(row.value) && !isDraw);
+    for (const GestureKind kind : allCases<GestureKind>()) {
+        SCOPED_TRACE(rawValue(kind));
+        const bool isDraw = kind == GestureKind::anchorDraw;
+        GestureRule rule = makeRule(kind);
+        EXPECT_EQ(rule.isReady(), isConfigured(kind) && !usesFingerCount(kind) && !isDraw);
+        rule.fingerCount = -7;  // any number counts
         rule.drawPattern = DrawPattern::zigzag;
-        EXPECT_EQ(rule.isReady(), isConfigured(row.value));
-        rule.anchorCorner.reset();
-        EXPECT_EQ(rule.isReady(), isConfigured(row.value) && !isDraw);
+        EXPECT_EQ(rule.isReady(), isConfigured(kind) && !isDraw);
         rule.anchorCorner = AnchorCorner::topLeft;
+        EXPECT_EQ(rule.isReady(), isConfigured(kind));
+        rule.drawPattern.reset();
+        EXPECT_EQ(rule.isReady(), isConfigured(kind) && !isDraw);
+        rule.drawPattern = DrawPattern::zigzag;
         rule.action = {};
         EXPECT_FALSE(rule.isReady());
     }
 }
 
-TEST(GestureRule, RecommendedDefaultIsOneRuleForTheWholeRun) {
+TEST(GestureRule, KeepsTheRecommendedDefaultForTheWholeRun) {
     const GestureRule& rule = GestureRule::recommendedDefault();
-    EXPECT_EQ(rule.id, GestureRule::recommendedDefault().id);
     EXPECT_NE(rule.id, Uuid{});
     GestureRule expected = makeRule(GestureKind::singleTap, 3);
-    expected.id = rule.id;
+    expected.id = GestureRule::recommendedDefault().id;
     expected.name = "Middle click";
     EXPECT_EQ(rule, expected);
-    EXPECT_TRUE(rule.isReady());
 }
 
 }  // namespace

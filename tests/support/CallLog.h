@@ -8,8 +8,8 @@ namespace kinesta::testing {
 
 using Calls = std::vector<std::string>;
 
-/// What the fakes were asked, in order and as short text. A question that changes nothing begins with "?", the making
-/// of an event with "+"; all else is an effect.
+/// The calls to the fakes, in order and as short text. A query begins with "?", the making of an event with "+";
+/// everything else is an effect.
 class CallLog {
   public:
     void add(std::string call) { m_calls.push_back(std::move(call)); }

@@ -13,8 +13,8 @@
 namespace kinesta::testing {
 
 /// The interface of application 7. A word "name=value" is an attribute: yes and no, text, "[]" an empty list, "*" a
-/// value of another type, "!" an error. With "@0.25" behind it, reading takes so many seconds; beyond the messaging
-/// timeout it fails. AXPress=no is an action that fails, timeout=no a timeout that cannot be set.
+/// value of another type, "!" an error. "@0.25" at the end is how many seconds reading takes; it fails if that exceeds
+/// the messaging timeout. AXPress=no makes the action fail, timeout=no setting the timeout.
 class FakeAccessibility final : public AccessibilityElements {
   public:
     FakeAccessibility(CallLog& log, ManualClock& clock) : m_log(log), m_clock(clock) {}
@@ -55,16 +55,20 @@ class FakeAccessibility final : public AccessibilityElements {
             }
             if (const auto element = m_node->elements.find(key); element != m_node->elements.end())
                 return std::make_unique<Element>(m_owner, element->second);
-            if (key == "AXChildren" && word.empty() && !m_node->children.empty())
-                return list();
-            if (word == "yes" || word == "no")
-                return word == "yes";
+            if (key == "AXChildren" && word.empty() && !m_node->children.empty()) {
+                AccessibilityList list;
+                for (const auto& child : m_node->children)
+                    list.items.push_back(child ? std::make_unique<Element>(m_owner, child) : nullptr);
+                return list;
+            }
+            if (word == "!" || word.empty())
+                return AccessibilityFailure{};
             if (word == "[]")
                 return AccessibilityList{};
             if (word == "*")
                 return OtherAccessibilityValue{};
-            if (word == "!" || word.empty())
-                return AccessibilityFailure{};
+            if (word == "yes" || word == "no")
+                return word == "yes";
             return word;
         }
 
@@ -74,16 +78,9 @@ class FakeAccessibility final : public AccessibilityElements {
         }
 
       private:
-        AccessibilityList list() const {
-            AccessibilityList result;
-            for (const auto& child : m_node->children)
-                result.items.push_back(child ? std::make_unique<Element>(m_owner, child) : nullptr);
-            return result;
-        }
-
         FakeAccessibility& m_owner;
         std::shared_ptr<FakeNode> m_node;
-        Seconds m_timeout = 6;  // what a platform allows unless told otherwise
+        Seconds m_timeout = 6;  // until one is set
     };
 
     CallLog& m_log;

@@ -8,11 +8,11 @@
 
 namespace kinesta::testing {
 
-/// A source of frames that the test sends itself, also on threads of its own. Tells how it was used.
+/// A provider whose frames the test sends, from any thread. Logs its calls.
 class FakeContactProvider final : public TrackpadContactProviding {
   public:
     std::vector<std::string> calls;
-    /// What start() leads to.
+    /// The status after start().
     TrackpadContactProviderStatus statusAfterStart = TrackpadContactProviderStatus::listening();
 
     FrameHandler frameHandler() const override { return m_handler.handler(); }
@@ -27,10 +27,10 @@ class FakeContactProvider final : public TrackpadContactProviding {
         m_status = TrackpadContactProviderStatus::stopped();
     }
 
-    /// Changes the status as a pad that comes or goes does.
+    /// Changes the status, as a connected or removed pad does.
     void becomes(TrackpadContactProviderStatus status) { m_status = std::move(status); }
 
-    /// Hands a frame over, started or not: a driver may be late.
+    /// Sends a frame even if not started: a driver may be late.
     void send(const TrackpadContactFrame& frame) const { m_handler.call(frame); }
 
   private:

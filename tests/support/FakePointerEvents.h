@@ -9,7 +9,7 @@
 
 namespace kinesta::testing {
 
-/// Pointer events that the test sends itself.
+/// Pointer events sent by the test.
 class FakePointerEvents final : public PointerEventMonitoring {
   public:
     ~FakePointerEvents() override { EXPECT_TRUE(m_monitors.empty()) << "a monitor was left behind"; }
@@ -29,7 +29,7 @@ class FakePointerEvents final : public PointerEventMonitoring {
     }
 
   protected:
-    void remove(std::uint64_t id) override { m_monitors.erase(id); }
+    void cancel(std::uint64_t id) override { m_monitors.erase(id); }
 
   private:
     std::uint64_t m_lastId = 0;

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -9,21 +10,22 @@
 
 namespace kinesta::testing {
 
-/// An element of a made-up interface, described in lines, each below the nearest one before it with less indentation:
+/// An element of a fake interface, described in lines. A line belongs to the nearest line above with less indentation:
 ///
 ///     AXFocusedWindow: window AXRole=AXWindow      the parent's attribute AXFocusedWindow, an element named "window"
-///       - sheet AXRole=AXSheet                     one of its parent's children
-///       - ?                                        a child that is no element
+///       - sheet AXRole=AXSheet                     a child
+///       - ?                                        a child that is not an element
 struct FakeNode {
     std::string name;
     std::map<std::string, std::string> words;
     std::map<std::string, std::shared_ptr<FakeNode>> elements;
     std::vector<std::shared_ptr<FakeNode>> children;
 
-    std::string word(const std::string& key, const std::string& otherwise = "") const {
+    std::optional<std::string> find(const std::string& key) const {
         const auto found = words.find(key);
-        return found == words.end() ? otherwise : found->second;
+        return found == words.end() ? std::nullopt : std::optional(found->second);
     }
+    std::string word(const std::string& key) const { return find(key).value_or(""); }
 
     /// The tree of `lines`, below a root with `rootWords`.
     static std::shared_ptr<FakeNode> parse(const std::string& lines, const std::string& rootWords = "") {

@@ -4,12 +4,12 @@
 
 namespace kinesta {
 
-/// Settings in memory that count what is written to them.
+/// Settings in memory that count writes.
 class FakeUserDefaults final : public InMemoryUserDefaults {
   public:
     using InMemoryUserDefaults::replaceValues;
 
-    /// Stores and removals so far.
+    /// Stores and removals.
     int writes = 0;
 
   protected:

@@ -8,8 +8,8 @@
 #include "support/FakeContactProvider.h"
 #include "support/FakePointerEvents.h"
 #include "support/FakeUserDefaults.h"
-#include "support/NumberText.h"
 #include "support/PadScript.h"
+#include "support/Text.h"
 #include "support/VirtualClock.h"
 #include "support/VirtualMainThread.h"
 

@@ -2,66 +2,57 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-#include <numeric>
-
 using namespace kinesta;
 
 namespace {
 
 using Four = InlineVector<int, 4>;
 
-std::vector<int> upTo(std::size_t count) {
-    std::vector<int> values(count);
-    std::iota(values.begin(), values.end(), 1);
-    return values;
+/// 1, 2, 3, … pushed one by one.
+Four upTo(std::size_t count) {
+    Four list;
+    while (list.size() < count)
+        list.push_back(static_cast<int>(list.size()) + 1);
+    return list;
 }
 
-std::vector<int> contents(const Four& list) { return {list.begin(), list.end()}; }
-
-bool isInPlace(const Four& list) {
+void expectUpTo(std::size_t count, const Four& list) {
+    ASSERT_EQ(list.size(), count);
+    for (std::size_t i = 0; i < count; ++i)
+        EXPECT_EQ(list[i], static_cast<int>(i) + 1);
     const auto* from = reinterpret_cast<const char*>(&list);
     const auto* data = reinterpret_cast<const char*>(list.data());
-    return data >= from && data < from + sizeof(list);
+    EXPECT_EQ(data >= from && data < from + sizeof(list), count <= 4) << "in place up to its capacity";
 }
 
 }  // namespace
 
-TEST(InlineVector, holdsAnyNumberAndStaysInPlaceUpToItsCapacity) {
+TEST(InlineVector, PushesCopiesAndAssignsAnyNumber) {
     for (std::size_t count = 0; count <= 9; ++count) {
-        SCOPED_TRACE(count);
-        Four pushed;
-        for (const int value : upTo(count))
-            pushed.push_back(value);
-        const Four copy = pushed;
+        const Four pushed = upTo(count);
+        expectUpTo(count, pushed);
+        expectUpTo(count, Four(pushed));
         Four assigned{9, 9, 9, 9, 9, 9};
-        assigned = copy;
+        assigned = pushed;
         assigned = *&assigned;
-        for (const Four* list : std::initializer_list<const Four*>{&pushed, &copy, &assigned}) {
-            EXPECT_EQ(contents(*list), upTo(count));
-            EXPECT_EQ(isInPlace(*list), count <= 4);
-        }
+        expectUpTo(count, assigned);
     }
 }
 
-TEST(InlineVector, truncatesAcrossItsCapacity) {
+TEST(InlineVector, TruncatesAcrossItsCapacity) {
     for (std::size_t from = 0; from <= 7; ++from)
         for (std::size_t to = 0; to <= from; ++to) {
             SCOPED_TRACE(testing::Message() << from << " to " << to);
             Four list{9, 9, 9, 9};
-            list.assign(upTo(from));
+            list.assign(upTo(from).view());
             list.truncate(to);
-            EXPECT_EQ(contents(list), upTo(to));
-            EXPECT_EQ(isInPlace(list), to <= 4);
-            Four same;
-            same.assign(upTo(to));
-            EXPECT_EQ(list, same);  // whatever lies behind the end
-            same.push_back(0);
-            EXPECT_NE(list, same);
-            for (std::size_t next = to; next < 6; ++next)  // and grows again
+            expectUpTo(to, list);
+            EXPECT_EQ(list, upTo(to)) << "what was cut off does not count";
+            EXPECT_NE(list, upTo(to + 1));
+            for (std::size_t next = to; next < 6; ++next)
                 list.push_back(static_cast<int>(next) + 1);
-            EXPECT_EQ(contents(list), upTo(std::max<std::size_t>(to, 6)));
+            expectUpTo(std::max<std::size_t>(to, 6), list);
             list.clear();
-            EXPECT_TRUE(list.empty() && isInPlace(list));
+            expectUpTo(0, list);
         }
 }

@@ -4,7 +4,7 @@
 
 namespace kinesta::testing {
 
-/// Stands still until it is advanced.
+/// A clock that moves only by advance().
 class ManualClock final : public Clock {
   public:
     Uptime uptime() const override { return m_now; }

@@ -11,7 +11,7 @@ namespace {
 
 using Heard = std::vector<std::string>;
 
-/// Notes what each observer is told, as "name=value".
+/// Logs each call of an observer as "name=value".
 class PublishedTest : public testing::Test {
   protected:
     Published<int>::Observer hear(std::string name, std::function<void(int)> then = {}) {
@@ -28,7 +28,7 @@ class PublishedTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(PublishedTest, tellsEveryChangeInTheOrderOfSubscription) {
+TEST_F(PublishedTest, CallsObserversInOrderOfSubscription) {
     const auto a = number.observe(hear("a"));
     auto b = number.observe(hear("b"));
     EXPECT_EQ(heard, Heard());
@@ -39,7 +39,7 @@ TEST_F(PublishedTest, tellsEveryChangeInTheOrderOfSubscription) {
     EXPECT_EQ(heard, (Heard{"a=7", "b=7", "a=8"}));
 }
 
-TEST_F(PublishedTest, aSubscriptionMayEndDuringNotification) {
+TEST_F(PublishedTest, LetsSubscriptionsEndDuringNotification) {
     Subscription own, later;
     own = number.observe(hear("own", [&](int) { own.end(); }));
     const auto killer = number.observe(hear("killer", [&](int) { later.end(); }));
@@ -49,7 +49,7 @@ TEST_F(PublishedTest, aSubscriptionMayEndDuringNotification) {
     EXPECT_EQ(heard, (Heard{"own=1", "killer=1", "killer=2"}));
 }
 
-TEST_F(PublishedTest, changesAndSubscriptionsMadeDuringNotificationAreToldOnce) {
+TEST_F(PublishedTest, DeliversNestedChangesOnce) {
     std::vector<Subscription> added;
     const auto before = number.observe(hear("before"));
     const auto setter = number.observe(hear("setter", [&](int value) {

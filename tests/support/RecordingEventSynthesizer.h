@@ -6,86 +6,67 @@
 #include <string>
 
 #include "actions/EventSynthesizer.h"
-#include "rules/ShortcutKey.h"
 #include "support/CallLog.h"
 #include "support/ManualClock.h"
 
 namespace kinesta::testing {
 
-/// Tells "+ key 8 down" when an event is made and "post ⌘ C down" when it is posted, with "-" for flags that were never
-/// set. Making what is named in `failing` ("source", "probe", "key 8 down", "center up", "system 8 a00 -1") fails.
+/// Logs "+ key 8 down" when an event is made and "post 100000 key 8 down" when it is posted: the flags in hexadecimal,
+/// or "-" if they were never set. Making anything named in `failing` fails ("source", "probe", "key 8 down",
+/// "center up at 1 2", "system 8 a00 -1").
 class RecordingEventSynthesizer final : public EventSynthesizer {
   public:
     RecordingEventSynthesizer(CallLog& log, ManualClock& clock) : m_log(log), m_clock(clock) {}
 
     std::set<std::string> failing;
     DesktopLocation pointer{640, 400.5};
-    /// How many sources and events were made and not released.
-    int alive = 0;
 
     std::unique_ptr<EventSource> makeSource() override {
-        return isMade("source", "") ? std::make_unique<Source>(alive) : nullptr;
+        return isMade("source", true) ? std::make_unique<EventSource>() : nullptr;
     }
     std::optional<DesktopLocation> probePointerLocation(EventSource* source) override {
-        return isMade("probe", from(source)) ? std::optional(pointer) : std::nullopt;
+        return isMade("probe", source) ? std::optional(pointer) : std::nullopt;
     }
     std::unique_ptr<SynthesizedEvent> makeKeyEvent(EventSource* source, std::uint16_t keyCode,
                                                    KeyTransition transition) override {
-        const std::string key = keyCode == 63 ? "fn" : ShortcutKey::nameFor(keyCode);
-        return event("key " + std::to_string(keyCode) + name(transition), from(source), key + name(transition));
+        return event("key " + std::to_string(keyCode) + name(transition), source);
     }
     std::unique_ptr<SynthesizedEvent> makeCenterButtonEvent(EventSource* source, KeyTransition transition,
                                                             DesktopLocation location) override {
         std::ostringstream text;
         text << "center" << name(transition) << " at " << location.x << ' ' << location.y;
-        return event("center" + name(transition), from(source), text.str());
+        return event(text.str(), source);
     }
     std::unique_ptr<SynthesizedEvent> makeSystemDefinedEvent(const SystemDefinedEvent& made) override {
         std::ostringstream text;
-        text << "system " << made.subtype << ' ' << std::hex << made.data1 << ' ' << std::dec << made.data2;
-        const std::string stale = made.timestamp == m_clock.uptime() ? "" : " stale";
+        text << "system " << made.subtype << ' ' << std::hex << made.data1 << ' ' << std::dec << made.data2
+             << (made.timestamp == m_clock.uptime() ? "" : " stale");
         m_clock.advance(0.0625);
-        return event(text.str(), stale, text.str() + stale);
+        return event(text.str(), true);
     }
 
   private:
-    struct Source final : EventSource {
-        explicit Source(int& count) : alive(count) { ++alive; }
-        ~Source() override { --alive; }
-        int& alive;
-    };
-
     struct Event final : SynthesizedEvent {
-        Event(RecordingEventSynthesizer& synthesizer, std::string text) : owner(synthesizer), what(std::move(text)) {
-            ++owner.alive;
-        }
-        ~Event() override { --owner.alive; }
+        Event(CallLog& calls, std::string text) : log(calls), what(std::move(text)) {}
         void setFlags(std::uint64_t value) override {
-            constexpr std::pair<std::uint64_t, const char*> kMasks[] = {
-                {0x800000, "fn"}, {0x040000, "⌃"}, {0x080000, "⌥"}, {0x020000, "⇧"}, {0x100000, "⌘"}, {0x200000, "#"}};
-            flags.clear();
-            for (const auto& [mask, symbol] : kMasks)
-                if ((value & mask) != 0)
-                    flags += symbol;
-            if (!flags.empty())
-                flags += ' ';
+            std::ostringstream text;
+            text << std::hex << value << ' ';
+            flags = text.str();
         }
         void setClickState(std::int64_t clickCount) override { flags = "click " + std::to_string(clickCount) + ' '; }
-        void post() override { owner.m_log.add("post " + flags + what); }
-        RecordingEventSynthesizer& owner;
+        void post() override { log.add("post " + flags + what); }
+        CallLog& log;
         std::string what;
         std::string flags = "- ";
     };
 
     static std::string name(KeyTransition transition) { return transition == KeyTransition::down ? " down" : " up"; }
-    static std::string from(const EventSource* source) { return source ? "" : " without source"; }
-
-    bool isMade(const std::string& what, const std::string& remark) {
-        m_log.add("+ " + what + remark);
+    bool isMade(const std::string& what, bool hasSource) {
+        m_log.add("+ " + what + (hasSource ? "" : " without source"));
         return !failing.contains(what);
     }
-    std::unique_ptr<SynthesizedEvent> event(const std::string& made, const std::string& remark, std::string posted) {
-        return isMade(made, remark) ? std::make_unique<Event>(*this, std::move(posted)) : nullptr;
+    std::unique_ptr<SynthesizedEvent> event(const std::string& what, bool hasSource) {
+        return isMade(what, hasSource) ? std::make_unique<Event>(m_log, what) : nullptr;
     }
 
     CallLog& m_log;

@@ -16,7 +16,7 @@ inline std::vector<std::string> split(const std::string& text, const std::string
     return parts;
 }
 
-/// The rows "left => right" of a table, one a line, with so many columns; empty lines do not count.
+/// The rows "left => right" of a table with this number of columns, one per line. Skips empty lines.
 inline std::vector<std::vector<std::string>> tableRows(const std::string& table, std::size_t columns = 2) {
     std::vector<std::vector<std::string>> rows;
     for (const std::string& line : split(table, "\n"))

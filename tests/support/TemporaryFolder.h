@@ -17,7 +17,7 @@ inline void writeText(const std::string& path, std::string_view text) {
     EXPECT_TRUE(file.flush()) << path;
 }
 
-/// A folder of a test's own, gone with everything in it at the end.
+/// A folder that is deleted with its contents at the end of the test.
 class TemporaryFolder {
   public:
     TemporaryFolder() {

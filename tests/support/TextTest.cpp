@@ -6,29 +6,28 @@
 
 using namespace kinesta;
 
-TEST(Text, trimsWhiteSpaceAndLineBreaksOfAllScripts) {
+TEST(Text, TrimsUnicodeWhiteSpaceAndLineBreaks) {
     const std::pair<std::string_view, std::string_view> cases[] = {
         {"", ""},
         {" \t\r\n\v\f", ""},
         {"\u0085\u00A0\u1680\u2000\u200A\u2028\u2029\u202F\u205F\u3000", ""},
         {"\u3000 a \u00A0b\u2009\n", "a \u00A0b"},
-        {"\u200Ba\uFEFF", "\u200Ba\uFEFF"},  // no width, but no white space either
-        {"\u180Ea\x1F", "\u180Ea\x1F"},      // once white space, and a control character
-        {"\u00E0 \u00E5", "\u00E0 \u00E5"},  // their bytes A0 and 85 are no blanks
-        {"\x85\xA0", "\x85\xA0"},            // nor are these alone: not UTF-8
-        {std::string_view("\0 x \0", 5), std::string_view("\0 x \0", 5)},
+        {"\u200Ba\uFEFF", "\u200Ba\uFEFF"},  // zero width is not white space
+        {"\u180Ea\x1F", "\u180Ea\x1F"},      // nor are a former separator and a control character
+        {"\u00E0 \u00E5", "\u00E0 \u00E5"},  // contain the bytes A0 and 85
+        {"\x85\xA0", "\x85\xA0"},            // not UTF-8
     };
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(trimmed(text), expected) << testing::PrintToString(text);
 }
 
-TEST(Text, lowersAsciiOnly) { EXPECT_EQ(lowerCased("AZ[@`az\u00C4\u0130"), "az[@`az\u00C4\u0130"); }
+TEST(Text, LowersAsciiOnly) { EXPECT_EQ(lowerCased("AZ[@`az\u00C4\u0130"), "az[@`az\u00C4\u0130"); }
 
-TEST(Text, tellsWellFormedUtf8) {
+TEST(Text, RecognizesWellFormedUtf8) {
     std::istringstream good(
         "\x7F \xC2\x80 \xDF\xBF \xE0\xA0\x80 \xED\x9F\xBF \xEE\x80\x80 \xEF\xBF\xBF \xF0\x90\x80\x80 "
         "\xF4\x8F\xBF\xBF");
-    // Alone or with a wrong lead; overlong, surrogate, too large; cut off; followed by no continuation.
+    // Wrong lead byte; overlong, surrogate, too large; cut off; followed by no continuation.
     std::istringstream bad(
         "\x80 \xBF \xFF \xC1\xBF \xE0\x9F\xBF \xF0\x8F\xBF\xBF \xED\xA0\x80 \xF4\x90\x80\x80 \xF5\x80\x80\x80 "
         "\xC2 \xE1\x80 \xF1\x80\x80 \xC2\x41 \xE1\x80\xC0 \xF1\x80\x80\x7F");

@@ -5,7 +5,6 @@
 #include <thread>
 
 #include "actions/KeyboardLayoutResolver.h"
-#include "actions/LetterCase.h"
 #include "platform/linux/DesktopFacts.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopPermission.h"
@@ -26,6 +25,7 @@
 #include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XdgWorkspace.h"
 #include "platform/linux/XkbKeyboardLayout.h"
+#include "support/Text.h"
 
 namespace kinesta {
 namespace {
@@ -106,13 +106,13 @@ InProcessNotifications& LinuxActions::notifications() { return m_parts->notifica
 WindowOutcomes& LinuxActions::windowOutcomes() { return m_parts->outcomes; }
 
 bool LinuxActions::typesLetterOf(std::uint16_t keyCode, const std::string& name) {
-    const std::string letter = lowerCasedLetters(name);
+    const std::string letter = lowerCased(name);
     if (letter.size() != 1 || letter[0] < 'a' || letter[0] > 'z')
         return true;
     const std::uint16_t posted = KeyboardLayoutResolver(m_parts->layout).keyCode(name, keyCode);
     const auto layouts = m_parts->layout.charactersOfLayouts();
     return layouts.empty() || std::ranges::any_of(layouts, [&](const KeyboardLayoutCharacters& characters) {
-               return posted < characters.size() && lowerCasedLetters(characters[posted]) == letter;
+               return posted < characters.size() && lowerCased(characters[posted]) == letter;
            });
 }
 

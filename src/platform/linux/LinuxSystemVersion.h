@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/SystemVersion.h"
+#include "support/SystemVersion.h"
 
 namespace kinesta {
 

@@ -16,7 +16,7 @@ struct WindowCloseExecutorTest : ::testing::Test {
     bool closes() { return WindowCloseExecutor(desktop.ports()).execute(); }
 };
 
-TEST_F(WindowCloseExecutorTest, AsksInOrderAndPressesTheCloseButton) {
+TEST_F(WindowCloseExecutorTest, PressesTheCloseButtonAfterAllChecks) {
     desktop.accessibility.describe(R"(
         AXFocusedWindow: window AXRole=AXWindow AXMinimized=no
           - group AXRole=AXGroup
@@ -30,7 +30,7 @@ TEST_F(WindowCloseExecutorTest, AsksInOrderAndPressesTheCloseButton) {
                      "? AXEnabled of button", "? frontmost", "AXPress button"}));
 }
 
-TEST_F(WindowCloseExecutorTest, LeavesAWindowAloneThatIsNotExactlyAsExpectedAndAsksNoFurther) {
+TEST_F(WindowCloseExecutorTest, StopsAtTheFirstUnexpectedAnswer) {
     const std::vector<std::pair<std::string, std::string>> rows{
         {"" + kButton, "? AXRole of window"},
         {"AXRole=AXDialog" + kButton, "? AXRole of window"},
@@ -48,7 +48,7 @@ TEST_F(WindowCloseExecutorTest, LeavesAWindowAloneThatIsNotExactlyAsExpectedAndA
     }
 }
 
-TEST_F(WindowCloseExecutorTest, TakesWhatCannotBeReadAsHarmlessAndTheMainWindowForTheFocusedOne) {
+TEST_F(WindowCloseExecutorTest, IgnoresUnreadableAttributesAndFallsBackToTheMainWindow) {
     for (const std::string window :
          {"AXMinimized=! AXChildren=!", "AXMinimized=*", "AXMinimized=text AXChildren=[]",
           // Only the roles of the window's own children count.
@@ -56,39 +56,38 @@ TEST_F(WindowCloseExecutorTest, TakesWhatCannotBeReadAsHarmlessAndTheMainWindowF
         desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow " + window + kButton);
         EXPECT_TRUE(closes()) << window;
     }
-    // A timeout that cannot be set is no reason to stop.
     for (const std::string application :
          {"timeout=no", "AXFocusedWindow=!", "AXFocusedWindow=text", "AXFocusedWindow=[]"}) {
         desktop.accessibility.describe("AXMainWindow: AXRole=AXWindow" + kButton, application);
         EXPECT_TRUE(closes()) << application;
     }
-    // An application that hangs is waited for as long as the timeout says, for each of the two windows.
+    // A hanging application costs the timeout for each of the two windows.
     const Uptime before = desktop.clock.uptime();
     desktop.accessibility.describe("AXMainWindow: AXRole=AXWindow" + kButton, "AXFocusedWindow=@9 AXMainWindow=@9");
     EXPECT_FALSE(closes());
     EXPECT_EQ(desktop.clock.uptime() - before, 1.0);
 }
 
-TEST_F(WindowCloseExecutorTest, PressesNothingIfTheFrontmostApplicationIsNoLongerTheSame) {
+TEST_F(WindowCloseExecutorTest, PressesNothingOnceAnotherApplicationIsInFront) {
     desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow" + kButton);
     const std::vector<std::vector<std::optional<ProcessIdentifier>>> changes{{std::nullopt},    {9},    {7, 9},
                                                                              {7, std::nullopt}, {7, 1}, {7, 7, 9}};
     for (const auto& frontmost : changes) {
-        desktop.workspace.frontmost = frontmost;
-        const bool isSame = frontmost.size() == 3;  // until the press
-        EXPECT_EQ(closes(), isSame);
-        EXPECT_EQ(desktop.log.takeEffects(), isSame ? Calls{"AXPress button"} : Calls{});
+        desktop.frontmost = frontmost;
+        const bool isPressed = frontmost.size() == 3;  // changes only after the press
+        EXPECT_EQ(closes(), isPressed);
+        EXPECT_EQ(desktop.log.takeEffects(), isPressed ? Calls{"AXPress button"} : Calls{});
     }
-    desktop.workspace.frontmost = {7};
+    desktop.frontmost = {7};
     desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow" + kButton + " AXPress=no");
     EXPECT_FALSE(closes());
     EXPECT_EQ(desktop.log.takeEffects(), Calls{"AXPress button"});
-    desktop.permission.isGranted = false;
+    desktop.isGranted = false;
     EXPECT_FALSE(closes());
     EXPECT_EQ(desktop.log.take(), Calls{"? trusted"});
 }
 
-TEST_F(WindowCloseExecutorTest, ClosesItsOwnWindowUnlessItIsAPanelPutAwayOrBusyWithADialog) {
+TEST_F(WindowCloseExecutorTest, ClosesOwnWindowsButNotPanelsMiniaturizedOrWithASheet) {
     const auto none = std::nullopt;
     const std::vector<std::tuple<std::optional<std::string>, std::optional<std::string>, Calls>> rows{
         {"key button", "main button", {"close own key button"}},
@@ -97,13 +96,13 @@ TEST_F(WindowCloseExecutorTest, ClosesItsOwnWindowUnlessItIsAPanelPutAwayOrBusyW
         {"key", none, {}},
         {"button miniaturized", none, {}},
         {none, "button sheet", {}},
-        // What takes the keys decides: the main window behind a panel stays.
+        // The main window behind a panel stays.
         {"button panel", "main button", {}},
     };
-    desktop.workspace.frontmost = {1};
+    desktop.frontmost = {1};
     for (const auto& [key, main, effects] : rows) {
-        desktop.windows.key = key;
-        desktop.windows.main = main;
+        desktop.ownKeyWindow = key;
+        desktop.ownMainWindow = main;
         EXPECT_EQ(closes(), !effects.empty());
         EXPECT_EQ(desktop.log.takeEffects(), effects);
     }
