@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "input/ContactIdSet.h"
-#include "input/EvdevFrameAssembler.h"
+#include "input/evdev/EvdevFrameAssembler.h"
 #include "require.h"
 
 using namespace kinesta;

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "input/RecordingReading.h"
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingReading.h"
+#include "input/recording/RecordingWriter.h"
 #include "require.h"
 
 using namespace kinesta;

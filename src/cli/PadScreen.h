@@ -6,7 +6,7 @@
 
 #include "cli/Console.h"
 #include "cli/PadPicture.h"
-#include "input/RecordingEvent.h"
+#include "input/recording/RecordingEvent.h"
 #include "platform/linux/Terminal.h"
 
 namespace kinesta {

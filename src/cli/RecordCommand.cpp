@@ -8,7 +8,7 @@
 #include "cli/OutputFile.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingWriter.h"
 #include "recognition/StoredRecognitionSettings.h"
 #include "support/SteadyClock.h"
 

@@ -11,7 +11,7 @@
 #include "cli/RecordingFile.h"
 #include "cli/RuleFile.h"
 #include "cli/StoredSettings.h"
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingWriter.h"
 #include "platform/linux/LinuxActionSettings.h"
 #include "platform/linux/LinuxActions.h"
 #include "rules/RuleStore.h"

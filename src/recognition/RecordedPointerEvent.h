@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "input/RecordingEvent.h"
+#include "input/recording/RecordingEvent.h"
 #include "recognition/PointerEventMonitoring.h"
 
 namespace kinesta {

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "input/RecordingEvent.h"
+#include "input/recording/RecordingEvent.h"
 
 namespace kinesta::testing {
 

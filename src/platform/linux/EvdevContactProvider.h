@@ -5,8 +5,8 @@
 #include <thread>
 #include <utility>
 
-#include "input/RecordingEvent.h"
 #include "input/TrackpadContactProviding.h"
+#include "input/recording/RecordingEvent.h"
 #include "platform/linux/EvdevReader.h"
 #include "support/MainThread.h"
 

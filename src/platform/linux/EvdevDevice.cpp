@@ -11,7 +11,7 @@
 #include <ctime>
 #include <utility>
 
-#include "input/EvdevCodes.h"
+#include "input/evdev/EvdevCodes.h"
 #include "platform/linux/DeviceAccess.h"
 
 namespace kinesta {

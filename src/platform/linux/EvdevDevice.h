@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "input/EvdevFrameAssembler.h"
-#include "input/PressureStageTracker.h"
-#include "input/RecordingEvent.h"
+#include "input/evdev/EvdevFrameAssembler.h"
+#include "input/evdev/PressureStageTracker.h"
+#include "input/recording/RecordingEvent.h"
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/TouchpadCandidate.h"
 #include "support/Result.h"

@@ -1,4 +1,4 @@
-#include "input/JsonScanner.h"
+#include "input/recording/JsonScanner.h"
 
 #include <algorithm>
 #include <charconv>

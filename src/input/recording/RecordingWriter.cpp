@@ -1,4 +1,4 @@
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingWriter.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "input/YamlEvents.h"
+#include "input/recording/YamlEvents.h"
 
 #include <yaml.h>
 

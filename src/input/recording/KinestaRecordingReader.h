@@ -2,10 +2,10 @@
 
 #include <memory>
 
-#include "input/RecordingFormat.h"
-#include "input/RecordingInput.h"
-#include "input/RecordingLineDecoder.h"
-#include "input/RecordingReading.h"
+#include "input/recording/RecordingFormat.h"
+#include "input/recording/RecordingInput.h"
+#include "input/recording/RecordingLineDecoder.h"
+#include "input/recording/RecordingReading.h"
 
 namespace kinesta {
 

@@ -6,11 +6,11 @@
 #include <optional>
 #include <string_view>
 
-#include "input/EvdevDescription.h"
-#include "input/EvdevRecordingEvents.h"
-#include "input/RecordingInput.h"
-#include "input/RecordingReading.h"
-#include "input/YamlEvents.h"
+#include "input/evdev/EvdevDescription.h"
+#include "input/evdev/EvdevRecordingEvents.h"
+#include "input/recording/RecordingInput.h"
+#include "input/recording/RecordingReading.h"
+#include "input/recording/YamlEvents.h"
 
 namespace kinesta {
 

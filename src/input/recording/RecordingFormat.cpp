@@ -1,4 +1,4 @@
-#include "input/RecordingFormat.h"
+#include "input/recording/RecordingFormat.h"
 
 #include "support/NumberText.h"
 

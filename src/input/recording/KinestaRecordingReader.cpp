@@ -1,4 +1,4 @@
-#include "input/KinestaRecordingReader.h"
+#include "input/recording/KinestaRecordingReader.h"
 
 #include <utility>
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "input/EvdevFrameAssembler.h"
+#include "input/evdev/EvdevFrameAssembler.h"
 
 namespace kinesta {
 

@@ -1,4 +1,4 @@
-#include "input/PressureStageTracker.h"
+#include "input/evdev/PressureStageTracker.h"
 
 namespace kinesta {
 

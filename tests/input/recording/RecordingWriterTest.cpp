@@ -1,4 +1,4 @@
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 
 #include "RecordingText.h"
 #include "StreamFakes.h"
-#include "input/ReplayContactProvider.h"
+#include "input/recording/ReplayContactProvider.h"
 
 namespace kinesta {
 namespace {

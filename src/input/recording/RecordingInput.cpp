@@ -1,4 +1,4 @@
-#include "input/RecordingInput.h"
+#include "input/recording/RecordingInput.h"
 
 #include <algorithm>
 #include <cstring>

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "input/EvdevContactMatcher.h"
-#include "input/RecordingEvent.h"
+#include "input/evdev/EvdevContactMatcher.h"
+#include "input/recording/RecordingEvent.h"
 
 namespace kinesta {
 

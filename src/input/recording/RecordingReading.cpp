@@ -1,13 +1,13 @@
-#include "input/RecordingReading.h"
+#include "input/recording/RecordingReading.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "input/EvemuRecordingReader.h"
-#include "input/KinestaRecordingReader.h"
-#include "input/LibinputRecordingReader.h"
-#include "input/RecordingInput.h"
+#include "input/recording/EvemuRecordingReader.h"
+#include "input/recording/KinestaRecordingReader.h"
+#include "input/recording/LibinputRecordingReader.h"
+#include "input/recording/RecordingInput.h"
 
 namespace kinesta {
 namespace {

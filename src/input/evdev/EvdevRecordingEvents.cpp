@@ -1,4 +1,4 @@
-#include "input/EvdevRecordingEvents.h"
+#include "input/evdev/EvdevRecordingEvents.h"
 
 namespace kinesta {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "input/EvdevFrameAssembler.h"
-#include "input/RecordingFormat.h"
+#include "input/evdev/EvdevFrameAssembler.h"
+#include "input/recording/RecordingFormat.h"
 
 namespace kinesta {
 

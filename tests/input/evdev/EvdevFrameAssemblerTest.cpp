@@ -5,9 +5,9 @@
 #include <map>
 #include <sstream>
 
-#include "RecordingText.h"
-#include "input/EvdevCodes.h"
-#include "input/EvdevFrameAssembler.h"
+#include "../recording/RecordingText.h"
+#include "input/evdev/EvdevCodes.h"
+#include "input/evdev/EvdevFrameAssembler.h"
 #include "support/TableRows.h"
 
 namespace kinesta {

@@ -1,4 +1,4 @@
-#include "input/EvemuRecordingReader.h"
+#include "input/recording/EvemuRecordingReader.h"
 
 #include <algorithm>
 #include <charconv>

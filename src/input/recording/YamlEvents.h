@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "input/RecordingInput.h"
+#include "input/recording/RecordingInput.h"
 
 struct yaml_parser_s;
 

@@ -1,8 +1,8 @@
-#include "input/EvdevDescription.h"
+#include "input/evdev/EvdevDescription.h"
 
 #include <algorithm>
 
-#include "input/EvdevCodes.h"
+#include "input/evdev/EvdevCodes.h"
 
 namespace kinesta {
 

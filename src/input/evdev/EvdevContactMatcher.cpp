@@ -1,4 +1,4 @@
-#include "input/EvdevContactMatcher.h"
+#include "input/evdev/EvdevContactMatcher.h"
 
 #include <algorithm>
 #include <limits>

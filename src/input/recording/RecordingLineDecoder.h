@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "input/JsonScanner.h"
-#include "input/RecordingEvent.h"
-#include "input/RecordingReading.h"
+#include "input/recording/JsonScanner.h"
+#include "input/recording/RecordingEvent.h"
+#include "input/recording/RecordingReading.h"
 
 namespace kinesta {
 

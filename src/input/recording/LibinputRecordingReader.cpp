@@ -1,4 +1,4 @@
-#include "input/LibinputRecordingReader.h"
+#include "input/recording/LibinputRecordingReader.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 #include <system_error>
 #include <utility>
 
-#include "input/EvdevCodes.h"
+#include "input/evdev/EvdevCodes.h"
 
 namespace kinesta {
 namespace {

@@ -3,9 +3,9 @@
 #include <ostream>
 #include <string>
 
-#include "input/RecordingEvent.h"
-#include "input/RecordingFormat.h"
-#include "input/RecordingReading.h"
+#include "input/recording/RecordingEvent.h"
+#include "input/recording/RecordingFormat.h"
+#include "input/recording/RecordingReading.h"
 #include "support/Result.h"
 
 namespace kinesta {

@@ -1,10 +1,10 @@
-#include "input/RecordingLineDecoder.h"
+#include "input/recording/RecordingLineDecoder.h"
 
 #include <algorithm>
 #include <limits>
 #include <utility>
 
-#include "input/RecordingFormat.h"
+#include "input/recording/RecordingFormat.h"
 
 namespace kinesta {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "input/RecordingEvent.h"
+#include "input/recording/RecordingEvent.h"
 #include "support/Result.h"
 
 namespace kinesta {

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "input/RecordingReading.h"
+#include "input/recording/RecordingReading.h"
 #include "support/NumberText.h"
 #include "support/TemporaryFolder.h"
 

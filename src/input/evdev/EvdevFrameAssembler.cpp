@@ -1,10 +1,10 @@
-#include "input/EvdevFrameAssembler.h"
+#include "input/evdev/EvdevFrameAssembler.h"
 
 #include <algorithm>
 #include <limits>
 #include <utility>
 
-#include "input/EvdevCodes.h"
+#include "input/evdev/EvdevCodes.h"
 
 namespace kinesta {
 namespace {
