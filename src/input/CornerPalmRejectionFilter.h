@@ -30,8 +30,8 @@ class CornerPalmRejectionFilter {
     void takeChangedContacts(std::span<const TouchSample> samples);
 
     CornerPalmRejectionSettings m_settings;
-    ContactIdSet m_tracked;   // the contacts of the frame before
-    ContactIdSet m_rejected;  // those of them that are palms
+    ContactIdSet m_trackedIDs;   // the contacts of the frame before
+    ContactIdSet m_rejectedIDs;  // those of them that are palms
     TouchSamples m_kept;
 };
 

@@ -16,7 +16,7 @@ FrameRecognition TouchFrameProcessor::process(std::span<const TouchSample> sampl
     m_rawContactCount = samples.size();
     if (m_suppressUntilRawLift) {
         m_suppressUntilRawLift = m_rawContactCount > 0;
-        return {};
+        return FrameRecognition::empty;
     }
     const std::span<const TouchSample> filtered = m_cornerPalmFilter.process(samples);
     rememberContacts(filtered, receivedAt);
@@ -25,7 +25,7 @@ FrameRecognition TouchFrameProcessor::process(std::span<const TouchSample> sampl
             m_suppressTapUntilLift = false;
             clearContactState();
         }
-        return {};
+        return FrameRecognition::empty;
     }
     return recognize(filtered, timestamp);
 }

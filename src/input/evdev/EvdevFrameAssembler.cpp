@@ -96,7 +96,7 @@ void EvdevFrameAssembler::setButton(bool& isDown, std::int32_t value) {
     if (becomesDown == isDown || m_buttonEvents.size() == kMaximumButtonEvents)
         return;
     isDown = becomesDown;
-    m_buttonEvents.push_back(becomesDown ? RecordedPointer::down : RecordedPointer::up);
+    m_buttonEvents.push_back(becomesDown ? PadButton::down : PadButton::up);
 }
 
 void EvdevFrameAssembler::takeAxis(const EvdevEvent& event) {
@@ -148,8 +148,8 @@ void EvdevFrameAssembler::setTrackingId(Slot& slot, std::int32_t trackingId) {
 }
 
 void EvdevFrameAssembler::deliver(Seconds time, const Sink& sink) {
-    RecordingEvent event{time, RecordedFrame{}};
-    TouchSamples& samples = std::get_if<RecordedFrame>(&event.content)->samples;
+    PadEvent event{time, PadFrame{}};
+    TouchSamples& samples = std::get_if<PadFrame>(&event.content)->samples;
     switch (m_protocol) {
         case Protocol::slots:
             collectSlots(samples);
@@ -167,7 +167,7 @@ void EvdevFrameAssembler::deliver(Seconds time, const Sink& sink) {
         sink(event);
     const auto buttonEvents = m_buttonEvents;
     m_buttonEvents.clear();
-    for (const RecordedPointer pointer : buttonEvents)
+    for (const PadButton pointer : buttonEvents)
         sink({time, pointer});
 }
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "input/PadEvent.h"
 #include "input/evdev/EvdevContactMatcher.h"
-#include "input/recording/RecordingEvent.h"
 
 namespace kinesta {
 
@@ -54,10 +54,10 @@ class EvdevFrameAssembler {
 
     explicit EvdevFrameAssembler(EvdevTouchpad touchpad);
 
-    using Sink = std::function<void(const RecordingEvent&)>;
+    using Sink = std::function<void(const PadEvent&)>;
 
-    /// Takes one event. At each SYN_REPORT, `sink` gets the frame (as a RecordedFrame) if a finger is on the pad or
-    /// the last one has just lifted, then the button events of the report (as RecordedPointer) in their order: the
+    /// Takes one event. At each SYN_REPORT, `sink` gets the frame (as a PadFrame) if a finger is on the pad or
+    /// the last one has just lifted, then the button events of the report (as PadButton) in their order: the
     /// frame tells how many fingers rested when the button went down. All have the time of the SYN_REPORT.
     ///
     /// After SYN_DROPPED, what comes up to the next SYN_REPORT is ignored and the state stays; whoever reads a live
@@ -114,7 +114,7 @@ class EvdevFrameAssembler {
     std::array<bool, 5> m_fingerKeys{};
     bool m_isLeftDown = false;
     bool m_isRightDown = false;
-    InlineVector<RecordedPointer, kMaximumButtonEvents> m_buttonEvents;
+    InlineVector<PadButton, kMaximumButtonEvents> m_buttonEvents;
 };
 
 }  // namespace kinesta

@@ -7,7 +7,7 @@ std::optional<std::string> EvdevRecordingEvents::process(const EvdevEvent& event
         return problem;
     m_ready.clear();
     m_taken = 0;
-    m_assembler.process(event, [this](const RecordingEvent& made) { m_ready.push_back(made); });
+    m_assembler.process(event, [this](const PadEvent& made) { m_ready.push_back(made); });
     return std::nullopt;
 }
 

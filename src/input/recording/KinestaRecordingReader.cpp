@@ -25,7 +25,7 @@ Result<std::optional<RecordingEvent>> KinestaRecordingReader::next() {
     auto event = m_decoder.event(**line);
     if (!event)
         return m_input->fail(event.error().message);
-    if (const auto problem = m_order.take(event->time))
+    if (const auto problem = m_order.take(eventTime(*event)))
         return m_input->fail(*problem);
     return std::optional<RecordingEvent>(std::move(*event));
 }

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <variant>
 
-#include "input/TrackpadContactFrame.h"
+#include "input/PadEvent.h"
 
 namespace kinesta {
 
-/// The settings that a recording may change; what is absent stays as it is.
+/// The settings that a recording may change; an absent one stays as it is.
 struct RecordedSettings {
     std::optional<bool> gesturesEnabled = std::nullopt;
     /// 150, 200, 250, 300 or 400.
@@ -19,29 +18,18 @@ struct RecordedSettings {
     friend bool operator==(const RecordedSettings&, const RecordedSettings&) = default;
 };
 
-struct RecordedFrame {
-    TouchSamples samples;
-    /// Uptime of the frame's arrival, where it is not the frame's own time.
-    std::optional<Uptime> received;
-
-    friend bool operator==(const RecordedFrame&, const RecordedFrame&) = default;
-};
-
-enum class RecordedPointer { down, up };
-
-struct RecordedPressure {
-    std::int64_t stage = 0;
-
-    friend bool operator==(const RecordedPressure&, const RecordedPressure&) = default;
-};
-
-/// One line of a recording.
-struct RecordingEvent {
-    /// When it happened, in seconds; never less than the event before.
+struct SettingsChange {
     Seconds time = 0;
-    std::variant<RecordedFrame, RecordedPointer, RecordedPressure, RecordedSettings> content;
+    RecordedSettings settings;
 
-    friend bool operator==(const RecordingEvent&, const RecordingEvent&) = default;
+    friend bool operator==(const SettingsChange&, const SettingsChange&) = default;
 };
+
+/// One line of a recording. Times never decrease from line to line.
+using RecordingEvent = std::variant<PadEvent, SettingsChange>;
+
+inline Seconds eventTime(const RecordingEvent& event) {
+    return std::visit([](const auto& e) { return e.time; }, event);
+}
 
 }  // namespace kinesta

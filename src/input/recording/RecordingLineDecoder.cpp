@@ -85,6 +85,8 @@ bool RecordingLineDecoder::takeHeader(JsonScanner& json, RecordingHeader& header
 }
 
 bool RecordingLineDecoder::takeEvent(JsonScanner& json, RecordingEvent& event) {
+    auto& [time, content] = std::get<PadEvent>(event);
+    std::optional<RecordedSettings> settings;
     bool hasTime = false;
     int contents = 0;
     std::optional<Seconds> received;
@@ -95,28 +97,28 @@ bool RecordingLineDecoder::takeEvent(JsonScanner& json, RecordingEvent& event) {
     while (const auto key = json.nextKey()) {
         if (*key == "t") {
             hasTime = true;
-            if (std::string problem = takeTime(json, *key, event.time); !problem.empty())
+            if (std::string problem = takeTime(json, *key, time); !problem.empty())
                 return fail(std::move(problem));
         } else if (*key == "touches") {
             ++contents;
-            if (!takeTouches(json, std::get<0>(event.content = RecordedFrame{}).samples))
+            if (!takeTouches(json, content.emplace<PadFrame>().samples))
                 return false;
         } else if (*key == "received") {
             // Judged only once it is known to stand beside touches: elsewhere it is a key like any unknown one.
             receivedProblem = takeTime(json, *key, received.emplace());
         } else if (*key == "pointer") {
             ++contents;
-            if (!takePointer(json, event.content.emplace<RecordedPointer>()))
+            if (!takeButton(json, content.emplace<PadButton>()))
                 return false;
         } else if (*key == "pressure") {
             ++contents;
             const auto number = json.kind() == Kind::number ? json.number() : std::nullopt;
             if (!number || !number->integer)
                 return fail("\"pressure\" is not a whole number");
-            event.content = RecordedPressure{*number->integer};
+            content = PadPressure{*number->integer};
         } else if (*key == "settings") {
             ++contents;
-            if (!takeSettings(json, event.content.emplace<RecordedSettings>()))
+            if (!takeSettings(json, settings.emplace()))
                 return false;
         } else {
             json.skipValue();
@@ -129,7 +131,9 @@ bool RecordingLineDecoder::takeEvent(JsonScanner& json, RecordingEvent& event) {
     if (contents != 1)
         return fail(std::string(contents == 0 ? "none" : "more than one") +
                     " of \"touches\", \"pointer\", \"pressure\" and \"settings\" is given");
-    if (auto* frame = std::get_if<RecordedFrame>(&event.content)) {
+    if (settings) {
+        event = SettingsChange{time, *settings};
+    } else if (auto* frame = std::get_if<PadFrame>(&content)) {
         if (!receivedProblem.empty())
             return fail(receivedProblem);
         frame->received = received;
@@ -199,11 +203,11 @@ bool RecordingLineDecoder::areIdsUnique(const TouchSamples& samples) {
     return std::adjacent_find(m_ids.begin(), m_ids.end()) == m_ids.end();
 }
 
-bool RecordingLineDecoder::takePointer(JsonScanner& json, RecordedPointer& pointer) {
+bool RecordingLineDecoder::takeButton(JsonScanner& json, PadButton& button) {
     const auto text = json.kind() == Kind::string ? json.string() : std::nullopt;
     if (text != "down" && text != "up")
         return fail("\"pointer\" is neither \"down\" nor \"up\"");
-    pointer = text == "down" ? RecordedPointer::down : RecordedPointer::up;
+    button = text == "down" ? PadButton::down : PadButton::up;
     return true;
 }
 

@@ -25,7 +25,7 @@ class RecordingLineDecoder {
     bool takeTouches(JsonScanner& json, TouchSamples& samples);
     bool takeTouch(JsonScanner& json, TouchSample& sample);
     bool areIdsUnique(const TouchSamples& samples);
-    bool takePointer(JsonScanner& json, RecordedPointer& pointer);
+    bool takeButton(JsonScanner& json, PadButton& button);
     bool takeSettings(JsonScanner& json, RecordedSettings& settings);
     bool takeBoolean(JsonScanner& json, std::string_view key, std::optional<bool>& value);
     bool fail(std::string problem);

@@ -13,7 +13,7 @@ namespace {
 // Each appends its part of a line, and answers what the format cannot hold of it, or nothing.
 using Problem = std::optional<std::string>;
 
-Problem append(std::string& line, const RecordedFrame& frame) {
+Problem append(std::string& line, const PadFrame& frame) {
     line += "\"touches\":[";
     for (const TouchSample& sample : frame.samples) {
         if (!std::isfinite(sample.position.x) || !std::isfinite(sample.position.y))
@@ -37,12 +37,12 @@ Problem append(std::string& line, const RecordedFrame& frame) {
     return std::nullopt;
 }
 
-Problem append(std::string& line, RecordedPointer pointer) {
-    line += pointer == RecordedPointer::down ? "\"pointer\":\"down\"" : "\"pointer\":\"up\"";
+Problem append(std::string& line, PadButton button) {
+    line += button == PadButton::down ? "\"pointer\":\"down\"" : "\"pointer\":\"up\"";
     return std::nullopt;
 }
 
-Problem append(std::string& line, const RecordedPressure& pressure) {
+Problem append(std::string& line, const PadPressure& pressure) {
     line += "\"pressure\":" + std::to_string(pressure.stage);
     return std::nullopt;
 }
@@ -99,12 +99,14 @@ Outcome RecordingWriter::writeHeader(const RecordingHeader& header) {
 
 Outcome RecordingWriter::write(const RecordingEvent& event) {
     m_line = "{\"t\":";
-    appendNumber(m_line, event.time);
+    appendNumber(m_line, eventTime(event));
     m_line += ",";
+    const auto appendContent = [this](const auto& content) { return append(m_line, content); };
+    const auto* change = std::get_if<SettingsChange>(&event);
     if (const Problem problem =
-            std::visit([this](const auto& content) { return append(m_line, content); }, event.content))
+            change ? appendContent(change->settings) : std::visit(appendContent, std::get<PadEvent>(event).content))
         return refusal(*problem);
-    if (const Problem problem = m_order.take(event.time))
+    if (const Problem problem = m_order.take(eventTime(event)))
         return refusal(*problem);
     m_line += "}\n";
     return writeLine();

@@ -6,6 +6,13 @@
 #include <utility>
 
 namespace kinesta {
+namespace {
+
+std::size_t lineBreaks(std::string_view text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+}  // namespace
 
 void YamlEvents::Deleter::operator()(yaml_parser_s* parser) const {
     yaml_parser_delete(parser);
@@ -14,7 +21,7 @@ void YamlEvents::Deleter::operator()(yaml_parser_s* parser) const {
 
 YamlEvents::YamlEvents(RecordingInput& input) : m_input(input) {
     auto parser = std::make_unique<yaml_parser_t>();
-    // It fails only for want of memory, for which the rest of the program has no answer either.
+    // It fails only without memory.
     if (!yaml_parser_initialize(parser.get())) {
         fail("there is not enough memory");
         return;
@@ -24,13 +31,13 @@ YamlEvents::YamlEvents(RecordingInput& input) : m_input(input) {
     yaml_parser_set_encoding(m_parser.get(), YAML_UTF8_ENCODING);
 }
 
-// The parser collects a value, however long, before it gives it out: what it may take for one piece is limited here.
+// The parser collects a whole value before it returns it: the limit of its length is kept here.
 int YamlEvents::read(void* data, unsigned char* target, std::size_t capacity, std::size_t* size) {
     YamlEvents& self = *static_cast<YamlEvents*>(data);
-    self.m_linesBefore += static_cast<std::size_t>(std::count(self.m_lastRead.begin(), self.m_lastRead.end(), '\n'));
-    self.m_bytesBefore += self.m_lastRead.size();
     *size = self.m_input.read(reinterpret_cast<char*>(target), capacity);
-    self.m_lastRead.assign(reinterpret_cast<const char*>(target), *size);
+    self.m_lastRead = {reinterpret_cast<const char*>(target), *size};
+    self.m_bytesRead += *size;
+    self.m_linesRead += lineBreaks(self.m_lastRead);
     self.m_readSincePiece += *size;
     self.m_isTooLong = self.m_readSincePiece > RecordingInput::kMaximumLine;
     return self.m_isTooLong || self.m_input.isBroken() ? 0 : 1;
@@ -83,11 +90,10 @@ YamlEvents::Kind YamlEvents::next() {
     }
 }
 
-// Of bytes that are no text the parser tells no line. They are met as soon as they are read.
+// The parser gives no line for bytes that are not UTF-8. It finds them right after it has read them.
 std::size_t YamlEvents::lineOfByte(std::size_t offset) const {
-    const std::size_t length = std::min(std::max(offset, m_bytesBefore) - m_bytesBefore, m_lastRead.size());
-    const std::string_view text = std::string_view(m_lastRead).substr(0, length);
-    return m_linesBefore + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+    const std::size_t bytesFrom = std::min(m_bytesRead - std::min(offset, m_bytesRead), m_lastRead.size());
+    return m_linesRead - lineBreaks(m_lastRead.substr(m_lastRead.size() - bytesFrom)) + 1;
 }
 
 bool YamlEvents::skipValue() {

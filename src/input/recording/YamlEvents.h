@@ -11,8 +11,8 @@ struct yaml_parser_s;
 
 namespace kinesta {
 
-/// Reads a YAML text piece by piece, keeping only what it gave last. Nothing in the text makes it keep more than a
-/// bounded amount: depth and the length of a single value have a limit.
+/// Reads a YAML text piece by piece and keeps only the last one. Memory is bounded: depth and the length of a value
+/// have a limit.
 class YamlEvents {
   public:
     enum class Kind { scalar, beginMapping, endMapping, beginSequence, endSequence, end, failed };
@@ -28,12 +28,12 @@ class YamlEvents {
     Kind kind() const { return m_kind; }
     /// The text of a scalar; empty for the others. Valid until the next verb.
     std::string_view text() const { return m_text; }
-    /// The line on which the last value began, from 1; after a failure the place of what is wrong, if it can be told.
+    /// The line on which the last value began, from 1; after a failure the line of the error, if known.
     std::size_t line() const { return m_line; }
     /// Why next() failed.
     const std::string& problem() const { return m_problem; }
 
-    /// Goes to the end of the value that the present piece begins. Whether the text holds as much.
+    /// Goes to the end of the value that the present piece begins. False if the text ends before.
     bool skipValue();
 
   private:
@@ -55,10 +55,9 @@ class YamlEvents {
     bool m_hasStarted = false;
     std::size_t m_readSincePiece = 0;
     bool m_isTooLong = false;
-    // What was read last, and how much was read before it.
-    std::string m_lastRead;
-    std::size_t m_bytesBefore = 0;
-    std::size_t m_linesBefore = 0;
+    std::string_view m_lastRead;  // in the parser's buffer, unchanged until the next read
+    std::size_t m_bytesRead = 0;
+    std::size_t m_linesRead = 0;
 };
 
 }  // namespace kinesta

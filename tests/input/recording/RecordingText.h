@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -16,31 +15,31 @@ namespace kinesta {
 
 using Texts = std::vector<std::string>;
 
-/// The inputs that one error is for.
+/// Errors, each with the inputs that cause it.
 using Refusals = std::vector<std::pair<std::string, Texts>>;
 
-/// One event as short text: "5@0.25,0.75 6@0.5,0.5", "no finger", "down", "pressure 2", "settings".
+/// An event without its time: "5@0.25,0.75 6@0.5,0.5", "no finger", "down", "pressure 2", "settings".
 inline std::string contentText(const RecordingEvent& event) {
-    if (const auto* pointer = std::get_if<RecordedPointer>(&event.content))
-        return *pointer == RecordedPointer::down ? "down" : "up";
-    if (const auto* pressure = std::get_if<RecordedPressure>(&event.content))
-        return "pressure " + std::to_string(pressure->stage);
-    const auto* frame = std::get_if<RecordedFrame>(&event.content);
-    if (!frame)
+    const auto* pad = std::get_if<PadEvent>(&event);
+    if (!pad)
         return "settings";
+    if (const auto* button = std::get_if<PadButton>(&pad->content))
+        return *button == PadButton::down ? "down" : "up";
+    if (const auto* pressure = std::get_if<PadPressure>(&pad->content))
+        return "pressure " + std::to_string(pressure->stage);
+    const auto& frame = std::get<PadFrame>(pad->content);
     std::string text;
-    for (const TouchSample& sample : frame->samples)
+    for (const TouchSample& sample : frame.samples)
         text += (text.empty() ? "" : " ") + std::to_string(sample.id) + "@" + numberText(sample.position.x) + "," +
                 numberText(sample.position.y);
-    if (text.empty())
-        text = "no finger";
-    return frame->received ? text + " received " + numberText(*frame->received) : text;
+    return (text.empty() ? "no finger" : text) + (frame.received ? " received " + numberText(*frame.received) : "");
 }
 
-/// The same after its time.
-inline std::string eventText(const RecordingEvent& event) { return numberText(event.time) + " " + contentText(event); }
+inline std::string eventText(const RecordingEvent& event) {
+    return numberText(eventTime(event)) + " " + contentText(event);
+}
 
-/// All that a recording gave.
+/// The contents of a recording, up to an error.
 struct Reading {
     RecordingHeader header;
     std::vector<RecordingEvent> events;
@@ -55,26 +54,20 @@ struct Reading {
 };
 
 inline Reading read(std::istream& stream, std::istream* device = nullptr) {
-    Reading reading;
     auto reader = openRecording(stream, "x", device);
-    if (!reader) {
-        reading.error = reader.error().message;
-        return reading;
-    }
-    reading.header = (*reader)->header();
+    if (!reader)
+        return {.header = {}, .events = {}, .error = reader.error().message};
+    Reading reading{.header = (*reader)->header(), .events = {}, .error = ""};
     for (;;) {
-        auto next = (*reader)->next();
-        const auto again = next && *next ? next : (*reader)->next();
-        if (!next) {
-            reading.error = next.error().message;
-            EXPECT_TRUE(!again && again.error().message == reading.error) << "an error does not last";
-            return reading;
+        const auto next = (*reader)->next();
+        if (next && *next) {
+            reading.events.push_back(**next);
+            continue;
         }
-        if (!*next) {
-            EXPECT_TRUE(again && !*again) << "the end does not last";
-            return reading;
-        }
-        reading.events.push_back(**next);
+        const auto again = (*reader)->next();
+        EXPECT_TRUE(!(again && *again) && again.isValue() == next.isValue()) << "an end or an error does not last";
+        reading.error = next ? "" : next.error().message;
+        return reading;
     }
 }
 

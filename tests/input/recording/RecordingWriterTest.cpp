@@ -17,19 +17,18 @@ namespace {
 using Limits = std::numeric_limits<double>;
 
 RecordingEvent frame(Seconds time, std::initializer_list<TouchSample> samples, std::optional<Uptime> received = {}) {
-    return {time, RecordedFrame{TouchSamples(samples), received}};
+    return PadEvent{time, PadFrame{TouchSamples(samples), received}};
 }
 
 TEST(RecordingWriter, WritesOneLineAnEvent) {
     std::ostringstream output;
     RecordingWriter writer(output);
     ASSERT_TRUE(writer.writeHeader({.device = "Pad \"7\"\n\xFF", .settings = {.gesturesEnabled = true}}));
-    ASSERT_TRUE(writer.write(frame(-0.5, {{1, {0.25, 1}}, {-2, {0.1, 1e-7}}}, 0.1)));
-    ASSERT_TRUE(writer.write(frame(-0.5, {})));
-    ASSERT_TRUE(writer.write({1, RecordedPointer::down}));
-    ASSERT_TRUE(writer.write({1, RecordedPressure{-1}}));
-    ASSERT_TRUE(
-        writer.write({100000, RecordedSettings{.tapWaitingMilliseconds = 400, .cornerPalmRejectionSensitivity = 0.5}}));
+    for (const RecordingEvent& event :
+         {frame(-0.5, {{1, {0.25, 1}}, {-2, {0.1, 1e-7}}}, 0.1), frame(-0.5, {}),
+          RecordingEvent(PadEvent{1, PadButton::down}), RecordingEvent(PadEvent{1, PadPressure{-1}}),
+          RecordingEvent(SettingsChange{1e5, {.tapWaitingMilliseconds = 400, .cornerPalmRejectionSensitivity = 0.5}})})
+        ASSERT_TRUE(writer.write(event));
     EXPECT_EQ(output.str(),
               R"({"kinesta":"recording","version":1,"device":"Pad \"7\"\n�","settings":{"gesturesEnabled":true}}
 {"t":-0.5,"touches":[[1,0.25,1],[-2,0.1,1e-07]],"received":0.1}
@@ -40,33 +39,27 @@ TEST(RecordingWriter, WritesOneLineAnEvent) {
 )");
 }
 
-TEST(RecordingWriter, IsReadBackToTheLastBit) {
+TEST(RecordingWriter, WritesEveryBit) {
     std::mt19937_64 random(5);
-    const auto anyNumber = [&random] {
-        for (;;)
-            if (const auto number = std::bit_cast<double>(random()); std::isfinite(number))
-                return number;
-    };
-    std::vector<double> numbers{0.0, -0.0, 1.0 / 3, 0.1 + 0.2, 9007199254740993.0, std::nextafter(1.0, 0.0)};
+    std::vector<double> numbers{-0.0, 1.0 / 3, 0.1 + 0.2, 9007199254740993.0, std::nextafter(1.0, 0.0)};
     for (const double number : {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::epsilon()})
         numbers.insert(numbers.end(), {number, -number});
-    for (int i = 0; i < 2000; ++i)
-        numbers.push_back(anyNumber());
+    while (numbers.size() < 2000)
+        if (const auto number = std::bit_cast<double>(random()); std::isfinite(number))
+            numbers.push_back(number);
     std::vector<RecordingEvent> events;
     Seconds time = -9.2e9;
-    for (const double number : numbers) {
-        events.push_back(frame(
-            time,
-            {{static_cast<ContactId>(random()), {number, -number}}, {std::numeric_limits<ContactId>::min(), {1, 1}}},
-            time));
-        time = std::min(9.2e9, time + 1e7 * std::generate_canonical<double, 64>(random));
-    }
     TouchSamples crowd;
-    for (ContactId id = 0; id < 40; ++id)
-        crowd.push_back({id, {anyNumber(), anyNumber()}});
-    events.push_back({9.2e9, RecordedFrame{crowd, std::nullopt}});
-    events.push_back({9.2e9, RecordedPressure{std::numeric_limits<std::int64_t>::max()}});
-    events.push_back({9.2e9, RecordedSettings{false, 150, false, Limits::max()}});
+    for (const double number : numbers) {
+        const auto id = static_cast<ContactId>(random());
+        events.push_back(frame(time, {{id, {number, -number}}, {std::numeric_limits<ContactId>::min(), {1, 1}}}, time));
+        time = std::min(9.2e9, time + 1e7 * std::generate_canonical<double, 64>(random));
+        if (crowd.size() < 40)
+            crowd.push_back({static_cast<ContactId>(crowd.size()), {number, 0}});
+    }
+    events.push_back(PadEvent{9.2e9, PadFrame{crowd, std::nullopt}});
+    events.push_back(PadEvent{9.2e9, PadPressure{std::numeric_limits<std::int64_t>::max()}});
+    events.push_back(SettingsChange{9.2e9, {false, 150, false, Limits::max()}});
     const RecordingHeader header{.device = "é\t\x01 \"\\", .settings = {true, 300, true, -0.0}};
 
     std::stringstream stream;
@@ -77,13 +70,11 @@ TEST(RecordingWriter, IsReadBackToTheLastBit) {
     const Reading reading = read(stream);
     EXPECT_EQ(reading.error, "");
     EXPECT_EQ(reading.header, header);
-    ASSERT_EQ(reading.events.size(), events.size());
-    for (std::size_t i = 0; i < events.size(); ++i)
-        ASSERT_EQ(reading.events[i], events[i]) << eventText(events[i]);
-    EXPECT_TRUE(std::signbit(std::get<RecordedFrame>(reading.events[1].content).samples[0].position.x));
+    EXPECT_TRUE(reading.events == events);
+    EXPECT_TRUE(reading.texts()[0].ends_with("@-0,0 -2147483648@1,1 received -9.2e+09")) << reading.texts()[0];
 }
 
-TEST(RecordingWriter, RefusesWhatCouldNotBeRead) {
+TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
     CountingOutput output;
     std::ostream stream(&output);
     RecordingWriter writer(stream, RecordingWriter::Flush::everyLine);
@@ -93,22 +84,14 @@ TEST(RecordingWriter, RefusesWhatCouldNotBeRead) {
     ASSERT_TRUE(writer.write(frame(5, {})));
     const std::string before = output.text;
     EXPECT_EQ(output.flushes, 2);
-    for (const RecordingEvent& event : {
-             frame(4.9, {}),
-             frame(Limits::quiet_NaN(), {}),
-             frame(Limits::infinity(), {}),
-             frame(9.3e9, {}),
-             frame(6, {}, Limits::quiet_NaN()),
-             frame(6, {}, -9.3e9),
-             frame(6, {{1, {0, Limits::infinity()}}}),
-             frame(6, {{1, {Limits::quiet_NaN(), 0}}}),
-             frame(6, {{1, {0, 0}}, {2, {0, 0}}, {1, {1, 1}}}),
-             RecordingEvent{6, RecordedSettings{.tapWaitingMilliseconds = 0}},
-             RecordingEvent{6, RecordedSettings{.cornerPalmRejectionSensitivity = Limits::infinity()}},
-         }) {
+    for (const RecordingEvent& event :
+         {frame(4.9, {}), frame(Limits::quiet_NaN(), {}), frame(9.3e9, {}), frame(6, {}, Limits::quiet_NaN()),
+          frame(6, {}, -9.3e9), frame(6, {{1, {0, Limits::infinity()}}}), frame(6, {{1, {Limits::quiet_NaN(), 0}}}),
+          frame(6, {{1, {0, 0}}, {2, {0, 0}}, {1, {1, 1}}}),
+          RecordingEvent(SettingsChange{6, {.tapWaitingMilliseconds = 0}}),
+          RecordingEvent(SettingsChange{6, {.cornerPalmRejectionSensitivity = Limits::infinity()}})}) {
         const Outcome outcome = writer.write(event);
-        ASSERT_FALSE(outcome) << eventText(event);
-        EXPECT_TRUE(outcome.error().message.starts_with("this cannot be recorded: ")) << outcome.error().message;
+        EXPECT_TRUE(!outcome && outcome.error().message.starts_with("this cannot be recorded: ")) << eventText(event);
     }
     EXPECT_EQ(output.text, before);
     EXPECT_TRUE(writer.write(frame(5, {}))) << "a refused event moved the time on";
@@ -121,33 +104,29 @@ TEST(RecordingWriter, RefusesWhatCouldNotBeRead) {
     EXPECT_EQ(full.flushes, 0);
 }
 
-TEST(ReplayContactProvider, DeliversOnlyWhileStarted) {
+TEST(ReplayContactProvider, DeliversWhileStarted) {
     ReplayContactProvider provider;
     std::vector<Seconds> seen;
-    const auto note = [&seen](const TrackpadContactFrame& frame) { seen.push_back(frame.timestamp); };
-    provider.deliver({{}, 0});
-    provider.stop();
-    EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::stopped());
+    const auto deliver = [&](Seconds time) { provider.deliver({{}, time}); };
+    deliver(0);
     provider.start();
-    provider.deliver({{}, 1});
-    provider.setFrameHandler(note);
+    deliver(1);
+    provider.setFrameHandler([&](const TrackpadContactFrame& frame) { seen.push_back(frame.timestamp); });
     EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::listening());
-    provider.deliver({{}, 2});
-    provider.deliver({{{1, {0, 0}}}, 3});
+    deliver(2);
     provider.stop();
-    provider.deliver({{}, 4});
+    deliver(3);
     provider.start();
-    // A handler may stop the provider, and put another in its own place.
+    // A handler may stop the provider and replace itself.
     provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
         provider.stop();
         provider.setFrameHandler({});
-        note(frame);
+        seen.push_back(frame.timestamp);
     });
-    provider.deliver({{}, 5});
-    provider.deliver({{}, 6});
-    EXPECT_EQ(seen, (std::vector<Seconds>{2, 3, 5}));
+    deliver(4);
+    deliver(5);
+    EXPECT_EQ(seen, (std::vector<Seconds>{2, 4}));
     EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::stopped());
-    EXPECT_FALSE(provider.frameHandler());
 }
 
 }  // namespace

@@ -6,8 +6,7 @@
 
 namespace kinesta {
 
-/// An input that after its beginning goes on with one character for ever, or breaks, as a folder or a failing disk
-/// does.
+/// An input that after its beginning repeats one character for ever, or breaks, as a folder or a failing disk does.
 class ContinuedInput final : public std::streambuf {
   public:
     explicit ContinuedInput(std::string beginning, std::optional<char> rest = std::nullopt)
@@ -15,7 +14,6 @@ class ContinuedInput final : public std::streambuf {
         show();
     }
 
-    /// How much has been taken of it.
     std::size_t given = 0;
 
   private:
@@ -33,7 +31,7 @@ class ContinuedInput final : public std::streambuf {
     std::optional<char> m_rest;
 };
 
-/// An input that has no buffer and never tells how much it has, like that of a pipe shared with C.
+/// An input without a buffer that never says how much it has, like that of a pipe shared with C.
 class UnbufferedInput final : public std::streambuf {
   public:
     explicit UnbufferedInput(std::string text) : m_text(std::move(text)) {}
@@ -43,16 +41,14 @@ class UnbufferedInput final : public std::streambuf {
         return m_at < m_text.size() ? traits_type::to_int_type(m_text[m_at]) : traits_type::eof();
     }
     int_type uflow() override {
-        const int_type next = underflow();
-        ++m_at;
-        return next;
+        return m_at < m_text.size() ? traits_type::to_int_type(m_text[m_at++]) : traits_type::eof();
     }
 
     std::string m_text;
     std::size_t m_at = 0;
 };
 
-/// An output that counts how often it is told to pass on what it has, and takes no more than a number of bytes.
+/// An output that counts its flushes and holds no more than a number of bytes.
 class CountingOutput final : public std::streambuf {
   public:
     explicit CountingOutput(std::size_t capacity = std::string::npos) : m_capacity(capacity) {}
@@ -67,10 +63,7 @@ class CountingOutput final : public std::streambuf {
         text.append(data, static_cast<std::size_t>(size));
         return size;
     }
-    int sync() override {
-        ++flushes;
-        return 0;
-    }
+    int sync() override { return ++flushes, 0; }
 
     std::size_t m_capacity;
 };
