@@ -18,7 +18,7 @@ struct PadFrame {
     friend bool operator==(const PadFrame&, const PadFrame&) = default;
 };
 
-/// A press or release of the pad. Left and right button are not told apart: recognition treats them alike.
+/// A press or release of the pad. Recognition treats the left and the right button alike.
 enum class PadButton { down, up };
 
 /// The pressure of a click has reached another stage: 1 soft, 2 forced.

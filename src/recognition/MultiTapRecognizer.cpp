@@ -30,24 +30,29 @@ void MultiTapRecognizer::trackContact(std::span<const TouchSample> samples, Seco
         m_contact = Contact{.beganAt = timestamp};
     }
     m_contact->maximumFingerCount = std::max(m_contact->maximumFingerCount, static_cast<int>(samples.size()));
-    if (m_contact->movedTooFar)
-        return;
-    m_contact->movedTooFar =
-        !std::all_of(samples.begin(), samples.end(), [this](const TouchSample& sample) { return staysPut(sample); });
-    if (m_contact->movedTooFar)
-        m_contact->initialPositions.clear();
+    if (!m_contact->movedTooFar)
+        trackMovement(samples);
 }
 
-// Remembers where a new finger is first seen.
-bool MultiTapRecognizer::staysPut(const TouchSample& sample) {
+void MultiTapRecognizer::trackMovement(std::span<const TouchSample> samples) {
     TouchSamples& initial = m_contact->initialPositions;
-    for (const TouchSample& first : initial)
-        if (first.id == sample.id)
-            return !(compareDistance(first.position, sample.position, m_limits.maximumMovement) > 0);
-    if (initial.size() == kMostTrackedFingers)
-        return false;
-    initial.push_back(sample);
-    return true;
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const TouchSample& sample = samples[i];
+        const auto isSameFinger = [&sample](const TouchSample& other) { return other.id == sample.id; };
+        // Most drivers list the fingers in the same order in every frame.
+        const TouchSample* first = i < initial.size() && isSameFinger(initial[i])
+                                       ? &initial[i]
+                                       : std::find_if(initial.begin(), initial.end(), isSameFinger);
+        const bool isKnown = first != initial.end();
+        if (isKnown ? compareDistance(first->position, sample.position, m_limits.maximumMovement) > 0
+                    : initial.size() == kMostTrackedFingers) {
+            m_contact->movedTooFar = true;
+            initial.clear();
+            return;
+        }
+        if (!isKnown)
+            initial.push_back(sample);
+    }
 }
 
 std::optional<TapSequence> MultiTapRecognizer::endContact(Seconds timestamp) {

@@ -57,7 +57,7 @@ class MultiTapRecognizer {
     };
 
     void trackContact(std::span<const TouchSample> samples, Seconds timestamp);
-    bool staysPut(const TouchSample& sample);
+    void trackMovement(std::span<const TouchSample> samples);
     std::optional<TapSequence> endContact(Seconds timestamp);
 
     Limits m_limits;

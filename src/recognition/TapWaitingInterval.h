@@ -20,7 +20,7 @@ class TapWaitingInterval {
     static constexpr Case defaultValue = standard;
     static constexpr std::string_view storageKey = "tapWaitingInterval.v1";
 
-    // Not explicit: a case is an interval.
+    // Converts implicitly: a case is an interval.
     constexpr TapWaitingInterval(Case value = defaultValue) : m_case(value) {}
 
     /// The interval of so many milliseconds, or nothing if it is none of the five.

@@ -16,7 +16,7 @@ struct TipTapSequence {
     friend bool operator==(const TipTapSequence&, const TipTapSequence&) = default;
 };
 
-/// Counts the tip-taps that follow each other. Not thread-safe.
+/// Counts tip-taps in quick succession. Not thread-safe.
 class TipTapSequenceRecognizer {
   public:
     struct Limits {

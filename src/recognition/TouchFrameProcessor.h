@@ -41,7 +41,7 @@ class TouchFrameProcessor {
     /// The button went up. The sequence including the click, if it counts as a gesture.
     std::optional<CompletedClick> completePhysicalClick(Uptime timestamp);
 
-    /// Ends a sequence and gives it back, if it is still `expected` and the generation is current.
+    /// Ends and returns a sequence if it is still `expected` and the generation is current.
     std::optional<TapSequence> finalize(const TapSequence& expected, std::uint64_t generation);
     std::optional<TipTapSequence> finalizeTipTap(const TipTapSequence& expected, std::uint64_t generation);
     std::optional<PhysicalClickSequence> finalizePhysicalClick(const PhysicalClickSequence& expected,
@@ -49,7 +49,7 @@ class TouchFrameProcessor {
 
     bool isCurrent(std::uint64_t generation) const;
 
-    /// How long a sequence of each kind waits to grow.
+    /// How long a sequence of each kind waits for the next tap or click.
     Seconds maximumTapInterval() const;
     Seconds maximumTipTapInterval() const;
     Seconds maximumClickInterval() const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "input/CornerPalmRejectionFilter.h"
 
@@ -13,19 +14,15 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(CornerPalmRejectionSettings, ClampsTheSensitivityAndDerivesTheInset) {
-    struct Row {
-        double sensitivity, clamped, inset;
-    };
-    for (const auto& [sensitivity, clamped, inset] : {Row{1, 1, 0.18},
-                                                      {2, 1, 0.18},
-                                                      {0.7, 0.7, 0.135},
-                                                      {0, 0, 0.03},
-                                                      {-3, 0, 0.03},
-                                                      {kNaN, 0.5, 0.105},
-                                                      {kInfinity, 0.5, 0.105}}) {
+    const auto inset = [](double sensitivity) { return CornerPalmRejectionSettings{true, sensitivity}.cornerInset(); };
+    for (const auto& [sensitivity, clamped] :
+         {std::pair(-3.0, 0.0), {0.7, 0.7}, {2.0, 1.0}, {kNaN, 0.5}, {kInfinity, 0.5}, {-kInfinity, 0.5}}) {
         EXPECT_EQ(CornerPalmRejectionSettings::clampedSensitivity(sensitivity), clamped) << sensitivity;
-        EXPECT_DOUBLE_EQ((CornerPalmRejectionSettings{true, sensitivity}.cornerInset()), inset) << sensitivity;
+        EXPECT_EQ(inset(sensitivity), inset(clamped)) << sensitivity;
     }
+    EXPECT_DOUBLE_EQ(inset(0), 0.03);
+    EXPECT_DOUBLE_EQ(inset(0.5), 0.105);
+    EXPECT_DOUBLE_EQ(inset(1), 0.18);
 }
 
 TEST(CornerPalmRejectionSettings, CountsTheEdgesOfTheCornersIn) {

@@ -72,18 +72,16 @@ TEST(AnchorDrawPatternClassifier, FindsLines) {
         {"as bent as allowed", {{0, 0}, {0, 0.184}, {0, 0.168}}, "lineUp"},  // chord 0.168 of 0.2
         {"too bent", {{0, 0}, {0, 0.1841}, {0, 0.168}}, "nothing"},
         {"no points", {}, "nothing"},
-        {"a rest", Path(100, Point{0.5, 0.5}), "nothing"},
     });
 }
 
 TEST(AnchorDrawPatternClassifier, FindsCircles) {
     Path open = around(0.2, 0.2);
     open.back() = {0, 0.13};
-    Path seven = around(0.2, 0.2);
-    seven.erase(seven.begin() + 3);
-    seven.erase(seven.end() - 2);
     Path eight = around(0.2, 0.2);
     eight.erase(eight.end() - 2);
+    Path seven = eight;
+    seven.erase(seven.begin() + 3);
     expectPatterns({
         {"clockwise", arc(0.08, -1), "circleClockwise"},
         {"smallest", around(0.11, 0.11), "circleCounterclockwise"},
@@ -94,32 +92,26 @@ TEST(AnchorDrawPatternClassifier, FindsCircles) {
         {"too open", arc(0.1, -0.7), "nothing"},
         {"eight points", eight, "circleCounterclockwise"},
         {"seven points", seven, "nothing"},
-        {"a path there and back has no side",
-         {{0, 0}, {0.1, 0.1}, {0.2, 0.2}, {0.3, 0.3}, {0.2, 0.2}, {0.1, 0.1}, {0, 0}, {0.1, 0.1}, {0, 0}},
-         "circleCounterclockwise"},
+        {"an area of 0", strokes({{0.3, 0.3}, {-0.3, -0.3}}), "circleCounterclockwise"},
     });
 }
 
 TEST(AnchorDrawPatternClassifier, FindsStrokesInOneDirectionOnly) {
-    const Point up{0, 0.1}, down{0, -0.1}, left{-0.1, 0}, right{0.1, 0};
-    const Point upRight{0.07, 0.07}, downRight{0.07, -0.07}, upLeft{-0.07, 0.07}, downLeft{-0.07, -0.07};
+    const Point down{0, -0.1}, right{0.1, 0}, upRight{0.07, 0.07}, downRight{0.07, -0.07};
     expectPatterns({
         {"L", strokes({down, right}), "lShape"},
-        {"L from its other end", strokes({left, up}), "nothing"},
-        {"L upside down", strokes({up, right}), "nothing"},
-        {"L to the left", strokes({down, left}), "nothing"},
-        {"right then down", strokes({right, down}), "nothing"},
+        {"L from its other end", strokes({{-0.1, 0}, {0, 0.1}}), "nothing"},
+        {"L upside down", strokes({{0, 0.1}, right}), "nothing"},
         {"L with short strokes", strokes({{0, -0.0751}, {0.1, 0}}, 20), "lShape"},
         {"L with a stroke too short", strokes({{0, -0.12}, {0.06, 0}}, 20), "nothing"},
         {"L with a bent stroke", strokes({{-0.05, -0.05}, {0.05, -0.05}, right}), "nothing"},
         {"V", strokes({{0.1, -0.1}, {0.1, 0.1}}), "vShape"},
-        {"V from its other end", strokes({downLeft, upLeft}), "nothing"},
         {"roof", strokes({{0.1, 0.1}, {0.1, -0.1}}), "nothing"},
         {"V of four points", {{0, 0}, {0.05, -0.05}, {0.1, -0.1}, {0.2, 0}}, "nothing"},
         {"V of five points", strokes({{0.1, -0.1}, {0.1, 0.1}}, 2), "vShape"},
         {"zigzag", zigzag(0.07), "zigzag"},
         {"zigzag upward first", strokes({upRight, downRight, upRight}), "zigzag"},
-        {"zigzag to the left", strokes({downLeft, upLeft, downLeft}), "nothing"},
+        {"zigzag to the left", zigzag(-0.07), "nothing"},
         {"zigzag of short strokes", zigzag(0.039, 4), "zigzag"},
         {"zigzag of strokes too short", zigzag(0.0388, 4), "nothing"},
         {"zigzag of five points", {{0, 0}, {0.07, -0.07}, {0.14, 0}, {0.18, -0.04}, {0.21, -0.07}}, "zigzag"},

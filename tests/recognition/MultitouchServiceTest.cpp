@@ -23,23 +23,18 @@ std::string settingsOf(const MultitouchService& service) {
 }
 
 TEST(MultitouchService, ReadsItsSettingsAndRepairsMalformedOnes) {
-    const auto read = [](StoredValues values) {
+    const auto expectSettings = [](StoredValues values, const std::string& settings) {
         GestureRig rig;
         rig.defaults.replaceValues(std::move(values));
-        const std::string settings = settingsOf(rig.launch());
+        EXPECT_EQ(settingsOf(rig.launch()), settings);
         EXPECT_EQ(rig.defaults.writes, 0);
-        return settings;
     };
-    EXPECT_EQ(read({}), "on 250 ms no palm 0.5");
-    EXPECT_EQ(read({{"gesturesEnabled", std::string("true")},
-                    {"tapWaitingInterval.v1", std::int64_t{275}},
-                    {"cornerPalmRejectionEnabled.v1", std::int64_t{1}},
-                    {"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}),
-              "off 250 ms no palm 1");
-    EXPECT_EQ(read({{"gesturesEnabled", true},
-                    {"tapWaitingInterval.v1", std::string("150")},
-                    {"cornerPalmRejectionSensitivity.v1", std::numeric_limits<double>::quiet_NaN()}}),
-              "on 250 ms no palm 0.5");
+    const std::string text = "text";
+    expectSettings({}, "on 250 ms no palm 0.5");
+    expectSettings({{"gesturesEnabled", text}, {"tapWaitingInterval.v1", std::int64_t{275}}}, "off 250 ms no palm 0.5");
+    expectSettings({{"gesturesEnabled", true}, {"tapWaitingInterval.v1", text}}, "on 250 ms no palm 0.5");
+    expectSettings({{"cornerPalmRejectionEnabled.v1", std::int64_t{1}}}, "on 250 ms no palm 0.5");
+    expectSettings({{"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}, "on 250 ms no palm 1");
 }
 
 TEST(TapWaitingInterval, HasFiveValues) {
@@ -215,17 +210,17 @@ TEST(MultitouchService, SurvivesChangesAndItsEndWhileFramesArrive) {
             rig.provider.send({{}, time + 0.05});
         }
     });
-    for (std::size_t services = 0; services < 100; ++services) {
+    for (int services = 0; services < 100; ++services) {
         rig.launch().onTap = [&](const DetectedTap&) { ++delivered; };
         do {
             allowed = 20;
             rig.mainThread.runPosted();
         } while (delivered == 0);  // so that the first service at least has worked
-        for (std::size_t i = 0; i < 5; ++i) {
+        for (const TapWaitingInterval interval : TapWaitingInterval::allCases) {
             allowed = 20;
             rig.send(PadScript().press().stage(2).release());
-            rig.service->setTapWaitingInterval(TapWaitingInterval::allCases[i]);
-            rig.runUntil(static_cast<Seconds>(services) + 0.2 * static_cast<Seconds>(i));
+            rig.service->setTapWaitingInterval(interval);
+            rig.runUntil(rig.clock.wallClock() + 0.2);
         }
         if (services % 2 == 0)
             rig.service->setCornerPalmRejectionEnabled(services % 4 == 0);

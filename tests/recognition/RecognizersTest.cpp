@@ -78,28 +78,18 @@ PadScript twoFingers() { return PadScript().at(0).down(1, {0, 0.5}).down(2, {0.5
 PadScript tapMoving(std::initializer_list<Point> places) { return twoFingers().through(1, places).after(0.1).upAll(); }
 
 TEST(MultiTapRecognizer, TakesShortStillTapsOfTwoFingersOrMore) {
+    const auto moved = [](double x) { return tapMoving({{x, 0.5}}); };
     const auto late = [](Seconds lift) { return PadScript().at(0).land(1).at(0.2).down(2, {0.1, 0}).at(lift).upAll(); };
     const auto laterFinger = [](double x) {
         return twoFingers().at(0.1).down(3, {0.5, 0.7}).at(0.15).move(3, {0.5 + x, 0.7}).at(0.2).upAll();
     };
     expectBounds<MultiTapRecognizer>({
         {"duration from first landing to last lift", late, 0.24, 0.2401, "2x1"},
-        {"movement",
-         [](double x) {
-             return tapMoving({{x, 0.5}});
-         },
-         0.055, 0.0551, "2x1"},
+        {"movement", moved, 0.055, 0.0551, "2x1"},
         {"movement of a later finger", laterFinger, 0.0549, 0.0551, "3x1"},
-        {"fingers",
-         [](double count) {
-             return taps({{1, static_cast<int>(count)}});
-         },
-         2, 1, "2x1"},
-        {"interval",
-         [](Seconds lift) {
-             return taps({{1, 3}, {lift, 3}});
-         },
-         1.25, 1.2501, "3x1 3x2", "3x1 3x1"},
+        {"fingers", [](double count) { return PadScript().tap(1, static_cast<int>(count)); }, 2, 1, "2x1"},
+        {"interval", [](Seconds lift) { return PadScript().tap(1, 3).tap(lift, 3); }, 1.25, 1.2501, "3x1 3x2",
+         "3x1 3x1"},
     });
     const PadScript oneByOne = twoFingers().at(0.1).up(1).at(0.15).down(3, {0.6, 0.5}).at(0.2).up(2).at(0.22).up(3);
     const PadScript returning = twoFingers().at(0.05).up(1).at(0.08).down(1, {0.6, 0.5}).at(0.1).upAll();
@@ -148,6 +138,8 @@ PadScript resettled(double dx, Seconds time) {
 }
 
 TEST(TipTapRecognizer, TakesATapBesideARestingFinger) {
+    const auto anchorMoved = [](double x) { return anchorMoving({{x, 0.5}}); };
+    const auto tipMoved = [](double x) { return tipMoving({{x, 0.5}}); };
     const auto above = [](double x) { return landing(0.2, {x, 0.9}, 0).at(0.3).up(2); };
     const auto afterSpoiled = [](Seconds time) {
         return landing(0.11).at(0.2).up(2).at(time).down(3, {0.5, 0.5}).at(0.4).up(3);
@@ -157,16 +149,8 @@ TEST(TipTapRecognizer, TakesATapBesideARestingFinger) {
         {"duration", [](Seconds lift) { return landing(0.12).at(lift).up(2); }, 0.36, 0.3601, "right1"},
         {"horizontal distance to the left", above, -0.035, -0.0349, "left1"},
         {"horizontal distance to the right", above, 0.035, 0.0349, "right1"},
-        {"movement of the tip",
-         [](double x) {
-             return tipMoving({{x, 0.5}});
-         },
-         0.055, 0.0551, "left1"},
-        {"jump of the anchor",
-         [](double x) {
-             return anchorMoving({{x, 0.5}});
-         },
-         0.045, 0.0451, "right1"},
+        {"movement of the tip", tipMoved, 0.055, 0.0551, "left1"},
+        {"jump of the anchor", anchorMoved, 0.045, 0.0451, "right1"},
         {"settled anchor", [](double dx) { return resettled(dx, 0.125); }, 0.045, 0.0451, "right1"},
         {"rest after moving", [](Seconds time) { return resettled(0.0451, time); }, 0.225, 0.21, "right1"},
         {"rest after a finger that came too early", afterSpoiled, 0.325, 0.31, "right1"},
@@ -273,6 +257,10 @@ PadScript resettledAt(Point place, Seconds time) {
 }
 
 TEST(AnchorDrawRecognizer, TakesADrawingBesideAFingerInACorner) {
+    const auto left = [](double x) { return drawUp(anchored({x, 0.9})); };
+    const auto upper = [](double y) { return drawUp(anchored({0.9, y})); };
+    const auto lower = [](double y) { return drawUp(anchored({0.1, y})); };
+    const auto right = [](double x) { return drawUp(anchored({x, 0.1})); };
     const auto again = [](Seconds time) {
         return drawUp(anchored(kTopLeft, 0.1).at(0.2).up(2).at(time).down(2, {0.5, 0.4}));
     };
@@ -280,26 +268,10 @@ TEST(AnchorDrawRecognizer, TakesADrawingBesideAFingerInACorner) {
     const auto apart = [](double y) { return drawUp(anchored({0, 0}, 0.2, {0, y})); };
     const char* const up = "topLeft lineUp";
     expectBounds<AnchorDrawRecognizer>({
-        {"left corner",
-         [](double x) {
-             return drawUp(anchored({x, 0.9}));
-         },
-         0.2, 0.2001, up},
-        {"upper corner",
-         [](double y) {
-             return drawUp(anchored({0.9, y}));
-         },
-         0.8, 0.7999, "topRight lineUp"},
-        {"lower corner",
-         [](double y) {
-             return drawUp(anchored({0.1, y}));
-         },
-         0.2, 0.2001, "bottomLeft lineUp"},
-        {"right corner",
-         [](double x) {
-             return drawUp(anchored({x, 0.1}));
-         },
-         0.8, 0.7999, "bottomRight lineUp"},
+        {"left corner", left, 0.2, 0.2001, up},
+        {"upper corner", upper, 0.8, 0.7999, "topRight lineUp"},
+        {"lower corner", lower, 0.2, 0.2001, "bottomLeft lineUp"},
+        {"right corner", right, 0.8, 0.7999, "bottomRight lineUp"},
         {"rest", [](Seconds time) { return drawUp(anchored(kTopLeft, time)); }, 0.18, 0.1799, up},
         {"duration", [](Seconds lift) { return line(anchored(kTopLeft)).at(lift).up(2); }, 3.25, 3.2501, up},
         {"distance", apart, 0.08, 0.0799, "bottomLeft lineUp"},

@@ -36,21 +36,18 @@ TEST(TouchFrameProcessor, CountsToThreeAndFinalizesOnlyTheExpectedSequence) {
     }
     EXPECT_EQ(counts, "111 222 333 333 ");
 
+    constexpr auto right = TipTapDirection::right;
     constexpr auto soft = PhysicalClickPressure::soft;
-    const TapSequence tapped{2, 3};
-    const TipTapSequence tipTapped{0, TipTapDirection::right, 3};
-    const PhysicalClickSequence clicked{2, 3, soft};
     for (const TapSequence& other : {TapSequence{2, 2}, {3, 3}})
         EXPECT_EQ(taps.finalize(other, 0), std::nullopt);
-    for (const TipTapSequence& other :
-         {TipTapSequence{0, TipTapDirection::right, 2}, {0, TipTapDirection::left, 3}, {1, TipTapDirection::right, 3}})
+    for (const TipTapSequence& other : {TipTapSequence{0, right, 2}, {0, TipTapDirection::left, 3}, {1, right, 3}})
         EXPECT_EQ(tipTaps.finalizeTipTap(other, 0), std::nullopt);
     for (const PhysicalClickSequence& other : {PhysicalClickSequence{2, 2, soft}, {3, 3, soft}, {2, 3, std::nullopt}})
         EXPECT_EQ(clicks.finalizePhysicalClick(other, 0), std::nullopt);
     for (const bool isFirst : {true, false}) {
-        EXPECT_EQ(taps.finalize(tapped, 0).has_value(), isFirst);
-        EXPECT_EQ(tipTaps.finalizeTipTap(tipTapped, 0).has_value(), isFirst);
-        EXPECT_EQ(clicks.finalizePhysicalClick(clicked, 0).has_value(), isFirst);
+        EXPECT_EQ(taps.finalize({2, 3}, 0).has_value(), isFirst);
+        EXPECT_EQ(tipTaps.finalizeTipTap({0, right, 3}, 0).has_value(), isFirst);
+        EXPECT_EQ(clicks.finalizePhysicalClick({2, 3, soft}, 0).has_value(), isFirst);
     }
     EXPECT_EQ(tap(taps, 1.7).tapSequence, kOneTap) << "the finalized taps do not count";
 }

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// The numbers of the kernel's input protocol that a trackpad uses: part of the kernel's stable interface, and kept
-/// here because recordings are read on systems that have no such kernel.
+/// The numbers of the kernel's input protocol that a trackpad uses. They are part of its stable interface; they stand
+/// here because recordings are read on other systems too.
 namespace kinesta::evdev {
 
 inline constexpr std::uint16_t kTypeSyn = 0x00;

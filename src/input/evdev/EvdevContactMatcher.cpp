@@ -27,11 +27,11 @@ EvdevContactMatcher::EvdevContactMatcher() {
 void EvdevContactMatcher::finishContact() {
     const Pending pending = m_pending;
     m_pending = {};
-    // An empty group is how a driver says that no finger is left; one without a place is not a contact either.
+    // A driver reports an empty group when no finger is left. A group without a place is no contact either.
     if (!pending.x || !pending.y || m_reported.size() == kMaximumContacts)
         return;
     Contact contact{.x = *pending.x, .y = *pending.y, .isLifted = pending.touchMajor == 0};
-    // Few drivers of this protocol know the identifiers; those that do know better than any guess.
+    // The few drivers that send identifiers are right.
     if (pending.trackingId && *pending.trackingId >= 0 && !holdsId(m_reported, *pending.trackingId)) {
         contact.id = *pending.trackingId;
         contact.isMatched = true;
@@ -59,8 +59,8 @@ void EvdevContactMatcher::discardReport() {
     m_reported.clear();
 }
 
-// Lifted contacts take part on both sides. A finger that comes down where another has just left must not inherit its
-// identifier, nor may a contact that the driver lists long after its lift take that of a finger which rests beside it.
+// Includes lifted contacts on both sides. A finger that lands where another has just lifted must get a new identifier,
+// and a contact that the driver lists long after its lift must not take the identifier of a finger beside it.
 void EvdevContactMatcher::matchNearest() {
     for (;;) {
         Contact* bestNew = nullptr;

@@ -9,11 +9,11 @@
 
 namespace kinesta {
 
-/// Follows the contacts of the kernel's older multitouch protocol, whose reports list nameless contacts: each takes
-/// the identifier of the one that was nearest in the report before.
+/// Follows contacts in the kernel's older multitouch protocol, whose reports list contacts without identifiers: each
+/// takes the identifier of the nearest one in the report before.
 class EvdevContactMatcher {
   public:
-    /// Contacts of one report that are kept; those beyond are ignored. Matching costs their number cubed.
+    /// Contacts in one report; those beyond are ignored. Matching takes cubic time.
     static constexpr std::size_t kMaximumContacts = 64;
 
     struct Contact {

@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// What a recording tells of a kernel input device, as far as trackpads are concerned.
+/// The description of a kernel input device in a recording, as far as trackpads need it.
 class EvdevDescription {
   public:
     void setName(std::string name) { m_name = std::move(name); }
@@ -18,11 +18,11 @@ class EvdevDescription {
 
     const std::string& name() const { return m_name; }
 
-    /// Whether it gives the ranges that positions need.
+    /// Whether it has the axis ranges that positions need.
     bool hasRanges() const { return hasMultitouch() || (m_x && m_y); }
 
     /// Whether fingers on it move a pointer: a trackpad, not a touch screen, a tablet or a stick. Keys count only if
-    /// the device has told any.
+    /// the description lists any.
     bool isTouchpad() const;
 
     /// The device for a frame assembler. Only when hasRanges().

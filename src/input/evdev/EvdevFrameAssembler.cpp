@@ -10,7 +10,7 @@ namespace kinesta {
 namespace {
 
 constexpr Point kCentre{0.5, 0.5};
-// Not -1, which is how a slot says that it is empty.
+// Not -1, which marks an empty slot.
 constexpr ContactId kFirstMissingId = -2;
 
 double normalized(std::int32_t value, EvdevAxisRange range) {
@@ -90,7 +90,7 @@ void EvdevFrameAssembler::takeKey(const EvdevEvent& event) {
     }
 }
 
-// An event beyond the limit is ignored with its effect, so that downs and ups of a button go on alternating.
+// Ignores an event beyond the limit entirely, so that presses and releases of a button still alternate.
 void EvdevFrameAssembler::setButton(bool& isDown, std::int32_t value) {
     const bool becomesDown = value != 0;
     if (becomesDown == isDown || m_buttonEvents.size() == kMaximumButtonEvents)
@@ -138,7 +138,7 @@ void EvdevFrameAssembler::setTrackingId(Slot& slot, std::int32_t trackingId) {
     if (trackingId == slot.trackingId)
         return;
     if (trackingId >= 0) {
-        // An identifier names one contact: in a new slot it has left the old one.
+        // An identifier belongs to one contact: in a new slot, it has left the old one.
         for (Slot& other : m_slots)
             if (other.trackingId == trackingId)
                 other.trackingId = -1;
@@ -171,8 +171,8 @@ void EvdevFrameAssembler::deliver(Seconds time, const Sink& sink) {
         sink({time, pointer});
 }
 
-// Every report lists all contacts. One that lists nothing at all can be the lift of the last finger (a driver may omit
-// the empty contact if it tells BTN_TOUCH or ABS_PRESSURE) or the report of a button alone.
+// Every report lists all contacts. A report without any is the lift of the last finger (a driver may omit the empty
+// contact if it sends BTN_TOUCH or ABS_PRESSURE) or that of a button alone.
 void EvdevFrameAssembler::finishContactReports() {
     if (m_hasContactReport || m_saysLifted)
         m_matcher.finishReport();
@@ -215,10 +215,10 @@ void EvdevFrameAssembler::collectSingleTouch(TouchSamples& samples) const {
 }
 
 void EvdevFrameAssembler::addMissing(TouchSamples& samples, Point first) const {
-    std::size_t told = m_fingerKeys.size();
-    while (told > 0 && !m_fingerKeys[told - 1])
-        --told;
-    for (ContactId id = kFirstMissingId; samples.size() < told; --id)
+    std::size_t count = m_fingerKeys.size();
+    while (count > 0 && !m_fingerKeys[count - 1])
+        --count;
+    for (ContactId id = kFirstMissingId; samples.size() < count; --id)
         samples.push_back({id, first});
 }
 

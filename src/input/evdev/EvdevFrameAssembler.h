@@ -38,30 +38,30 @@ struct EvdevTouchpad {
     int slotCount = 0;
 };
 
-/// Makes contact frames and button events of a pad's event stream, in any order and with any values that a driver
-/// may send. Not thread-safe.
+/// Turns the event stream of a pad into contact frames and button events. Survives any order and any values. Not
+/// thread-safe.
 ///
-/// Contacts have their tracking id as identifier, or one of its own making (1, 2, …) where the driver gives none. Where
-/// BTN_TOOL_DOUBLETAP to BTN_TOOL_QUINTTAP tell of more fingers than there are contacts, the missing ones are -2, -3, …
-/// and lie where the contact is that was there first; so does a contact whose place was never told. A place
-/// outside the axis range counts as its border, and one on an axis without extent as the middle.
+/// A contact's identifier is its tracking id, or a number from 1 if the driver sends none. If BTN_TOOL_DOUBLETAP to
+/// BTN_TOOL_QUINTTAP report more fingers than there are contacts, the missing ones get the identifiers -2, -3, … and
+/// the place of the oldest contact, and so does a contact without a place. A place outside the axis range becomes its
+/// border, and one on an axis without extent the middle.
 class EvdevFrameAssembler {
   public:
-    /// Slots that are followed at most, whatever the device claims.
+    /// Slots beyond are ignored.
     static constexpr int kMaximumSlots = 256;
-    /// Button events of one report that are kept at most; those beyond are ignored.
+    /// Button events in one report; those beyond are ignored.
     static constexpr std::size_t kMaximumButtonEvents = 32;
 
     explicit EvdevFrameAssembler(EvdevTouchpad touchpad);
 
     using Sink = std::function<void(const PadEvent&)>;
 
-    /// Takes one event. At each SYN_REPORT, `sink` gets the frame (as a PadFrame) if a finger is on the pad or
-    /// the last one has just lifted, then the button events of the report (as PadButton) in their order: the
-    /// frame tells how many fingers rested when the button went down. All have the time of the SYN_REPORT.
+    /// Takes one event. At each SYN_REPORT, `sink` gets the frame if a finger is on the pad or the last one has just
+    /// lifted, then the button events of the report in their order: the frame shows how many fingers rested at the
+    /// press. All have the time of the SYN_REPORT.
     ///
-    /// After SYN_DROPPED, what comes up to the next SYN_REPORT is ignored and the state stays; whoever reads a live
-    /// device then sends the device's real state as events, of which only what is new has an effect.
+    /// After SYN_DROPPED, events up to the next SYN_REPORT are ignored and the state stays. The reader of a live device
+    /// then sends the device's real state as events; only differences have an effect.
     void process(const EvdevEvent& event, const Sink& sink);
 
   private:
@@ -72,7 +72,7 @@ class EvdevFrameAssembler {
         // Kept when the finger lifts: the kernel does not repeat a value that the slot's next finger shares.
         std::optional<std::int32_t> x;
         std::optional<std::int32_t> y;
-        /// Grows with every touch-down; tells who was there first.
+        /// Grows with every touch-down: the oldest contact has the smallest.
         std::uint64_t touchDown = 0;
     };
 
@@ -104,7 +104,7 @@ class EvdevFrameAssembler {
     bool m_hasContactReport = false;
     bool m_saysLifted = false;
 
-    // What a pad without multitouch tells.
+    // The state of a pad without multitouch.
     std::optional<std::int32_t> m_x;
     std::optional<std::int32_t> m_y;
     bool m_isTouched = false;

@@ -5,8 +5,7 @@
 
 namespace kinesta {
 
-/// Makes the stages of a click (1 soft, 2 forced) of the pressure that a pad measures. A button that is pressed
-/// starts at stage 1.
+/// Turns the pressure that a pad measures into the stages of a click: 1 soft, 2 forced. A press starts at stage 1.
 class PressureStageTracker {
   public:
     /// Fractions of the pad's pressure range. The click itself comes at roughly a quarter of it on pads that measure

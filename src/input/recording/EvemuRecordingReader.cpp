@@ -74,14 +74,14 @@ Result<std::unique_ptr<RecordingReading>> EvemuRecordingReader::open(std::unique
     if (!description.hasRanges()) {
         if (!device)
             return input->fail(
-                "the recording does not tell the axis ranges of its device: give the file that describes the device "
+                "the recording does not contain the axis ranges of its device: give the file that describes the device "
                 "with --device FILE.desc");
         EvdevDescription ownDescription;
         RecordingInput deviceInput(*device, "the device description");
         if (const auto read = readDescription(deviceInput, ownDescription); !read)
             return read.error();
         if (!ownDescription.hasRanges())
-            return deviceInput.fail("the file does not tell the ranges of both axes of a trackpad");
+            return deviceInput.fail("the file does not contain the ranges of both axes of a trackpad");
         description = std::move(ownDescription);
     }
     std::unique_ptr<EvemuRecordingReader> reader(new EvemuRecordingReader(std::move(input)));

@@ -16,7 +16,7 @@ namespace kinesta {
 /// kernel a line.
 class EvemuRecordingReader final : public RecordingReading {
   public:
-    /// Reads the description: from `device`, if not null, where the recording itself has no axis ranges.
+    /// Reads the description, from `device` (may be null) if the recording has no axis ranges.
     static Result<std::unique_ptr<RecordingReading>> open(std::unique_ptr<RecordingInput> input, std::istream* device);
 
     const RecordingHeader& header() const override { return m_header; }
@@ -25,7 +25,7 @@ class EvemuRecordingReader final : public RecordingReading {
   private:
     explicit EvemuRecordingReader(std::unique_ptr<RecordingInput> input) : m_input(std::move(input)) {}
 
-    /// Reads up to the first event, which is given if there is one.
+    /// Reads up to the first event and returns it, if there is one.
     static Result<std::optional<EvdevEvent>> readDescription(RecordingInput& input, EvdevDescription& description);
 
     std::unique_ptr<RecordingInput> m_input;

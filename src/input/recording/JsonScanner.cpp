@@ -112,7 +112,7 @@ std::optional<JsonNumber> JsonScanner::number() {
         fail("a number is out of range");
         return std::nullopt;
     }
-    // Above 2⁵³ a decimal fraction cannot be told from its neighbours, so whole-looking means nothing there.
+    // Above 2⁵³ every double is whole, so a fraction as written counts as no whole number.
     constexpr double kExact = 9007199254740992.0;
     if (isWhole) {
         if (std::int64_t integer = 0; std::from_chars(first, last, integer).ec == std::errc())
@@ -284,7 +284,7 @@ bool JsonScanner::takeWord(std::string_view word) {
     return true;
 }
 
-// Nothing is left to read after the first problem, so that every later verb fails too.
+// Skips the rest after the first problem, so that every later call fails too.
 bool JsonScanner::fail(std::string_view problem) {
     if (m_problem.empty())
         m_problem = m_at >= m_text.size() ? "the line ends too early" : problem;

@@ -8,41 +8,40 @@
 
 namespace kinesta {
 
-/// A number as JSON text has it.
+/// A number in JSON.
 struct JsonNumber {
     double value = 0;
     /// The same, if it is whole (250, also 250.0) and fits.
     std::optional<std::int64_t> integer;
 };
 
-/// Reads one JSON text from front to end without building anything from it. A recording has one such text for every
-/// frame: the tokenizer of the JSON library used elsewhere takes three times as long as all of the reading here.
+/// Reads one JSON text from front to end and builds nothing. A recording has one text for every frame, and the
+/// tokenizer of the JSON library takes three times as long as this.
 ///
-/// Every verb answers nothing, or false, if the text is not as the verb expects; problem() then says why, and every
-/// later verb fails too.
+/// Every function returns nothing, or false, if the text is not as expected; problem() then says why, and every later
+/// call fails too.
 class JsonScanner {
   public:
     enum class Kind { object, array, string, number, boolean, null, none };
 
-    /// Objects and arrays within each other at most.
+    /// Levels of nested objects and arrays at most.
     static constexpr int kMaximumDepth = 100;
 
     explicit JsonScanner(std::string_view text) : m_text(text) {}
 
-    /// What kind of value comes next; none if what comes begins no value.
+    /// The kind of the next value; none if no value follows.
     Kind kind();
 
     bool beginObject();
-    /// The key of the object's next member, before its value. Nothing after the last one: the object is then done.
-    /// Valid until the next verb.
+    /// The key of the object's next member, valid until the next call; its value follows. Nothing after the last one.
     std::optional<std::string_view> nextKey();
 
     bool beginArray();
-    /// Whether the array has another element. If not, the array is done.
+    /// Whether the array has another element.
     bool nextElement();
 
     std::optional<JsonNumber> number();
-    /// Valid until the next verb.
+    /// Valid until the next call.
     std::optional<std::string_view> string();
     std::optional<bool> boolean();
     bool skipValue() { return skipValue(0); }
@@ -50,7 +49,7 @@ class JsonScanner {
     /// Whether nothing but white space is left.
     bool end();
 
-    /// What is wrong with the text; empty as long as nothing is.
+    /// What is wrong with the text, or empty.
     std::string_view problem() const { return m_problem; }
 
   private:
@@ -66,7 +65,7 @@ class JsonScanner {
 
     std::string_view m_text;
     std::size_t m_at = 0;
-    bool m_isFirst = false;  // nothing read yet of the innermost object or array
+    bool m_isFirst = false;  // at the start of the innermost object or array
     std::string_view m_problem;
     std::string m_unescaped;
 };

@@ -47,7 +47,7 @@ Result<std::optional<RecordingEvent>> LibinputRecordingReader::next() {
     }
 }
 
-// A verb that reads a value begins with the value's first piece as the present one and ends with its last piece.
+// A function that reads a value starts at its first piece and ends at its last.
 
 bool LibinputRecordingReader::findTouchpad() {
     m_yaml.next();
@@ -168,13 +168,13 @@ bool LibinputRecordingReader::readIntegers(const std::function<void(std::int64_t
     while (m_yaml.next() != Kind::endSequence) {
         const auto value = m_yaml.kind() == Kind::scalar ? integerOf(m_yaml.text()) : std::nullopt;
         if (!value)
-            return fail("a list holds something else than whole numbers");
+            return fail("a list holds more than whole numbers");
         take(*value);
     }
     return true;
 }
 
-// Goes one piece further in the list of events, so that a list without end costs no more memory than any.
+// Reads one piece at a time, so that the memory does not grow with the list.
 bool LibinputRecordingReader::advance() {
     m_yaml.next();
     switch (m_place) {

@@ -10,7 +10,7 @@
 
 namespace kinesta {
 
-/// What the reader and the writer of Kinesta's own recordings must agree on.
+/// Shared by the reader and the writer of Kinesta's own recordings.
 struct RecordingFormat {
     static constexpr int kVersion = 1;
 
@@ -21,16 +21,16 @@ struct RecordingFormat {
 
     static constexpr std::array kTapWaitingMilliseconds{150, 200, 250, 300, 400};
 
-    /// Times lie within plus and minus this, so that they can be counted in 64-bit nanoseconds.
+    /// The limit of times in both directions: they must fit 64-bit nanoseconds.
     static constexpr Seconds kLatestTime = 9.2e9;
 
     static bool isTime(Seconds time) { return std::abs(time) <= kLatestTime; }
 };
 
-/// Sees to it that the times of a recording's events never go back.
+/// Checks that the times of a recording's events never go back.
 class RecordingTimeOrder {
   public:
-    /// Takes the next event's time. What is wrong with it, if anything.
+    /// Takes the next event's time. Returns what is wrong with it, if anything.
     std::optional<std::string> take(Seconds time);
 
   private:

@@ -56,8 +56,7 @@ Error RecordingInput::fail(std::size_t line, std::string_view what) {
     return *m_failure;
 }
 
-// Takes what the stream has without waiting for more than one byte: a recording may arrive through a pipe while it is
-// being made.
+// Waits for one byte at most: a recording may arrive through a pipe while it is being made.
 bool RecordingInput::fill() {
     if (m_stream.peek() == std::istream::traits_type::eof())
         return false;
@@ -69,7 +68,7 @@ bool RecordingInput::fill() {
         m_buffer.resize(std::max(m_buffer.size() * 2, m_end + kPiece));
     char* const target = m_buffer.data() + m_end;
     std::streamsize size = m_stream.readsome(target, static_cast<std::streamsize>(m_buffer.size() - m_end));
-    // An unbuffered stream, like std::cin shared with stdio, never tells that it has something.
+    // An unbuffered stream, like std::cin shared with stdio, always reports that it has nothing.
     if (size <= 0 && m_stream.get(*target))
         size = 1;
     m_end += static_cast<std::size_t>(std::max<std::streamsize>(size, 0));

@@ -11,38 +11,38 @@
 
 namespace kinesta {
 
-/// The bytes of a recording, read in pieces as they come, by lines or as a block. Keeps no more than one line.
+/// The bytes of a recording, read in pieces as they arrive, by lines or as a block. Keeps one line at most.
 class RecordingInput {
   public:
-    /// Bytes that a line may have. A frame of a thousand contacts takes a twentieth of it.
+    /// In bytes. A frame of a thousand contacts takes a twentieth of it.
     static constexpr std::size_t kMaximumLine = std::size_t{1} << 20;
 
-    /// `stream` must outlive this object. `name` is what errors call it.
+    /// `stream` must outlive this object. Errors call it `name`.
     RecordingInput(std::istream& stream, std::string name);
 
     /// The next line without its end, valid until the next call; nothing at the end of the input.
     Result<std::optional<std::string_view>> nextLine();
 
-    /// What is left of the current piece, after trying to have `size` bytes of it. Nothing is taken.
+    /// The rest of the current piece, after reading until it has `size` bytes. Takes nothing.
     std::string_view peek(std::size_t size);
 
     /// Takes up to `capacity` bytes; 0 at the end of the input and when it cannot be read.
     std::size_t read(char* target, std::size_t capacity);
 
-    /// Takes and forgets `size` bytes that peek() has shown.
+    /// Skips `size` bytes that peek() has returned.
     void skip(std::size_t size) { m_begin += size; }
 
-    /// Number of the line that nextLine() gave last, from 1; 0 before it.
+    /// Number of the line that nextLine() returned last, from 1; 0 before the first.
     std::size_t line() const { return m_line; }
 
-    /// "NAME:LINE: what", which nextLine() gives from now on.
+    /// Makes nextLine() return the error "NAME:LINE: what" from now on.
     Error fail(std::string_view what) { return fail(m_line, what); }
     Error fail(std::size_t line, std::string_view what);
 
-    /// What fail() was told first, if it was.
+    /// The first error of fail().
     const std::optional<Error>& failure() const { return m_failure; }
 
-    /// Whether the stream could not be read (as opposed to: has ended).
+    /// Whether reading failed, rather than ended.
     bool isBroken() const { return m_stream.bad(); }
 
   private:

@@ -21,7 +21,7 @@ std::string quoted(std::string_view key) {
 }  // namespace
 
 Result<RecordingHeader> RecordingLineDecoder::header(std::string_view line) {
-    // The version comes first, wherever it stands: what another version says in its header is not ours to judge.
+    // The version first: the header of another version may have other rules.
     m_problem.clear();
     if (!takeVersion(line))
         return Error{m_problem};
@@ -104,7 +104,7 @@ bool RecordingLineDecoder::takeEvent(JsonScanner& json, RecordingEvent& event) {
             if (!takeTouches(json, content.emplace<PadFrame>().samples))
                 return false;
         } else if (*key == "received") {
-            // Judged only once it is known to stand beside touches: elsewhere it is a key like any unknown one.
+            // Checked below, for it counts only beside touches; elsewhere it is an unknown key.
             receivedProblem = takeTime(json, *key, received.emplace());
         } else if (*key == "pointer") {
             ++contents;
@@ -141,9 +141,9 @@ bool RecordingLineDecoder::takeEvent(JsonScanner& json, RecordingEvent& event) {
     return true;
 }
 
-// Takes the value whatever it is; answers what is wrong with it as a time, if anything.
+// Takes any value. Returns what is wrong with it as a time, or an empty text.
 std::string RecordingLineDecoder::takeTime(JsonScanner& json, std::string_view key, Seconds& time) {
-    std::string name = quoted(key);  // the key does not outlive the next verb
+    std::string name = quoted(key);  // the key is valid until the next read
     if (json.kind() != Kind::number) {
         json.skipValue();
         return name + " is not a number";
@@ -250,7 +250,7 @@ bool RecordingLineDecoder::fail(std::string problem) {
     return false;
 }
 
-// What is wrong with the text as JSON comes first: a line cut in the middle of a touch is a cut line.
+// Malformed JSON comes first: a line cut in the middle of a touch is a cut line.
 Error RecordingLineDecoder::error(const JsonScanner& json) const {
     if (!json.problem().empty())
         return Error{"this is not valid JSON: " + std::string(json.problem())};

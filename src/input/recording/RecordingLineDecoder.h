@@ -11,7 +11,7 @@
 
 namespace kinesta {
 
-/// Understands single lines of Kinesta's own recordings. Errors say what is wrong with the line, without its place.
+/// Decodes single lines of Kinesta's own recordings. Errors do not name the line.
 class RecordingLineDecoder {
   public:
     Result<RecordingHeader> header(std::string_view line);

@@ -14,7 +14,7 @@ namespace {
 
 enum class Format { kinesta, evemu, libinput, unknown, undecided };
 
-/// The format that one line gives away.
+/// The format that has such a line.
 Format formatOfLine(std::string_view line) {
     const auto begins = [line](std::string_view start) { return line.starts_with(start); };
     if (begins("{"))
@@ -38,8 +38,7 @@ struct Finding {
     std::size_t line = 1;
 };
 
-/// Looks into the input up to the first telling line, but not much further than one line may be long, and takes
-/// nothing of it.
+/// Peeks up to the first line that shows the format, and not much further than one line may be long.
 Finding findFormat(RecordingInput& input) {
     std::size_t begin = 0;
     for (Finding finding;; ++finding.line) {

@@ -10,7 +10,7 @@
 
 namespace kinesta {
 
-/// What a recording says of itself before its first event.
+/// The part of a recording before its first event.
 struct RecordingHeader {
     std::string device;
     RecordedSettings settings;
@@ -18,21 +18,20 @@ struct RecordingHeader {
     friend bool operator==(const RecordingHeader&, const RecordingHeader&) = default;
 };
 
-/// A recording read event by event, whatever its format, in constant memory.
+/// Reads a recording of any format event by event, in constant memory.
 class RecordingReading {
   public:
     virtual ~RecordingReading() = default;
 
     virtual const RecordingHeader& header() const = 0;
 
-    /// The next event; nothing at the end; an error, "NAME:LINE: what is wrong", at input that is not of the format.
-    /// After the end or an error, the same again.
+    /// The next event; nothing at the end; an error "NAME:LINE: what is wrong" at malformed input. Both are final.
     virtual Result<std::optional<RecordingEvent>> next() = 0;
 };
 
-/// Opens a recording of any of the known formats, told apart by how it begins: Kinesta's own, `evemu-record` and
-/// `libinput record`. `name` is what errors call the input. `device`, if not null, is an evemu device description
-/// that gives the axis ranges of a recording without any. Both streams must outlive the reader.
+/// Opens a recording and finds its format by how it begins: Kinesta's own, `evemu-record` or `libinput record`. Errors
+/// call the input `name`. `device`, if not null, is an evemu device description
+/// with the axis ranges of a recording that has none. Both streams must outlive the reader.
 Result<std::unique_ptr<RecordingReading>> openRecording(std::istream& stream, std::string name,
                                                         std::istream* device = nullptr);
 

@@ -10,7 +10,7 @@
 namespace kinesta {
 namespace {
 
-// Each appends its part of a line, and answers what the format cannot hold of it, or nothing.
+// Each appends its part of a line and returns why the format cannot hold it, if so.
 using Problem = std::optional<std::string>;
 
 Problem append(std::string& line, const PadFrame& frame) {

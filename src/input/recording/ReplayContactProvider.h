@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// A source of contact frames that come from a recording or a test. Every verb may be called on any thread.
+/// Contact frames from a recording or a test. Thread-safe.
 class ReplayContactProvider final : public TrackpadContactProviding {
   public:
     FrameHandler frameHandler() const override { return m_handler.handler(); }
@@ -18,7 +18,7 @@ class ReplayContactProvider final : public TrackpadContactProviding {
     void start() override { m_isListening = true; }
     void stop() override { m_isListening = false; }
 
-    /// Hands a frame to the frame handler on the calling thread; while stopped, drops it as a stopped device would.
+    /// Calls the frame handler on the calling thread; drops the frame while stopped.
     void deliver(const TrackpadContactFrame& frame) {
         if (m_isListening)
             m_handler.call(frame);

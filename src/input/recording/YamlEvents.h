@@ -17,16 +17,16 @@ class YamlEvents {
   public:
     enum class Kind { scalar, beginMapping, endMapping, beginSequence, endSequence, end, failed };
 
-    /// Mappings and sequences within each other at most.
+    /// Levels of nested mappings and sequences at most.
     static constexpr int kMaximumDepth = 64;
 
     explicit YamlEvents(RecordingInput& input);
 
-    /// Goes to the next piece. Once it is end or failed, it stays so.
+    /// Goes to the next piece. `end` and `failed` are final.
     Kind next();
 
     Kind kind() const { return m_kind; }
-    /// The text of a scalar; empty for the others. Valid until the next verb.
+    /// The text of a scalar; empty for the others. Valid until the next call.
     std::string_view text() const { return m_text; }
     /// The line on which the last value began, from 1; after a failure the line of the error, if known.
     std::size_t line() const { return m_line; }

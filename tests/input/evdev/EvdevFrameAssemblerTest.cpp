@@ -4,11 +4,9 @@
 
 #include <algorithm>
 #include <limits>
-#include <map>
 #include <sstream>
 
 #include "../recording/RecordingText.h"
-#include "input/evdev/EvdevCodes.h"
 #include "input/evdev/PressureStageTracker.h"
 #include "support/TableRows.h"
 
@@ -25,36 +23,19 @@ EvdevTouchpad pad(int slots, EvdevAxisRange range = {0, 1000}) {
 /// Plays "word value word value / word value /", in which "/" ends a report at the time of its number, and joins the
 /// resulting events by "; ".
 std::string play(const EvdevTouchpad& touchpad, const std::string& script) {
-    using namespace evdev;
-    static const std::map<std::string, std::pair<std::uint16_t, std::uint16_t>> words{
-        {"mt", {kTypeSyn, kSynMtReport}},
-        {"drop", {kTypeSyn, kSynDropped}},
-        {"slot", {kTypeAbs, kAbsMtSlot}},
-        {"id", {kTypeAbs, kAbsMtTrackingId}},
-        {"x", {kTypeAbs, kAbsMtPositionX}},
-        {"y", {kTypeAbs, kAbsMtPositionY}},
-        {"major", {kTypeAbs, kAbsMtTouchMajor}},
-        {"pressure", {kTypeAbs, kAbsPressure}},
-        {"onlyX", {kTypeAbs, kAbsX}},
-        {"onlyY", {kTypeAbs, kAbsY}},
-        {"touch", {kTypeKey, kBtnTouch}},
-        {"one", {kTypeKey, kBtnToolFinger}},
-        {"two", {kTypeKey, kBtnToolDoubleTap}},
-        {"three", {kTypeKey, kBtnToolTripleTap}},
-        {"four", {kTypeKey, kBtnToolQuadTap}},
-        {"five", {kTypeKey, kBtnToolQuintTap}},
-        {"left", {kTypeKey, kBtnLeft}},
-        {"right", {kTypeKey, kBtnRight}},
-        {"/", {kTypeSyn, kSynReport}},
-    };
+    // In hexadecimal, as in the kernel's headers.
+    static const std::string words =
+        " slot 3 2f id 3 39 x 3 35 y 3 36 major 3 30 pressure 3 18 onlyX 3 0 onlyY 3 1 touch 1 14a one 1 145 two 1 14d "
+        "three 1 14e four 1 14f five 1 148 left 1 110 right 1 111 mt 0 2 drop 0 3 / 0 0 ";
     std::string result;
     EvdevFrameAssembler assembler(touchpad);
     const auto sink = [&](const PadEvent& event) { result += (result.empty() ? "" : "; ") + eventText(event); };
     EvdevEvent event{.time = 1};
     std::istringstream input(script);
     for (std::string word; input >> word; event.value = 0) {
-        std::tie(event.type, event.code) = words.at(word);
-        if (event.type != kTypeSyn)
+        std::istringstream(words.substr(words.find(" " + word + " ") + word.size() + 2)) >> std::hex >> event.type >>
+            event.code;
+        if (event.type != 0)
             input >> event.value;
         event.time += word == "/" ? 1 : 0;
         assembler.process(event, sink);

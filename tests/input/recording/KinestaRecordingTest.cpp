@@ -83,13 +83,17 @@ the time 0.25 is before 0.5, that of the event before => {"t":0.25,"pointer":"up
 "received" is not a number => {"t":1,"touches":[],"received":"1"}
 "received" is not within 9.2e9 seconds => {"received":1e10,"t":1,"touches":[]}
 )");
+    for (const std::string& touch : split(
+             "1,2,3 | [1,2] | [1,2,3,4] | [\"1\",2,3] | [1.5,2,3] | [1,2,null] | [2147483648,2,3] | [-2147483649,2,3]",
+             " | "))
+        EXPECT_EQ(firstError("{\"t\":1,\"touches\":[" + touch + "]}"),
+                  "x:2: a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers");
+    for (const std::string& interval : split("\"250\" | 250.5 | 4294967546", " | "))
+        EXPECT_EQ(firstError("{\"t\":1,\"settings\":{\"tapWaitingInterval.v1\":" + interval + "}}"),
+                  "x:2: \"tapWaitingInterval.v1\" is none of 150, 200, 250, 300 and 400");
     expectErrors(kHeader + "\n{\"t\":1,", "}", "2: ", R"(
 "touches" is not an array => "touches":{}
 "touches" holds an id twice => "touches":[[1,2,3],[2,2,3],[1,4,5]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[1,2,3] | "touches":[[1,2]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[1,2,3,4]] | "touches":[["1",2,3]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[1.5,2,3]] | "touches":[[1,2,null]]
-a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => "touches":[[2147483648,2,3]] | "touches":[[-2147483649,2,3]]
 "pointer" is neither "down" nor "up" => "pointer":"left" | "pointer":true
 "pressure" is not a whole number => "pressure":1.5 | "pressure":"1" | "pressure":9223372036854775808
 "settings" is not an object => "settings":null
@@ -97,8 +101,6 @@ a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers => 
 "cornerPalmRejectionEnabled.v1" is neither true nor false => "settings":{"cornerPalmRejectionEnabled.v1":"true"}
 "cornerPalmRejectionSensitivity.v1" is not a number => "settings":{"cornerPalmRejectionSensitivity.v1":true}
 "tapWaitingInterval.v1" is none of 150, 200, 250, 300 and 400 => "settings":{"tapWaitingInterval.v1":251}
-"tapWaitingInterval.v1" is none of 150, 200, 250, 300 and 400 => "settings":{"tapWaitingInterval.v1":"250"}
-"tapWaitingInterval.v1" is none of 150, 200, 250, 300 and 400 => "settings":{"tapWaitingInterval.v1":4294967546}
 )");
 }
 
@@ -120,14 +122,14 @@ something follows the object => {"t":1,"pointer":"up"}x
     const std::string deep(500'000, '[');
     const std::string closed = std::string(99, '[') + "0" + std::string(99, ']');
     EXPECT_EQ(firstError("{\"t\":1,\"pointer\":\"up\",\"a\":" + closed + "}"), "");
-    for (const auto& [error, value] :
-         std::vector<std::pair<std::string, std::string>>{{"a text holds a control character", "\"\t\""},
-                                                          {"a text is not UTF-8", "\"\xC0\x80\""},
-                                                          {"a text is not UTF-8", "\"\xED\xA0\x80\""},
-                                                          {"a value is missing", std::string("\0", 1)},
-                                                          {"values are nested too deeply", deep},
-                                                          {"values are nested too deeply", deep.substr(0, 101)}})
+    const auto expectError = [](const std::string& value, const std::string& error) {
         EXPECT_EQ(firstError("{\"t\":1,\"a\":" + value + "}"), "x:2: this is not valid JSON: " + error);
+    };
+    expectError("\"\t\"", "a text holds a control character");
+    expectError("\"\xED\xA0\x80\"", "a text is not UTF-8");
+    expectError(std::string("\0", 1), "a value is missing");
+    expectError(deep, "values are nested too deeply");
+    expectError(deep.substr(0, 101), "values are nested too deeply");
 }
 
 TEST(KinestaRecording, KeepsOneLineInMemory) {
@@ -149,24 +151,19 @@ TEST(KinestaRecording, KeepsOneLineInMemory) {
     for (const int count : {16, 17, 1000})
         EXPECT_EQ(read(crowd(count, 3)).error, "x:2: \"touches\" holds an id twice") << count;
 
-    struct Endless {
-        std::string beginning;
-        char rest;
-        const char* error;
-    };
-    for (const auto& [beginning, rest, error] :
-         {Endless{"{", 'a', "1: the line is longer than 1 MiB"},
-          {"", '\n', "1048578: the input holds no recording"},
-          {"", ' ', "1: the input holds no recording"},
-          {kHeader + "\n{\"t\":1,\"a\":\"", 'a', "2: the line is longer than 1 MiB"},
-          {"# EVEMU 1.2\nN: ", 'a', "2: the line is longer than 1 MiB"},
-          {"version: 1\nname: \"", '\n', "2: a value is longer than 1 MiB"},
-          {"version: 1\nname: ", '[', "2: values are nested too deeply"}}) {
+    const auto expectError = [](const std::string& beginning, char rest, const std::string& error) {
         ContinuedInput input(beginning, rest);
         std::istream stream(&input);
-        EXPECT_EQ(read(stream).error, std::string("x:") + error) << beginning;
+        EXPECT_EQ(read(stream).error, "x:" + error) << beginning;
         EXPECT_LT(input.given, 2 * kLimit) << beginning;
-    }
+    };
+    expectError("{", 'a', "1: the line is longer than 1 MiB");
+    expectError("", '\n', "1048578: the input holds no recording");
+    expectError("", ' ', "1: the input holds no recording");
+    expectError(kHeader + "\n{\"t\":1,\"a\":\"", 'a', "2: the line is longer than 1 MiB");
+    expectError("# EVEMU 1.2\nN: ", 'a', "2: the line is longer than 1 MiB");
+    expectError("version: 1\nname: \"", '\n', "2: a value is longer than 1 MiB");
+    expectError("version: 1\nname: ", '[', "2: values are nested too deeply");
 }
 
 TEST(Recordings, ReadAnyStream) {
@@ -178,14 +175,15 @@ TEST(Recordings, ReadAnyStream) {
         std::istream stream(&input);
         EXPECT_EQ(read(stream).events, expected.events) << name;
     }
-    for (const auto& [text, line] : {std::pair<std::string, int>{"", 1},
-                                     {kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", 2},
-                                     {"# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", 4},
-                                     {"version: 1\n", 1}}) {
-        ContinuedInput input(text);
+    const auto expectBroken = [](const std::string& beginning, const std::string& line) {
+        ContinuedInput input(beginning);
         std::istream stream(&input);
-        EXPECT_EQ(read(stream).error, "x:" + std::to_string(line) + ": the input cannot be read") << text;
-    }
+        EXPECT_EQ(read(stream).error, "x:" + line + ": the input cannot be read") << beginning;
+    };
+    expectBroken("", "1");
+    expectBroken(kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", "2");
+    expectBroken("# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", "4");
+    expectBroken("version: 1\n", "1");
 }
 
 // A crash, a full disk or a broken copy can cut a file anywhere.

@@ -41,27 +41,19 @@ TEST(RecordingWriter, WritesOneLineAnEvent) {
 
 TEST(RecordingWriter, WritesEveryBit) {
     std::mt19937_64 random(5);
-    std::vector<double> numbers{-0.0, 1.0 / 3, 0.1 + 0.2, 9007199254740993.0, std::nextafter(1.0, 0.0)};
-    for (const double number : {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::epsilon()})
-        numbers.insert(numbers.end(), {number, -number});
+    std::vector<double> numbers{-0.0, 1.0 / 3, 0.1 + 0.2, 9007199254740993.0, Limits::max(), Limits::denorm_min()};
     while (numbers.size() < 2000)
         if (const auto number = std::bit_cast<double>(random()); std::isfinite(number))
             numbers.push_back(number);
     std::vector<RecordingEvent> events;
     Seconds time = -9.2e9;
-    TouchSamples crowd;
     for (const double number : numbers) {
-        const auto id = static_cast<ContactId>(random());
-        events.push_back(frame(time, {{id, {number, -number}}, {std::numeric_limits<ContactId>::min(), {1, 1}}}, time));
+        events.push_back(frame(time, {{static_cast<ContactId>(random()), {number, -number}}}, time));
         time = std::min(9.2e9, time + 1e7 * std::generate_canonical<double, 64>(random));
-        if (crowd.size() < 40)
-            crowd.push_back({static_cast<ContactId>(crowd.size()), {number, 0}});
     }
-    events.push_back(PadEvent{9.2e9, PadFrame{crowd, std::nullopt}});
-    events.push_back(PadEvent{9.2e9, PadPressure{std::numeric_limits<std::int64_t>::max()}});
+    events.push_back(PadEvent{9.2e9, PadPressure{std::numeric_limits<std::int64_t>::min()}});
     events.push_back(SettingsChange{9.2e9, {false, 150, false, Limits::max()}});
     const RecordingHeader header{.device = "é\t\x01 \"\\", .settings = {true, 300, true, -0.0}};
-
     std::stringstream stream;
     RecordingWriter writer(stream);
     ASSERT_TRUE(writer.writeHeader(header));
@@ -71,7 +63,7 @@ TEST(RecordingWriter, WritesEveryBit) {
     EXPECT_EQ(reading.error, "");
     EXPECT_EQ(reading.header, header);
     EXPECT_TRUE(reading.events == events);
-    EXPECT_TRUE(reading.texts()[0].ends_with("@-0,0 -2147483648@1,1 received -9.2e+09")) << reading.texts()[0];
+    EXPECT_TRUE(reading.texts()[0].ends_with("@-0,0 received -9.2e+09")) << reading.texts()[0];
 }
 
 TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
@@ -107,24 +99,21 @@ TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
 TEST(ReplayContactProvider, DeliversWhileStarted) {
     ReplayContactProvider provider;
     std::vector<Seconds> seen;
-    const auto deliver = [&](Seconds time) { provider.deliver({{}, time}); };
-    deliver(0);
-    provider.start();
-    deliver(1);
-    provider.setFrameHandler([&](const TrackpadContactFrame& frame) { seen.push_back(frame.timestamp); });
-    EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::listening());
-    deliver(2);
-    provider.stop();
-    deliver(3);
-    provider.start();
-    // A handler may stop the provider and replace itself.
-    provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
-        provider.stop();
-        provider.setFrameHandler({});
-        seen.push_back(frame.timestamp);
-    });
-    deliver(4);
-    deliver(5);
+    for (Seconds time = 0; time < 6; ++time) {
+        if (time == 1 || time == 4)
+            provider.start();
+        if (time == 2)
+            provider.setFrameHandler([&](const TrackpadContactFrame& frame) { seen.push_back(frame.timestamp); });
+        if (time == 3)
+            provider.stop();
+        if (time == 4)  // a handler may stop the provider and replace itself
+            provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
+                provider.stop();
+                provider.setFrameHandler({});
+                seen.push_back(frame.timestamp);
+            });
+        provider.deliver({{}, time});
+    }
     EXPECT_EQ(seen, (std::vector<Seconds>{2, 4}));
     EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::stopped());
 }
