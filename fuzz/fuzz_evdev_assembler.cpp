@@ -1,4 +1,4 @@
-// Plays any bytes as the events of a pad. Whatever a driver sends, frames and buttons must keep their promises.
+// Plays any bytes as the events of a pad and checks the frames and buttons.
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <cstddef>
@@ -12,7 +12,7 @@ using namespace kinesta;
 
 namespace {
 
-// What the assembler knows, so that most of what the fuzzer tries means something.
+// The codes that the assembler knows, so that most events have an effect.
 constexpr std::uint16_t kKnownCodes[] = {0x00,  0x01,  0x02,  0x03,  0x18,  0x2f,  0x30,  0x35,  0x36, 0x39,
                                          0x110, 0x111, 0x145, 0x148, 0x14a, 0x14d, 0x14e, 0x14f, 0x3f};
 

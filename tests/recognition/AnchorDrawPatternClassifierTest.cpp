@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numbers>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -33,16 +33,6 @@ Path strokes(std::initializer_list<Point> vectors, int pointsEach = 12) {
 /// Three strokes to the right, the first one downward.
 Path zigzag(double size, int pointsEach = 12) {
     return strokes({{size, -size}, {size, size}, {size, -size}}, pointsEach);
-}
-
-/// An arc of 40 points, counterclockwise for positive turns (of 1 each).
-Path arc(double radius, double turns) {
-    Path path;
-    for (int i = 0; i < 40; ++i) {
-        const double angle = 2 * std::numbers::pi * turns * i / 39;
-        path.push_back({0.5 + radius * std::cos(angle), 0.5 + radius * std::sin(angle)});
-    }
-    return path;
 }
 
 /// Counterclockwise around a rectangle, by its corners and the middles of its sides.
@@ -76,20 +66,25 @@ TEST(AnchorDrawPatternClassifier, FindsLines) {
 }
 
 TEST(AnchorDrawPatternClassifier, FindsCircles) {
-    Path open = around(0.2, 0.2);
-    open.back() = {0, 0.13};
+    const auto endingAt = [](double y) {
+        Path path = around(0.2, 0.2);
+        path.back() = {0, y};
+        return path;
+    };
+    Path clockwise = around(0.2, 0.2);
+    std::reverse(clockwise.begin(), clockwise.end());
     Path eight = around(0.2, 0.2);
     eight.erase(eight.end() - 2);
     Path seven = eight;
     seven.erase(seven.begin() + 3);
     expectPatterns({
-        {"clockwise", arc(0.08, -1), "circleClockwise"},
+        {"clockwise", clockwise, "circleClockwise"},
         {"smallest", around(0.11, 0.11), "circleCounterclockwise"},
         {"too small", around(0.1099, 0.12), "nothing"},
         {"as long as allowed", around(0.209, 0.11), "circleCounterclockwise"},
         {"too long", around(0.2091, 0.11), "nothing"},
-        {"as open as allowed", open, "circleCounterclockwise"},
-        {"too open", arc(0.1, -0.7), "nothing"},
+        {"as open as allowed", endingAt(0.13), "circleCounterclockwise"},
+        {"too open", endingAt(0.1301), "nothing"},
         {"eight points", eight, "circleCounterclockwise"},
         {"seven points", seven, "nothing"},
         {"an area of 0", strokes({{0.3, 0.3}, {-0.3, -0.3}}), "circleCounterclockwise"},
@@ -121,16 +116,13 @@ TEST(AnchorDrawPatternClassifier, FindsStrokesInOneDirectionOnly) {
 TEST(AnchorDrawPatternClassifier, TakesAnyCoordinates) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-    const auto spoiled = [](std::size_t index, Point point) {
-        Path path = strokes({{0.1, -0.1}, {0.1, 0.1}});
-        path[index] = point;
-        return patternOf(path);
-    };
     for (const std::size_t index : {0U, 7U, 24U})
-        for (const double x : {kInfinity, -kInfinity, kNaN})
-            EXPECT_EQ(spoiled(index, {x, kInfinity}), "nothing") << x << " at " << index;
-    EXPECT_EQ(spoiled(7, {kNaN, kNaN}), "vShape") << "a point that is not a number is left out";
-    EXPECT_EQ(spoiled(0, {kNaN, 0}), "nothing") << "no point is apart from the first";
+        for (const Point bad : {Point{kInfinity, kInfinity}, {-kInfinity, 0}, {kNaN, kInfinity}, {kNaN, kNaN}}) {
+            Path path = strokes({{0.1, -0.1}, {0.1, 0.1}});
+            path[index] = bad;
+            const bool isLeftOut = index > 0 && std::isnan(bad.x) && std::isnan(bad.y);
+            EXPECT_EQ(patternOf(path), isLeftOut ? "vShape" : "nothing") << bad.x << " at " << index;
+        }
 }
 
 }  // namespace

@@ -104,44 +104,32 @@ bool LibinputRecordingReader::findEventsInDevice() {
 }
 
 bool LibinputRecordingReader::readDescription(EvdevDescription& description) {
-    if (!expect(Kind::beginMapping, "\"evdev\" is not described by keys and values"))
-        return false;
-    while (const auto key = nextKey()) {
-        const bool isCodes = *key == "codes";
-        const bool isAxes = *key == "absinfo";
-        const bool isProperties = *key == "properties";
-        const bool isName = *key == "name";
-        m_yaml.next();
-        if ((isCodes && !readCodes(description)) || (isAxes && !readAxes(description)) ||
-            (isProperties && !readProperties(description)))
-            return false;
-        if (isName)
+    return readMapping("\"evdev\"", [&](std::string_view key) {
+        if (key == "codes")
+            return readCodes(description);
+        if (key == "absinfo")
+            return readAxes(description);
+        if (key == "properties")
+            return readIntegers([&](std::int64_t property) { description.addProperty(property); });
+        if (key == "name")
             description.setName(std::string(m_yaml.text()));
-        if (!isCodes && !isAxes && !isProperties)
-            m_yaml.skipValue();
-    }
-    return m_yaml.kind() == Kind::endMapping || fail("\"evdev\" is not described by keys and values");
+        m_yaml.skipValue();
+        return true;
+    });
 }
+
 bool LibinputRecordingReader::readCodes(EvdevDescription& description) {
-    if (!expect(Kind::beginMapping, "\"codes\" is not described by keys and values"))
-        return false;
-    while (const auto key = nextKey()) {
-        const bool isKeys = integerOf(*key) == evdev::kTypeKey;
-        m_yaml.next();
-        if (!isKeys)
-            m_yaml.skipValue();
-        else if (!readIntegers([&](std::int64_t code) { description.addKey(code); }))
-            return false;
-    }
-    return m_yaml.kind() == Kind::endMapping || fail("\"codes\" is not described by keys and values");
+    return readMapping("\"codes\"", [&](std::string_view type) {
+        if (integerOf(type) == evdev::kTypeKey)
+            return readIntegers([&](std::int64_t code) { description.addKey(code); });
+        m_yaml.skipValue();
+        return true;
+    });
 }
 
 bool LibinputRecordingReader::readAxes(EvdevDescription& description) {
-    if (!expect(Kind::beginMapping, "\"absinfo\" is not described by keys and values"))
-        return false;
-    while (const auto key = nextKey()) {
-        const auto code = integerOf(*key);
-        m_yaml.next();
+    return readMapping("\"absinfo\"", [&](std::string_view axis) {
+        const auto code = integerOf(axis);
         std::array<std::int64_t, 2> range{};
         std::size_t count = 0;
         const auto take = [&](std::int64_t value) {
@@ -154,12 +142,22 @@ bool LibinputRecordingReader::readAxes(EvdevDescription& description) {
         if (!code || count < range.size() || !fits<std::int32_t>(range[0]) || !fits<std::int32_t>(range[1]))
             return fail("an axis is not of the form \"code: [minimum, maximum, …]\"");
         description.setAxis(*code, {static_cast<std::int32_t>(range[0]), static_cast<std::int32_t>(range[1])});
-    }
-    return m_yaml.kind() == Kind::endMapping || fail("\"absinfo\" is not described by keys and values");
+        return true;
+    });
 }
 
-bool LibinputRecordingReader::readProperties(EvdevDescription& description) {
-    return readIntegers([&](std::int64_t property) { description.addProperty(property); });
+bool LibinputRecordingReader::readMapping(const std::string& name,
+                                          const std::function<bool(std::string_view)>& readValue) {
+    const std::string problem = name + " is not described by keys and values";
+    if (!expect(Kind::beginMapping, problem))
+        return false;
+    while (const auto key = nextKey()) {
+        const std::string ownKey(*key);
+        m_yaml.next();
+        if (!readValue(ownKey))
+            return false;
+    }
+    return m_yaml.kind() == Kind::endMapping || fail(problem);
 }
 
 bool LibinputRecordingReader::readIntegers(const std::function<void(std::int64_t)>& take) {
@@ -168,7 +166,7 @@ bool LibinputRecordingReader::readIntegers(const std::function<void(std::int64_t
     while (m_yaml.next() != Kind::endSequence) {
         const auto value = m_yaml.kind() == Kind::scalar ? integerOf(m_yaml.text()) : std::nullopt;
         if (!value)
-            return fail("a list holds more than whole numbers");
+            return fail("a list holds something other than whole numbers");
         take(*value);
     }
     return true;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "input/evdev/EvdevDescription.h"
@@ -37,7 +38,8 @@ class LibinputRecordingReader final : public RecordingReading {
     bool readDescription(EvdevDescription& description);
     bool readCodes(EvdevDescription& description);
     bool readAxes(EvdevDescription& description);
-    bool readProperties(EvdevDescription& description);
+    /// Calls `readValue` with each key, at its value.
+    bool readMapping(const std::string& name, const std::function<bool(std::string_view key)>& readValue);
     bool readIntegers(const std::function<void(std::int64_t)>& take);
     bool readEvent();
     bool advance();

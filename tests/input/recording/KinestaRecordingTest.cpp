@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "RecordingText.h"
-#include "StreamFakes.h"
 #include "support/TableRows.h"
 
 namespace kinesta {

@@ -8,7 +8,6 @@
 #include <random>
 
 #include "RecordingText.h"
-#include "StreamFakes.h"
 #include "input/recording/ReplayContactProvider.h"
 
 namespace kinesta {
