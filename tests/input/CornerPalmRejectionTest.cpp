@@ -57,6 +57,8 @@ TEST(CornerPalmRejectionFilter, JudgesAContactByWhereItStarts) {
     EXPECT_EQ(keptIds(filter, {{4, corner}, {-5, middle}}), "4 -5 ");
     filter.setSettings({.isEnabled = true});
     EXPECT_EQ(keptIds(filter, {{-5, corner}, {4, middle}}), "4 ") << "all are new after being off";
+    EXPECT_EQ(keptIds(filter, {{4, middle}, {4, middle}}), "4 4 ");
+    EXPECT_EQ(keptIds(filter, {{4, middle}, {-5, middle}}), "4 -5 ") << "an id twice hides no lift";
 }
 
 TEST(CornerPalmRejectionFilter, HoldsMoreContactsThanFitInPlace) {

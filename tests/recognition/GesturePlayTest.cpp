@@ -60,7 +60,8 @@ TEST(MultitouchService, ReportsTipTapsSlidesAndDrawings) {
          "1.45 tipTapRight of 2; 1.7001 tipTapRight of 2"},
         {"triple, at once", tipTaps(touching(1), {1.2, 1.4, 1.6}), "1.6 tripleTipTapRight of 2"},
         {"the other side", tipTaps(once, {1.4}, 0.1), "1.65 tipTapLeft of 2"},
-        {"another anchor", tipTaps(PadScript(once).up(1).down(2, {0.4, 0.5}), {1.44}), "1.69 tipTapRight of 2"},
+        {"another anchor", tipTaps(PadScript(once).at(1.21).up(1).down(2, {0.4, 0.5}), {1.44}),
+         "1.69 tipTapRight of 2"},
         {"the tap setting counts and outlives being off", tipTaps(patient().at(1).land(1), {1.2, 1.59}),
          "1.99 doubleTipTapRight of 2"},
         {"a quick one is a tap of two fingers too", PadScript(once).at(1.23).upAll(),
@@ -114,11 +115,12 @@ TEST(MultitouchService, TakesPalmsForNoFingers) {
     const PadScript palm = PadScript().setPalmRejection(true).at(1).down(99, {0.02, 0.02});
     const PadScript tapped = PadScript(palm).at(1.95).land(2).at(2).up(1).up(2);
     const PadScript clicked = PadScript(palm).at(2).land(2).click(2, 2.1).up(1).up(2);
-    const PadScript changed = touching(2).at(1.05).setPalmRejection(true);
+    const PadScript changed = touching(2).at(1.05).setPalmRejection(true).at(1.055).hold();
     expectPlays({
         {"a tap beside a palm", tapped, "2.25 singleTap of 2"},
         {"a click of a palm", PadScript(palm).click(2, 2.1), ""},
-        {"a palm alone forgets the fingers before", PadScript(tapped).click(2.02, 2.1), "2.25 singleTap of 2"},
+        {"a palm alone forgets the fingers before", PadScript(tapped).at(2.01).up(99).click(2.02, 2.1),
+         "2.25 singleTap of 2"},
         {"a palm that stays keeps clicked fingers from tapping",
          PadScript(clicked).at(2.2).land(2).at(2.25).up(1).up(2), "2.35 singleSoftClick of 2"},
         {"equal settings cancel nothing", taps({1}).at(1.1).setPalmRejection(false), "1.25 singleTap of 2"},

@@ -208,7 +208,7 @@ PadScript upward(std::initializer_list<double> ways) {
 }
 
 TEST(EdgeSlideRecognizer, CountsStepsAlongAnEdge) {
-    const auto fingers = [](double count) { return slide(0.05, static_cast<int>(count)); };
+    const auto fingers = [](double count) { return slide(0.05, static_cast<int>(count), 0.04); };
     expectBounds<EdgeSlideRecognizer>({
         {"left start band", [](double x) { return slide(x, 2, -0.05); }, 0.28, 0.2801, "2left2"},
         {"right start band", [](double x) { return slide(x, 2); }, 0.72, 0.7199, "2right2"},
