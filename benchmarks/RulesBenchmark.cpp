@@ -26,8 +26,8 @@ std::vector<GestureRule> rules(std::int64_t count) {
     return list;
 }
 
-/// The longest search: to the end of the list, in vain.
-void selectRuleInVain(benchmark::State& state) {
+/// The longest search: to the end of a list without a match.
+void selectNoRule(benchmark::State& state) {
     const std::vector<GestureRule> list = rules(state.range(0));
     const DetectedGesture gesture = DetectedTap{5, GestureKind::singleTap};
     for (auto _ : state)
@@ -48,7 +48,7 @@ void decodeRuleList(benchmark::State& state) {
         benchmark::DoNotOptimize(decodeRules(json));
 }
 
-BENCHMARK(selectRuleInVain)->Arg(100);
+BENCHMARK(selectNoRule)->Arg(100);
 BENCHMARK(encodeRuleList)->Arg(1000);
 BENCHMARK(decodeRuleList)->Arg(1000);
 

@@ -1,31 +1,31 @@
-// Plays any bytes as the events of a pad. Whatever a driver sends, frames and buttons must keep their promises.
+// Plays any bytes as the events of a pad and checks the frames and buttons.
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <cstddef>
 #include <cstdint>
 
 #include "input/ContactIdSet.h"
-#include "input/EvdevFrameAssembler.h"
+#include "input/evdev/EvdevFrameAssembler.h"
 #include "require.h"
 
 using namespace kinesta;
 
 namespace {
 
-// What the assembler knows, so that most of what the fuzzer tries means something.
+// The codes that the assembler knows, so that most events have an effect.
 constexpr std::uint16_t kKnownCodes[] = {0x00,  0x01,  0x02,  0x03,  0x18,  0x2f,  0x30,  0x35,  0x36, 0x39,
                                          0x110, 0x111, 0x145, 0x148, 0x14a, 0x14d, 0x14e, 0x14f, 0x3f};
 
 class Checker {
   public:
-    void check(const RecordingEvent& event, Seconds time) {
+    void check(const PadEvent& event, Seconds time) {
         require(event.time == time);
-        if (const auto* pointer = std::get_if<RecordedPointer>(&event.content)) {
-            m_buttonsDown += *pointer == RecordedPointer::down ? 1 : -1;
+        if (const auto* pointer = std::get_if<PadButton>(&event.content)) {
+            m_buttonsDown += *pointer == PadButton::down ? 1 : -1;
             require(m_buttonsDown >= 0 && m_buttonsDown <= 2);
             return;
         }
-        const auto* frame = std::get_if<RecordedFrame>(&event.content);
+        const auto* frame = std::get_if<PadFrame>(&event.content);
         require(frame && (m_hadFingers || !frame->samples.empty()));
         m_hadFingers = !frame->samples.empty();
         require(ContactIdSet(frame->samples).size() == frame->samples.size());
@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         event.code = input.PickValueInArray(kKnownCodes);
         event.value = input.ConsumeBool() ? input.ConsumeIntegralInRange<std::int32_t>(-2, 9)
                                           : input.ConsumeIntegral<std::int32_t>();
-        assembler.process(event, [&](const RecordingEvent& made) { checker.check(made, time); });
+        assembler.process(event, [&](const PadEvent& made) { checker.check(made, time); });
     }
     return 0;
 }

@@ -1,5 +1,5 @@
-// Any stream of frames, clicks and settings through the whole of recognition: it never crashes, and what it reports is
-// always something that can be a gesture.
+// Plays any stream of frames, clicks and settings through all recognizers. They must not crash, and every result must
+// be a possible gesture.
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <array>
@@ -23,7 +23,7 @@ class Bytes : public FuzzedDataProvider {
 
     std::uint8_t next() { return ConsumeIntegral<std::uint8_t>(); }
 
-    /// Mostly on the pad, to 1/200; sometimes nowhere.
+    /// Mostly on the pad, in steps of 1/200.
     double coordinate() {
         using Limits = std::numeric_limits<double>;
         constexpr std::array kOddities{
@@ -32,7 +32,7 @@ class Bytes : public FuzzedDataProvider {
         return byte <= 200 ? byte / 200.0 : kOddities[byte % kOddities.size()];
     }
 
-    /// The time after `time`: a little later or earlier, or anywhen.
+    /// The time after `time`: a little later or earlier, or any other.
     double timeAfter(double time) {
         const std::uint8_t byte = next();
         return byte < 240 ? time + (byte - 10) * 0.004 : coordinate();
@@ -87,7 +87,7 @@ class Session {
         sendFrame();
     }
 
-    /// Fingers that no hand has, with ids that wrap around.
+    /// Adds up to 1,020 fingers, with ids that wrap around.
     void addCrowd() {
         const unsigned count = m_bytes.next() * 4U;
         for (unsigned i = 0; i < count && m_samples.size() < 1000; ++i)
@@ -124,18 +124,20 @@ class Session {
         m_click = click->sequence;
     }
 
-    /// Every sequence is given away once and only with its own generation.
+    /// Every sequence is finalized once and only with its own generation.
     void finalize() {
-        const auto tap = m_tap.value_or(TapSequence{2, 1});
-        const auto tipTap = m_tipTap.value_or(TipTapSequence{});
-        const auto click = m_click.value_or(PhysicalClickSequence{2, 1, {}});
-        require(!m_processor.finalize(tap, m_generation + 1));
-        if (const auto given = m_processor.finalize(tap, m_generation))
-            require(m_tap && *given == tap && !m_processor.finalize(tap, m_generation));
-        if (const auto given = m_processor.finalizeTipTap(tipTap, m_generation))
-            require(m_tipTap && *given == tipTap && !m_processor.finalizeTipTap(tipTap, m_generation));
-        if (const auto given = m_processor.finalizePhysicalClick(click, m_generation))
-            require(m_click && *given == click && !m_processor.finalizePhysicalClick(click, m_generation));
+        finalize(&TouchFrameProcessor::finalize, m_tap);
+        finalize(&TouchFrameProcessor::finalizeTipTap, m_tipTap);
+        finalize(&TouchFrameProcessor::finalizePhysicalClick, m_click);
+    }
+
+    template <typename Sequence>
+    void finalize(std::optional<Sequence> (TouchFrameProcessor::*finalizer)(const Sequence&, std::uint64_t),
+                  const std::optional<Sequence>& last) {
+        const Sequence expected = last.value_or(Sequence{});
+        require(!(m_processor.*finalizer)(expected, m_generation + 1));
+        if (const auto given = (m_processor.*finalizer)(expected, m_generation))
+            require(last && *given == expected && !(m_processor.*finalizer)(expected, m_generation));
     }
 
     void checkGeneration(std::uint64_t generation) {

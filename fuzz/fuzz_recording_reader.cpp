@@ -1,5 +1,5 @@
-// Reads any bytes as a recording; what follows a NUL is the description of an evemu device. What comes out must keep
-// what a recording promises, and must be the same after it was written and read again.
+// Reads any bytes as a recording; the description of an evemu device follows a NUL. Every event must be the same after
+// it was written and read again.
 
 #include <cstddef>
 #include <cstdint>
@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "input/RecordingReading.h"
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingReading.h"
+#include "input/recording/RecordingWriter.h"
 #include "require.h"
 
 using namespace kinesta;

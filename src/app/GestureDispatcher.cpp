@@ -2,13 +2,12 @@
 
 #include <utility>
 
-#include "recognition/EveryGesture.h"
 #include "rules/ShellCommandSettings.h"
 
 namespace kinesta {
 
 void GestureDispatcher::bind(MultitouchService& service) {
-    onEveryGesture(service, [this](const DetectedGesture& gesture) { dispatch(gesture); });
+    service.onEveryGesture([this](const DetectedGesture& gesture) { dispatch(gesture); });
 }
 
 void GestureDispatcher::dispatch(const DetectedGesture& gesture) {

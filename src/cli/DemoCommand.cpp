@@ -85,8 +85,8 @@ class DemoPlayer {
         m_player.emplace(
             m_loop, m_clock, m_file->reader(), *m_session,
             [this](const RecordingEvent& event) {
-                if (m_screen)
-                    m_screen->show(event);
+                if (const auto* pad = std::get_if<PadEvent>(&event); pad && m_screen)
+                    m_screen->show(*pad);
             },
             [this](std::optional<Error> error) {
                 m_error = std::move(error);

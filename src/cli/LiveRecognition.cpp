@@ -1,7 +1,5 @@
 #include "cli/LiveRecognition.h"
 
-#include "recognition/RecordedPointerEvent.h"
-
 namespace kinesta {
 
 LiveRecognition::LiveRecognition(MainThread& mainThread, const Clock& clock, UserDefaults& defaults)
@@ -9,11 +7,10 @@ LiveRecognition::LiveRecognition(MainThread& mainThread, const Clock& clock, Use
       m_defaults(defaults),
       m_provider(mainThread, {.device = defaults.string(kTouchpadSettingKey).value_or(""), .pressure = {}}),
       m_service(defaults, m_provider, m_pointer, mainThread, clock) {
-    m_provider.setPointerHandler([this](const RecordingEvent& event) {
+    m_provider.setPointerHandler([this](const PadEvent& event) {
         if (m_watcher)
             m_watcher(event);
-        if (const auto pointer = pointerEventOf(event))
-            m_pointer.deliver(*pointer);
+        m_pointer.deliver(event);
     });
     m_provider.setStatusHandler([this] { m_service.contactProviderDidChangeStatus(); });
 }
@@ -25,13 +22,13 @@ void LiveRecognition::reloadSettings() {
     m_service.reloadSettings();
 }
 
-void LiveRecognition::setWatcher(std::function<void(const RecordingEvent&)> watcher) {
+void LiveRecognition::setWatcher(std::function<void(const PadEvent&)> watcher) {
     m_watcher = std::move(watcher);
     // Frames arrive on the provider's thread. Each takes its own way to the main thread; stop() in the destructor
     // makes sure that none is on the way to a watcher that is gone.
     m_provider.setFrameHandler([this, recognize = m_provider.frameHandler()](const TrackpadContactFrame& frame) {
         recognize(frame);
-        m_mainThread.post([this, frame] { m_watcher({frame.timestamp, RecordedFrame{frame.samples, std::nullopt}}); });
+        m_mainThread.post([this, frame] { m_watcher({frame.timestamp, PadFrame{frame.samples, std::nullopt}}); });
     });
 }
 

@@ -20,7 +20,7 @@ class LiveRecognition {
     const EvdevContactProvider& pad() const { return m_provider; }
 
     /// Sees what happens on the pad, on the main thread, beside the service. To be set before start().
-    void setWatcher(std::function<void(const RecordingEvent&)> watcher);
+    void setWatcher(std::function<void(const PadEvent&)> watcher);
 
     void start() { m_service.startIfEnabled(); }
 
@@ -33,7 +33,7 @@ class LiveRecognition {
     PointerEventBroadcaster m_pointer;
     EvdevContactProvider m_provider;
     MultitouchService m_service;
-    std::function<void(const RecordingEvent&)> m_watcher;
+    std::function<void(const PadEvent&)> m_watcher;
 };
 
 /// The setting that names the touchpad to read, by path or name; absent or empty: a built-in one, else any.

@@ -10,7 +10,6 @@
 #include "cli/PadScreen.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
-#include "recognition/EveryGesture.h"
 #include "rules/GestureDescription.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
@@ -30,7 +29,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
     LiveRecognition live(loop, clock, settings.defaults());
     MultitouchService& service = live.service();
 
-    onEveryGesture(service, [&](const DetectedGesture& gesture) {
+    service.onEveryGesture([&](const DetectedGesture& gesture) {
         const ShellCommands shellCommands =
             ShellCommandSettings::isEnabled(settings.defaults()) ? ShellCommands::allowed : ShellCommands::forbidden;
         const GestureRule* rule = selectRule(store.rules().value(), gesture, shellCommands);
@@ -53,7 +52,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
     const Subscription subscription = service.status().observe(tellStatus);
     if (PadScreen::fits(console)) {
         screen.emplace(console);
-        live.setWatcher([&](const RecordingEvent& event) { screen->show(event); });
+        live.setWatcher([&](const PadEvent& event) { screen->show(event); });
     }
     live.start();
     if (service.status().value() == MultitouchService::Status::stopped() && !service.isGestureEnabled().value())

@@ -4,7 +4,7 @@ namespace kinesta {
 namespace {
 
 // Once the input has ended, no gesture waits longer than this; what runs later only takes feedback down.
-constexpr std::chrono::milliseconds kLongestWait{milliseconds(TapWaitingInterval::veryLong)};
+constexpr std::chrono::milliseconds kLongestWait{TapWaitingInterval::veryLong};
 
 }  // namespace
 
@@ -21,7 +21,7 @@ PacedPlayer::PacedPlayer(RunLoop& loop, const Clock& clock, RecordingReading& re
 void PacedPlayer::start() {
     readNext();
     m_realStart = m_clock.uptime();
-    m_virtualStart = m_next ? ReplaySession::timeOf(m_next->time) : ReplaySession::Time{};
+    m_virtualStart = m_next ? ReplaySession::timeOf(eventTime(*m_next)) : ReplaySession::Time{};
     m_lastEvent = m_virtualStart;
     proceed();
 }
@@ -40,8 +40,8 @@ void PacedPlayer::proceed() {
             m_session.finish();
             break;
         }
-        const bool eventIsNext = m_next && (!timer || ReplaySession::timeOf(m_next->time) <= *timer);
-        const ReplaySession::Time due = eventIsNext ? ReplaySession::timeOf(m_next->time) : *timer;
+        const bool eventIsNext = m_next && (!timer || ReplaySession::timeOf(eventTime(*m_next)) <= *timer);
+        const ReplaySession::Time due = eventIsNext ? ReplaySession::timeOf(eventTime(*m_next)) : *timer;
         const auto elapsed = std::chrono::duration<Seconds>(m_clock.uptime() - m_realStart);
         const auto wait = (due - m_virtualStart) - std::chrono::duration_cast<ReplaySession::Time>(elapsed);
         if (wait > ReplaySession::Time::zero()) {

@@ -32,17 +32,17 @@ void PadScreen::setTitle(std::string title, std::string detail) {
     draw();
 }
 
-void PadScreen::show(const RecordingEvent& event) {
+void PadScreen::show(const PadEvent& event) {
     m_now = event.time;
     // Movements are drawn now and then. What comes and goes is drawn at once: nothing may follow for a long time.
     bool isToBeDrawn = m_now - m_drawnAt >= kDrawingInterval || m_now < m_drawnAt;
-    if (const auto* frame = std::get_if<RecordedFrame>(&event.content)) {
+    if (const auto* frame = std::get_if<PadFrame>(&event.content)) {
         isToBeDrawn |= frame->samples.size() != m_contactCount;
         m_contactCount = frame->samples.size();
         m_picture.show(frame->samples, event.time);
-    } else if (const auto* pointer = std::get_if<RecordedPointer>(&event.content)) {
+    } else if (const auto* pointer = std::get_if<PadButton>(&event.content)) {
         isToBeDrawn = true;
-        m_picture.setPressed(*pointer == RecordedPointer::down);
+        m_picture.setPressed(*pointer == PadButton::down);
     }
     if (isToBeDrawn)
         draw();

@@ -6,7 +6,7 @@
 
 #include "cli/Console.h"
 #include "cli/PadPicture.h"
-#include "input/RecordingEvent.h"
+#include "input/PadEvent.h"
 #include "platform/linux/Terminal.h"
 
 namespace kinesta {
@@ -22,7 +22,7 @@ class PadScreen {
 
     void setTitle(std::string title, std::string detail);
     /// Takes a frame or a press and draws; a mere movement only if the last drawing was more than a moment ago.
-    void show(const RecordingEvent& event);
+    void show(const PadEvent& event);
     /// Tells a gesture and what comes of it, both as they are shown.
     void tell(std::string gesture, std::string consequence);
     /// Draws what there is.

@@ -8,7 +8,7 @@
 #include "cli/OutputFile.h"
 #include "cli/StoredSettings.h"
 #include "cli/TextTable.h"
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingWriter.h"
 #include "recognition/StoredRecognitionSettings.h"
 #include "support/SteadyClock.h"
 
@@ -19,7 +19,7 @@ namespace {
 /// What recognition goes by here, except whether it is on: what was recorded is to be recognized.
 RecordedSettings settingsToRecord(const UserDefaults& defaults) {
     const auto palms = storedCornerPalmRejection(defaults);
-    return {.tapWaitingMilliseconds = static_cast<int>(milliseconds(storedTapWaitingInterval(defaults))),
+    return {.tapWaitingMilliseconds = static_cast<int>(storedTapWaitingInterval(defaults).rawValue()),
             .cornerPalmRejectionEnabled = palms.isEnabled,
             .cornerPalmRejectionSensitivity = palms.sensitivity};
 }
@@ -34,13 +34,13 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
     StoredSettings settings(console, defaults);
     const std::string wanted = device.empty() ? settings.defaults().string(kTouchpadSettingKey).value_or("") : device;
     EvdevContactProvider provider(loop, {.device = wanted, .pressure = {}});
-    std::function<void(RecordingEvent)> write;  // set before the loop runs
+    std::function<void(PadEvent)> write;  // set before the loop runs
     provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
         loop.post([&write, frame, received = clock.uptime()] {
-            write({frame.timestamp, RecordedFrame{frame.samples, received}});
+            write({frame.timestamp, PadFrame{frame.samples, received}});
         });
     });
-    provider.setPointerHandler([&](const RecordingEvent& event) { write(event); });
+    provider.setPointerHandler([&](const PadEvent& event) { write(event); });
     provider.setStatusHandler([&] {
         console.err << (provider.status() == TrackpadContactProviderStatus::listening()
                             ? "Recording " + printable(provider.state().name) + " again."
@@ -63,7 +63,7 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
     std::size_t events = 0;
     Seconds last = 0;
     // One whole line at a time reaches the file, so that whatever ends us leaves a valid recording.
-    write = [&](RecordingEvent event) {
+    write = [&](PadEvent event) {
         last = event.time = std::max(last, event.time);
         if (writer.write(event))
             ++events;

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "cli/Console.h"
-#include "input/RecordingReading.h"
+#include "input/recording/RecordingReading.h"
 
 namespace kinesta {
 

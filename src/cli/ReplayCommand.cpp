@@ -10,7 +10,7 @@
 #include "cli/RecordingFile.h"
 #include "cli/RuleFile.h"
 #include "cli/StoredSettings.h"
-#include "input/RecordingWriter.h"
+#include "input/recording/RecordingWriter.h"
 #include "platform/linux/LinuxActionSettings.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"

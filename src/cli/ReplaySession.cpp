@@ -2,15 +2,12 @@
 
 #include <cmath>
 
-#include "recognition/EveryGesture.h"
-#include "recognition/RecordedPointerEvent.h"
-
 namespace kinesta {
 ReplaySession::ReplaySession(const RecordingHeader& header, Handler onGesture) : m_onGesture(std::move(onGesture)) {
     const RecordedSettings& settings = header.settings;
     m_defaults.setBoolean(MultitouchService::enabledStorageKey, settings.gesturesEnabled.value_or(true));
     if (settings.tapWaitingMilliseconds)
-        m_defaults.setInteger(kTapWaitingIntervalStorageKey, *settings.tapWaitingMilliseconds);
+        m_defaults.setInteger(TapWaitingInterval::storageKey, *settings.tapWaitingMilliseconds);
     if (settings.cornerPalmRejectionEnabled)
         m_defaults.setBoolean(CornerPalmRejectionSettings::enabledStorageKey, *settings.cornerPalmRejectionEnabled);
     if (settings.cornerPalmRejectionSensitivity)
@@ -18,23 +15,24 @@ ReplaySession::ReplaySession(const RecordingHeader& header, Handler onGesture) :
                            *settings.cornerPalmRejectionSensitivity);
 
     m_service.emplace(m_defaults, m_provider, m_pointer, m_mainThread, m_clock);
-    onEveryGesture(*m_service, [this](const DetectedGesture& gesture) { m_onGesture(m_mainThread.now(), gesture); });
+    m_service->onEveryGesture([this](const DetectedGesture& gesture) { m_onGesture(m_mainThread.now(), gesture); });
     m_service->startIfEnabled();
 }
 
 ReplaySession::Time ReplaySession::timeOf(Seconds seconds) { return Time(std::llround(seconds * 1e9)); }
 
 void ReplaySession::deliver(const RecordingEvent& event) {
-    m_mainThread.advanceTo(timeOf(event.time));
-    m_clock.setUptime(event.time);
-    if (const auto* frame = std::get_if<RecordedFrame>(&event.content)) {
-        m_clock.setUptime(frame->received.value_or(event.time));
-        m_provider.deliver({frame->samples, event.time});
-        m_clock.setUptime(event.time);
-    } else if (const auto pointer = pointerEventOf(event)) {
-        m_pointer.deliver(*pointer);
-    } else if (const auto* settings = std::get_if<RecordedSettings>(&event.content)) {
-        apply(*settings);
+    const Seconds time = eventTime(event);
+    m_mainThread.advanceTo(timeOf(time));
+    m_clock.setUptime(time);
+    if (const auto* change = std::get_if<SettingsChange>(&event)) {
+        apply(change->settings);
+    } else if (const auto& pad = std::get<PadEvent>(event); const auto* frame = std::get_if<PadFrame>(&pad.content)) {
+        m_clock.setUptime(frame->received.value_or(time));
+        m_provider.deliver({frame->samples, time});
+        m_clock.setUptime(time);
+    } else {
+        m_pointer.deliver(pad);
     }
     m_mainThread.runPosted();
     m_clock.clearUptime();
@@ -44,7 +42,7 @@ void ReplaySession::runTimersThrough(Time time) { m_mainThread.advanceTo(time + 
 
 void ReplaySession::apply(const RecordedSettings& settings) {
     if (settings.tapWaitingMilliseconds)
-        if (const auto interval = tapWaitingInterval(*settings.tapWaitingMilliseconds))
+        if (const auto interval = TapWaitingInterval::fromRawValue(*settings.tapWaitingMilliseconds))
             m_service->setTapWaitingInterval(*interval);
     if (settings.cornerPalmRejectionEnabled)
         m_service->setCornerPalmRejectionEnabled(*settings.cornerPalmRejectionEnabled);

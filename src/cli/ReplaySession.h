@@ -4,8 +4,8 @@
 #include <functional>
 #include <optional>
 
-#include "input/RecordingReading.h"
-#include "input/ReplayContactProvider.h"
+#include "input/recording/RecordingReading.h"
+#include "input/recording/ReplayContactProvider.h"
 #include "recognition/MultitouchService.h"
 #include "recognition/PointerEventBroadcaster.h"
 #include "rules/RuleSelection.h"

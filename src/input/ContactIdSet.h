@@ -7,8 +7,8 @@
 
 namespace kinesta {
 
-/// A set of contact identifiers: a small array in the order in which they came, so that the frames of a driver that
-/// keeps its order compare at a glance; a sorted one if they are many.
+/// A set of contact identifiers: a small array in the order of arrival, so that comparing frames in the same order is
+/// fast; a sorted one if there are many.
 class ContactIdSet {
   public:
     ContactIdSet() = default;
@@ -23,7 +23,7 @@ class ContactIdSet {
                                                : std::binary_search(m_ids.begin(), m_ids.end(), id);
     }
 
-    /// Whether it is the set of the samples' identifiers, in whatever order they come.
+    /// Whether it is the set of the samples' identifiers, in any order.
     bool isSetOf(std::span<const TouchSample> samples) const { return isListOf(samples) || isSetOfReordered(samples); }
 
     /// Becomes the set of the samples' identifiers.
@@ -31,7 +31,7 @@ class ContactIdSet {
 
     void insert(ContactId id);
 
-    /// Keeps only what `other` holds too.
+    /// Removes what `other` does not hold.
     void intersect(const ContactIdSet& other);
 
     friend bool operator==(const ContactIdSet& a, const ContactIdSet& b) {

@@ -7,20 +7,20 @@ std::span<const TouchSample> CornerPalmRejectionFilter::process(std::span<const 
         reset();
         return samples;
     }
-    if (!m_tracked.isSetOf(samples))
+    if (!m_trackedIDs.isSetOf(samples))
         takeChangedContacts(samples);
-    if (m_rejected.empty())
+    if (m_rejectedIDs.empty())
         return samples;
     m_kept.clear();
     for (const TouchSample& sample : samples)
-        if (!m_rejected.contains(sample.id))
+        if (!m_rejectedIDs.contains(sample.id))
             m_kept.push_back(sample);
     return m_kept;
 }
 
 void CornerPalmRejectionFilter::reset() {
-    m_tracked.clear();
-    m_rejected.clear();
+    m_trackedIDs.clear();
+    m_rejectedIDs.clear();
 }
 
 void CornerPalmRejectionFilter::takeChangedContacts(std::span<const TouchSample> samples) {
@@ -29,12 +29,12 @@ void CornerPalmRejectionFilter::takeChangedContacts(std::span<const TouchSample>
         return;
     }
     const ContactIdSet current(samples);
-    if (!m_rejected.empty())
-        m_rejected.intersect(current);
+    if (!m_rejectedIDs.empty())
+        m_rejectedIDs.intersect(current);
     for (const TouchSample& sample : samples)
-        if (!m_tracked.contains(sample.id) && m_settings.contains(sample.position))
-            m_rejected.insert(sample.id);
-    m_tracked = current;
+        if (!m_trackedIDs.contains(sample.id) && m_settings.contains(sample.position))
+            m_rejectedIDs.insert(sample.id);
+    m_trackedIDs = current;
 }
 
 }  // namespace kinesta

@@ -7,8 +7,8 @@
 
 namespace kinesta {
 
-/// Takes the palms out of contact frames: a contact that starts in a corner is one for its whole life, wherever it
-/// goes; a contact that starts elsewhere never is. Not thread-safe.
+/// Removes palms from contact frames. A contact that starts in a corner is a palm until it lifts; a contact that starts
+/// elsewhere never is. Not thread-safe.
 class CornerPalmRejectionFilter {
   public:
     CornerPalmRejectionFilter() = default;
@@ -16,22 +16,21 @@ class CornerPalmRejectionFilter {
 
     const CornerPalmRejectionSettings& settings() const { return m_settings; }
 
-    /// Contacts on the pad are judged by where they started, whatever the settings become meanwhile.
+    /// Contacts on the pad stay what they are; the settings count for new ones.
     void setSettings(const CornerPalmRejectionSettings& settings) { m_settings = settings; }
 
-    /// The samples that are no palms, in their order: `samples` itself if none is, else a view of storage of the
-    /// filter that holds until the next call.
+    /// The samples that are no palms, in their order: `samples` itself, or a view that is valid until the next call.
     std::span<const TouchSample> process(std::span<const TouchSample> samples);
 
-    /// Forgets all contacts; those on the pad count as new in the next frame.
+    /// Forgets all contacts; those on the pad are new in the next frame.
     void reset();
 
   private:
     void takeChangedContacts(std::span<const TouchSample> samples);
 
     CornerPalmRejectionSettings m_settings;
-    ContactIdSet m_tracked;   // the contacts of the frame before
-    ContactIdSet m_rejected;  // those of them that are palms
+    ContactIdSet m_trackedIDs;   // in the frame before
+    ContactIdSet m_rejectedIDs;  // the palms among them
     TouchSamples m_kept;
 };
 

@@ -6,14 +6,14 @@
 
 namespace kinesta {
 
-/// The person's choice whether contacts that start in a corner of the pad count as palms, and how large a corner is.
+/// Whether contacts that start in a corner of the pad count as palms, and how large a corner is.
 struct CornerPalmRejectionSettings {
     static constexpr double defaultSensitivity = 0.5;
     static constexpr std::string_view enabledStorageKey = "cornerPalmRejectionEnabled.v1";
     static constexpr std::string_view sensitivityStorageKey = "cornerPalmRejectionSensitivity.v1";
 
     bool isEnabled = false;
-    /// 0…1: the larger, the larger the corners.
+    /// 0…1, for the smallest to the largest corners.
     double sensitivity = defaultSensitivity;
 
     /// `value` clamped to 0…1; the default for a value that is not finite.

@@ -18,7 +18,7 @@ struct TouchSample {
     friend bool operator==(const TouchSample&, const TouchSample&) = default;
 };
 
-/// As many contacts as are kept without the heap: more than two hands have.
+/// Contacts that fit without the heap: more than two hands have.
 inline constexpr std::size_t kInlineContacts = 16;
 
 using TouchSamples = InlineVector<TouchSample, kInlineContacts>;

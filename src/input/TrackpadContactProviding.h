@@ -34,7 +34,7 @@ class TrackpadContactProviding {
 
     virtual ~TrackpadContactProviding() = default;
 
-    /// What receives the frames, on whatever thread they arrive: it must not touch main-thread state. Set before
+    /// Receives the frames on any thread, so it must not touch main-thread state. Set before
     /// start(). Any thread.
     virtual FrameHandler frameHandler() const = 0;
     virtual void setFrameHandler(FrameHandler handler) = 0;
@@ -48,8 +48,8 @@ class TrackpadContactProviding {
     virtual void stop() = 0;
 };
 
-/// Where a provider keeps its frame handler: replaced on one thread, called on another. The lock is held only to
-/// read or replace the handler, never during the call, so a handler may replace itself.
+/// A provider's frame handler, replaced on one thread and called on another. The lock is held only to read or replace
+/// it, never during the call, so a handler may replace itself.
 class FrameHandlerSlot {
   public:
     using Handler = TrackpadContactProviding::FrameHandler;

@@ -8,13 +8,13 @@
 
 namespace kinesta {
 
-/// Tells which pattern a finger has drawn. Pure functions of the path.
+/// Classifies the path of a drawing finger. Pure functions.
 struct AnchorDrawPatternClassifier {
     /// A shorter path is no pattern; normalized units.
     static constexpr double minimumPathLength = 0.16;
 
-    /// The pattern of `path` (normalized units, in drawing order), or nothing. The tests overlap on purpose: circles
-    /// come before lines, lines before corners, and the first pattern that fits wins.
+    /// The pattern of `path` (normalized units, in drawing order), or nothing. The tests overlap: circles come before
+    /// lines, lines before corners, and the first pattern that fits wins.
     static std::optional<DrawPattern> classify(std::span<const Point> path);
 };
 

@@ -5,8 +5,8 @@
 namespace kinesta {
 namespace {
 
-/// A longer path is no pattern. Even a pad of 1,000 frames a second cannot reach it within the time of a drawing;
-/// a finger that wanders about for minutes must not fill the memory.
+/// A longer path is no pattern. Bounds the memory for a finger that wanders about for minutes; 1,000 frames a second do
+/// not reach it within the time of a drawing.
 constexpr std::size_t kMostPathPoints = 4096;
 
 }  // namespace
@@ -45,7 +45,7 @@ std::optional<AnchorCorner> AnchorDrawRecognizer::cornerOf(Point point) const {
 }
 
 void AnchorDrawRecognizer::trackAnchor(const TouchSample& sample, Seconds timestamp) {
-    const bool isSame = m_anchor && m_anchor->id == sample.id && !m_anchor->isSpoiled;
+    const bool isSame = m_anchor && m_anchor->id == sample.id && !m_anchor->secondFingerArrivedTooEarly;
     if (!isSame || compareDistance(m_anchor->stablePosition, sample.position, m_limits.maximumAnchorMovement) > 0)
         startAnchor(sample, timestamp);
     else
@@ -69,10 +69,10 @@ void AnchorDrawRecognizer::trackLanding(const TouchSample& first, const TouchSam
         return;
     }
     const bool canDraw =
-        !m_anchor->isSpoiled && timestamp - m_anchor->stableSince >= m_limits.minimumAnchorDuration &&
+        !m_anchor->secondFingerArrivedTooEarly && timestamp - m_anchor->stableSince >= m_limits.minimumAnchorDuration &&
         compareDistance(candidate.position, m_anchor->currentPosition, m_limits.minimumFingerSeparation) >= 0;
     if (!canDraw) {
-        m_anchor->isSpoiled = true;
+        m_anchor->secondFingerArrivedTooEarly = true;
         return;
     }
     m_anchor->drawingFinger = DrawingFinger{.id = candidate.id, .beganAt = timestamp};
@@ -88,7 +88,7 @@ void AnchorDrawRecognizer::trackDrawing(const TouchSample& first, const TouchSam
         reset();
         return;
     }
-    // In sum, unlike the anchor of a tip-tap: a drawing takes long enough for a creeping anchor to be no anchor.
+    // From where it settled, unlike the anchor of a tip-tap: a drawing is long enough for the anchor to creep away.
     if (compareDistance(m_anchor->stablePosition, anchor.position, m_limits.maximumAnchorMovement) > 0)
         finger.anchorMovedTooFar = true;
     extendPath(drawing.position);

@@ -34,7 +34,7 @@ class AnchorDrawRecognizer {
     AnchorDrawRecognizer() : AnchorDrawRecognizer(Limits()) {}
     explicit AnchorDrawRecognizer(const Limits& limits);
 
-    /// Takes one frame. An event if the drawing finger has just lifted and left a pattern.
+    /// Takes one frame. Returns an event if the drawing finger has just lifted and its path is a pattern.
     std::optional<AnchorDrawEvent> process(std::span<const TouchSample> samples, Seconds timestamp);
 
     void reset() { m_anchor.reset(); }
@@ -52,8 +52,8 @@ class AnchorDrawRecognizer {
         Point currentPosition;
         Seconds stableSince = 0;
         AnchorCorner corner = AnchorCorner::topLeft;
-        /// A second finger landed that cannot draw: of no use until it is alone again, and then a new anchor.
-        bool isSpoiled = false;
+        /// A second finger landed that cannot draw. The next frame with one finger starts a new anchor.
+        bool secondFingerArrivedTooEarly = false;
         std::optional<DrawingFinger> drawingFinger = {};
     };
 
@@ -67,7 +67,7 @@ class AnchorDrawRecognizer {
 
     Limits m_limits;
     std::optional<Anchor> m_anchor;
-    std::vector<Point> m_path;  // of the drawing finger; the storage is kept for the next one
+    std::vector<Point> m_path;  // of the drawing finger; reserved once, so that drawing allocates nothing
 };
 
 }  // namespace kinesta

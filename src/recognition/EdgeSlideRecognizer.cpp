@@ -44,17 +44,17 @@ std::optional<EdgeSlideSide> EdgeSlideRecognizer::startingSide(std::span<const T
 }
 
 void EdgeSlideRecognizer::start(EdgeSlideSide side, std::span<const TouchSample> samples) {
-    const ContactIdSet fingers(samples);
-    if (fingers.size() == samples.size())  // else two contacts share an id: there is no telling them apart
-        m_slide = Slide{.side = side, .fingers = fingers, .lastAverageY = averageY(samples)};
+    const ContactIdSet fingerIDs(samples);
+    if (fingerIDs.size() == samples.size())  // else two contacts share an id and cannot be followed
+        m_slide = Slide{.edge = side, .fingerIDs = fingerIDs, .lastAverageY = averageY(samples)};
 }
 
 bool EdgeSlideRecognizer::continues(std::span<const TouchSample> samples) const {
     const auto hasLeft = [&](const TouchSample& sample) {
-        return m_slide->side == EdgeSlideSide::left ? sample.position.x > m_limits.continuationInset
+        return m_slide->edge == EdgeSlideSide::left ? sample.position.x > m_limits.continuationInset
                                                     : sample.position.x < 1 - m_limits.continuationInset;
     };
-    return samples.size() == m_slide->fingers.size() && m_slide->fingers.isSetOf(samples) &&
+    return samples.size() == m_slide->fingerIDs.size() && m_slide->fingerIDs.isSetOf(samples) &&
            std::none_of(samples.begin(), samples.end(), hasLeft);
 }
 
@@ -65,12 +65,12 @@ std::optional<EdgeSlideEvent> EdgeSlideRecognizer::advance(std::span<const Touch
     const double steps = std::trunc(m_slide->accumulatedMovement / m_limits.stepDistance);
     if (steps == 0)
         return std::nullopt;
-    if (!(std::abs(steps) < 0x1p63)) {  // no finger goes that far: the coordinates are not to be trusted
+    if (!(std::abs(steps) < 0x1p63)) {  // the coordinates are wrong: no finger moves that far
         reset();
         return std::nullopt;
     }
     m_slide->accumulatedMovement -= steps * m_limits.stepDistance;
-    return EdgeSlideEvent{static_cast<int>(samples.size()), m_slide->side, static_cast<std::int64_t>(steps)};
+    return EdgeSlideEvent{static_cast<int>(samples.size()), m_slide->edge, static_cast<std::int64_t>(steps)};
 }
 
 }  // namespace kinesta

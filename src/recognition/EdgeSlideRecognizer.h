@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// The whole steps that a slide has gone in one frame.
+/// The whole steps of a slide in one frame.
 struct EdgeSlideEvent {
     /// 2 to 5.
     int fingers = 0;
@@ -35,17 +35,17 @@ class EdgeSlideRecognizer {
     EdgeSlideRecognizer() = default;
     explicit EdgeSlideRecognizer(const Limits& limits) : m_limits(limits) {}
 
-    /// Takes one frame. An event if the fingers have gone a step or more since the last one.
+    /// Takes one frame. Returns an event if the fingers have moved by a step or more since the last one.
     std::optional<EdgeSlideEvent> process(std::span<const TouchSample> samples);
 
     void reset() { m_slide.reset(); }
 
   private:
     struct Slide {
-        EdgeSlideSide side = EdgeSlideSide::left;
-        ContactIdSet fingers;
+        EdgeSlideSide edge = EdgeSlideSide::left;
+        ContactIdSet fingerIDs;
         double lastAverageY = 0;
-        double accumulatedMovement = 0;  // travel that is not yet reported, with its sign
+        double accumulatedMovement = 0;  // signed travel not yet reported
     };
 
     std::optional<EdgeSlideSide> startingSide(std::span<const TouchSample> samples) const;

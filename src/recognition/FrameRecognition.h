@@ -10,8 +10,10 @@
 
 namespace kinesta {
 
-/// What one contact frame has completed. Several may come at once; none excludes another.
+/// The results of one contact frame. Several may come at once; none excludes another.
 struct FrameRecognition {
+    static const FrameRecognition empty;
+
     /// The processor's generation at the frame; 0 for a frame that no recognizer saw.
     std::uint64_t generation = 0;
     std::optional<AnchorDrawEvent> anchorDraw;
@@ -25,5 +27,7 @@ struct FrameRecognition {
 
     friend bool operator==(const FrameRecognition&, const FrameRecognition&) = default;
 };
+
+inline const FrameRecognition FrameRecognition::empty;
 
 }  // namespace kinesta

@@ -8,11 +8,11 @@
 namespace kinesta {
 namespace {
 
-constexpr int kLeastFingers = 2;  // one finger's tap is the system's own
+constexpr int kLeastFingers = 2;  // a tap of one finger belongs to the system
 constexpr int kMostTaps = 3;
 
-/// A contact that meets more fingers than this is no tap. A driver that gives every finger a new id in every frame
-/// and never lifts would otherwise fill the memory.
+/// A contact of more fingers is no tap. Bounds the memory for a driver that gives every finger a new id in every frame
+/// and never reports a lift.
 constexpr std::size_t kMostTrackedFingers = 4096;
 
 }  // namespace
@@ -30,39 +30,29 @@ void MultiTapRecognizer::trackContact(std::span<const TouchSample> samples, Seco
         m_contact = Contact{.beganAt = timestamp};
     }
     m_contact->maximumFingerCount = std::max(m_contact->maximumFingerCount, static_cast<int>(samples.size()));
-    // Nothing takes the flag back before the lift, so that there is nothing left to measure.
     if (!m_contact->movedTooFar)
         trackMovement(samples);
 }
 
 void MultiTapRecognizer::trackMovement(std::span<const TouchSample> samples) {
-    // Most frames list the same fingers in the same order as the first one.
-    const std::span<const TouchSample> initial = m_contact->initialPositions;
-    const std::size_t inOrder = std::min(initial.size(), samples.size());
-    std::size_t i = 0;
-    for (; i < inOrder && initial[i].id == samples[i].id; ++i) {
-        if (hasMovedTooFar(initial[i], samples[i])) {
-            m_contact->giveUp();
+    TouchSamples& initial = m_contact->initialPositions;
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const TouchSample& sample = samples[i];
+        const auto isSameFinger = [&sample](const TouchSample& other) { return other.id == sample.id; };
+        // Most drivers list the fingers in the same order in every frame.
+        const TouchSample* first = i < initial.size() && isSameFinger(initial[i])
+                                       ? &initial[i]
+                                       : std::find_if(initial.begin(), initial.end(), isSameFinger);
+        const bool isKnown = first != initial.end();
+        if (isKnown ? compareDistance(first->position, sample.position, m_limits.maximumMovement) > 0
+                    : initial.size() == kMostTrackedFingers) {
+            m_contact->movedTooFar = true;
+            initial.clear();
             return;
         }
+        if (!isKnown)
+            initial.push_back(sample);
     }
-    for (; i < samples.size() && !m_contact->movedTooFar; ++i)
-        trackOutOfOrder(samples[i]);
-}
-
-void MultiTapRecognizer::trackOutOfOrder(const TouchSample& sample) {
-    TouchSamples& initial = m_contact->initialPositions;
-    const auto* first =
-        std::find_if(initial.begin(), initial.end(), [&](const auto& known) { return known.id == sample.id; });
-    const bool isKnown = first != initial.end();
-    if (isKnown ? hasMovedTooFar(*first, sample) : initial.size() == kMostTrackedFingers)
-        m_contact->giveUp();
-    else if (!isKnown)
-        initial.push_back(sample);
-}
-
-bool MultiTapRecognizer::hasMovedTooFar(const TouchSample& first, const TouchSample& now) const {
-    return compareDistance(first.position, now.position, m_limits.maximumMovement) > 0;
 }
 
 std::optional<TapSequence> MultiTapRecognizer::endContact(Seconds timestamp) {

@@ -18,8 +18,8 @@ struct TapSequence {
     friend bool operator==(const TapSequence&, const TapSequence&) = default;
 };
 
-/// Recognizes taps of two or more fingers and counts those that follow each other. It reports after every tap;
-/// whether to wait for another is the caller's business. Not thread-safe.
+/// Recognizes taps of two or more fingers and counts those in quick succession. Reports after every tap; the caller
+/// waits for the next. Not thread-safe.
 class MultiTapRecognizer {
   public:
     struct Limits {
@@ -34,13 +34,13 @@ class MultiTapRecognizer {
     Seconds maximumInterval() const { return m_limits.maximumInterval; }
     void setMaximumInterval(Seconds interval) { m_limits.maximumInterval = interval; }
 
-    /// Takes one frame. The sequence including the tap, if the lift of all fingers has just completed one.
+    /// Takes one frame. Returns the sequence including the tap if all fingers have just lifted from one.
     std::optional<TapSequence> process(std::span<const TouchSample> samples, Seconds timestamp);
 
-    /// Ends the sequence and gives it back if it is still `expected`; otherwise nothing changes.
+    /// Ends and returns the sequence if it is still `expected`; otherwise changes nothing.
     std::optional<TapSequence> finalize(const TapSequence& expected);
 
-    /// Makes the fingers on the pad count as not there. The sequence so far stays.
+    /// Abandons the tap in progress. The sequence so far stays.
     void cancelCurrentContact() { m_contact.reset(); }
 
   private:
@@ -49,13 +49,7 @@ class MultiTapRecognizer {
         Seconds beganAt = 0;
         int maximumFingerCount = 0;
         bool movedTooFar = false;
-        TouchSamples initialPositions = {};  // the first sample of each finger, in the order of their coming
-
-        /// Makes it no tap; where its fingers came down is of no interest any more.
-        void giveUp() {
-            movedTooFar = true;
-            initialPositions.clear();
-        }
+        TouchSamples initialPositions = {};  // the first sample of each finger
     };
     struct CountedTaps {
         TapSequence sequence;
@@ -64,8 +58,6 @@ class MultiTapRecognizer {
 
     void trackContact(std::span<const TouchSample> samples, Seconds timestamp);
     void trackMovement(std::span<const TouchSample> samples);
-    void trackOutOfOrder(const TouchSample& sample);
-    bool hasMovedTooFar(const TouchSample& first, const TouchSample& now) const;
     std::optional<TapSequence> endContact(Seconds timestamp);
 
     Limits m_limits;

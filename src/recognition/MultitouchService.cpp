@@ -11,13 +11,13 @@
 namespace kinesta {
 namespace {
 
-constexpr int kMostRepetitions = 3;  // what has come so far cannot become more
+constexpr int kMostRepetitions = 3;  // a sequence cannot grow further
 
 constexpr int kFeedbackSeconds = 5;
 constexpr Seconds kFeedbackTick = 1;
 
-/// The wall clock is kept right by letting it run a little slower or faster than the timers; without this a tick
-/// that comes a trifle early would leave the countdown where it is for a whole second.
+/// The system adjusts the wall clock by running it a little slower or faster than the timers. Without this a tick that
+/// comes slightly early would leave the countdown unchanged for a second.
 constexpr Seconds kClockDrift = 0.001;
 
 }  // namespace
@@ -32,12 +32,12 @@ MultitouchService::MultitouchService(UserDefaults& defaults, TrackpadContactProv
       m_isGestureEnabled(storedGestureEnabled(defaults)),
       m_tapWaitingInterval(storedTapWaitingInterval(defaults)),
       m_cornerPalmRejection(storedCornerPalmRejection(defaults)) {
-    m_frameProcessor->setMaximumTapInterval(seconds(m_tapWaitingInterval.value()));
+    m_frameProcessor->setMaximumTapInterval(m_tapWaitingInterval.value().seconds());
     m_frameProcessor->setCornerPalmRejection(m_cornerPalmRejection.value());
-    // On the provider's thread. The service may be gone by then: the handler keeps the processor, and what the
-    // frame completed asks for the service on the main thread, where it cannot go away meanwhile.
-    m_contactProvider.setFrameHandler([processor = m_frameProcessor, &mainThread, &clock,
-                                       self = std::weak_ptr(m_self)](const TrackpadContactFrame& frame) {
+    // On the provider's thread, where the service may be destroyed at any time: the handler owns the processor, and the
+    // posted task locks the service on the main thread.
+    const auto receive = [processor = m_frameProcessor, &mainThread, &clock,
+                          self = std::weak_ptr(m_self)](const TrackpadContactFrame& frame) {
         const FrameRecognition recognition = processor->process(frame.samples, frame.timestamp, clock.uptime());
         if (recognition.isEmpty())
             return;
@@ -45,7 +45,8 @@ MultitouchService::MultitouchService(UserDefaults& defaults, TrackpadContactProv
             if (const auto service = self.lock())
                 (*service)->deliver(recognition);
         });
-    });
+    };
+    m_contactProvider.setFrameHandler(receive);
 }
 
 MultitouchService::~MultitouchService() {
@@ -84,7 +85,7 @@ void MultitouchService::startIfEnabled() {
 
 void MultitouchService::contactProviderDidChangeStatus() {
     Status status = m_contactProvider.status();
-    // Stopped is what stop() makes of it, and so this service has said it already.
+    // Stopped follows from stop() alone, which has published it.
     if (!m_isGestureEnabled.value() || status == m_status.value() || status == Status::stopped())
         return;
     if (status == Status::listening()) {
@@ -99,28 +100,30 @@ void MultitouchService::contactProviderDidChangeStatus() {
 }
 
 void MultitouchService::reloadSettings() {
-    change(storedTapWaitingInterval(m_defaults), Origin::storage);
-    change(storedCornerPalmRejection(m_defaults), Origin::storage);
-    changeGestureEnabled(storedGestureEnabled(m_defaults), Origin::storage);
+    updateTapWaitingInterval(storedTapWaitingInterval(m_defaults), Origin::storage);
+    updateCornerPalmRejection(storedCornerPalmRejection(m_defaults), Origin::storage);
+    updateGestureEnabled(storedGestureEnabled(m_defaults), Origin::storage);
 }
 
-void MultitouchService::setGestureEnabled(bool enabled) { changeGestureEnabled(enabled, Origin::person); }
+void MultitouchService::setGestureEnabled(bool enabled) { updateGestureEnabled(enabled, Origin::person); }
 
-void MultitouchService::setTapWaitingInterval(TapWaitingInterval interval) { change(interval, Origin::person); }
+void MultitouchService::setTapWaitingInterval(TapWaitingInterval interval) {
+    updateTapWaitingInterval(interval, Origin::person);
+}
 
 void MultitouchService::setCornerPalmRejectionEnabled(bool enabled) {
     CornerPalmRejectionSettings settings = m_cornerPalmRejection.value();
     settings.isEnabled = enabled;
-    change(settings, Origin::person);
+    updateCornerPalmRejection(settings, Origin::person);
 }
 
 void MultitouchService::setCornerPalmRejectionSensitivity(double sensitivity) {
     CornerPalmRejectionSettings settings = m_cornerPalmRejection.value();
     settings.sensitivity = CornerPalmRejectionSettings::clampedSensitivity(sensitivity);
-    change(settings, Origin::person);
+    updateCornerPalmRejection(settings, Origin::person);
 }
 
-void MultitouchService::changeGestureEnabled(bool enabled, Origin origin) {
+void MultitouchService::updateGestureEnabled(bool enabled, Origin origin) {
     if (enabled == m_isGestureEnabled.value())
         return;
     m_isGestureEnabled.set(enabled);
@@ -129,16 +132,16 @@ void MultitouchService::changeGestureEnabled(bool enabled, Origin origin) {
     enabled ? start() : stop();
 }
 
-void MultitouchService::change(TapWaitingInterval interval, Origin origin) {
+void MultitouchService::updateTapWaitingInterval(TapWaitingInterval interval, Origin origin) {
     if (interval == m_tapWaitingInterval.value())
         return;
     m_tapWaitingInterval.set(interval);
     if (origin == Origin::person)
-        m_defaults.setInteger(kTapWaitingIntervalStorageKey, milliseconds(interval));
-    m_frameProcessor->setMaximumTapInterval(seconds(interval));
+        m_defaults.setInteger(TapWaitingInterval::storageKey, interval.rawValue());
+    m_frameProcessor->setMaximumTapInterval(interval.seconds());
 }
 
-void MultitouchService::change(const CornerPalmRejectionSettings& settings, Origin origin) {
+void MultitouchService::updateCornerPalmRejection(const CornerPalmRejectionSettings& settings, Origin origin) {
     if (settings == m_cornerPalmRejection.value())
         return;
     m_frameProcessor->setCornerPalmRejection(settings);
@@ -182,19 +185,20 @@ void MultitouchService::receivePhysicalClickEvent(const PointerEvent& event) {
     }
 }
 
+template <typename Gesture>
+void MultitouchService::report(const Gesture& gesture, const std::function<void(const Gesture&)>& callback) {
+    showGestureFeedback(gesture);
+    if (const auto copy = callback)  // a copy: it may install another one
+        copy(gesture);
+}
+
 void MultitouchService::deliver(const FrameRecognition& recognition) {
     if (!m_frameProcessor->isCurrent(recognition.generation))
         return;
-    if (const auto& draw = recognition.anchorDraw) {
-        showGestureFeedback(DetectedAnchorDraw{draw->corner, draw->pattern});
-        if (const auto callback = onAnchorDraw)
-            callback(draw->corner, draw->pattern);
-    }
-    if (const auto& slide = recognition.edgeSlide) {
-        showGestureFeedback(DetectedEdgeSlide{slide->fingers, slide->side, slide->steps});
-        if (const auto callback = onEdgeSlide)
-            callback(slide->fingers, slide->side, slide->steps);
-    }
+    if (const auto& draw = recognition.anchorDraw)
+        report(DetectedAnchorDraw{draw->corner, draw->pattern}, onAnchorDraw);
+    if (const auto& slide = recognition.edgeSlide)
+        report(DetectedEdgeSlide{slide->fingers, slide->side, slide->steps}, onEdgeSlide);
     if (recognition.tipTapSequence)
         scheduleTipTapRecognition(*recognition.tipTapSequence, recognition.generation);
     if (recognition.tapSequence)
@@ -235,33 +239,23 @@ void MultitouchService::schedulePhysicalClickRecognition(const PhysicalClickSequ
 void MultitouchService::recognize(const TapSequence& sequence, std::uint64_t generation) {
     if (!m_frameProcessor->finalize(sequence, generation))
         return;
-    if (const auto gesture = tapGesture(sequence.taps)) {
-        reportTap(sequence.fingers, *gesture);
-    }
+    if (const auto gesture = tapGesture(sequence.taps))
+        report(DetectedTap{sequence.fingers, *gesture}, onTap);
 }
 
 void MultitouchService::recognizeTipTap(const TipTapSequence& sequence, std::uint64_t generation) {
     if (!m_frameProcessor->finalizeTipTap(sequence, generation))
         return;
     constexpr int kFingers = 2;  // the resting and the tapping one
-    if (const auto gesture = tipTapGesture(sequence.taps, sequence.direction)) {
-        reportTap(kFingers, *gesture);
-    }
+    if (const auto gesture = tipTapGesture(sequence.taps, sequence.direction))
+        report(DetectedTap{kFingers, *gesture}, onTap);
 }
 
 void MultitouchService::recognizePhysicalClick(const PhysicalClickSequence& sequence, std::uint64_t generation) {
     if (!m_frameProcessor->finalizePhysicalClick(sequence, generation))
         return;
-    if (const auto gesture = physicalClickGesture(sequence.clicks, sequence.pressure)) {
-        reportTap(sequence.fingers, *gesture);
-    }
-}
-
-void MultitouchService::reportTap(int fingers, GestureKind gesture) {
-    showGestureFeedback(DetectedTap{fingers, gesture});
-    // A copy, as for the other callbacks: what it calls may install another one.
-    if (const auto callback = onTap)
-        callback(fingers, gesture);
+    if (const auto gesture = physicalClickGesture(sequence.clicks, sequence.pressure))
+        report(DetectedTap{sequence.fingers, *gesture}, onTap);
 }
 
 void MultitouchService::showGestureFeedback(const DetectedGesture& gesture) {

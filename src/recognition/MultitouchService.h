@@ -20,16 +20,11 @@
 namespace kinesta {
 
 /// The hub of gesture recognition: feeds contact frames and clicks to the processor, waits as long as a gesture may
-/// still grow, and hands finished gestures to its callbacks. Main thread only; on the provider's thread nothing but
-/// the processor is touched, which may go on even while the service is destroyed. Callbacks may do anything but destroy
-/// the service.
+/// still grow, and hands finished gestures to its callbacks. Main thread only, except that frames reach the processor
+/// on the provider's thread, even while the service is destroyed. Callbacks may do anything but destroy the service.
 class MultitouchService {
   public:
     using Status = TrackpadContactProviderStatus;
-    using TapCallback = std::function<void(int fingers, GestureKind gesture)>;
-    using EdgeSlideCallback = std::function<void(int fingers, EdgeSlideSide side, std::int64_t steps)>;
-    using AnchorDrawCallback = std::function<void(AnchorCorner corner, DrawPattern pattern)>;
-
     static constexpr std::string_view enabledStorageKey = "gesturesEnabled";
 
     /// Reads the settings and installs the provider's frame handler; starts nothing. All ports must outlive the
@@ -41,14 +36,21 @@ class MultitouchService {
     ~MultitouchService();
 
     /// Receives finished taps, physical clicks and tip-taps; a tip-tap has 2 fingers.
-    TapCallback onTap;
+    std::function<void(const DetectedTap&)> onTap;
     /// Receives every step of an edge slide as it happens.
-    EdgeSlideCallback onEdgeSlide;
+    std::function<void(const DetectedEdgeSlide&)> onEdgeSlide;
     /// Receives finished corner drawings.
-    AnchorDrawCallback onAnchorDraw;
+    std::function<void(const DetectedAnchorDraw&)> onAnchorDraw;
+
+    /// Installs one handler as all three callbacks.
+    void onEveryGesture(const std::function<void(const DetectedGesture&)>& handler) {
+        onTap = handler;
+        onEdgeSlide = handler;
+        onAnchorDraw = handler;
+    }
 
     const Published<Status>& status() const { return m_status; }
-    /// What was recognized last, as a sentence for a person, for some seconds.
+    /// The last gesture, as a sentence for a person, for some seconds.
     const Published<std::optional<std::string>>& lastGesture() const { return m_lastGesture; }
     /// Whole seconds until that sentence disappears.
     const Published<std::optional<int>>& gestureCountdown() const { return m_gestureCountdown; }
@@ -58,17 +60,17 @@ class MultitouchService {
 
     /// Starts the provider if gestures are enabled. Does not try again by itself if the provider is unavailable.
     void start();
-    /// Stops the provider and forgets all that is pending.
+    /// Stops the provider and cancels what is pending.
     void stop();
     void startIfEnabled();
 
     /// To be called when the provider's status has changed by itself, after start(): the pad came, or went.
     void contactProviderDidChangeStatus();
 
-    /// Takes over the stored settings, which someone else has changed.
+    /// Takes over the stored settings after another process has changed them.
     void reloadSettings();
 
-    /// The settings take effect at once and are stored; setting what is set already does nothing.
+    /// Settings take effect at once and are stored; an equal value does nothing.
     void setGestureEnabled(bool enabled);
     void setTapWaitingInterval(TapWaitingInterval interval);
     void setCornerPalmRejectionEnabled(bool enabled);
@@ -76,9 +78,11 @@ class MultitouchService {
     void setCornerPalmRejectionSensitivity(double sensitivity);
 
   private:
-    /// Who changes a setting. What comes from storage is not stored again: by then it may hold something newer.
+    /// Who changes a setting. A value from storage is not stored again: storage may hold a newer one by then.
     enum class Origin { person, storage };
 
+    template <typename Gesture>
+    void report(const Gesture& gesture, const std::function<void(const Gesture&)>& callback);
     void deliver(const FrameRecognition& recognition);
     void receivePhysicalClickEvent(const PointerEvent& event);
     void scheduleRecognition(const TapSequence& sequence, std::uint64_t generation);
@@ -87,13 +91,12 @@ class MultitouchService {
     void recognize(const TapSequence& sequence, std::uint64_t generation);
     void recognizeTipTap(const TipTapSequence& sequence, std::uint64_t generation);
     void recognizePhysicalClick(const PhysicalClickSequence& sequence, std::uint64_t generation);
-    void reportTap(int fingers, GestureKind gesture);
 
     void startClickMonitoring();
     void cancelPendingRecognitions();
-    void changeGestureEnabled(bool enabled, Origin origin);
-    void change(TapWaitingInterval interval, Origin origin);
-    void change(const CornerPalmRejectionSettings& settings, Origin origin);
+    void updateGestureEnabled(bool enabled, Origin origin);
+    void updateTapWaitingInterval(TapWaitingInterval interval, Origin origin);
+    void updateCornerPalmRejection(const CornerPalmRejectionSettings& settings, Origin origin);
 
     void showGestureFeedback(const DetectedGesture& gesture);
     void scheduleFeedbackTick();
@@ -123,7 +126,7 @@ class MultitouchService {
     std::optional<Seconds> m_gestureFeedbackExpiresAt;  // wall clock
     Uptime m_gestureFeedbackTickAt = 0;
 
-    /// Points here while the service lives. Others hold it weakly and look at it on the main thread only.
+    /// Points here while the service lives. Posted tasks hold it weakly and lock it on the main thread.
     std::shared_ptr<MultitouchService*> m_self = std::make_shared<MultitouchService*>(this);
 };
 

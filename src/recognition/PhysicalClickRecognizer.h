@@ -13,13 +13,13 @@ struct PhysicalClickSequence {
     int fingers = 0;
     /// 1, 2 or 3; further clicks leave it at 3.
     int clicks = 0;
-    /// Nothing when the clicks differ.
+    /// Absent if the clicks differ.
     std::optional<PhysicalClickPressure> pressure;
 
     friend bool operator==(const PhysicalClickSequence&, const PhysicalClickSequence&) = default;
 };
 
-/// Counts the presses of the pad's button that follow each other. Not thread-safe.
+/// Counts physical clicks in quick succession. Not thread-safe.
 class PhysicalClickRecognizer {
   public:
     static constexpr int minimumFingers = 2;  // a click of one finger is an ordinary click
@@ -36,11 +36,11 @@ class PhysicalClickRecognizer {
 
     Seconds maximumInterval() const { return m_limits.maximumInterval; }
 
-    /// Takes one completed click. The sequence including it; nothing, and the end of the sequence before, if the
-    /// number of fingers is no gesture's.
+    /// Takes one completed click and returns the sequence including it. A click with another number of fingers ends the
+    /// sequence and returns nothing.
     std::optional<PhysicalClickSequence> process(int fingers, PhysicalClickPressure pressure, Seconds timestamp);
 
-    /// Ends the sequence and gives it back if it is still `expected`; otherwise nothing changes.
+    /// Ends and returns the sequence if it is still `expected`; otherwise changes nothing.
     std::optional<PhysicalClickSequence> finalize(const PhysicalClickSequence& expected);
 
     void reset() { m_counted.reset(); }

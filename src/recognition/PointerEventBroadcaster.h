@@ -2,12 +2,12 @@
 
 #include <map>
 
+#include "input/PadEvent.h"
 #include "recognition/PointerEventMonitoring.h"
 
 namespace kinesta {
 
-/// Pointer events for whoever monitors them, from a source that pushes them: a device, a recording. All of them count
-/// as other applications' events. Main thread only.
+/// Passes the clicks of a device or a recording to monitors. Main thread only.
 class PointerEventBroadcaster final : public PointerEventMonitoring {
   public:
     [[nodiscard]] PointerEventMonitor monitor(PointerEventScope scope, Handler handler) override {
@@ -15,15 +15,28 @@ class PointerEventBroadcaster final : public PointerEventMonitoring {
         return {this, m_lastId};
     }
 
-    /// Calls every monitor of other applications' events. Monitors may come and go meanwhile.
-    void deliver(const PointerEvent& event) {
+    /// Calls every monitor of the scope. Monitors may come and go meanwhile.
+    void deliver(const PointerEvent& event, PointerEventScope scope = PointerEventScope::otherApplications) {
         for (std::uint64_t id = 0; const Monitor* next = after(id);) {
-            if (next->scope == PointerEventScope::otherApplications) {
+            if (next->scope == scope) {
                 const Handler handler = next->handler;  // a copy: it may remove itself
                 handler(event);
             }
         }
     }
+
+    /// Delivers a press, release or pressure stage of a pad; ignores a frame.
+    void deliver(const PadEvent& event) {
+        if (const auto* button = std::get_if<PadButton>(&event.content))
+            deliver(PointerEvent{
+                .kind = *button == PadButton::down ? PointerEvent::Kind::leftDown : PointerEvent::Kind::leftUp,
+                .timestamp = event.time});
+        else if (const auto* pressure = std::get_if<PadPressure>(&event.content))
+            deliver(
+                PointerEvent{.kind = PointerEvent::Kind::pressure, .stage = pressure->stage, .timestamp = event.time});
+    }
+
+    std::size_t monitorCount() const { return m_monitors.size(); }
 
   protected:
     void cancel(std::uint64_t id) override { m_monitors.erase(id); }

@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// A mouse button or the pad's pressure, as the desktop reports it.
+/// An event of a mouse button or of the pad's pressure.
 struct PointerEvent {
     enum class Kind { leftDown, leftUp, rightDown, rightUp, pressure };
 
@@ -21,12 +21,12 @@ struct PointerEvent {
     friend bool operator==(const PointerEvent&, const PointerEvent&) = default;
 };
 
-/// Whose events a monitor sees. Every event belongs to one of the two.
+/// The events that a monitor sees. Every event belongs to one of the two.
 enum class PointerEventScope { otherApplications, thisApplication };
 
 class PointerEventMonitoring;
 
-/// Keeps a monitor installed as long as it lives.
+/// Keeps a monitor installed while it lives. Main thread only; must not outlive its port.
 using PointerEventMonitor = Registration<PointerEventMonitoring>;
 
 /// The port to the pointer events of the desktop. Main thread only.
@@ -36,8 +36,8 @@ class PointerEventMonitoring {
 
     virtual ~PointerEventMonitoring() = default;
 
-    /// Calls `handler` on the main thread for every event of the scope, which goes its way all the same. A handler
-    /// may remove its own monitor.
+    /// Calls `handler` on the main thread for every event of the scope, and swallows none. A handler may remove its own
+    /// monitor.
     [[nodiscard]] virtual PointerEventMonitor monitor(PointerEventScope scope, Handler handler) = 0;
 
   protected:

@@ -10,8 +10,8 @@ bool storedGestureEnabled(const UserDefaults& defaults) {
 }
 
 TapWaitingInterval storedTapWaitingInterval(const UserDefaults& defaults) {
-    return tapWaitingInterval(defaults.integer(kTapWaitingIntervalStorageKey).value_or(0))
-        .value_or(kDefaultTapWaitingInterval);
+    return TapWaitingInterval::fromRawValue(defaults.integer(TapWaitingInterval::storageKey).value_or(0))
+        .value_or(TapWaitingInterval::defaultValue);
 }
 
 CornerPalmRejectionSettings storedCornerPalmRejection(const UserDefaults& defaults) {

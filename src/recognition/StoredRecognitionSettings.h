@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// What the stored settings say about recognition; where they say nothing, or nothing that exists, the default.
+/// The stored settings of recognition; the default for an absent or invalid one.
 
 /// On, unless stored otherwise; a stored value that is no Boolean is off.
 bool storedGestureEnabled(const UserDefaults& defaults);

@@ -10,35 +10,36 @@
 
 namespace kinesta {
 
-/// How long a tap waits for another one to follow it: a setting. The raw values, in milliseconds, are persisted.
-enum class TapWaitingInterval : std::int16_t {
-    veryShort = 150,
-    shortWait = 200,
-    standard = 250,
-    longWait = 300,
-    veryLong = 400,
+/// How long a tap waits for another one to follow it: a setting with five values.
+class TapWaitingInterval {
+  public:
+    /// In milliseconds, as stored.
+    enum Case : std::int16_t { veryShort = 150, shortWait = 200, standard = 250, longWait = 300, veryLong = 400 };
+
+    static constexpr std::array allCases{veryShort, shortWait, standard, longWait, veryLong};
+    static constexpr Case defaultValue = standard;
+    static constexpr std::string_view storageKey = "tapWaitingInterval.v1";
+
+    // Converts implicitly: a case is an interval.
+    constexpr TapWaitingInterval(Case value = defaultValue) : m_case(value) {}
+
+    /// The interval of so many milliseconds, or nothing if it is none of the five.
+    static constexpr std::optional<TapWaitingInterval> fromRawValue(std::int64_t milliseconds) {
+        for (const Case value : allCases)
+            if (value == milliseconds)
+                return TapWaitingInterval(value);
+        return std::nullopt;
+    }
+
+    constexpr std::int64_t rawValue() const { return m_case; }
+    constexpr Seconds seconds() const { return static_cast<Seconds>(m_case) / 1000; }
+    /// "250 ms".
+    std::string title() const { return std::to_string(m_case) + " ms"; }
+
+    friend bool operator==(const TapWaitingInterval&, const TapWaitingInterval&) = default;
+
+  private:
+    Case m_case;
 };
-
-inline constexpr std::array kTapWaitingIntervals{TapWaitingInterval::veryShort, TapWaitingInterval::shortWait,
-                                                 TapWaitingInterval::standard, TapWaitingInterval::longWait,
-                                                 TapWaitingInterval::veryLong};
-
-inline constexpr TapWaitingInterval kDefaultTapWaitingInterval = TapWaitingInterval::standard;
-inline constexpr std::string_view kTapWaitingIntervalStorageKey = "tapWaitingInterval.v1";
-
-constexpr std::int64_t milliseconds(TapWaitingInterval interval) { return static_cast<std::int64_t>(interval); }
-
-constexpr Seconds seconds(TapWaitingInterval interval) { return static_cast<Seconds>(milliseconds(interval)) / 1000; }
-
-/// "250 ms".
-inline std::string title(TapWaitingInterval interval) { return std::to_string(milliseconds(interval)) + " ms"; }
-
-/// The interval of so many milliseconds, or nothing if it is none of the five.
-constexpr std::optional<TapWaitingInterval> tapWaitingInterval(std::int64_t milliseconds) {
-    for (const TapWaitingInterval interval : kTapWaitingIntervals)
-        if (kinesta::milliseconds(interval) == milliseconds)
-            return interval;
-    return std::nullopt;
-}
 
 }  // namespace kinesta

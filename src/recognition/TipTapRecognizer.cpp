@@ -22,7 +22,7 @@ std::optional<TipTapEvent> TipTapRecognizer::process(std::span<const TouchSample
 }
 
 void TipTapRecognizer::trackAnchor(const TouchSample& sample, Seconds timestamp) {
-    if (!m_anchor || m_anchor->id != sample.id || m_anchor->isSpoiled) {
+    if (!m_anchor || m_anchor->id != sample.id || m_anchor->secondFingerArrivedTooEarly) {
         startAnchor(sample, timestamp);
         return;
     }
@@ -40,10 +40,11 @@ void TipTapRecognizer::trackLanding(const TouchSample& first, const TouchSample&
         return;
     }
     const double dx = candidate.position.x - m_anchor->currentPosition.x;
-    const bool canTap = !m_anchor->isSpoiled && timestamp - m_anchor->stableSince >= m_limits.minimumAnchorDuration &&
+    const bool canTap = !m_anchor->secondFingerArrivedTooEarly &&
+                        timestamp - m_anchor->stableSince >= m_limits.minimumAnchorDuration &&
                         std::abs(dx) >= m_limits.minimumHorizontalSeparation;
     if (!canTap) {
-        m_anchor->isSpoiled = true;
+        m_anchor->secondFingerArrivedTooEarly = true;
         return;
     }
     m_anchor->tappingFinger = TappingFinger{.id = candidate.id,
@@ -63,7 +64,7 @@ void TipTapRecognizer::trackTap(const TouchSample& first, const TouchSample& sec
     }
     if (compareDistance(finger.initialPosition, tapping.position, m_limits.maximumMovement) > 0)
         finger.movedTooFar = true;
-    // From frame to frame and not in sum: the hand may creep while a finger taps, it only must not jump.
+    // From frame to frame: during a tap the hand may creep, but not jump.
     if (compareDistance(m_anchor->currentPosition, anchor.position, m_limits.maximumAnchorMovement) > 0)
         finger.anchorMovedTooFar = true;
     m_anchor->currentPosition = anchor.position;

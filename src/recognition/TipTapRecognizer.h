@@ -11,7 +11,7 @@ namespace kinesta {
 
 /// One tap of a second finger beside a resting one.
 struct TipTapEvent {
-    ContactId anchorId = 0;
+    ContactId anchorID = 0;
     TipTapDirection direction = TipTapDirection::left;
 
     friend bool operator==(const TipTapEvent&, const TipTapEvent&) = default;
@@ -26,13 +26,13 @@ class TipTapRecognizer {
         Seconds maximumTapDuration = 0.24;           // of the second finger on the pad
         double minimumHorizontalSeparation = 0.035;  // of the fingers at the landing; normalized units
         double maximumMovement = 0.055;              // of the tapping finger from where it landed
-        double maximumAnchorMovement = 0.045;        // while alone: from where it settled; in a tap: in one frame
+        double maximumAnchorMovement = 0.045;        // alone: from where it settled; during a tap: from frame to frame
     };
 
     TipTapRecognizer() = default;
     explicit TipTapRecognizer(const Limits& limits) : m_limits(limits) {}
 
-    /// Takes one frame. An event if the tapping finger has just lifted in time.
+    /// Takes one frame. Returns an event if the tapping finger has just lifted in time.
     std::optional<TipTapEvent> process(std::span<const TouchSample> samples, Seconds timestamp);
 
   private:
@@ -49,8 +49,8 @@ class TipTapRecognizer {
         Point stablePosition;
         Point currentPosition;
         Seconds stableSince = 0;
-        /// A second finger landed that cannot tap: of no use until it is alone again, and then a new anchor.
-        bool isSpoiled = false;
+        /// A second finger landed that cannot tap. The next frame with one finger starts a new anchor.
+        bool secondFingerArrivedTooEarly = false;
         std::optional<TappingFinger> tappingFinger = {};
     };
 

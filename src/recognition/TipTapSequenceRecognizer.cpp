@@ -10,11 +10,11 @@ constexpr int kMostTaps = 3;
 }  // namespace
 
 TipTapSequence TipTapSequenceRecognizer::process(const TipTapEvent& event, Seconds timestamp) {
-    const bool continues = m_counted && m_counted->sequence.anchorId == event.anchorId &&
+    const bool continues = m_counted && m_counted->sequence.anchorID == event.anchorID &&
                            m_counted->sequence.direction == event.direction &&
                            timestamp - m_counted->lastTapTime <= m_limits.maximumInterval;
     const int taps = continues ? std::min(m_counted->sequence.taps + 1, kMostTaps) : 1;
-    m_counted = CountedTaps{{event.anchorId, event.direction, taps}, timestamp};
+    m_counted = CountedTaps{{event.anchorID, event.direction, taps}, timestamp};
     return m_counted->sequence;
 }
 

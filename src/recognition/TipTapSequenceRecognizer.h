@@ -6,9 +6,9 @@
 
 namespace kinesta {
 
-/// Tip-taps on the same side of the same resting finger in quick succession.
+/// Tip-taps on the same side of the same anchor in quick succession.
 struct TipTapSequence {
-    ContactId anchorId = 0;
+    ContactId anchorID = 0;
     TipTapDirection direction = TipTapDirection::left;
     /// 1, 2 or 3; further taps leave it at 3.
     int taps = 0;
@@ -16,7 +16,7 @@ struct TipTapSequence {
     friend bool operator==(const TipTapSequence&, const TipTapSequence&) = default;
 };
 
-/// Counts the tip-taps that follow each other. Not thread-safe.
+/// Counts tip-taps in quick succession. Not thread-safe.
 class TipTapSequenceRecognizer {
   public:
     struct Limits {
@@ -32,7 +32,7 @@ class TipTapSequenceRecognizer {
     /// The sequence including this event.
     TipTapSequence process(const TipTapEvent& event, Seconds timestamp);
 
-    /// Ends the sequence and gives it back if it is still `expected`; otherwise nothing changes.
+    /// Ends and returns the sequence if it is still `expected`; otherwise changes nothing.
     std::optional<TipTapSequence> finalize(const TipTapSequence& expected);
 
     void reset() { m_counted.reset(); }

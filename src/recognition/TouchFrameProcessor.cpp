@@ -3,7 +3,7 @@
 namespace kinesta {
 namespace {
 
-/// A click that is reported within this time after the fingers have lifted is theirs.
+/// A click reported within this time after a lift belongs to the lifted fingers.
 constexpr Seconds kClickReportDelay = 0.12;
 
 constexpr std::int64_t kForceStage = 2;
@@ -16,7 +16,7 @@ FrameRecognition TouchFrameProcessor::process(std::span<const TouchSample> sampl
     m_rawContactCount = samples.size();
     if (m_suppressUntilRawLift) {
         m_suppressUntilRawLift = m_rawContactCount > 0;
-        return {};
+        return FrameRecognition::empty;
     }
     const std::span<const TouchSample> filtered = m_cornerPalmFilter.process(samples);
     rememberContacts(filtered, receivedAt);
@@ -25,7 +25,7 @@ FrameRecognition TouchFrameProcessor::process(std::span<const TouchSample> sampl
             m_suppressTapUntilLift = false;
             clearContactState();
         }
-        return {};
+        return FrameRecognition::empty;
     }
     return recognize(filtered, timestamp);
 }
@@ -43,7 +43,7 @@ void TouchFrameProcessor::rememberContacts(std::span<const TouchSample> filtered
 
 FrameRecognition TouchFrameProcessor::recognize(std::span<const TouchSample> filtered, Seconds timestamp) {
     const auto tipTap = m_tipTap.process(filtered, timestamp);
-    // Evaluated in this order.
+    // Initializers run in this order.
     return {.generation = m_generation,
             .anchorDraw = m_anchorDraw.process(filtered, timestamp),
             .edgeSlide = m_edgeSlide.process(filtered),

@@ -11,12 +11,12 @@
 
 namespace kinesta {
 
-/// Where contact frames and physical clicks meet the recognizers. Frames come on the driver's thread, all else on
+/// Feeds contact frames and physical clicks to the recognizers. Frames come on the driver's thread, everything else on
 /// the main thread: one lock guards every field, and every operation holds it from beginning to end. Nothing
 /// outside is called with the lock held.
 ///
-/// Work that is put off remembers the generation it was based on; a new generation begins whenever the recognizers
-/// are made anew, and what is of an older one is void.
+/// Rebuilding the recognizers begins a new generation. A delayed task carries the generation that it is based on;
+/// a task from an older one has no effect.
 class TouchFrameProcessor {
   public:
     struct CompletedClick {
@@ -32,16 +32,16 @@ class TouchFrameProcessor {
     /// the times of clicks.
     FrameRecognition process(std::span<const TouchSample> samples, Seconds timestamp, Uptime receivedAt);
 
-    /// The button went down. Until all contacts have lifted, frames make no gesture.
+    /// The button went down. Frames are ignored until all contacts have lifted.
     void beginPhysicalClick(Uptime receivedAt);
 
-    /// The click in progress is a Force Click once it has reached stage 2.
+    /// A click that reaches stage 2 is a Force Click.
     void registerPressureStage(std::int64_t stage);
 
-    /// The button went up. The sequence including the click, if the click is a gesture's.
+    /// The button went up. The sequence including the click, if it counts as a gesture.
     std::optional<CompletedClick> completePhysicalClick(Uptime timestamp);
 
-    /// Ends a sequence and gives it back, if it is still `expected` and the generation is current.
+    /// Ends and returns a sequence if it is still `expected` and the generation is current.
     std::optional<TapSequence> finalize(const TapSequence& expected, std::uint64_t generation);
     std::optional<TipTapSequence> finalizeTipTap(const TipTapSequence& expected, std::uint64_t generation);
     std::optional<PhysicalClickSequence> finalizePhysicalClick(const PhysicalClickSequence& expected,
@@ -49,7 +49,7 @@ class TouchFrameProcessor {
 
     bool isCurrent(std::uint64_t generation) const;
 
-    /// How long a sequence of each kind waits to grow.
+    /// How long a sequence of each kind waits for the next tap or click.
     Seconds maximumTapInterval() const;
     Seconds maximumTipTapInterval() const;
     Seconds maximumClickInterval() const;
@@ -57,7 +57,7 @@ class TouchFrameProcessor {
     /// Sets the interval of taps and tip-taps. That of clicks is fixed.
     void setMaximumTapInterval(Seconds interval);
 
-    /// If the settings change, begins a new generation and ignores the fingers that are on the pad now.
+    /// If the settings change, begins a new generation and ignores frames until all contacts have lifted.
     void setCornerPalmRejection(const CornerPalmRejectionSettings& settings);
 
     /// Forgets contacts and sequences and begins a new generation; the settings stay.

@@ -18,32 +18,36 @@ PadScript tapAtOne() { return PadScript().tap(1, 3); }
 
 std::string settingsOf(const MultitouchService& service) {
     const auto& palm = service.cornerPalmRejection().value();
-    return std::string(service.isGestureEnabled().value() ? "on " : "off ") +
-           title(service.tapWaitingInterval().value()) + (palm.isEnabled ? " palm " : " no palm ") +
-           numberText(palm.sensitivity);
+    return (service.isGestureEnabled().value() ? "on " : "off ") + service.tapWaitingInterval().value().title() +
+           (palm.isEnabled ? " palm " : " no palm ") + numberText(palm.sensitivity);
 }
 
-TEST(MultitouchService, ReadsItsSettingsAndMakesSenseOfAnything) {
-    const auto read = [](StoredValues values) {
+TEST(MultitouchService, ReadsItsSettingsAndRepairsMalformedOnes) {
+    const auto expectSettings = [](StoredValues values, const std::string& settings) {
         GestureRig rig;
         rig.defaults.replaceValues(std::move(values));
-        const std::string settings = settingsOf(rig.launch());
+        EXPECT_EQ(settingsOf(rig.launch()), settings);
         EXPECT_EQ(rig.defaults.writes, 0);
-        return settings;
     };
-    EXPECT_EQ(read({}), "on 250 ms no palm 0.5");
-    EXPECT_EQ(read({{"gesturesEnabled", std::string("true")},
-                    {"tapWaitingInterval.v1", std::int64_t{275}},
-                    {"cornerPalmRejectionEnabled.v1", std::int64_t{1}},
-                    {"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}),
-              "off 250 ms no palm 1");
-    EXPECT_EQ(read({{"gesturesEnabled", true},
-                    {"tapWaitingInterval.v1", std::string("150")},
-                    {"cornerPalmRejectionSensitivity.v1", std::numeric_limits<double>::quiet_NaN()}}),
-              "on 250 ms no palm 0.5");
+    const std::string text = "text";
+    expectSettings({}, "on 250 ms no palm 0.5");
+    expectSettings({{"gesturesEnabled", text}, {"tapWaitingInterval.v1", std::int64_t{275}}}, "off 250 ms no palm 0.5");
+    expectSettings({{"gesturesEnabled", true}, {"tapWaitingInterval.v1", text}}, "on 250 ms no palm 0.5");
+    expectSettings({{"cornerPalmRejectionEnabled.v1", std::int64_t{1}}}, "on 250 ms no palm 0.5");
+    expectSettings({{"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}, "on 250 ms no palm 1");
 }
 
-TEST(MultitouchService, StoresWhatChangesAndNothingElse) {
+TEST(TapWaitingInterval, HasFiveValues) {
+    std::string titles;
+    for (std::int64_t value = -400; value <= 1000; ++value)
+        if (const auto interval = TapWaitingInterval::fromRawValue(value))
+            titles += interval->title() + ",";
+    EXPECT_EQ(titles, "150 ms,200 ms,250 ms,300 ms,400 ms,");
+    EXPECT_FALSE(TapWaitingInterval::fromRawValue(65536 + 150) || TapWaitingInterval::fromRawValue(4294967296 + 150));
+    EXPECT_EQ(TapWaitingInterval().seconds(), MultiTapRecognizer().maximumInterval());
+}
+
+TEST(MultitouchService, StoresChangesOnly) {
     GestureRig rig;
     MultitouchService& service = rig.launch();
     service.setGestureEnabled(true);
@@ -61,20 +65,23 @@ TEST(MultitouchService, StoresWhatChangesAndNothingElse) {
     service.setCornerPalmRejectionEnabled(true);
     service.setGestureEnabled(false);
     EXPECT_EQ(rig.defaults.writes, 6);
-    EXPECT_EQ(rig.defaults.values(), (StoredValues{{"cornerPalmRejectionEnabled.v1", true},
-                                                   {"cornerPalmRejectionSensitivity.v1", 1.0},
-                                                   {"gesturesEnabled", false},
-                                                   {"tapWaitingInterval.v1", std::int64_t{150}}}));
-    EXPECT_EQ(settingsOf(rig.launch()), "off 150 ms palm 1");
+    EXPECT_EQ(settingsOf(rig.launch()), "off 150 ms palm 1") << "read back";
+
+    rig.defaults.setInteger("tapWaitingInterval.v1", 400);
+    rig.defaults.setBoolean("cornerPalmRejectionEnabled.v1", false);
+    rig.defaults.setBoolean("gesturesEnabled", true);
+    rig.service->reloadSettings();
+    EXPECT_EQ(settingsOf(*rig.service), "on 400 ms no palm 1") << "changed by another process";
+    EXPECT_EQ(rig.service->status().value(), Status::listening());
+    EXPECT_EQ(rig.defaults.writes, 9) << "three are the test's own";
 }
 
-TEST(MultitouchService, FollowsTheProviderAndWatchesClicksOnlyWhileItListens) {
+TEST(MultitouchService, FollowsTheProvider) {
     GestureRig rig;
     rig.provider.statusAfterStart = Status::unavailable("No pad.");
     MultitouchService& service = rig.launch();
     EXPECT_EQ(service.status().value(), Status::unavailable("No pad."));
     EXPECT_EQ(rig.pointer.monitorCount(), 0U);
-
     rig.provider.statusAfterStart = Status::listening();
     service.start();
     EXPECT_EQ(service.status().value(), Status::listening());
@@ -82,63 +89,41 @@ TEST(MultitouchService, FollowsTheProviderAndWatchesClicksOnlyWhileItListens) {
     service.start();
     EXPECT_EQ(rig.provider.calls, (Texts{"start", "start"})) << "it listens already";
 
-    service.setGestureEnabled(false);
-    EXPECT_EQ(service.status().value(), Status::stopped());
-    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
-    service.start();
-    service.startIfEnabled();
-    EXPECT_EQ(rig.provider.calls, (Texts{"start", "start", "stop"})) << "it is off";
-}
-
-TEST(MultitouchService, FollowsAProviderWhosePadComesAndGoesByItself) {
-    GestureRig rig;
-    MultitouchService& service = rig.launch();
     const auto becomes = [&](const Status& status) {
         rig.provider.becomes(status);
         service.contactProviderDidChangeStatus();
         return service.status().value() == status;
     };
-    rig.play(PadScript().tap(1, 3));
+    rig.play(tapAtOne());
     EXPECT_TRUE(becomes(Status::unavailable("Gone.")));
     EXPECT_EQ(rig.pointer.monitorCount(), 0U);
     rig.mainThread.runRemaining();
-    EXPECT_EQ(rig.gestures, "") << "what waited is not for a pad that is gone";
-    EXPECT_TRUE(becomes(Status::unavailable("No permission.")));
-    EXPECT_TRUE(becomes(Status::listening()));
-    EXPECT_TRUE(becomes(Status::listening()));
+    EXPECT_EQ(rig.gestures, "") << "a waiting gesture is dropped with its pad";
+    for (const Status& status : {Status::unavailable("No permission."), Status::listening(), Status::listening()})
+        EXPECT_TRUE(becomes(status));
     EXPECT_EQ(rig.pointer.monitorCount(), 2U);
     rig.play(PadScript().tap(5, 3));
     rig.mainThread.runRemaining();
     EXPECT_EQ(rig.gestures, "5.25 singleTap of 3");
+
     service.setGestureEnabled(false);
-    EXPECT_FALSE(becomes(Status::listening())) << "too late: it is off";
-}
-
-TEST(MultitouchService, TakesOverWhatAnotherProcessStoredAndStoresNothing) {
-    GestureRig rig;
-    MultitouchService& service = rig.launch();
-    rig.defaults.setInteger("tapWaitingInterval.v1", 400);
-    rig.defaults.setBoolean("cornerPalmRejectionEnabled.v1", true);
-    rig.defaults.writes = 0;
-    service.reloadSettings();
-    EXPECT_EQ(service.tapWaitingInterval().value(), TapWaitingInterval::veryLong);
-    EXPECT_TRUE(service.cornerPalmRejection().value().isEnabled);
-    rig.defaults.setBoolean("gesturesEnabled", false);
-    service.reloadSettings();
     EXPECT_EQ(service.status().value(), Status::stopped());
-    EXPECT_EQ(rig.defaults.writes, 1) << "the test's own";
+    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
+    EXPECT_FALSE(becomes(Status::listening())) << "too late: it is off";
+    service.start();
+    service.startIfEnabled();
+    EXPECT_EQ(rig.provider.calls, (Texts{"start", "start", "stop"})) << "it is off";
 }
 
-TEST(MultitouchService, ClicksInItsOwnWindowsCountLikeOthersAndBothButtonsDo) {
+TEST(MultitouchService, TakesBothButtonsInAnyWindow) {
     using Kind = PointerEvent::Kind;
     for (const auto scope : {PointerEventScope::thisApplication, PointerEventScope::otherApplications})
         for (const auto& [down, up] : {std::pair(Kind::leftDown, Kind::leftUp), {Kind::rightDown, Kind::rightUp}}) {
             GestureRig rig;
             rig.launch();
             rig.play(PadScript().at(1).land(2));
-            rig.pointer.send({down, 0, 1}, scope);
-            rig.pointer.send({Kind::pressure, 2, 1}, scope);
-            rig.pointer.send({up, 0, 1}, scope);
+            for (const Kind kind : {down, Kind::pressure, up})
+                rig.pointer.deliver(PointerEvent{kind, 2, 1}, scope);
             rig.mainThread.runRemaining();
             EXPECT_EQ(rig.gestures, "1.25 singleForceClick of 2");
         }
@@ -165,7 +150,7 @@ TEST(MultitouchService, NamesTheGestureForFiveSeconds) {
     rig.mainThread.runRemaining();
     EXPECT_EQ(shown, (Texts{"10.0 Detected 2-finger left edge slide up", "10.0 5", "11.0 4", "12.0 3",
                             "12.5 Detected 2-finger left edge slide down", "12.5 5", "13.0 -", "13.0 -"}))
-        << "a new gesture begins anew, and stopping ends it";
+        << "a new gesture starts the countdown again, stop() ends it";
 }
 
 TEST(MultitouchService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
@@ -182,7 +167,7 @@ TEST(MultitouchService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
     EXPECT_NEAR(delayOfNext(2.85, 4.45), 0.8, 1e-6) << "3.25 and 4.25 are over";
 }
 
-TEST(MultitouchService, WhatAFrameCompletedBeforeAChangeIsDroppedAfterIt) {
+TEST(MultitouchService, DropsGesturesOfAnOlderGeneration) {
     const std::function<void(MultitouchService&)> stop = [](auto& service) { service.stop(); };
     const std::function<void(MultitouchService&)> palm = [](auto& s) { s.setCornerPalmRejectionEnabled(true); };
     const PadScript slide = PadScript().at(1).land(2, {0.1, 0.5}).glide({1, 2}, {0, 0.1}, 0.008);
@@ -191,7 +176,7 @@ TEST(MultitouchService, WhatAFrameCompletedBeforeAChangeIsDroppedAfterIt) {
         for (const PadScript& script : {tapAtOne(), slide, click}) {
             GestureRig rig;
             rig.launch();
-            rig.send(script);  // what it posts has not run yet
+            rig.send(script);  // the tasks that it posts have not run yet
             change(*rig.service);
             rig.mainThread.runRemaining();
             EXPECT_EQ(rig.gestures, "");
@@ -199,36 +184,35 @@ TEST(MultitouchService, WhatAFrameCompletedBeforeAChangeIsDroppedAfterIt) {
         }
 }
 
-TEST(MultitouchService, CallbacksMayReplaceThemselvesAndStopTheService) {
+TEST(MultitouchService, LetsCallbacksReplaceThemselvesAndStopIt) {
     GestureRig rig;
     MultitouchService& service = rig.launch();
-    int taps = 0;
-    service.onTap = [&](int fingers, GestureKind) {
+    std::int64_t fingers = 0;
+    service.onTap = [&](const DetectedTap& tap) {
         service.onTap = {};
         service.stop();
-        taps += fingers;
+        fingers += tap.fingerCount;
     };
     rig.play(tapAtOne());
     rig.mainThread.runRemaining();
-    EXPECT_EQ(taps, 3);
+    EXPECT_EQ(fingers, 3);
     EXPECT_EQ(service.status().value(), Status::stopped());
 }
 
-TEST(MultitouchService, MayGoAwayWithWorkPending) {
+TEST(MultitouchService, CallsNothingAfterItsEnd) {
     GestureRig rig;
     rig.launch();
     rig.play(PadScript().at(1).land(2).at(1.1).press().release());
     rig.play(PadScript().at(1.15).hold());  // the click waits
-    rig.launch();                           // and its service is no more
+    rig.launch();                           // and its service is destroyed
     rig.mainThread.runRemaining();
-    EXPECT_EQ(rig.gestures, "");
     rig.send(tapAtOne());
     rig.service.reset();
     rig.mainThread.runRemaining();
     EXPECT_EQ(rig.gestures, "");
 }
 
-TEST(MultitouchService, MayDoAnythingAndGoAwayWhileFramesArrive) {
+TEST(MultitouchService, SurvivesChangesAndItsEndWhileFramesArrive) {
     GestureRig rig;
     std::atomic<bool> isDone = false;
     std::atomic<int> allowed = 0;  // taps, so that the driver is never far ahead, however slow the machine
@@ -240,17 +224,17 @@ TEST(MultitouchService, MayDoAnythingAndGoAwayWhileFramesArrive) {
             rig.provider.send({{}, time + 0.05});
         }
     });
-    for (std::size_t services = 0; services < 100; ++services) {
-        rig.launch().onTap = [&](int, GestureKind) { ++delivered; };
+    for (int services = 0; services < 100; ++services) {
+        rig.launch().onTap = [&](const DetectedTap&) { ++delivered; };
         do {
             allowed = 20;
             rig.mainThread.runPosted();
-        } while (delivered == 0);  // so that the first service at least is at work
-        for (std::size_t i = 0; i < 5; ++i) {
+        } while (delivered == 0);  // so that the first service at least has worked
+        for (const TapWaitingInterval interval : TapWaitingInterval::allCases) {
             allowed = 20;
             rig.send(PadScript().press().stage(2).release());
-            rig.service->setTapWaitingInterval(kTapWaitingIntervals[i]);
-            rig.runUntil(static_cast<Seconds>(services) + 0.2 * static_cast<Seconds>(i));  // also what waits
+            rig.service->setTapWaitingInterval(interval);
+            rig.runUntil(rig.clock.wallClock() + 0.2);
         }
         if (services % 2 == 0)
             rig.service->setCornerPalmRejectionEnabled(services % 4 == 0);
@@ -262,7 +246,7 @@ TEST(MultitouchService, MayDoAnythingAndGoAwayWhileFramesArrive) {
     driver.join();
     const int before = delivered;
     rig.mainThread.runRemaining();
-    EXPECT_EQ(delivered, before) << "what is posted finds no service";
+    EXPECT_EQ(delivered, before) << "a posted task called a destroyed service";
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "recognition/MultitouchService.h"
+#include "recognition/PointerEventBroadcaster.h"
 #include "support/FakeContactProvider.h"
-#include "support/FakePointerEvents.h"
 #include "support/FakeUserDefaults.h"
 #include "support/PadScript.h"
 #include "support/Text.h"
@@ -19,7 +19,7 @@ namespace kinesta::testing {
 struct GestureRig {
     FakeUserDefaults defaults;
     FakeContactProvider provider;
-    FakePointerEvents pointer;
+    PointerEventBroadcaster pointer;
     VirtualMainThread mainThread;
     VirtualClock clock{mainThread};
     /// Each with its time, joined by "; ": "0.37 singleTap of 2", "0.5 edgeSlide of 2 left -1",
@@ -30,12 +30,13 @@ struct GestureRig {
     /// Makes the service, as at the start of the application.
     MultitouchService& launch() {
         service.emplace(defaults, provider, pointer, mainThread, clock);
-        service->onTap = [this](int fingers, GestureKind kind) { add(rawValue(kind), " of ", fingers); };
-        service->onEdgeSlide = [this](int fingers, EdgeSlideSide side, std::int64_t steps) {
-            add("edgeSlide of ", fingers, " ", rawValue(side), steps > 0 ? " +" : " ", steps);
+        service->onTap = [this](const DetectedTap& tap) { add(rawValue(tap.gesture), " of ", tap.fingerCount); };
+        service->onEdgeSlide = [this](const DetectedEdgeSlide& slide) {
+            add("edgeSlide of ", slide.fingerCount, " ", rawValue(slide.side), slide.steps > 0 ? " +" : " ",
+                slide.steps);
         };
-        service->onAnchorDraw = [this](AnchorCorner corner, DrawPattern pattern) {
-            add("anchorDraw ", rawValue(corner), " ", rawValue(pattern));
+        service->onAnchorDraw = [this](const DetectedAnchorDraw& draw) {
+            add("anchorDraw ", rawValue(draw.corner), " ", rawValue(draw.pattern));
         };
         service->startIfEnabled();
         return *service;
@@ -44,7 +45,7 @@ struct GestureRig {
     /// Plays a script: before each event the timers that are due earlier, after it what it has posted.
     void play(const PadScript& script) {
         for (const RecordingEvent& event : script.events()) {
-            runUntil(event.time);
+            runUntil(eventTime(event));
             send(event);
             mainThread.runPosted();
         }
@@ -57,17 +58,15 @@ struct GestureRig {
             send(event);
     }
     void send(const RecordingEvent& event) {
-        if (const auto* frame = std::get_if<RecordedFrame>(&event.content)) {
-            clock.setUptime(frame->received.value_or(event.time));
-            provider.send({frame->samples, event.time});
+        const auto* pad = std::get_if<PadEvent>(&event);
+        if (!pad) {
+            change(std::get<SettingsChange>(event).settings);
+        } else if (const auto* frame = std::get_if<PadFrame>(&pad->content)) {
+            clock.setUptime(frame->received.value_or(pad->time));
+            provider.send({frame->samples, pad->time});
             clock.clearUptime();
-        } else if (const auto* button = std::get_if<RecordedPointer>(&event.content)) {
-            using Kind = PointerEvent::Kind;
-            pointer.send({*button == RecordedPointer::down ? Kind::leftDown : Kind::leftUp, 0, event.time});
-        } else if (const auto* pressure = std::get_if<RecordedPressure>(&event.content)) {
-            pointer.send({PointerEvent::Kind::pressure, pressure->stage, event.time});
         } else {
-            change(std::get<RecordedSettings>(event.content));
+            pointer.deliver(*pad);
         }
     }
 
@@ -83,7 +82,7 @@ struct GestureRig {
         if (settings.gesturesEnabled)
             service->setGestureEnabled(*settings.gesturesEnabled);
         if (settings.tapWaitingMilliseconds)
-            service->setTapWaitingInterval(tapWaitingInterval(*settings.tapWaitingMilliseconds).value());
+            service->setTapWaitingInterval(TapWaitingInterval::fromRawValue(*settings.tapWaitingMilliseconds).value());
         if (settings.cornerPalmRejectionEnabled)
             service->setCornerPalmRejectionEnabled(*settings.cornerPalmRejectionEnabled);
         if (settings.cornerPalmRejectionSensitivity)

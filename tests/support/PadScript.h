@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "input/RecordingEvent.h"
+#include "input/recording/RecordingEvent.h"
 
 namespace kinesta::testing {
 
@@ -79,9 +79,9 @@ class PadScript {
     }
 
     /// The button goes down or up, or deeper, after what the frame of this moment says.
-    PadScript& press() { return add(RecordedPointer::down); }
-    PadScript& release() { return add(RecordedPointer::up); }
-    PadScript& stage(std::int64_t stage) { return add(RecordedPressure{stage}); }
+    PadScript& press() { return add(PadButton::down); }
+    PadScript& release() { return add(PadButton::up); }
+    PadScript& stage(std::int64_t stage) { return add(PadPressure{stage}); }
     PadScript& click(Seconds down, Seconds up) { return at(down).press().at(up).release(); }
     PadScript& setGestures(bool enabled) { return set(&RecordedSettings::gesturesEnabled, enabled); }
     PadScript& setTapWaiting(int time) { return set(&RecordedSettings::tapWaitingMilliseconds, time); }
@@ -112,22 +112,24 @@ class PadScript {
         m_isTouched = true;
         return *this;
     }
-    PadScript& add(decltype(RecordingEvent::content) content) {
+    PadScript& add(decltype(PadEvent::content) content) {
         flush();
-        m_events.push_back({m_time, std::move(content)});
+        m_events.push_back(PadEvent{m_time, std::move(content)});
         return *this;
     }
     template <typename T>
     PadScript& set(std::optional<T> RecordedSettings::*setting, T value) {
         RecordedSettings settings;
         settings.*setting = value;
-        return add(settings);
+        flush();
+        m_events.push_back(SettingsChange{m_time, settings});
+        return *this;
     }
     void flush() {
         if (!std::exchange(m_isTouched, false))
             return;
-        m_events.push_back({m_time, RecordedFrame{TouchSamples(std::span<const TouchSample>(m_fingers)),
-                                                  std::exchange(m_received, std::nullopt)}});
+        m_events.push_back(PadEvent{m_time, PadFrame{TouchSamples(std::span<const TouchSample>(m_fingers)),
+                                                     std::exchange(m_received, std::nullopt)}});
     }
 
     Seconds m_time = 0;

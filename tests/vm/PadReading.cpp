@@ -42,10 +42,10 @@ PadReading::PadReading(EvdevContactProvider::Settings settings) : m_provider(m_m
         m_change.notify_all();
         m_change.wait(lock, [this] { return m_hold == Hold::none; });
     });
-    m_provider.setPointerHandler([this](const RecordingEvent& event) {
-        if (const auto* pointer = std::get_if<RecordedPointer>(&event.content))
-            add(*pointer == RecordedPointer::down ? "down" : "up", event.time);
-        else if (const auto* pressure = std::get_if<RecordedPressure>(&event.content))
+    m_provider.setPointerHandler([this](const PadEvent& event) {
+        if (const auto* pointer = std::get_if<PadButton>(&event.content))
+            add(*pointer == PadButton::down ? "down" : "up", event.time);
+        else if (const auto* pressure = std::get_if<PadPressure>(&event.content))
             add("stage " + std::to_string(pressure->stage), event.time);
     });
     m_provider.setStatusHandler([this] { add(status(), 0); });

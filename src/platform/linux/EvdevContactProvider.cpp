@@ -47,8 +47,8 @@ void EvdevContactProvider::start() {
     const std::weak_ptr<Run> run = m_run;
     auto reader = std::make_unique<EvdevReader>(
         m_settings,
-        [this, run](const RecordingEvent& event) {
-            if (const auto* frame = std::get_if<RecordedFrame>(&event.content))
+        [this, run](const PadEvent& event) {
+            if (const auto* frame = std::get_if<PadFrame>(&event.content))
                 m_frameHandler.call({frame->samples, event.time});
             else
                 Run::post(m_mainThread, run, [this, event] {

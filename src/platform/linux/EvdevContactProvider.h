@@ -5,7 +5,7 @@
 #include <thread>
 #include <utility>
 
-#include "input/RecordingEvent.h"
+#include "input/PadEvent.h"
 #include "input/TrackpadContactProviding.h"
 #include "platform/linux/EvdevReader.h"
 #include "support/MainThread.h"
@@ -20,7 +20,7 @@ namespace kinesta {
 class EvdevContactProvider final : public TrackpadContactProviding {
   public:
     using Settings = EvdevReader::Settings;
-    using PointerHandler = std::function<void(const RecordingEvent&)>;
+    using PointerHandler = std::function<void(const PadEvent&)>;
 
     /// `mainThread` must outlive the provider.
     explicit EvdevContactProvider(MainThread& mainThread, Settings settings = {});
@@ -29,8 +29,8 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     FrameHandler frameHandler() const override { return m_frameHandler.handler(); }
     void setFrameHandler(FrameHandler handler) override { m_frameHandler.setHandler(std::move(handler)); }
 
-    /// What receives button presses and releases (RecordedPointer) and changes of the pressure stage
-    /// (RecordedPressure) with their uptimes, on the main thread. The left and the right button are not told apart.
+    /// What receives button presses and releases (PadButton) and changes of the pressure stage
+    /// (PadPressure) with their uptimes, on the main thread. The left and the right button are not told apart.
     /// A frame that came with a press has been delivered before.
     void setPointerHandler(PointerHandler handler) { m_pointerHandler = std::move(handler); }
 

@@ -12,7 +12,7 @@
 #include <ctime>
 #include <utility>
 
-#include "input/EvdevCodes.h"
+#include "input/evdev/EvdevCodes.h"
 #include "platform/linux/DeviceAccess.h"
 
 namespace kinesta {
@@ -80,8 +80,8 @@ EvdevDevice::EvdevDevice(FileDescriptor descriptor, std::unique_ptr<libevdev, Li
       m_pressureRange(forceRange(m_device.get())),
       m_assembler(m_touchpad),
       m_pressureStage(limits),
-      m_noting([this](const RecordingEvent& event) {
-          if (const auto* frame = std::get_if<RecordedFrame>(&event.content))
+      m_noting([this](const PadEvent& event) {
+          if (const auto* frame = std::get_if<PadFrame>(&event.content))
               m_hasFingers = !frame->samples.empty();
           (*m_sink)(event);
       }) {}
@@ -163,7 +163,7 @@ void EvdevDevice::tellPressureStage(const Sink& sink) {
     const bool isButtonDown = libevdev_get_event_value(m_device.get(), EV_KEY, BTN_LEFT) != 0 ||
                               libevdev_get_event_value(m_device.get(), EV_KEY, BTN_RIGHT) != 0;
     if (const auto stage = m_pressureStage.process(isButtonDown, strongestPressure()))
-        sink({m_lastTime, RecordedPressure{*stage}});
+        sink({m_lastTime, PadPressure{*stage}});
 }
 
 double EvdevDevice::strongestPressure() const {
@@ -182,7 +182,7 @@ void EvdevDevice::liftAll(const Sink& sink) {
         return;
     m_hasFingers = false;
     m_lastTime = std::max(m_lastTime, now());
-    sink({m_lastTime, RecordedFrame{}});
+    sink({m_lastTime, PadFrame{}});
 }
 
 }  // namespace kinesta

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "input/EvdevFrameAssembler.h"
-#include "input/PressureStageTracker.h"
-#include "input/RecordingEvent.h"
+#include "input/PadEvent.h"
+#include "input/evdev/EvdevFrameAssembler.h"
+#include "input/evdev/PressureStageTracker.h"
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/TouchpadCandidate.h"
 #include "support/Result.h"
@@ -21,7 +21,7 @@ namespace kinesta {
 /// goes on reading it. Used by one thread at a time.
 class EvdevDevice {
   public:
-    using Sink = std::function<void(const RecordingEvent&)>;
+    using Sink = std::function<void(const PadEvent&)>;
     enum class ReadOutcome { drained, gone };
 
     /// Opens the pad. The error names the pad, what is wrong and, where permission is missing, the command that

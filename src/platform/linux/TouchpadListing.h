@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "input/EvdevFrameAssembler.h"
+#include "input/evdev/EvdevFrameAssembler.h"
 #include "platform/linux/TouchpadCandidate.h"
 
 namespace kinesta {

@@ -1,0 +1,181 @@
+#include <gtest/gtest.h>
+
+#include "RecordingText.h"
+#include "support/TableRows.h"
+
+namespace kinesta {
+namespace {
+
+const std::string kSlots =
+    "N: Pad  7 \nI: 0011 0002 0011 0001\nP: 0c 00\nB: 00 0b\nA: 35 0 1000 0 0 16\nA: 36 0 500 0\nA: 2f 0 1 0 0\n";
+const std::string kTouch =
+    "E: 0.5 0003 0039 0007\t# EV_ABS\nE: 0.5 0003 0035 0250\nE: 0.5 0003 0036 0125 # 5\n\n#\nE: 0.5 0000 0000 0000\n";
+
+Reading readWithDevice(const std::string& text, const std::string& description) {
+    std::istringstream stream(text);
+    std::istringstream device(description);
+    return read(stream, &device);
+}
+
+TEST(EvemuRecording, ReadsEveryAgeOfTheFormat) {
+    for (const std::string& text : {"# EVEMU 1.3\n" + kSlots + kTouch, kSlots + "L: 00 0\nS: 00 0\n" + kTouch}) {
+        const Reading reading = readWithDevice(text, "A: 35 0 1\nA: 36 0 1\n");
+        EXPECT_EQ(reading.header.device, "Pad  7");
+        EXPECT_EQ(reading.texts(), Texts{"0.5 7@0.25,0.75"}) << reading.error;
+    }
+    const Reading apart = readWithDevice("\r\n" + kTouch, "# EVEMU 1.0\r\n" + kSlots);
+    EXPECT_EQ(apart.header.device, "Pad  7");
+    EXPECT_EQ(apart.texts(), Texts{"0.5 7@0.25,0.75"}) << apart.error;
+    const Reading single = read("A: 00 0 4\nA: 01 0 4\nE: 1e0 1 14a 1\nE: 1 3 0 1\nE: 1 3 1 -1\nE: 1 0 0 0");
+    EXPECT_EQ(single.texts(), Texts{"1 1@0.25,1"}) << single.error;
+    const Reading vast = read("A: 35 0 4\nA: 36 0 4\nA: 2f 0 2147483647\nE: 1 3 2f 255\nE: 1 3 39 5\nE: 1 0 0 0\n");
+    EXPECT_EQ(vast.texts(), Texts{"1 5@0.5,0.5"}) << vast.error;
+}
+
+TEST(EvemuRecording, RefusesMalformedLines) {
+    const std::string badEvent = "this is not an event of the form \"E: time type code value\"";
+    const std::string badAxis = "this is not an axis of the form \"A: code minimum maximum …\"";
+    const std::string noRanges = ": the file does not contain the ranges of both axes of a trackpad";
+    const std::string hint =
+        ": the recording does not contain the axis ranges of its device: give the file that describes the device with "
+        "--device FILE.desc";
+    for (const auto& [error, inputs] :
+         Refusals{{"1" + hint, {kTouch}},
+                  {"4" + hint, {"# EVEMU 1.2\nN: old\n\nE: 0 0 0 0\n"}},
+                  {"3" + hint, {"# EVEMU 1.2\nA: 35 0 9\nA: 00 0 9\n"}},
+                  {"2: this is not a line of an evemu recording", {"N: mouse\nQ: 1\n"}},
+                  {"1: " + badAxis, {"A: 35 0\n", "A: 35 0 2147483648\n", "A: 10000 0 1\n", "A: 35 0x0 9\n"}},
+                  {"8: " + badEvent, {kSlots + "E: 1 3\n"}},
+                  {"8: the time inf is not within 9.2e9 seconds", {kSlots + "E: inf 0 0 0\n"}}})
+        for (const std::string& input : inputs)
+            EXPECT_EQ(read(input).error, "x:" + error) << input;
+    for (const auto& [error, inputs] :
+         Refusals{{badEvent, {"E: nil 0 0 0", "E: 1 10000 0 0", "E: 1 0 0 2147483648", "E: 1 0 0 0 0", "A: 35 0 1"}},
+                  {"the time nan is not within 9.2e9 seconds", {"E: nan 0 0 0"}},
+                  {"the time 9200000001 is not within 9.2e9 seconds", {"E: 9200000001 0 0 0"}},
+                  {"the time 0.25 is before 0.5, that of the event before", {"E: 0.25 0 0 0"}}})
+        for (const std::string& input : inputs) {
+            const Reading reading = read(kSlots + kTouch + input + "\n");
+            EXPECT_EQ(reading.error, "x:14: " + error) << input;
+            EXPECT_EQ(reading.events.size(), 1U) << input;
+        }
+    for (const auto& [error, description] : std::vector<std::pair<std::string, std::string>>{
+             {"0" + noRanges, ""}, {"2" + noRanges, "N: mouse\nB: 02\n"}, {"2: " + badAxis, "N: pad\nA: x\n"}})
+        EXPECT_EQ(readWithDevice(kTouch, description).error, "the device description:" + error) << description;
+}
+
+std::string yaml(const std::string& devices) { return "# libinput record\nversion: 1\ndevices:\n" + devices; }
+
+std::string device(const std::string& description, const std::string& events) {
+    return "- evdev:\n    name: D\n    " + description + "\n  events:" + events + "\n";
+}
+const std::string kRanges = "absinfo: {0: [0, 10], 1: [0, 10, 0, 0, 1]}";
+const std::string kTap = "\n  - evdev:\n    - [1, 500000, 1, 330, 1]\n    - [1, 500000, 0, 0, 0]";
+
+TEST(LibinputRecording, ReadsTheFirstTrackpad) {
+    const std::string pad = device(kRanges, kTap);
+    const auto other = [&](const std::string& facts) { return device(facts + "\n    " + kRanges, kTap + kTap) + pad; };
+    for (const std::string& devices :
+         {pad, device("codes: {1: [325]}\n    " + kRanges, kTap), device("codes: {1: [272], 2: [0, 1]}", kTap) + pad,
+          other("properties: [1]"), other("codes: {1: [320, 330]}"), other("codes: {1: [288]}"), pad + pad + "- [",
+          device(kRanges, "\n  - libinput:\n    - {time: 1.0, x: [[]]}\n  - hid: {a: b}" + kTap)}) {
+        const Reading reading = read(yaml(devices));
+        EXPECT_EQ(reading.texts(), Texts{"1.5 1@0.5,0.5"}) << devices << reading.error;
+        EXPECT_EQ(reading.header.device, "D");
+    }
+    EXPECT_EQ(read(yaml(device(kRanges, "") + pad)).texts(), Texts{}) << "the first one has no events";
+    const Reading slots =
+        read(yaml(device("absinfo: {47: [0, 1, 0], 53: [0, 10], 54: [-10, 10]}",
+                         "\n  - evdev: [[1, 1, 3, 57, 9], [1, 1, 3, 53, 5], [1, 1, 3, 54, -10], [1, 1, 0, 0, 0]]")));
+    EXPECT_EQ(slots.texts(), Texts{"1.000001 9@0.5,1"});
+    std::string longList = kTap;
+    for (int i = 0; i < 20'000; ++i)
+        longList += "\n    - [1, 500000, 3, 0, 5]\n    - [1, 500000, 0, 0, 0]";
+    const Reading reading = read(yaml(device(kRanges, longList)));
+    EXPECT_EQ(reading.error, "") << "the limit is for a value, not for the recording";
+    EXPECT_EQ(reading.events.size(), 20'001U);
+}
+
+TEST(LibinputRecording, RefusesMalformedParts) {
+    for (const auto& row : tableRows(R"(
+a recording of libinput record begins with keys and values => [a]
+only version 1 of the format of libinput record is known => version: 2
+the recording holds no events of a trackpad => ndevices: 1
+the recording holds no events of a trackpad => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}, codes: {1: [272]}}}]
+"devices" is not a list => devices: {a: b}
+a device is not described by keys and values => devices: [a] | devices: [{[1]: 2}]
+"evdev" is not described by keys and values => devices: [{evdev: 1}]
+a value refers to another one => devices: [{a: &a b, events: *a}]
+"codes" is not described by keys and values => devices: [{evdev: {codes: [1]}}]
+a list holds something other than whole numbers => devices: [{evdev: {codes: {1: [x]}}}]
+an axis is not of the form "code: [minimum, maximum, …]" => devices: [{evdev: {absinfo: {0: [0]}}}]
+an axis is not of the form "code: [minimum, maximum, …]" => devices: [{evdev: {absinfo: {0: [0, 2147483648]}}}]
+an axis is not of the form "code: [minimum, maximum, …]" => devices: [{evdev: {absinfo: {x: [0, 1]}}}]
+a list of numbers is missing => devices: [{evdev: {absinfo: {0: 5}}}]
+"events" is not a list => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}}, events: x}]
+an event is not described by keys and values => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}}, events: [x]}]
+"evdev" is not a list => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}}, events: [{evdev: x}]}]
+)"))
+        for (const std::string& input : split(row[1], " | "))
+            EXPECT_EQ(read("---\n" + input).error, "x:2: " + row[0]) << input;
+    for (const auto& row : tableRows(R"(
+this is not an event of the form [seconds, microseconds, type, code, value] => [2, 0, 0, 0] | [2, 0, 0, 0, 0, 0]
+this is not an event of the form [seconds, microseconds, type, code, value] => [-1, 0, 0, 0, 0] | [2, 1000000, 0, 0, 0]
+this is not an event of the form [seconds, microseconds, type, code, value] => [2, 0, 65536, 0, 0] | [2, 0, 0, -1, 0]
+this is not an event of the form [seconds, microseconds, type, code, value] => [2, 0, 0, 0, -2147483649]
+a list holds something other than whole numbers => [2, 0, 0, 0, a] | [2, 0, 0, 0, 9223372036854775808]
+the time 1.499999 is before 1.5, that of the event before => [1, 499999, 0, 0, 0]
+the time 9200000001 is not within 9.2e9 seconds => [9200000001, 0, 0, 0, 0]
+the time 9223372036853 is not within 9.2e9 seconds => [9223372036854775807, 0, 0, 0, 0]
+)"))
+        for (const std::string& event : split(row[1], " | "))
+            EXPECT_EQ(read(yaml(device(kRanges, kTap + "\n    - " + event))).error, "x:11: " + row[0]) << event;
+    EXPECT_EQ(read(yaml(device(kRanges, kTap + "\n    - [2, 0"))).error,
+              "x:12: this is not valid YAML: did not find expected ',' or ']'");
+    for (const std::size_t lines : {6U, 20'000U}) {
+        std::string text = yaml("- a: 1\n");
+        for (std::size_t line = 5; line < lines; ++line)
+            text += "  b: 1\n";
+        EXPECT_EQ(read(text + "  c: \xFF\n" + text).error,
+                  "x:" + std::to_string(lines) + ": this is not valid YAML: invalid leading UTF-8 octet");
+    }
+}
+
+/// The identifiers of the fingers and the buttons in their order, without repetition.
+std::string story(const Reading& reading) {
+    std::string story;
+    std::string last;
+    for (const RecordingEvent& event : reading.events) {
+        std::string word;
+        for (const std::string& part : split(contentText(event), " "))
+            word += (word.empty() ? "" : ",") + part.substr(0, part.find('@'));
+        if (word != last)
+            story += (word == "no,finger" ? "0" : word) + " ";
+        last = word;
+    }
+    return story;
+}
+
+TEST(RealRecordings, ShowWhatThePersonDid) {
+    const Reading two = read(exampleText("CyPS2-Cypress-Trackpad.two_finger_tap.events"));
+    EXPECT_EQ(story(two), "391,392 0 ");
+    EXPECT_EQ(contentText(two.events[0]), "391@0.421875,0.6711111111111111 392@0.54125,0.7077777777777778");
+
+    // The pad gave the third finger no slot and the second no place: both lie where the first is.
+    const Reading three = read(exampleText("CyPS2-Cypress-Trackpad.three_finger_tap.events"));
+    EXPECT_EQ(story(three), "393,394,-2 0 ");
+    EXPECT_EQ(eventText(three.events[0]), "1382570952.534113 393@0.40125,0.72 394@0.40125,0.72 -2@0.40125,0.72");
+
+    // Clicks of one, two and three fingers, each finger with one identifier from touch to lift.
+    const Reading clicks = read(exampleText("bcm5974.three-finger-click.events"));
+    EXPECT_EQ(story(clicks), "1 down 1 up 1 0 2 3,2 down 3,2 up 3,2 3 0 4 5,6,4 down 5,6,4 up 5,6,4 6,4 4 0 ");
+
+    const Reading made = read(exampleText("tap-and-click.yml"));
+    EXPECT_EQ(made.header.device, "Example Touchpad");
+    EXPECT_EQ(story(made), "10,11 11 0 12,13,14 down 12,13,14 up 0 ");
+    for (const Reading& reading : {two, three, clicks, made})
+        EXPECT_EQ(reading.error, "");
+}
+
+}  // namespace
+}  // namespace kinesta

@@ -1,0 +1,215 @@
+#include <gtest/gtest.h>
+
+#include "RecordingText.h"
+#include "support/TableRows.h"
+
+namespace kinesta {
+namespace {
+
+const std::string kHeader = R"({"kinesta":"recording","version":1})";
+
+std::string firstError(const std::string& lines) { return read(kHeader + "\n" + lines).error; }
+
+/// Checks rows "error => input | input": each input, between two texts, gives the error.
+void expectErrors(const std::string& before, const std::string& after, const std::string& place,
+                  const std::string& table) {
+    for (const auto& row : tableRows(table))
+        for (const std::string& input : split(row[1], " | "))
+            EXPECT_EQ(read(before + input + after).error, "x:" + place + row[0]) << input;
+}
+
+TEST(KinestaRecording, GivesItsEventsInOrder) {
+    const Reading reading = read(
+        "\xEF\xBB\xBF\r\n \t\n"
+        R"( {"later":{"x":[1,{"y":null}]},"version":1.0,"kinesta":"recording","device":"Pad \"7\" \u00e9\ud83d\ude00é",)"
+        R"("settings":{"gesturesEnabled":false,"tapWaitingInterval.v1":250.0,"cornerPalmRejectionEnabled.v1":true,)"
+        R"("cornerPalmRejectionSensitivity.v1":1,"later":"x"}})"
+        "\r\n\n"
+        R"({"t":-1.5,"touches":[[-2147483648,0,1e0],[2147483647,0.25,-0.5],[3.0,1E-2,2e+1]]})"
+        "\r\n"
+        R"({"touches":[],"received":-2,"\u0074":-1.5,"more":"\b\f\n\r\t\/\\"})"
+        "\n   \r\n"
+        R"({"t":0,"pointer":"down","received":"any"})"
+        "\n"
+        R"({ "t" : 0 , "pressure" : -9223372036854775808 } )"
+        "\n"
+        R"({"t":9.2e9,"settings":{}})"
+        "\n"
+        R"({"t":9200000000,"pointer":"up"})");
+    EXPECT_EQ(reading.error, "");
+    EXPECT_EQ(reading.header, (RecordingHeader{"Pad \"7\" \u00e9\U0001F600\u00e9", {false, 250, true, 1}}));
+    EXPECT_EQ(reading.texts(),
+              (Texts{"-1.5 -2147483648@0,1 2147483647@0.25,-0.5 3@0.01,20", "-1.5 no finger received -2", "0 down",
+                     "0 pressure -9223372036854775808", "9.2e+09 settings", "9.2e+09 up"}));
+    for (const int milliseconds : {150, 200, 250, 300, 400}) {
+        const Reading own = read(R"({"kinesta":"recording","version":1,"settings":{"tapWaitingInterval.v1":)" +
+                                 std::to_string(milliseconds) + "}}");
+        EXPECT_EQ(own.header.settings.tapWaitingMilliseconds, milliseconds) << own.error;
+    }
+}
+
+TEST(KinestaRecording, RefusesOtherHeaders) {
+    const std::string unknown =
+        ": this is no recording of a known format: Kinesta's own, evemu-record or libinput record";
+    for (const auto& [error, input] : std::vector<std::pair<std::string, std::string>>{
+             {"1: the input holds no recording", ""},
+             {"3: the input holds no recording", "\n \n"},
+             {"1" + unknown, "hello"},
+             {"2" + unknown, "# note\n[1]"},
+             {"2: this is not valid JSON: the line ends too early", "\n{\"kinesta\""},
+             {"1: this is not valid JSON: something follows the object", kHeader + kHeader}})
+        EXPECT_EQ(read(input).error, "x:" + error) << input;
+    expectErrors("{", "}", "1: ", R"(
+a recording begins with a header that says "kinesta":"recording" => "a":1 | "kinesta":["recording"],"version":1
+the header has no whole number "version" => "kinesta":"recording" | "kinesta":"recording","version":1.5
+the header has no whole number "version" => "kinesta":"recording","version":"1"
+version 2 of the format is not known, only version 1 => "device":7,"kinesta":"recording","version":2
+"device" is not a text => "kinesta":"recording","version":1,"device":7
+"settings" is not an object => "kinesta":"recording","version":1,"settings":[]
+)");
+}
+
+TEST(KinestaRecording, RefusesWrongEvents) {
+    expectErrors(kHeader + "\n{\"t\":0.5,\"pointer\":\"down\"}\n\n", "", "4: ", R"(
+the line is not a JSON object => [1]
+none of "touches", "pointer", "pressure" and "settings" is given => {"t":1}
+more than one of "touches", "pointer", "pressure" and "settings" is given => {"t":1,"pointer":"up","pressure":1}
+more than one of "touches", "pointer", "pressure" and "settings" is given => {"t":1,"settings":{},"settings":{}}
+"t" is missing => {"kinesta":"recording","version":1} | {"pointer":"up"}
+"t" is not a number => {"t":"1","pointer":"up"}
+"t" is not within 9.2e9 seconds => {"t":9200000001,"pointer":"up"} | {"t":-9.3e9,"pointer":"up"}
+the time 0.25 is before 0.5, that of the event before => {"t":0.25,"pointer":"up"} | {"t":0.25,"settings":{}}
+"received" is not a number => {"t":1,"touches":[],"received":"1"}
+"received" is not within 9.2e9 seconds => {"received":1e10,"t":1,"touches":[]}
+)");
+    for (const std::string& touch : split(
+             "1,2,3 | [1,2] | [1,2,3,4] | [\"1\",2,3] | [1.5,2,3] | [1,2,null] | [2147483648,2,3] | [-2147483649,2,3]",
+             " | "))
+        EXPECT_EQ(firstError("{\"t\":1,\"touches\":[" + touch + "]}"),
+                  "x:2: a touch is not of the form [id, x, y] with a 32-bit whole id and two numbers");
+    for (const std::string& interval : split("\"250\" | 250.5 | 4294967546", " | "))
+        EXPECT_EQ(firstError("{\"t\":1,\"settings\":{\"tapWaitingInterval.v1\":" + interval + "}}"),
+                  "x:2: \"tapWaitingInterval.v1\" is none of 150, 200, 250, 300 and 400");
+    expectErrors(kHeader + "\n{\"t\":1,", "}", "2: ", R"(
+"touches" is not an array => "touches":{}
+"touches" holds an id twice => "touches":[[1,2,3],[2,2,3],[1,4,5]]
+"pointer" is neither "down" nor "up" => "pointer":"left" | "pointer":true
+"pressure" is not a whole number => "pressure":1.5 | "pressure":"1" | "pressure":9223372036854775808
+"settings" is not an object => "settings":null
+"gesturesEnabled" is neither true nor false => "settings":{"gesturesEnabled":1}
+"cornerPalmRejectionEnabled.v1" is neither true nor false => "settings":{"cornerPalmRejectionEnabled.v1":"true"}
+"cornerPalmRejectionSensitivity.v1" is not a number => "settings":{"cornerPalmRejectionSensitivity.v1":true}
+"tapWaitingInterval.v1" is none of 150, 200, 250, 300 and 400 => "settings":{"tapWaitingInterval.v1":251}
+)");
+}
+
+TEST(KinestaRecording, RefusesMalformedJson) {
+    expectErrors(kHeader + "\n", "", "2: this is not valid JSON: ", R"(
+the line ends too early => {"t":1,"pointer":"up" | {"t":1,"pointer":"u | {"t":1,
+a text is missing => {"t":1,"pointer":"up",}
+a comma or a closing bracket is missing => {"t":1 "pointer":"up"} | {"t":1,"touches":[[1,2 3]]}
+a colon is missing => {"t" 1}
+a value is missing => {"t":1,"touches":[[1,2,3],]} | {"t":+1,"pointer":"up"} | {"t":1,"a":} | {"t":NaN}
+a number begins with a zero => {"t":01,"pointer":"up"}
+a number is malformed => {"t":1.,"a":1} | {"t":-,"a":1} | {"t":1e+,"a":1}
+a number is out of range => {"t":1e999,"pointer":"up"} | {"t":1,"touches":[[1,2,1e999]]}
+a value is malformed => {"t":1,"a":tru} | {"t":1,"a":nil}
+a text holds an unknown escape => {"t":1,"a":"\x"} | {"t":1,"a":"\u12g4"}
+a text holds half a surrogate pair => {"t":1,"a":"\ud800"} | {"t":1,"a":"\ud800\u0041"} | {"t":1,"a":"\udc00"}
+something follows the object => {"t":1,"pointer":"up"}x
+)");
+    const std::string deep(500'000, '[');
+    const std::string closed = std::string(99, '[') + "0" + std::string(99, ']');
+    EXPECT_EQ(firstError("{\"t\":1,\"pointer\":\"up\",\"a\":" + closed + "}"), "");
+    const auto expectError = [](const std::string& value, const std::string& error) {
+        EXPECT_EQ(firstError("{\"t\":1,\"a\":" + value + "}"), "x:2: this is not valid JSON: " + error);
+    };
+    expectError("\"\t\"", "a text holds a control character");
+    expectError("\"\xED\xA0\x80\"", "a text is not UTF-8");
+    expectError(std::string("\0", 1), "a value is missing");
+    expectError(deep, "values are nested too deeply");
+    expectError(deep.substr(0, 101), "values are nested too deeply");
+}
+
+TEST(KinestaRecording, KeepsOneLineInMemory) {
+    const std::string event = R"({"t":1,"pointer":"up"})";
+    constexpr std::size_t kLimit = std::size_t{1} << 20;
+    const std::string longest = event + std::string(kLimit - event.size(), ' ');
+    EXPECT_EQ(read(kHeader + "\n" + longest + "\n" + longest).events.size(), 2U);
+    EXPECT_EQ(firstError(longest + " \n" + event), "x:2: the line is longer than 1 MiB");
+    EXPECT_EQ(firstError(event + "\n" + longest + " "), "x:3: the line is longer than 1 MiB");
+
+    const auto crowd = [](int count, int last) {
+        std::string touches;
+        for (int id = 1; id <= count; ++id)
+            touches += "[" + std::to_string(id == count ? last : id) + ",0.123456789012345678,0.123456789012345678],";
+        touches.pop_back();
+        return kHeader + "\n{\"t\":1,\"touches\":[" + touches + "]}";
+    };
+    EXPECT_EQ(read(crowd(1000, 1000)).error, "");
+    for (const int count : {16, 17, 1000})
+        EXPECT_EQ(read(crowd(count, 3)).error, "x:2: \"touches\" holds an id twice") << count;
+
+    const auto expectError = [](const std::string& beginning, char rest, const std::string& error) {
+        ContinuedInput input(beginning, rest);
+        std::istream stream(&input);
+        EXPECT_EQ(read(stream).error, "x:" + error) << beginning;
+        EXPECT_LT(input.given, 2 * kLimit) << beginning;
+    };
+    expectError("{", 'a', "1: the line is longer than 1 MiB");
+    expectError("", '\n', "1048578: the input holds no recording");
+    expectError("", ' ', "1: the input holds no recording");
+    expectError(kHeader + "\n{\"t\":1,\"a\":\"", 'a', "2: the line is longer than 1 MiB");
+    expectError("# EVEMU 1.2\nN: ", 'a', "2: the line is longer than 1 MiB");
+    expectError("version: 1\nname: \"", '\n', "2: a value is longer than 1 MiB");
+    expectError("version: 1\nname: ", '[', "2: values are nested too deeply");
+}
+
+TEST(Recordings, ReadAnyStream) {
+    for (const std::string name :
+         {"tip-tap-right.jsonl", "CyPS2-Cypress-Trackpad.two_finger_tap.events", "tap-and-click.yml"}) {
+        const Reading expected = read(exampleText(name));
+        EXPECT_FALSE(expected.events.empty());
+        UnbufferedInput input(exampleText(name));
+        std::istream stream(&input);
+        EXPECT_EQ(read(stream).events, expected.events) << name;
+    }
+    const auto expectBroken = [](const std::string& beginning, const std::string& line) {
+        ContinuedInput input(beginning);
+        std::istream stream(&input);
+        EXPECT_EQ(read(stream).error, "x:" + line + ": the input cannot be read") << beginning;
+    };
+    expectBroken("", "1");
+    expectBroken(kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", "2");
+    expectBroken("# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", "4");
+    expectBroken("version: 1\n", "1");
+}
+
+// A crash, a full disk or a broken copy can cut a file anywhere.
+TEST(Recordings, GiveTheEventsBeforeACut) {
+    const std::string own = kHeader + "\n" + R"({"t":0.5,"touches":[[1,0.25,0.5],[2,0.5,1e-1]]})" + "\n" +
+                            R"({"t":0.5,"pointer":"down"})" + "\n" + R"({"t":1.25,"touches":[],"received":1.5})" +
+                            "\n" + R"({"t":12.5,"settings":{"tapWaitingInterval.v1":150}})" + "\n" +
+                            R"({"t":20,"a":"é","pressure":2})" + "\n";
+    for (const std::string& text :
+         {own, exampleText("CyPS2-Cypress-Trackpad.three_finger_tap.events"), exampleText("tap-and-click.yml")}) {
+        const Reading whole = read(text);
+        EXPECT_EQ(whole.error, "");
+        std::size_t most = 0;
+        for (std::size_t length = 0; length < text.size(); ++length) {
+            const Reading part = read(text.substr(0, length));
+            ASSERT_LE(part.events.size(), whole.events.size()) << length;
+            ASSERT_TRUE(std::equal(part.events.begin(), part.events.end(), whole.events.begin())) << length;
+            ASSERT_GE(part.events.size(), most) << "more of the file gave less, at " << length;
+            most = part.events.size();
+            // The error may name the line after the cut.
+            const auto lines = split(text.substr(0, length), "\n").size() + 1;
+            ASSERT_TRUE(part.error.empty() || std::stoul(part.error.substr(2)) - 1 < lines)
+                << part.error << " at " << length;
+        }
+        EXPECT_GE(most + 1, whole.events.size());
+    }
+}
+
+}  // namespace
+}  // namespace kinesta
