@@ -258,7 +258,7 @@ Error RuleListDecoder::error() const {
     if (m_problem->isInRule) {
         message += "rule " + std::to_string(m_rules.size());
         if (!m_rules.back().name.empty())
-            message += " " + inQuotes(m_rules.back().name);
+            message.append(" ").append(inQuotes(m_rules.back().name));
         message += ": ";
     }
     return {message + m_problem->text};
