@@ -6,11 +6,11 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
-#include "platform/linux/CurrentDesktop.h"
 #include "platform/linux/Examples.h"
-#include "platform/linux/FileUserDefaults.h"
-#include "platform/linux/SystemError.h"
-#include "platform/linux/Terminal.h"
+#include "platform/linux/process/SystemError.h"
+#include "platform/linux/process/Terminal.h"
+#include "platform/linux/session/CurrentDesktop.h"
+#include "platform/linux/settings/FileUserDefaults.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 
 #include "actions/OpenTarget.h"
 #include "actions/WindowTilingMenuCommand.h"
-#include "platform/linux/DesktopEntry.h"
-#include "platform/linux/ExecutableSearch.h"
+#include "platform/linux/launching/DesktopEntry.h"
+#include "platform/linux/process/ExecutableSearch.h"
 #include "rules/ShortcutKey.h"
 
 namespace kinesta {

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "actions/HomeFolders.h"
-#include "platform/linux/KeyObstacle.h"
+#include "platform/linux/keyboard/KeyObstacle.h"
 #include "rules/GestureAction.h"
 
 namespace kinesta {

@@ -5,7 +5,7 @@
 #include "actions/WindowTilingMenuCommand.h"
 #include "cli/ActionObstacle.h"
 #include "cli/StoredSettings.h"
-#include "platform/linux/PosixHomeFolders.h"
+#include "platform/linux/process/PosixHomeFolders.h"
 #include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "actions/ActionExecutor.h"
-#include "cli/Console.h"
+#include "cli/terminal/Console.h"
 #include "platform/linux/LinuxActions.h"
 #include "rules/GestureRule.h"
 #include "support/SteadyClock.h"

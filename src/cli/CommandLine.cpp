@@ -3,16 +3,16 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 
-#include "cli/DaemonCommand.h"
-#include "cli/DemoCommand.h"
-#include "cli/DevicesCommand.h"
-#include "cli/DoctorCommand.h"
-#include "cli/MonitorCommand.h"
-#include "cli/PerformCommand.h"
-#include "cli/RecordCommand.h"
-#include "cli/ReplayCommand.h"
-#include "cli/RulesCommands.h"
-#include "cli/VocabularyCommands.h"
+#include "cli/commands/DaemonCommand.h"
+#include "cli/commands/DemoCommand.h"
+#include "cli/commands/DevicesCommand.h"
+#include "cli/commands/DoctorCommand.h"
+#include "cli/commands/MonitorCommand.h"
+#include "cli/commands/PerformCommand.h"
+#include "cli/commands/RecordCommand.h"
+#include "cli/commands/ReplayCommand.h"
+#include "cli/commands/RulesCommands.h"
+#include "cli/commands/VocabularyCommands.h"
 
 namespace kinesta {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "cli/Console.h"
+#include "cli/terminal/Console.h"
 #include "rules/SystemGestureWarningChecker.h"
 
 namespace kinesta {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdio>
 
-#include "cli/TextTable.h"
+#include "cli/terminal/TextTable.h"
 #include "rules/GestureDescription.h"
 #include "support/Json.h"
 

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <string>
 
-#include "cli/Console.h"
+#include "cli/terminal/Console.h"
 #include "rules/GestureRule.h"
 #include "rules/RuleSelection.h"
 

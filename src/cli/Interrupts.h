@@ -4,7 +4,7 @@
 #include <functional>
 #include <utility>
 
-#include "platform/linux/SignalListener.h"
+#include "platform/linux/process/SignalListener.h"
 #include "support/RunLoop.h"
 
 namespace kinesta {

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/linux/EvdevContactProvider.h"
+#include "platform/linux/touchpad/EvdevContactProvider.h"
 #include "recognition/MultitouchService.h"
 #include "recognition/PointerEventBroadcaster.h"
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "cli/Console.h"
+#include "cli/terminal/Console.h"
 
 namespace kinesta {
 

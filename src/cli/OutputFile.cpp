@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "platform/linux/SystemError.h"
+#include "platform/linux/process/SystemError.h"
 
 namespace kinesta {
 namespace {

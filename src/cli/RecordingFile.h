@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/Console.h"
+#include "cli/terminal/Console.h"
 #include "input/recording/RecordingReading.h"
 
 namespace kinesta {

@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "cli/Console.h"
-#include "platform/linux/FileUserDefaults.h"
+#include "cli/terminal/Console.h"
+#include "platform/linux/settings/FileUserDefaults.h"
 #include "rules/RuleStore.h"
 
 namespace kinesta {

@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/CommandRunner.h"
-#include "cli/TextTable.h"
+#include "cli/terminal/TextTable.h"
 
 namespace kinesta::testing {
 namespace {

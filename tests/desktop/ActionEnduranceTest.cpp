@@ -13,8 +13,8 @@
 #include <iostream>
 
 #include "actions/ActionExecutor.h"
-#include "desktop/EventWindow.h"
-#include "desktop/TestDesktop.h"
+#include "desktop/harness/EventWindow.h"
+#include "desktop/harness/TestDesktop.h"
 #include "platform/linux/LinuxActions.h"
 #include "support/InMemoryUserDefaults.h"
 #include "support/SteadyClock.h"

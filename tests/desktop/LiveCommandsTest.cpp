@@ -7,11 +7,11 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/CommandRunner.h"
-#include "desktop/BusServices.h"
-#include "desktop/EventWindow.h"
-#include "desktop/TestDesktop.h"
-#include "desktop/WindowWatch.h"
-#include "platform/linux/FileUserDefaults.h"
+#include "desktop/harness/BusServices.h"
+#include "desktop/harness/EventWindow.h"
+#include "desktop/harness/TestDesktop.h"
+#include "desktop/harness/WindowWatch.h"
+#include "platform/linux/settings/FileUserDefaults.h"
 
 namespace kinesta::testing {
 namespace {

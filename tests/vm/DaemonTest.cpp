@@ -9,8 +9,8 @@
 #include <fstream>
 #include <thread>
 
-#include "platform/linux/FileUserDefaults.h"
-#include "platform/linux/UinputDevice.h"
+#include "platform/linux/keyboard/UinputDevice.h"
+#include "platform/linux/settings/FileUserDefaults.h"
 #include "support/TemporaryFolder.h"
 #include "vm/DeviceListener.h"
 #include "vm/VirtualTouchpad.h"

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/process/FileDescriptor.h"
 #include "vm/PadReading.h"
 
 struct libevdev;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/EvdevContactProvider.h"
+#include "platform/linux/touchpad/EvdevContactProvider.h"
 #include "support/RunLoop.h"
 
 namespace kinesta::vm {

@@ -15,8 +15,8 @@
 #include <set>
 #include <vector>
 
-#include "platform/linux/DeviceAccess.h"
-#include "platform/linux/TouchpadListing.h"
+#include "platform/linux/touchpad/DeviceAccess.h"
+#include "platform/linux/touchpad/TouchpadListing.h"
 #include "support/DconfSample.h"
 #include "support/TemporaryFolder.h"
 #include "vm/AsNobody.h"

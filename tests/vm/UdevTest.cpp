@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/linux/UinputDevice.h"
+#include "platform/linux/keyboard/UinputDevice.h"
 #include "vm/DeviceListener.h"
 #include "vm/PadReading.h"
 #include "vm/VirtualTouchpad.h"

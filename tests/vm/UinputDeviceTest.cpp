@@ -1,4 +1,4 @@
-#include "platform/linux/UinputDevice.h"
+#include "platform/linux/keyboard/UinputDevice.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>

@@ -1,9 +1,9 @@
-#include "platform/linux/UinputInputPoster.h"
+#include "platform/linux/keyboard/UinputInputPoster.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
-#include "platform/linux/PostingEventSynthesizer.h"
+#include "platform/linux/keyboard/PostingEventSynthesizer.h"
 #include "support/InMemoryUserDefaults.h"
 #include "vm/AsNobody.h"
 #include "vm/DeviceListener.h"

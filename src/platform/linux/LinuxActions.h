@@ -6,9 +6,9 @@
 
 #include "actions/ActionPorts.h"
 #include "actions/InProcessNotifications.h"
-#include "platform/linux/DesktopSession.h"
-#include "platform/linux/PosixProcessLauncher.h"
-#include "platform/linux/WindowOutcomes.h"
+#include "platform/linux/launching/PosixProcessLauncher.h"
+#include "platform/linux/session/DesktopSession.h"
+#include "platform/linux/windows/WindowOutcomes.h"
 
 namespace kinesta {
 

@@ -1,0 +1,46 @@
+#include "cli/commands/PerformCommand.h"
+
+#include "cli/ActionPerformer.h"
+#include "cli/GestureReport.h"
+#include "cli/StoredSettings.h"
+#include "rules/RuleStore.h"
+
+namespace kinesta {
+namespace {
+
+/// The rule with this id or, failing that, the first with this name.
+const GestureRule* findRule(const std::vector<GestureRule>& rules, const std::string& wanted) {
+    const auto id = Uuid::parse(wanted);
+    for (const GestureRule& rule : rules)
+        if (id && rule.id == *id)
+            return &rule;
+    for (const GestureRule& rule : rules)
+        if (!wanted.empty() && rule.name == wanted)
+            return &rule;
+    return nullptr;
+}
+
+}  // namespace
+
+ExitStatus perform(const Console& console, const std::filesystem::path& defaults, const std::string& rule) {
+    StoredSettings settings(console, defaults);
+    const RuleStore store(settings.defaults());
+    settings.check(store);
+    const GestureRule* found = findRule(store.rules().value(), rule);
+    if (found == nullptr)
+        return console.fail("No stored rule has the id or the name \"" + rule + "\". See: kinesta rules list");
+    ActionPerformer performer(console, settings.defaults(), defaults);
+    const auto report = performer.perform(*found, 1);
+    // Programs are started on other threads: now it is known whether they could be.
+    const std::string problem = performer.finish();
+    if (report.outcome == ActionPerformer::Outcome::failed)
+        return console.fail(report.why);
+    if (!problem.empty())
+        return console.fail(problem);
+    console.out << (report.outcome == ActionPerformer::Outcome::done ? "Done: " : "Asked for: ") << ruleInWords(*found)
+                << '\n'
+                << report.why << (report.why.empty() ? "" : "\n");
+    return settings.status();
+}
+
+}  // namespace kinesta

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "actions/EventSynthesizer.h"
+#include "platform/linux/settings/LinuxActionSettings.h"
+#include "support/InlineVector.h"
+
+namespace kinesta {
+
+/// Modifiers as desktops here know them, one bit each.
+using DesktopModifiers = std::uint8_t;
+inline constexpr DesktopModifiers kShiftModifier = 1;
+inline constexpr DesktopModifiers kControlModifier = 2;
+inline constexpr DesktopModifiers kAltModifier = 4;
+inline constexpr DesktopModifiers kSuperModifier = 8;
+/// Any other that changes what a key means while it is held, such as AltGr.
+inline constexpr DesktopModifiers kOtherModifier = 16;
+
+/// A key or button (the kernel's KEY_… and BTN_… codes) that goes down or up.
+struct InputTransition {
+    std::uint16_t code;
+    KeyTransition transition;
+
+    friend bool operator==(const InputTransition&, const InputTransition&) = default;
+};
+
+using InputTransitions = InlineVector<InputTransition, 16>;
+
+/// A key that acts as these modifiers while it is down.
+struct ModifierKey {
+    std::uint16_t code;
+    DesktopModifiers modifiers;
+};
+
+/// What must be known of a keyboard to press a shortcut on it.
+struct ModifierSituation {
+    /// The keys that give shift, control, alt and super, one modifier each.
+    InlineVector<ModifierKey, 4> available;
+    /// The modifier keys that are down now. Keys that lock, such as Caps Lock, are not among them: to release one and
+    /// to press it again would turn the lock over.
+    InlineVector<ModifierKey, 8> held;
+};
+
+/// A stroke of one key under exactly the wanted modifiers: everything that goes with its going down, then everything
+/// that goes with its coming up.
+struct KeyStroke {
+    InputTransitions down;
+    InputTransitions up;
+};
+
+/// The key that a shortcut's virtual key code means here: with fn an arrow is Home, End, Page Up or Page Down, Delete
+/// deletes forward and Return is the keypad's Enter. Nothing if no key here does it: fn has no meaning with letters,
+/// and to press the bare letter instead would type into the person's text.
+std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint64_t flags);
+
+/// The modifiers here that event flags (the masks of ShortcutKey::eventFlags()) ask for. ⌘ is Super where
+/// ⌃ is wanted as well. Flags without a counterpart are passed over.
+DesktopModifiers modifiersForFlags(std::uint64_t flags, LinuxActionSettings::CommandKey commandKey);
+
+/// How to strike a key so that exactly the `wanted` modifiers are in force while it is down, and every modifier key is
+/// afterwards as it was before. A wanted modifier that the keyboard has no key for is left out.
+KeyStroke strokeKey(std::uint16_t code, DesktopModifiers wanted, const ModifierSituation& situation);
+
+}  // namespace kinesta

@@ -1,0 +1,65 @@
+#include "platform/linux/keyboard/UinputInputPoster.h"
+
+#include <linux/input-event-codes.h>
+
+#include <utility>
+
+namespace kinesta {
+namespace {
+
+constexpr std::uint16_t kLastKey = 255;  // of the virtual device
+
+}  // namespace
+
+UinputInputPoster::UinputInputPoster(Log log) : m_log(std::move(log)) { isAvailable(); }
+
+bool UinputInputPoster::isAvailable() {
+    if (m_device)
+        return true;
+    // Tried again at each question: the person may just have been allowed to.
+    auto device = UinputDevice::create();
+    if (device)
+        m_device = std::move(*device);
+    else
+        tell(device.error().message);
+    return m_device != nullptr;
+}
+
+bool UinputInputPoster::canPost(std::uint16_t code) {
+    return isAvailable() && ((code >= KEY_ESC && code <= kLastKey) || code == BTN_MIDDLE);
+}
+
+ModifierSituation UinputInputPoster::modifiers() {
+    return {{{KEY_LEFTSHIFT, kShiftModifier},
+             {KEY_LEFTCTRL, kControlModifier},
+             {KEY_LEFTALT, kAltModifier},
+             {KEY_LEFTMETA, kSuperModifier}},
+            {}};
+}
+
+std::optional<DesktopLocation> UinputInputPoster::pointerLocation() {
+    // A button of the device clicks where the pointer is, wherever that may be.
+    return isAvailable() ? std::optional(DesktopLocation{}) : std::nullopt;
+}
+
+bool UinputInputPoster::post(std::span<const InputTransition> transitions) {
+    if (!isAvailable())
+        return false;
+    for (const InputTransition& step : transitions) {
+        m_device->post(step.code, step.transition == KeyTransition::down);
+        // A report each: what is in one report counts as simultaneous, so a key might come before its modifier.
+        if (const Outcome sent = m_device->sync(); !sent) {
+            tell(sent.error().message);
+            m_device.reset();
+            return false;
+        }
+    }
+    return true;
+}
+
+void UinputInputPoster::tell(const std::string& reason) {
+    if (std::exchange(m_lastReason, reason) != reason)
+        m_log(reason);
+}
+
+}  // namespace kinesta

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/linux/keyboard/InputPoster.h"
+#include "platform/linux/keyboard/X11Keyboard.h"
+#include "platform/linux/x11/X11Connection.h"
+
+namespace kinesta {
+
+/// Posts through the X server's own means for tests (XTest).
+class X11InputPoster final : public InputPoster {
+  public:
+    /// Both must outlive this; the keyboard is that of the connection.
+    X11InputPoster(X11Connection& connection, X11Keyboard& keyboard);
+
+    bool isAvailable() override;
+    bool canPost(std::uint16_t code) override;
+    ModifierSituation modifiers() override { return m_keyboard.modifiers(); }
+    std::optional<DesktopLocation> pointerLocation() override;
+    bool post(std::span<const InputTransition> transitions) override;
+
+  private:
+    bool canPostInput();
+
+    X11Connection& m_connection;
+    X11Keyboard& m_keyboard;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "platform/linux/session/MessageBus.h"
+
+namespace kinesta {
+
+/// The desktop's service that opens things on behalf of programs. Main thread only. True says that the request is on
+/// its way.
+class DesktopPortal {
+  public:
+    /// `bus` must outlive this.
+    explicit DesktopPortal(MessageBus& bus) : m_bus(bus) {}
+
+    bool openURL(const std::string& url);
+    bool openFile(const std::string& path);
+
+  private:
+    MessageBus& m_bus;
+};
+
+}  // namespace kinesta

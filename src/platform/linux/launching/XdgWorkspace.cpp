@@ -1,0 +1,77 @@
+#include "platform/linux/launching/XdgWorkspace.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+#include "platform/linux/launching/DesktopEntry.h"
+#include "platform/linux/process/ExecutableSearch.h"
+
+namespace kinesta {
+namespace {
+
+constexpr const char* kOpener = "xdg-open";
+
+std::string absolutePath(const std::string& path) {
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute.string();
+}
+
+// The locale for messages, as the C library finds it.
+std::string messageLocale() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const char* value = std::getenv(name); value != nullptr && value[0] != '\0')
+            return value;
+    return "C";
+}
+
+}  // namespace
+
+XdgWorkspace::XdgWorkspace(PosixProcessLauncher& launcher, DesktopPortal& portal,
+                           FrontmostApplication frontmostApplication, Log log)
+    : m_launcher(launcher),
+      m_portal(portal),
+      m_frontmostApplication(std::move(frontmostApplication)),
+      m_log(std::move(log)) {}
+
+void XdgWorkspace::openURL(const std::string& url) {
+    if (isInSearchPath(kOpener))
+        m_launcher.launch(kOpener, {url});
+    else if (!m_portal.openURL(url))
+        m_log("Nothing here opens addresses; install xdg-utils.");
+}
+
+void XdgWorkspace::openFile(const std::string& path) {
+    const std::string file = absolutePath(path);  // never taken for an option or an address
+    if (isInSearchPath(kOpener))
+        m_launcher.launch(kOpener, {file});
+    else if (!m_portal.openFile(file))
+        m_log(file + " could not be opened: it is missing, or nothing here opens files; install xdg-utils.");
+}
+
+void XdgWorkspace::launchApplication(const std::string& path, const std::vector<std::string>& arguments) {
+    const std::string file = absolutePath(path);
+    if (!file.ends_with(".desktop")) {
+        m_launcher.launch(file, arguments);
+        return;
+    }
+    const auto entry = DesktopEntry::read(file, messageLocale());
+    if (!entry) {
+        m_log(entry.error().message);
+        return;
+    }
+    std::vector<std::string> words = entry->command;
+    if (entry->runsInTerminal)
+        words.insert(words.begin(), {isInSearchPath("x-terminal-emulator") ? "x-terminal-emulator" : "xterm", "-e"});
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    m_launcher.launch(ProcessDescription{words.front(), {words.begin() + 1, words.end()}, entry->workingDirectory});
+}
+
+std::optional<ProcessIdentifier> XdgWorkspace::frontmostApplication() { return m_frontmostApplication(); }
+
+ProcessIdentifier XdgWorkspace::ownProcessIdentifier() { return getpid(); }
+
+}  // namespace kinesta

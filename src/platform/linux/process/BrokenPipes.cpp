@@ -1,0 +1,13 @@
+#include "platform/linux/process/BrokenPipes.h"
+
+#include <csignal>
+
+namespace kinesta {
+
+void surviveBrokenPipes() {
+    struct sigaction current {};
+    if (sigaction(SIGPIPE, nullptr, &current) == 0 && current.sa_handler == SIG_DFL)
+        static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+}
+
+}  // namespace kinesta

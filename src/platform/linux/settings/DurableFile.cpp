@@ -1,0 +1,163 @@
+#include "platform/linux/settings/DurableFile.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+
+#include "platform/linux/process/SystemError.h"
+
+namespace kinesta {
+namespace {
+
+constexpr int kLockWaitMilliseconds = 5;
+constexpr int kMostLockTries = 400;
+constexpr int kMostLinks = 40;  // as many as the kernel follows
+
+Error failure(const std::string& path, int reason) { return {path + ": " + systemErrorText(reason)}; }
+
+std::string folderOf(const std::string& path) {
+    const std::size_t slash = path.find_last_of('/');
+    if (slash == std::string::npos)
+        return ".";
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+Outcome synchronizeFolder(const std::string& folder) {
+    const FileDescriptor file(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    // Some network file systems cannot synchronize a folder and need not: they answer EINVAL.
+    if (!file || (::fsync(file.number()) != 0 && errno != EINVAL))
+        return failure(folder, errno);
+    return success();
+}
+
+Outcome createFolder(const std::string& folder) {
+    if (::mkdir(folder.c_str(), S_IRWXU) == 0)
+        return synchronizeFolder(folderOf(folder));
+    if (errno == EEXIST)
+        return success();
+    const std::string parent = folderOf(folder);
+    if (errno != ENOENT || parent == folder)
+        return failure(folder, errno);
+    if (Outcome outcome = createFolder(parent); !outcome)
+        return outcome;
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST)
+        return failure(folder, errno);
+    return synchronizeFolder(parent);
+}
+
+/// 0, or the reason why not everything was written.
+int writeAll(int file, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t written = ::write(file, content.data(), content.size());
+        if (written >= 0)
+            content.remove_prefix(static_cast<std::size_t>(written));
+        else if (errno != EINTR)
+            return errno;
+    }
+    return 0;
+}
+
+}  // namespace
+
+DurableFile::DurableFile(std::string path) : m_path(std::move(path)), m_folder(folderOf(m_path)) {}
+
+Result<DurableFile> DurableFile::at(std::string path) {
+    // By hand: the system's own resolution does not tell where a link leads whose target is yet to be created.
+    const std::string start = path;
+    for (int links = 0; links <= kMostLinks; ++links) {
+        std::array<char, PATH_MAX> target;
+        const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+        if (length < 0)
+            return DurableFile(std::move(path));  // no link; any other trouble shows when the file is used
+        const std::string_view next(target.data(), static_cast<std::size_t>(length));
+        path = next.starts_with('/') ? std::string(next) : folderOf(path) + "/" + std::string(next);
+    }
+    return failure(start, ELOOP);
+}
+
+Result<std::optional<std::string>> DurableFile::read() const {
+    // Without waiting: something that is no file, such as a pipe, must not hold up the program.
+    const FileDescriptor file(::open(m_path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file && errno == ENOENT)
+        return std::optional<std::string>();
+    struct stat status {};
+    if (!file || ::fstat(file.number(), &status) != 0)
+        return failure(m_path, errno);
+    if (S_ISDIR(status.st_mode))
+        return failure(m_path, EISDIR);
+    if (!S_ISREG(status.st_mode))
+        return Error{m_path + ": Not a regular file"};
+
+    std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');  // one more, to see the end at once
+    std::size_t size = 0;
+    for (;;) {
+        const ssize_t count = ::read(file.number(), content.data() + size, content.size() - size);
+        if (count == 0)
+            break;
+        if (count < 0 && errno != EINTR)
+            return failure(m_path, errno);
+        size += static_cast<std::size_t>(count < 0 ? 0 : count);
+        if (size == content.size())
+            content.resize(2 * size);
+    }
+    content.resize(size);
+    return std::optional(std::move(content));
+}
+
+Result<FileDescriptor> DurableFile::lock() const {
+    if (const Outcome outcome = createFolder(m_folder); !outcome)
+        return outcome.error();
+    const std::string path = m_path + ".lock";
+    FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!file)
+        return failure(path, errno);
+    // Others hold it for milliseconds. One that was stopped while it did must not stop us with it.
+    for (int tries = 0; ::flock(file.number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
+        if (errno == EWOULDBLOCK && tries < kMostLockTries)
+            ::poll(nullptr, 0, kLockWaitMilliseconds);
+        else if (errno == EWOULDBLOCK)
+            return Error{m_path + ": another program has been writing it for too long"};
+        else if (errno != EINTR)
+            return failure(path, errno);
+    }
+    return file;
+}
+
+Outcome DurableFile::replace(std::string_view content) const {
+    // One name is enough, and one that is there was left by a process that was killed: only who holds the lock saves.
+    const std::string temporary = m_path + ".tmp";
+    ::unlink(temporary.c_str());
+    const FileDescriptor file(
+        ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!file)
+        return failure(temporary, errno);
+    int reason = writeAll(file.number(), content);
+    if (reason == 0 && (::fsync(file.number()) != 0 || ::rename(temporary.c_str(), m_path.c_str()) != 0))
+        reason = errno;
+    if (reason != 0) {
+        ::unlink(temporary.c_str());
+        return failure(m_path, reason);
+    }
+    return synchronizeFolder(m_folder);
+}
+
+Result<std::string> DurableFile::setAside() const {
+    for (int number = 1;; ++number) {
+        const std::string name = m_path + ".damaged-" + std::to_string(number);
+        struct stat status {};
+        if (::lstat(name.c_str(), &status) == 0)
+            continue;
+        if (errno != ENOENT || ::rename(m_path.c_str(), name.c_str()) != 0)
+            return failure(m_path, errno);
+        if (const Outcome outcome = synchronizeFolder(m_folder); !outcome)
+            return outcome.error();
+        return name;
+    }
+}
+
+}  // namespace kinesta

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/linux/process/FileDescriptor.h"
+#include "support/Result.h"
+
+namespace kinesta {
+
+/// A file that several processes replace as a whole: whoever reads it, at any time and after any crash, finds one
+/// complete content. Errors name the file and the system's reason.
+class DurableFile {
+  public:
+    /// The file that `path` leads to through any symbolic links, so that replacing it keeps the links. It and its
+    /// folder need not exist.
+    static Result<DurableFile> at(std::string path);
+
+    /// Where it is, behind all links.
+    const std::string& path() const { return m_path; }
+
+    /// The content, or nothing if there is no such file. Only a regular file can be read.
+    Result<std::optional<std::string>> read() const;
+
+    /// Waits until no other process holds the lock, at most two seconds, and keeps it until the result is destroyed.
+    /// Creates the folder, readable by its owner only. The lock is a file of its own, as the file itself is another one
+    /// after each save.
+    Result<FileDescriptor> lock() const;
+
+    /// Replaces the content; afterwards it is on the disk. After an error the old content is still there, and no
+    /// temporary file; only an error of the folder's last synchronization leaves the new content. Locked only.
+    Outcome replace(std::string_view content) const;
+
+    /// Renames the file to a free name that tells that it is damaged and returns that. Locked only.
+    Result<std::string> setAside() const;
+
+  private:
+    explicit DurableFile(std::string path);
+
+    std::string m_path;
+    std::string m_folder;
+};
+
+}  // namespace kinesta

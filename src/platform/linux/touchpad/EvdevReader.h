@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "input/TrackpadContactProviding.h"
+#include "platform/linux/touchpad/EvdevDevice.h"
+#include "platform/linux/touchpad/EvdevDeviceWatch.h"
+#include "platform/linux/touchpad/TouchpadScanner.h"
+#include "platform/linux/touchpad/TouchpadSwitch.h"
+
+namespace kinesta {
+
+/// Reads the touchpad of the moment and follows its coming and going: what the provider's thread does. Asleep while
+/// nothing happens.
+class EvdevReader {
+  public:
+    struct Settings {
+        /// Path or name of the touchpad to read; empty for the built-in one, or any if there is none.
+        std::string device;
+        PressureStageTracker::Limits pressure;
+    };
+
+    struct State {
+        TrackpadContactProviderStatus status;
+        /// Of the touchpad that is read, while one is.
+        std::string path;
+        std::string name;
+        bool canTellPressure = false;
+
+        friend bool operator==(const State&, const State&) = default;
+    };
+
+    /// `sink` gets what happens on the touchpad, `onChange` every new state; both on the thread of run().
+    EvdevReader(Settings settings, EvdevDevice::Sink sink, std::function<void(const State&)> onChange);
+
+    /// Looks for the touchpad and opens it. Before run(), on any thread; `onChange` is not told.
+    const State& open();
+
+    /// Reads until the descriptor `ending` becomes readable.
+    void run(int ending);
+
+    /// Tells that no finger is on the touchpad any more, for it is given up. After run().
+    void liftAll();
+
+  private:
+    void lookAgain();
+    State look();
+    void leaveDevice();
+
+    Settings m_settings;
+    EvdevDevice::Sink m_sink;
+    std::function<void(const State&)> m_onChange;
+    EvdevDeviceWatch m_watch;
+    TouchpadScanner m_scanner;
+    TouchpadSwitch m_switch;
+    std::unique_ptr<EvdevDevice> m_device;
+    std::string m_inputName;  // of m_device
+    State m_state;
+};
+
+}  // namespace kinesta

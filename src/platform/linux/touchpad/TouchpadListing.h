@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "input/evdev/EvdevFrameAssembler.h"
+#include "platform/linux/touchpad/TouchpadCandidate.h"
+
+namespace kinesta {
+
+/// A touchpad of this machine as a person may want to see it.
+struct ListedTouchpad {
+    TouchpadCandidate candidate;
+    /// Whether it is the one that is read.
+    bool isChosen = false;
+    /// Axis ranges and slots; absent if the pad may not be read.
+    std::optional<EvdevTouchpad> touchpad;
+    bool canTellPressure = false;
+    /// Whether the desktop may have it switched off without anyone being told.
+    bool mayBeOff = false;
+    /// How many fingers it can tell of at once; 0 if that is not known.
+    int fingers = 0;
+    /// Why it cannot be read and what to do, as a sentence; empty if it can.
+    std::string problem;
+};
+
+/// All touchpads, opened for a moment. `wanted` is the setting that names the one to read.
+std::vector<ListedTouchpad> listTouchpads(const std::string& wanted = {});
+
+}  // namespace kinesta

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/linux/touchpad/SendEventsMode.h"
+
+struct xcb_connection_t;
+
+namespace kinesta {
+
+/// What an X server's input drivers have been told to do with a touchpad: by the desktop's settings, by a key of the
+/// keyboard, by a person's script.
+class X11TouchpadProperties {
+  public:
+    /// `display` as in DISPLAY. Without such a display, or once it is gone, everything counts as enabled.
+    explicit X11TouchpadProperties(const std::string& display);
+
+    /// Becomes readable when takeChanges() has something to do; -1 without a display.
+    int fileDescriptor() const;
+
+    /// Whether a device has changed since.
+    bool takeChanges();
+
+    /// The mode of the device that the server reads from this node ("/dev/input/event5").
+    SendEventsMode mode(const std::string& path);
+
+  private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const;
+    };
+
+    SendEventsMode presentMode(const std::string& path);
+    std::uint32_t atom(const char* name);
+    std::string property(std::uint16_t device, std::uint32_t atom);
+
+    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    SendEventsMode m_mode = SendEventsMode::enabled;
+    std::uint32_t m_deviceNode = 0;
+    std::uint32_t m_deviceEnabled = 0;
+    std::uint32_t m_libinputSendEvents = 0;
+    std::uint32_t m_synapticsOff = 0;
+};
+
+}  // namespace kinesta

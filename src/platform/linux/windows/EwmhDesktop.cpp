@@ -1,0 +1,310 @@
+#include "platform/linux/windows/EwmhDesktop.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/linux/windows/EwmhMonitors.h"
+#include "platform/linux/windows/EwmhWindowQuery.h"
+#include "platform/linux/windows/EwmhWorkAreas.h"
+
+namespace kinesta {
+namespace {
+
+using Items = std::vector<std::uint32_t>;
+
+/// More windows than anyone has; keeps what we send small enough that sending never waits.
+constexpr std::size_t kMostWindows = 200;
+
+/// A window manager ends maximization in several steps and does not say which is the last: so long without a step,
+/// in seconds, and it was.
+constexpr Seconds kQuiet = 0.02;
+
+}  // namespace
+
+std::optional<ProcessIdentifier> EwmhDesktop::frontmostApplication(Seconds timeout) {
+    const auto window = activeWindow(timeout);
+    return window ? std::optional(window->process) : std::nullopt;
+}
+
+std::optional<EwmhWindow> EwmhDesktop::activeWindow(Seconds timeout) {
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    if (!m_connection.prepare(deadline))
+        return std::nullopt;
+    const auto active = activeWindowId(deadline);
+    return active ? EwmhWindowQuery(m_connection, *active).answer(deadline) : std::nullopt;
+}
+
+std::optional<EwmhManager> EwmhDesktop::manager(Seconds timeout) {
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    return m_connection.prepare(deadline) ? EwmhManager::ask(m_connection, deadline) : std::nullopt;
+}
+
+std::optional<EwmhWindow> EwmhDesktop::window(EwmhWindowId window, Seconds timeout) {
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    if (!m_connection.prepare(deadline))
+        return std::nullopt;
+    auto found = EwmhWindowQuery(m_connection, window).answer(deadline);
+    if (const auto i3 = this->i3(); found && i3 && !i3->locate({&*found, 1}, deadline))
+        return std::nullopt;
+    return found;
+}
+
+std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    if (!m_connection.prepare(deadline))
+        return std::nullopt;
+    m_manager = EwmhManager::ask(m_connection, deadline);
+    const auto& atoms = m_connection.atoms();
+    const xcb_window_t root = m_connection.session().root();
+    const auto request = [&](xcb_atom_t property, xcb_atom_t type) {
+        return m_connection.requestProperty(root, property, type, 4096);
+    };
+    const auto activeCookie = request(atoms._NET_ACTIVE_WINDOW, XCB_ATOM_WINDOW);
+    const auto stackingCookie = request(atoms._NET_CLIENT_LIST_STACKING, XCB_ATOM_WINDOW);
+    const auto listCookie = request(atoms._NET_CLIENT_LIST, XCB_ATOM_WINDOW);
+    const auto desktopCookie = request(atoms._NET_CURRENT_DESKTOP, XCB_ATOM_CARDINAL);
+    const auto workAreaCookie = request(atoms._NET_WORKAREA, XCB_ATOM_CARDINAL);
+    std::optional<xcb_randr_get_monitors_cookie_t> monitorsCookie;
+    if (m_connection.session().knowsMonitors())
+        monitorsCookie = xcb_randr_get_monitors(m_connection.xcb(), root, 1);
+    const auto geometryCookie = xcb_get_geometry(m_connection.xcb(), root);
+
+    EwmhSnapshot snapshot;
+    snapshot.root = root;
+    const auto active = rootItems(activeCookie, XCB_ATOM_WINDOW, deadline).value_or(Items{});
+    const auto stacking = rootItems(stackingCookie, XCB_ATOM_WINDOW, deadline);
+    const auto list = rootItems(listCookie, XCB_ATOM_WINDOW, deadline);
+    const auto desktop = rootItems(desktopCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    const auto workArea = rootItems(workAreaCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    std::vector<WindowRectangle> monitors;
+    if (monitorsCookie)
+        monitors = ewmhMonitorBounds(m_connection, *monitorsCookie, deadline);
+    const auto geometry = m_connection.reply<xcb_get_geometry_reply_t>(geometryCookie, deadline);
+    if (!geometry)
+        return std::nullopt;
+    snapshot.activeWindow = active.empty() ? 0 : active[0];
+    snapshot.currentDesktop = desktop.empty() ? 0 : desktop[0];
+
+    Items ids = stacking ? *stacking : list.value_or(Items{});
+    if (ids.size() > kMostWindows)
+        ids.erase(ids.begin(), ids.end() - kMostWindows);
+    std::vector<EwmhWindowQuery> queries;
+    queries.reserve(ids.size());
+    for (const EwmhWindowId id : ids)
+        queries.emplace_back(m_connection, id);
+    for (auto& query : queries)
+        if (auto window = query.answer(deadline))
+            snapshot.windows.push_back(*window);
+
+    const WindowRectangle screen{0, 0, geometry->width, geometry->height};
+    if (monitors.empty())
+        monitors.push_back(screen);
+    std::vector<WindowRectangle> toldAreas;
+    if (const auto i3 = this->i3()) {
+        if (!i3->locate(snapshot.windows, deadline))
+            m_manager.reset();  // who does not answer there does nothing either
+        toldAreas = i3->workAreas(deadline);
+    } else if (monitors.size() > 1) {
+        toldAreas = ewmhMonitorWorkAreas(m_connection, snapshot.currentDesktop, deadline);
+    }
+    snapshot.closesWindows = m_manager && (m_manager->closesWindows || m_manager->takesI3Commands());
+    snapshot.movesWindows = m_manager && (m_manager->movesWindows || m_manager->takesI3Commands());
+    // Four numbers for each desktop; a window manager that has only one area tells it once.
+    const std::size_t first = std::size_t{4} * snapshot.currentDesktop;
+    std::optional<WindowRectangle> screenWorkArea;
+    if (workArea.size() >= first + 4)
+        screenWorkArea = ewmhRectangleAt(workArea, first);
+    else if (workArea.size() >= 4)
+        screenWorkArea = ewmhRectangleAt(workArea, 0);
+    snapshot.monitors =
+        ewmhWorkAreas({screen, monitors, screenWorkArea, toldAreas, snapshot.windows, snapshot.currentDesktop});
+    // Otherwise windows may be missing.
+    return m_connection.isAnswering() ? std::optional(std::move(snapshot)) : std::nullopt;
+}
+
+bool EwmhDesktop::close(EwmhWindowId window, Seconds timeout) {
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    if (!m_connection.prepare(deadline))
+        return false;
+    m_manager = EwmhManager::ask(m_connection, deadline);
+    if (const auto i3 = this->i3()) {
+        if (!i3->close(window, deadline))
+            return false;
+        tell({EwmhRequest::Kind::close, window});
+        return true;
+    }
+    if (!m_manager || !m_manager->closesWindows)
+        return false;
+    const xcb_timestamp_t time = m_connection.serverTime(deadline);
+    xcb_ewmh_request_close_window(m_connection.session().ewmh(), m_connection.session().screenNumber(), window, time,
+                                  XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+    flush();
+    if (!m_connection.isAnswering())
+        return false;
+    tell({EwmhRequest::Kind::close, window});
+    return true;
+}
+
+std::vector<std::optional<Items>> EwmhDesktop::tilingRecords(std::span<const EwmhWindowId> windows, Seconds timeout) {
+    std::vector<std::optional<Items>> records(windows.size());
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    if (!m_connection.prepare(deadline))
+        return records;
+    std::vector<xcb_get_property_cookie_t> cookies;
+    cookies.reserve(windows.size());
+    for (const EwmhWindowId window : windows)
+        cookies.push_back(
+            m_connection.requestProperty(window, m_connection.session().tilingRecord(), XCB_ATOM_CARDINAL));
+    for (std::size_t i = 0; i < cookies.size(); ++i)
+        records[i] = rootItems(cookies[i], XCB_ATOM_CARDINAL, deadline);
+    return records;
+}
+
+void EwmhDesktop::setTilingRecord(EwmhWindowId window, std::span<const std::uint32_t> record) {
+    if (!m_connection.isAnswering())
+        return;
+    if (record.empty())
+        xcb_delete_property(m_connection.xcb(), window, m_connection.session().tilingRecord());
+    else
+        xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, window, m_connection.session().tilingRecord(),
+                            XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(record.size()), record.data());
+}
+
+void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) {
+    if (!m_connection.isAnswering())
+        return;
+    if (const auto i3 = this->i3()) {
+        if (i3->place(window.id, frame, EwmhConnection::deadlineIn(kTimeout)))
+            tell({EwmhRequest::Kind::place, window.id, window.frame, frame});
+        return;
+    }
+    constexpr auto kMove = XCB_EWMH_MOVERESIZE_WINDOW_X | XCB_EWMH_MOVERESIZE_WINDOW_Y;
+    constexpr auto kMoveAndResize = kMove | XCB_EWMH_MOVERESIZE_WINDOW_WIDTH | XCB_EWMH_MOVERESIZE_WINDOW_HEIGHT;
+    const bool keepsSize = frame.size() == window.frame.size();
+    const WindowSize client = (frame - window.frameInsets).size();
+    // With static gravity the place is that of the window proper, otherwise that of the outer corner, shadows included;
+    // the size is always that of the window proper. Openbox 3.6 keeps places in the window's own gravity: after a move
+    // in another one it puts the window off by its title bar at the end of the next maximization. Static gravity for
+    // all would put windows off by a border that they were made with and no longer have.
+    const WindowRectangle place = window.hasStaticGravity ? frame - window.frameInsets : frame + window.shadow;
+    const auto gravity = window.hasStaticGravity ? XCB_GRAVITY_STATIC : XCB_GRAVITY_NORTH_WEST;
+    xcb_ewmh_request_moveresize_window(
+        m_connection.session().ewmh(), m_connection.session().screenNumber(), window.id, gravity,
+        XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
+        static_cast<xcb_ewmh_moveresize_window_opt_flags_t>(keepsSize ? kMove : kMoveAndResize),
+        static_cast<std::uint32_t>(place.x), static_cast<std::uint32_t>(place.y),
+        static_cast<std::uint32_t>(client.width), static_cast<std::uint32_t>(client.height));
+    tell({EwmhRequest::Kind::place, window.id, window.frame, frame});
+}
+
+bool EwmhDesktop::returnToLayout(const EwmhWindow& window) {
+    const auto i3 = this->i3();
+    if (!i3 || !i3->returnToLayout(window.id, EwmhConnection::deadlineIn(kTimeout)))
+        return false;
+    tell({EwmhRequest::Kind::layout, window.id});
+    return true;
+}
+
+void EwmhDesktop::zoom(const EwmhWindow& window, bool isFullscreen, bool isHorizontal, bool isVertical) {
+    if (!m_connection.isAnswering() || (!isFullscreen && !isHorizontal && !isVertical))
+        return;
+    setMaximized(window.id, isHorizontal, isVertical, true);
+    if (isFullscreen)
+        setFullscreen(window.id, true);
+    tell({EwmhRequest::Kind::zoom, window.id});
+}
+
+void EwmhDesktop::setFullscreen(EwmhWindowId window, bool isFullscreen) {
+    xcb_ewmh_request_change_wm_state(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
+                                     isFullscreen ? XCB_EWMH_WM_STATE_ADD : XCB_EWMH_WM_STATE_REMOVE,
+                                     m_connection.atoms()._NET_WM_STATE_FULLSCREEN, XCB_ATOM_NONE,
+                                     XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+}
+
+void EwmhDesktop::setMaximized(EwmhWindowId window, bool isHorizontal, bool isVertical, bool isMaximized) {
+    if (!isHorizontal && !isVertical)
+        return;
+    const auto& atoms = m_connection.atoms();
+    const xcb_atom_t vertical = isVertical ? atoms._NET_WM_STATE_MAXIMIZED_VERT : xcb_atom_t{XCB_ATOM_NONE};
+    // Both in one message: one step for the window manager, and no flicker.
+    xcb_ewmh_request_change_wm_state(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
+                                     isMaximized ? XCB_EWMH_WM_STATE_ADD : XCB_EWMH_WM_STATE_REMOVE,
+                                     isHorizontal ? atoms._NET_WM_STATE_MAXIMIZED_HORZ : vertical,
+                                     isHorizontal ? vertical : xcb_atom_t{XCB_ATOM_NONE},
+                                     XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+}
+
+void EwmhDesktop::raise(EwmhWindowId window) {
+    if (!m_connection.isAnswering())
+        return;
+    // To put it right below another one would be more exact; openbox 3.6 takes that for the bottom.
+    xcb_ewmh_request_restack_window(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
+                                    XCB_WINDOW_NONE, XCB_STACK_MODE_ABOVE);
+}
+
+void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) {
+    if (!m_connection.isAnswering())
+        return;
+    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    std::vector<EwmhWindowId> waitingFor;
+    for (const auto& window : windows) {
+        if (!window.isZoomed())
+            continue;
+        waitingFor.push_back(window.id);
+        watch(window.id, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
+        if (window.isFullscreen)
+            setFullscreen(window.id, false);
+        setMaximized(window.id, window.isMaximizedHorizontally, window.isMaximizedVertically, false);
+    }
+    const auto watched = waitingFor;
+    const auto& atoms = m_connection.atoms();
+    const auto isStep = [&](const xcb_generic_event_t& event) {
+        const auto type = event.response_type & 0x7F;
+        if (type == XCB_DESTROY_NOTIFY)
+            std::erase(waitingFor, reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
+        if (type == XCB_CONFIGURE_NOTIFY || type == XCB_DESTROY_NOTIFY)
+            return true;
+        if (type != XCB_PROPERTY_NOTIFY)
+            return false;
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+        if (change.atom == atoms._NET_WM_STATE)
+            std::erase(waitingFor, change.window);
+        // Shadows go with maximization and come back a moment after it.
+        return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS ||
+               change.atom == m_connection.session().gtkFrameExtents();
+    };
+    while (!watched.empty()) {
+        const Deadline quiet = EwmhConnection::deadlineIn(kQuiet);
+        if (!m_connection.awaitEvent(isStep, waitingFor.empty() ? std::min(quiet, deadline) : deadline))
+            break;
+    }
+    for (const EwmhWindowId window : watched)
+        watch(window, XCB_EVENT_MASK_NO_EVENT);
+}
+
+std::optional<Items> EwmhDesktop::rootItems(xcb_get_property_cookie_t cookie, xcb_atom_t type, Deadline deadline) {
+    return EwmhConnection::items(m_connection.reply<xcb_get_property_reply_t>(cookie, deadline).get(), type);
+}
+
+std::optional<EwmhWindowId> EwmhDesktop::activeWindowId(Deadline deadline) {
+    const auto active =
+        rootItems(m_connection.requestProperty(m_connection.session().root(), m_connection.atoms()._NET_ACTIVE_WINDOW,
+                                               XCB_ATOM_WINDOW),
+                  XCB_ATOM_WINDOW, deadline);
+    return active && !active->empty() && (*active)[0] != 0 ? std::optional((*active)[0]) : std::nullopt;
+}
+
+std::optional<I3Manager> EwmhDesktop::i3() const {
+    return m_manager && m_manager->takesI3Commands() ? std::optional(I3Manager(m_manager->i3Socket)) : std::nullopt;
+}
+
+void EwmhDesktop::tell(const EwmhRequest& request) {
+    if (m_observer)
+        m_observer(request);
+}
+
+void EwmhDesktop::watch(EwmhWindowId window, std::uint32_t events) {
+    xcb_change_window_attributes(m_connection.xcb(), window, XCB_CW_EVENT_MASK, &events);
+}
+
+}  // namespace kinesta

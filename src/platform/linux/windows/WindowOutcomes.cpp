@@ -1,0 +1,89 @@
+#include "platform/linux/windows/WindowOutcomes.h"
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+#include "platform/linux/windows/TilingRecord.h"
+
+namespace kinesta {
+namespace {
+
+using Outcome = WindowOutcomes::Outcome;
+
+constexpr std::chrono::milliseconds kBetweenLooks{5};
+
+Outcome outcomeOf(const EwmhRequest& request, const EwmhWindow* window) {
+    using Kind = EwmhRequest::Kind;
+    if (request.kind == Kind::close)
+        return window == nullptr ? Outcome::done : Outcome::asked;
+    if (window == nullptr)
+        return Outcome::asked;
+    switch (request.kind) {
+        case Kind::close:
+            break;
+        case Kind::place:
+            if (TilingRecord{.tiledFrame = request.frame}.describes(*window))
+                return Outcome::done;
+            return window->frame == request.before ? Outcome::ignored : Outcome::asked;
+        case Kind::zoom:
+            return window->isZoomed() ? Outcome::done : Outcome::ignored;
+        case Kind::layout:
+            return window->isInLayout ? Outcome::done : Outcome::ignored;
+    }
+    return Outcome::asked;
+}
+
+}  // namespace
+
+void WindowOutcomes::begin() {
+    m_requests.clear();
+    m_desktop.setObserver([this](const EwmhRequest& request) {
+        // What is asked last of a window is what is to be.
+        std::erase_if(m_requests, [&](const EwmhRequest& each) { return each.window == request.window; });
+        m_requests.push_back(request);
+    });
+}
+
+Outcome WindowOutcomes::settle(Seconds patience) {
+    if (m_requests.empty())
+        return Outcome::nothingAsked;
+    const auto deadline = xcbDeadlineIn(patience);
+    Outcome outcome = outcomeNow();
+    while (outcome != Outcome::done && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(kBetweenLooks);
+        outcome = outcomeNow();
+    }
+    return outcome;
+}
+
+Outcome WindowOutcomes::outcomeNow() {
+    const auto desktop = m_desktop.snapshot();
+    if (!desktop)
+        return Outcome::asked;
+    Outcome worst = Outcome::done;
+    for (const EwmhRequest& request : m_requests)
+        worst = std::min(worst, outcomeOf(request, desktop->window(request.window)));
+    return worst;
+}
+
+std::string WindowOutcomes::obstacle(Kind kind) {
+    const auto desktop = m_desktop.snapshot();
+    if (!desktop)
+        return "No X server answers that would tell of windows. See: kinesta doctor";
+    if (kind == Kind::close ? !desktop->closesWindows : !desktop->movesWindows)
+        return std::string("No window manager runs here that ") + (kind == Kind::close ? "closes" : "moves") +
+               " windows for others. See: kinesta doctor";
+    const EwmhWindow* active = desktop->window(desktop->activeWindow);
+    if (active == nullptr)
+        return "No window is active.";
+    const bool waits = active->isModal || !desktop->modalDialogsOf(*active).empty() ||
+                       (kind == Kind::close && m_programs.hasDialogInside(active->process));
+    if (waits)
+        return "A dialog waits for your answer.";
+    if (kind == Kind::untile)
+        return "The window has no previous size: it was not tiled.";
+    return kind == Kind::close ? "The active window cannot be closed." : "The active window cannot be tiled.";
+}
+
+}  // namespace kinesta

@@ -1,0 +1,198 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <future>
+
+#include "desktop/harness/ChildProcess.h"
+#include "desktop/harness/LaunchedProgram.h"
+#include "platform/linux/launching/LoginShell.h"
+#include "platform/linux/launching/PosixProcessLauncher.h"
+#include "platform/linux/process/PosixHomeFolders.h"
+#include "support/TemporaryFolder.h"
+
+namespace kinesta::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using Words = std::vector<std::string>;
+
+struct Launching : ::testing::Test {
+    /// What a shell prints that is launched with this text.
+    std::string outputOf(const std::string& text) {
+        const auto file = folder.path() / "output";
+        launcher.launch("/bin/sh", {"-c", "(" + text + ") > '" + file.string() + ".new' 2>&1; mv '" + file.string() +
+                                              ".new' '" + file.string() + "'"});
+        EXPECT_TRUE(eventually([&] { return fs::exists(file); }));
+        std::string content = readText(file);
+        fs::remove(file);
+        return content;
+    }
+
+    /// Launches a shell from a process of its own, whose standard output is `output`, and ends that process.
+    static void runAndEnd(int output, const std::string& command) {
+        const pid_t us = fork();
+        if (us == 0) {
+            dup2(output, STDOUT_FILENO);
+            PosixProcessLauncher::Options options;
+            options.output = PosixProcessLauncher::Output::log;
+            PosixProcessLauncher(options).launch("/bin/sh", {"-c", command});
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(us, &status, 0), us);
+        ASSERT_EQ(status, 0);
+    }
+
+    TemporaryFolder folder;
+    PosixProcessLauncher launcher;
+};
+
+bool hasChildren() {
+    siginfo_t info{};
+    return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
+}
+
+std::ptrdiff_t openDescriptors() {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+}
+
+TEST_F(Launching, HandsOverArgumentsAsTheyAre) {
+    const LaunchedProgram program(folder);
+    const Words arguments{
+        "plain", "two words", "", "\"quoted\" 'twice'", "$HOME `id` \\ %f ~", "line\nbreak", "Zürich → 東京",
+        "-e",    "--",        "*"};
+    launcher.launch(program.path(), arguments);
+    EXPECT_EQ(program.waitForArguments(), arguments);
+}
+
+TEST_F(Launching, GivesProgramsAFreshStart) {
+    const FileDescriptor leaky(dup(STDERR_FILENO));  // inherited by whoever does not close it
+    ASSERT_TRUE(leaky);
+    sigset_t blocked;
+    sigset_t before;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGTERM);
+    sigaddset(&blocked, SIGUSR1);
+    pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    const auto pipeBefore = std::signal(SIGPIPE, SIG_IGN);
+    EXPECT_EQ(outputOf("exec ls /proc/self/fd"), "0\n1\n2\n3\n") << "3 is the folder that ls reads";
+    EXPECT_EQ(outputOf("readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2"), "/dev/null\n/dev/null\n/dev/null\n");
+    EXPECT_EQ(outputOf("grep SigBlk /proc/self/status"), "SigBlk:\t0000000000000000\n");
+    constexpr std::uint64_t kOwnedByTheLibrary = 0x180000000;  // the C library ignores its two in all it starts
+    const std::uint64_t ignored = std::stoull(outputOf("sed -n 's/SigIgn:.//p' /proc/self/status"), nullptr, 16);
+    EXPECT_EQ(ignored & ~kOwnedByTheLibrary, 0U);
+    EXPECT_EQ(outputOf("test $(cut -d' ' -f6 /proc/$$/stat) = $$ && echo own session"), "own session\n");
+    EXPECT_EQ(outputOf("echo $KINESTA_TEST; pwd"), std::string("\n").append(fs::current_path().string() + "\n"));
+    setenv("KINESTA_TEST", "inherited", 1);
+    EXPECT_EQ(outputOf("echo $KINESTA_TEST"), "inherited\n");
+    std::signal(SIGPIPE, pipeBefore);
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+TEST_F(Launching, ReapsItsOwnChildrenAndNoOthers) {
+    while (waitpid(-1, nullptr, 0) > 0) {
+        // One that an earlier test launched, and whose launcher has gone.
+    }
+    const auto descriptors = openDescriptors();
+    const pid_t other = fork();
+    if (other == 0)
+        _exit(7);
+    for (int i = 0; i < 200; ++i)
+        launcher.launch("/bin/true", {});
+    EXPECT_EQ(outputOf("echo after them all"), "after them all\n");
+    int status = 0;
+    EXPECT_TRUE(eventually([&] { return waitpid(other, &status, WNOHANG) == other; }));
+    EXPECT_EQ(WEXITSTATUS(status), 7);
+    EXPECT_TRUE(eventually([] { return !hasChildren(); })) << "zombies";
+    EXPECT_TRUE(eventually([&] { return openDescriptors() == descriptors + 1; }))
+        << openDescriptors() - descriptors << " more than before, one of them the launcher's own";
+}
+
+TEST_F(Launching, NeitherWaitsNorMindsWhatCannotBeStarted) {
+    std::promise<std::string> complaint;
+    PosixProcessLauncher::Options options;
+    options.log = [&](const std::string& line) { complaint.set_value(line); };
+    PosixProcessLauncher other(options);
+    const std::string missing = folder.path() / "missing";
+    other.launch(missing, {"argument"});
+    auto line = complaint.get_future();
+    ASSERT_EQ(line.wait_for(ChildProcess::kPatience), std::future_status::ready);
+    EXPECT_EQ(line.get(), missing + " could not be started: No such file or directory.");
+    // Nor does one that runs on.
+    const std::string fifo = folder.path() / "fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    launcher.launch("/bin/sh", {"-c", "read line < '" + fifo + "'"});
+    EXPECT_EQ(outputOf("echo still launching"), "still launching\n");
+    std::ofstream(fifo) << "end\n";
+}
+
+TEST_F(Launching, LetsProgramsSurviveUs) {
+    const std::string fifo = folder.path() / "fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    const LaunchedProgram result(folder);
+    const std::string command = "echo word; read line < '" + fifo + "'; '" + result.path() + "' $line";
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
+    runAndEnd(pipe[1], command);
+    close(pipe[1]);
+    char byte = 0;
+    EXPECT_EQ(read(pipe[0], &byte, 1), 0) << "who reads our output waits for us alone";
+    close(pipe[0]);
+    std::ofstream(fifo) << "alive\n";
+    EXPECT_EQ(result.waitForArguments(), Words{"alive"});
+}
+
+TEST_F(Launching, WritesWhatProgramsSayIntoTheLog) {
+    const FileDescriptor log(open((folder / "log").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+    const LaunchedProgram result(folder);
+    runAndEnd(log.number(), "echo out; echo err >&2; '" + result.path() + "' end");
+    EXPECT_EQ(result.waitForArguments(), Words{"end"});
+    EXPECT_EQ(readText(folder / "log"), "out\nerr\n");
+}
+
+TEST_F(Launching, RunsShellCommandsWithZshOrElseTheLoginShell) {
+    const LaunchedProgram zsh(folder, "zsh");
+    const LaunchedProgram login(folder, "login-shell");
+    const Words arguments{"-lc", "  echo \"a  b\" | cat; ls ~\n"};
+    PosixProcessLauncher withZsh({zsh.path(), [&] { return login.path(); }, {}});
+    withZsh.launch("/bin/zsh", arguments);
+    EXPECT_EQ(zsh.waitForArguments(), arguments);
+    PosixProcessLauncher withoutZsh({folder.path() / "missing", [&] { return login.path(); }, {}});
+    withoutZsh.launch("/bin/zsh", arguments);
+    EXPECT_EQ(login.waitForArguments(), arguments);
+
+    // With the real one of whoever runs this.
+    PosixProcessLauncher real({folder.path() / "missing", {}, {}});
+    real.launch("/bin/zsh", {"-lc", "'" + login.path() + "' done"});
+    EXPECT_EQ(login.waitForArguments(), Words{"done"});
+    EXPECT_EQ(chosenShell("/bin/sh", "/bin/bash"), "/bin/sh");
+    for (const char* none : {"", "sh", "/usr/sbin/nologin", "/bin/false", "/no/such/shell"}) {
+        EXPECT_EQ(chosenShell(none, "/bin/bash"), "/bin/bash") << none;
+        EXPECT_EQ(chosenShell(none, none), "/bin/sh") << none;
+    }
+}
+
+TEST_F(Launching, KnowsHomes) {
+    const passwd* user = getpwuid(getuid());
+    const std::string own = user != nullptr ? user->pw_name : "no such user";
+    const PosixHomeFolders homes;
+    setenv("HOME", "/somewhere/else", 1);
+    EXPECT_EQ(homes.homeFolder(""), "/somewhere/else");
+    for (const char* useless : {"", "relative"}) {
+        setenv("HOME", useless, 1);
+        EXPECT_EQ(homes.homeFolder(""), homes.homeFolder(own));
+    }
+    EXPECT_EQ(homes.homeFolder("root"), "/root");
+    EXPECT_EQ(homes.homeFolder("no such user"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace kinesta::testing

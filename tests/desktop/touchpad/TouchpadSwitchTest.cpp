@@ -1,0 +1,117 @@
+#include "platform/linux/touchpad/TouchpadSwitch.h"
+
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <xcb/xinput.h>
+
+#include <filesystem>
+
+#include "desktop/harness/TestDesktop.h"
+#include "platform/linux/touchpad/DconfDatabase.h"
+#include "support/DconfSample.h"
+#include "support/TemporaryFolder.h"
+
+namespace kinesta {
+namespace {
+
+constexpr const char* kKey = "/org/gnome/desktop/peripherals/touchpad/send-events";
+
+bool isTold(TouchpadSwitch& pads, int milliseconds = 5000) {
+    pollfd changes{.fd = pads.fileDescriptor(), .events = POLLIN, .revents = 0};
+    while (poll(&changes, 1, milliseconds) > 0)
+        if (pads.takeChanges())
+            return true;
+    return false;
+}
+
+TEST(DconfDatabase, IsReadAndNothingIsMadeOfWhatIsNone) {
+    const std::string sample = dconfSample();
+    EXPECT_EQ(dconfString(sample, kKey), "disabled");
+    for (const char* other : {"", "/", "send-events", "/org/gnome/desktop/peripherals/touchpad/",
+                              "/org/gnome/desktop/interface/cursor-size", "x/org/gnome/desktop/interface/cursor-size",
+                              "/org/gnome/desktop/peripherals/touchpad/send-events/"})
+        EXPECT_EQ(dconfString(sample, other), std::nullopt) << other;
+    for (std::size_t size = 0; size + 1 < sample.size(); ++size)
+        EXPECT_EQ(dconfString(sample.substr(0, size), kKey), std::nullopt) << size;
+    // Whatever bytes are wrong, it ends and stays within its bounds.
+    for (std::size_t i = 0; i < sample.size(); ++i) {
+        for (const int wrong : {0x00, 0x01, 0x7f, 0xff}) {
+            std::string damaged = sample;
+            damaged[i] = static_cast<char>(wrong);
+            const auto read = dconfString(damaged, kKey);
+            EXPECT_LE(read.value_or("").size(), sample.size());
+        }
+    }
+}
+
+TEST(TouchpadSwitching, FollowsGnomesStoredSetting) {
+    const TemporaryFolder folder;
+    TouchpadSwitch pads({.display = "", .dconfDirectory = folder.path().string()});
+    EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::enabled);
+    const auto store = [&](const std::string& database) {
+        const std::string file = folder.write("new", database);
+        std::filesystem::rename(file, folder.path() / "user");
+        EXPECT_TRUE(isTold(pads));
+    };
+    store(dconfSample());
+    EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::disabled);
+    std::string other = dconfSample();
+    other.replace(other.find("disabled"), 8, "enabled\0", 8);
+    store(other);
+    EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::enabled);
+    EXPECT_FALSE(isTold(pads, 0));
+
+    TouchpadSwitch nothing({.display = "", .dconfDirectory = (folder.path() / "none").string()});
+    EXPECT_EQ(nothing.mode("/dev/input/event0"), SendEventsMode::enabled);
+}
+
+/// Sets a property of the X server's test pointer, which poses as a touchpad.
+void set(const kinesta::testing::TestDesktop& desktop, const char* name, const std::string& bytes) {
+    constexpr std::uint16_t kTestPointer = 4;
+    const std::string padded = bytes + std::string(3, '\0');  // whole words are read
+    const auto cookie = xcb_input_xi_change_property_checked(desktop.connection(), kTestPointer, XCB_PROP_MODE_REPLACE,
+                                                             8, desktop.atom(name), XCB_ATOM_INTEGER,
+                                                             static_cast<std::uint32_t>(bytes.size()), padded.data());
+    EXPECT_EQ(xcb_request_check(desktop.connection(), cookie), nullptr);
+}
+
+TEST(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
+    kinesta::testing::TestDesktop desktop;
+    set(desktop, "Device Node", "/dev/input/event5");
+    TouchpadSwitch pads({.display = desktop.display(), .dconfDirectory = ""});
+    const std::string pad = "/dev/input/event5";
+    EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
+    struct Case {
+        const char* property;
+        std::string bytes;
+        SendEventsMode mode;
+    };
+    const std::string off("\1\0", 2);
+    const std::string on("\0\0", 2);
+    const std::string offWithMouse("\0\1", 2);
+    const std::vector<Case> cases{
+        {"libinput Send Events Mode Enabled", off, SendEventsMode::disabled},
+        {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
+        {"libinput Send Events Mode Enabled", offWithMouse, SendEventsMode::disabledWithExternalMouse},
+        {"Synaptics Off", "\1", SendEventsMode::disabled},
+        {"Synaptics Off", "\2", SendEventsMode::disabledWithExternalMouse},  // that is tapping alone
+        {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
+    };
+    for (const Case& one : cases) {
+        set(desktop, one.property, one.bytes);
+        EXPECT_TRUE(isTold(pads));
+        EXPECT_EQ(pads.mode(pad), one.mode) << one.property;
+        EXPECT_EQ(pads.mode("/dev/input/event"), SendEventsMode::enabled);
+    }
+    set(desktop, "libinput Send Events Mode Enabled", off);
+    set(desktop, "Device Node", std::string("/dev/input/event5\0", 18));
+    EXPECT_TRUE(isTold(pads));
+    EXPECT_EQ(pads.mode(pad), SendEventsMode::disabled);
+    desktop.stopServer();
+    EXPECT_TRUE(isTold(pads));
+    EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
+    EXPECT_FALSE(isTold(pads, 100));  // nor does the broken connection keep anyone awake
+}
+
+}  // namespace
+}  // namespace kinesta
