@@ -40,6 +40,7 @@ ActionPerformer::ActionPerformer(const Console& console, const UserDefaults& def
         const std::lock_guard guard(m_lock);
         m_problems += (m_problems.empty() ? "" : "\n") + problem;
     });
+    takeProblems();  // Whether keys can be posted is asked when an action needs them.
 }
 
 ActionPerformer::~ActionPerformer() { finish(); }
