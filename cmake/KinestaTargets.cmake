@@ -18,9 +18,9 @@ target_compile_options(kinesta_options INTERFACE
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(kinesta_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(KINESTA_SANITIZE)
-    # What the sanitizers insert makes gcc doubt initializations that it otherwise understands.
+    # What the sanitizers insert makes gcc doubt initializations and sizes that it otherwise understands.
     target_compile_options(kinesta_options INTERFACE -Wno-uninitialized
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+        "$<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized;-Wno-array-bounds>")
     target_compile_options(kinesta_options INTERFACE
         -fsanitize=${KINESTA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(kinesta_options INTERFACE -fsanitize=${KINESTA_SANITIZE})
