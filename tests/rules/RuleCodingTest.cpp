@@ -22,12 +22,6 @@ const std::string kRule = R"({
  "applicationArguments": ["-a", "b"]},
 "name": "Close tab"})";
 
-std::string replaced(std::string text, std::string_view from, std::string_view to) {
-    const std::size_t place = text.find(from);
-    EXPECT_NE(place, std::string::npos) << from;
-    return text.replace(place, from.size(), to);
-}
-
 std::string listOf(std::string_view rule) { return "[\n" + std::string(rule) + "\n]"; }
 
 std::string messageOf(std::string_view json) {
