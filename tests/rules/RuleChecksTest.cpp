@@ -88,34 +88,27 @@ TEST(SystemGestureWarningChecker, WarnsOfTheGesturesThatMacOSUses) {
 }
 
 TEST(SystemGestureWarningChecker, NamesTheLinuxDesktopThatAlsoActs) {
-    struct Row {
-        GestureRule rule;
-        std::string onGnome, onKde;
+    const std::vector<std::tuple<GestureRule, std::string, std::string>> rows{
+        {makeDrawing(AnchorCorner::topLeft, std::nullopt), "scroll or zoom", ""},
+        {makeRule(doubleTap, 2), "click the right button", ""},
+        {makeRule(tripleForceClick, 2), "click the right button", ""},
+        {makeRule(singleTap, 3), "click the middle button", ""},
+        {makeRule(singleClick, 3), "click the middle button", ""},
+        {makeSlide(2, std::nullopt), "scroll onscreen content", ""},
+        {makeSlide(3, std::nullopt), "open the Activities overview", "change the virtual desktop"},
+        {makeSlide(4, std::nullopt), "change the workspace", "open the overview"},
     };
-    const std::string zoom = "May also scroll or zoom", scroll = "May also scroll onscreen content";
-    const std::string right = "May also click the right button", middle = "May also click the middle button";
-    const std::vector<Row> rows{
-        {makeDrawing(AnchorCorner::topLeft, std::nullopt), zoom, zoom},
-        {makeRule(doubleTap, 2), right, right},
-        {makeRule(tripleForceClick, 2), right, right},
-        {makeRule(singleTap, 3), middle, middle},
-        {makeRule(singleClick, 3), middle, middle},
-        {makeRule(singleTap, 4), "", ""},
-        {makeRule(singleClick, 4), "", ""},
-        {makeRule(singleTap), "", ""},
-        {makeRule(tipTapLeft, 2), "", ""},
-        {makeSlide(2, std::nullopt), scroll, scroll},
-        {makeSlide(3, std::nullopt), "May also open the Activities overview", "May also change the virtual desktop"},
-        {makeSlide(4, std::nullopt), "May also change the workspace", "May also open the overview"},
-        {makeSlide(5, std::nullopt), "", ""},
-    };
-    for (const Row& row : rows)
-        for (const auto& [system, expected, name] :
-             {std::tuple{GestureSystem::gnome, row.onGnome, "GNOME"}, {GestureSystem::kde, row.onKde, "Plasma"}}) {
-            const auto warning = SystemGestureWarningChecker::warning(row.rule, system);
-            EXPECT_EQ(warning ? warning->title : "", expected) << encodeRules(std::vector{row.rule});
-            EXPECT_TRUE(!warning || warning->detail.find(name) != std::string::npos) << warning->detail;
+    for (const auto& [rule, onGnome, onKde] : rows)
+        for (const auto& [system, name, expected] : {std::tuple{GestureSystem::gnome, "GNOME", onGnome},
+                                                     {GestureSystem::kde, "Plasma", onKde.empty() ? onGnome : onKde}}) {
+            const auto warning = SystemGestureWarningChecker::warning(rule, system);
+            EXPECT_EQ(warning.value().title, "May also " + expected);
+            EXPECT_NE(warning->detail.find(name), std::string::npos) << warning->detail;
         }
+    for (const GestureRule& rule : {makeRule(singleTap, 4), makeRule(singleClick, 4), makeRule(singleTap),
+                                    makeRule(tipTapLeft, 2), makeSlide(5, std::nullopt)})
+        for (const GestureSystem system : {GestureSystem::gnome, GestureSystem::kde})
+            EXPECT_FALSE(SystemGestureWarningChecker::warning(rule, system)) << encodeRules(std::vector{rule});
 }
 
 TEST(ExampleRules, DecodeAndAreReady) {

@@ -2,7 +2,6 @@
 
 #include <set>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "rules/CommonMacShortcut.h"
@@ -30,27 +29,25 @@ TEST(ShortcutKey, NamesEachKeyOnce) {
 }
 
 TEST(ShortcutKey, LabelsModifiersInOneOrder) {
-    const std::vector<std::tuple<std::uint16_t, ShortcutModifiers, std::string>> cases{
-        {47, kCommand, "⌘Key 47"},
-        {0, kAll, "fn ⌃⌥⇧⌘A"},
-        {0, ShortcutModifiers{32}, "A"},
-        {0, ShortcutModifiers{-1}, "fn ⌃⌥⇧⌘A"},
-    };
-    for (const auto& [code, modifiers, expected] : cases)
-        EXPECT_EQ(ShortcutKey::label(code, modifiers), expected);
+    EXPECT_EQ(ShortcutKey::label(47, kCommand), "⌘Key 47");
+    EXPECT_EQ(ShortcutKey::label(0, kAll), "fn ⌃⌥⇧⌘A");
+    EXPECT_EQ(ShortcutKey::label(0, ShortcutModifiers{32}), "A");
+    EXPECT_EQ(ShortcutKey::label(0, ShortcutModifiers{-1}), "fn ⌃⌥⇧⌘A");
 }
 
 TEST(ShortcutKey, DerivesFlagsAndTheFunctionKey) {
-    const std::vector<std::tuple<std::uint16_t, ShortcutModifiers, std::uint64_t, bool>> rows{
-        {6, kCommand | kShift, 0x120000, false},     {6, kAll, 0x9E0000, false},
-        {123, kControl | kFunction, 0xA40000, true}, {14, kFunction, 0x800000, false},
-        {122, kFunction, 0x800000, false},           {126, kFunction, 0xA00000, true},
-        {127, kFunction, 0x800000, false},           {6, ShortcutModifiers{32}, 0, false},
+    const auto facts = [](std::uint16_t code, ShortcutModifiers modifiers) {
+        return std::pair(ShortcutKey::eventFlags(code, modifiers),
+                         ShortcutKey::requiresFunctionKeyTransition(code, modifiers));
     };
-    for (const auto& [code, modifiers, flags, pressesFunction] : rows) {
-        EXPECT_EQ(ShortcutKey::eventFlags(code, modifiers), flags) << code;
-        EXPECT_EQ(ShortcutKey::requiresFunctionKeyTransition(code, modifiers), pressesFunction) << code;
-    }
+    EXPECT_EQ(facts(6, kCommand | kShift), std::pair(0x120000UL, false));
+    EXPECT_EQ(facts(6, kAll), std::pair(0x9E0000UL, false));
+    EXPECT_EQ(facts(6, ShortcutModifiers{32}), std::pair(0UL, false));
+    EXPECT_EQ(facts(14, kFunction), std::pair(0x800000UL, false));
+    for (const std::uint16_t code : {std::uint16_t{122}, std::uint16_t{127}})
+        EXPECT_EQ(facts(code, kFunction), std::pair(0x800000UL, false)) << code;
+    EXPECT_EQ(facts(123, kControl | kFunction), std::pair(0xA40000UL, true));
+    EXPECT_EQ(facts(126, kFunction), std::pair(0xA00000UL, true));
 }
 
 TEST(CommonMacShortcut, HasOneTitlePerStrokeAndCategoriesInOrder) {
