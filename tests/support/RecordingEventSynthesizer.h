@@ -8,6 +8,7 @@
 #include "actions/EventSynthesizer.h"
 #include "support/CallLog.h"
 #include "support/ManualClock.h"
+#include "support/Text.h"
 
 namespace kinesta::testing {
 
@@ -33,26 +34,20 @@ class RecordingEventSynthesizer final : public EventSynthesizer {
     }
     std::unique_ptr<SynthesizedEvent> makeCenterButtonEvent(EventSource* source, KeyTransition transition,
                                                             DesktopLocation location) override {
-        std::ostringstream text;
-        text << "center" << name(transition) << " at " << location.x << ' ' << location.y;
-        return event(text.str(), source);
+        return event("center" + name(transition) + " at " + numberText(location.x) + " " + numberText(location.y),
+                     source);
     }
     std::unique_ptr<SynthesizedEvent> makeSystemDefinedEvent(const SystemDefinedEvent& made) override {
-        std::ostringstream text;
-        text << "system " << made.subtype << ' ' << std::hex << made.data1 << ' ' << std::dec << made.data2
-             << (made.timestamp == m_clock.uptime() ? "" : " stale");
+        const std::string what = "system " + std::to_string(made.subtype) + " " + hex(made.data1) + " " +
+                                 std::to_string(made.data2) + (made.timestamp == m_clock.uptime() ? "" : " stale");
         m_clock.advance(0.0625);
-        return event(text.str(), true);
+        return event(what, true);
     }
 
   private:
     struct Event final : SynthesizedEvent {
         Event(CallLog& calls, std::string text) : log(calls), what(std::move(text)) {}
-        void setFlags(std::uint64_t value) override {
-            std::ostringstream text;
-            text << std::hex << value << ' ';
-            flags = text.str();
-        }
+        void setFlags(std::uint64_t value) override { flags = hex(value) + ' '; }
         void setClickState(std::int64_t clickCount) override { flags = "click " + std::to_string(clickCount) + ' '; }
         void post() override { log.add("post " + flags + what); }
         CallLog& log;
@@ -60,6 +55,12 @@ class RecordingEventSynthesizer final : public EventSynthesizer {
         std::string flags = "- ";
     };
 
+    template <typename T>
+    static std::string hex(T value) {
+        std::ostringstream text;
+        text << std::hex << value;
+        return text.str();
+    }
     static std::string name(KeyTransition transition) { return transition == KeyTransition::down ? " down" : " up"; }
     bool isMade(const std::string& what, bool hasSource) {
         m_log.add("+ " + what + (hasSource ? "" : " without source"));
