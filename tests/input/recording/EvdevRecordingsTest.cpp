@@ -39,28 +39,31 @@ TEST(EvemuRecording, RefusesMalformedLines) {
     const std::string hint =
         ": the recording does not contain the axis ranges of its device: give the file that describes the device with "
         "--device FILE.desc";
-    for (const auto& [error, inputs] :
-         Refusals{{"1" + hint, {kTouch}},
-                  {"4" + hint, {"# EVEMU 1.2\nN: old\n\nE: 0 0 0 0\n"}},
-                  {"3" + hint, {"# EVEMU 1.2\nA: 35 0 9\nA: 00 0 9\n"}},
-                  {"2: this is not a line of an evemu recording", {"N: mouse\nQ: 1\n"}},
-                  {"1: " + badAxis, {"A: 35 0\n", "A: 35 0 2147483648\n", "A: 10000 0 1\n", "A: 35 0x0 9\n"}},
-                  {"8: " + badEvent, {kSlots + "E: 1 3\n"}},
-                  {"8: the time inf is not within 9.2e9 seconds", {kSlots + "E: inf 0 0 0\n"}}})
+    const std::vector<std::pair<std::string, Texts>> refusals{
+        {"1" + hint, {kTouch}},
+        {"4" + hint, {"# EVEMU 1.2\nN: old\n\nE: 0 0 0 0\n"}},
+        {"3" + hint, {"# EVEMU 1.2\nA: 35 0 9\nA: 00 0 9\n"}},
+        {"2: this is not a line of an evemu recording", {"N: mouse\nQ: 1\n"}},
+        {"1: " + badAxis, {"A: 35 0\n", "A: 35 0 2147483648\n", "A: 10000 0 1\n", "A: 35 0x0 9\n"}},
+        {"8: " + badEvent, {kSlots + "E: 1 3\n"}},
+        {"8: the time inf is not within 9.2e9 seconds", {kSlots + "E: inf 0 0 0\n"}}};
+    for (const auto& [error, inputs] : refusals)
         for (const std::string& input : inputs)
             EXPECT_EQ(read(input).error, "x:" + error) << input;
-    for (const auto& [error, inputs] :
-         Refusals{{badEvent, {"E: nil 0 0 0", "E: 1 10000 0 0", "E: 1 0 0 2147483648", "E: 1 0 0 0 0", "A: 35 0 1"}},
-                  {"the time nan is not within 9.2e9 seconds", {"E: nan 0 0 0"}},
-                  {"the time 9200000001 is not within 9.2e9 seconds", {"E: 9200000001 0 0 0"}},
-                  {"the time 0.25 is before 0.5, that of the event before", {"E: 0.25 0 0 0"}}})
-        for (const std::string& input : inputs) {
+    for (const auto& row : tableRows(R"(
+this is not an event of the form "E: time type code value" => E: nil 0 0 0 | E: 1 10000 0 0 | E: 1 0 0 2147483648
+this is not an event of the form "E: time type code value" => E: 1 0 0 0 0 | A: 35 0 1
+the time nan is not within 9.2e9 seconds => E: nan 0 0 0
+the time 9200000001 is not within 9.2e9 seconds => E: 9200000001 0 0 0
+the time 0.25 is before 0.5, that of the event before => E: 0.25 0 0 0
+)"))
+        for (const std::string& input : split(row[1], " | ")) {
             const Reading reading = read(kSlots + kTouch + input + "\n");
-            EXPECT_EQ(reading.error, "x:14: " + error) << input;
+            EXPECT_EQ(reading.error, "x:14: " + row[0]) << input;
             EXPECT_EQ(reading.events.size(), 1U) << input;
         }
-    for (const auto& [error, description] : std::vector<std::pair<std::string, std::string>>{
-             {"0" + noRanges, ""}, {"2" + noRanges, "N: mouse\nB: 02\n"}, {"2: " + badAxis, "N: pad\nA: x\n"}})
+    for (const auto& [description, error] :
+         {std::pair("", "0" + noRanges), {"N: mouse\nB: 02\n", "2" + noRanges}, {"N: pad\nA: x\n", "2: " + badAxis}})
         EXPECT_EQ(readWithDevice(kTouch, description).error, "the device description:" + error) << description;
 }
 
