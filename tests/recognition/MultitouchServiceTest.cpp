@@ -23,18 +23,18 @@ std::string settingsOf(const MultitouchService& service) {
 }
 
 TEST(MultitouchService, ReadsItsSettingsAndRepairsMalformedOnes) {
-    const auto expectSettings = [](StoredValues values, const std::string& settings) {
+    const std::string text = "text";
+    for (const auto& [values, settings] : std::vector<std::pair<StoredValues, std::string>>{
+             {{}, "on 250 ms no palm 0.5"},
+             {{{"gesturesEnabled", text}, {"tapWaitingInterval.v1", std::int64_t{275}}}, "off 250 ms no palm 0.5"},
+             {{{"gesturesEnabled", true}, {"tapWaitingInterval.v1", text}}, "on 250 ms no palm 0.5"},
+             {{{"cornerPalmRejectionEnabled.v1", std::int64_t{1}}}, "on 250 ms no palm 0.5"},
+             {{{"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}, "on 250 ms no palm 1"}}) {
         GestureRig rig;
-        rig.defaults.replaceValues(std::move(values));
+        rig.defaults.replaceValues(values);
         EXPECT_EQ(settingsOf(rig.launch()), settings);
         EXPECT_EQ(rig.defaults.writes, 0);
-    };
-    const std::string text = "text";
-    expectSettings({}, "on 250 ms no palm 0.5");
-    expectSettings({{"gesturesEnabled", text}, {"tapWaitingInterval.v1", std::int64_t{275}}}, "off 250 ms no palm 0.5");
-    expectSettings({{"gesturesEnabled", true}, {"tapWaitingInterval.v1", text}}, "on 250 ms no palm 0.5");
-    expectSettings({{"cornerPalmRejectionEnabled.v1", std::int64_t{1}}}, "on 250 ms no palm 0.5");
-    expectSettings({{"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}, "on 250 ms no palm 1");
+    }
 }
 
 TEST(TapWaitingInterval, HasFiveValues) {

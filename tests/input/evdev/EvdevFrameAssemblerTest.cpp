@@ -8,7 +8,6 @@
 
 #include "../recording/RecordingText.h"
 #include "input/evdev/PressureStageTracker.h"
-#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "input/recording/RecordingReading.h"
+#include "support/TableRows.h"
 #include "support/TemporaryFolder.h"
 #include "support/Text.h"
 
@@ -72,6 +73,14 @@ inline Reading read(std::istream& stream, std::istream* device = nullptr) {
 inline Reading read(const std::string& text) {
     std::istringstream stream(text);
     return read(stream);
+}
+
+/// Checks rows "error => input | input": each input, between two texts, gives the error at the place.
+inline void expectErrors(const std::string& before, const std::string& after, const std::string& place,
+                         const std::string& table) {
+    for (const auto& row : tableRows(table))
+        for (const std::string& input : split(row[1], " | "))
+            EXPECT_EQ(read(before + input + after).error, "x:" + place + row[0]) << input;
 }
 
 inline std::string exampleText(const std::string& name) {
