@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <limits>
 
 namespace kinesta::testing {
@@ -17,23 +16,26 @@ TouchSamples fingers(int count) {
     return samples;
 }
 
-FrameRecognition tap(TouchFrameProcessor& processor, Seconds lift) {
+/// Two fingers, of which so many stay.
+FrameRecognition tap(TouchFrameProcessor& processor, Seconds lift, int resting = 0) {
     processor.process(fingers(2), lift - 0.1, lift - 0.1);
-    return processor.process({}, lift, lift);
+    return processor.process(fingers(resting), lift, lift);
+}
+
+TouchFrameProcessor::CompletedClick click(TouchFrameProcessor& processor, Uptime release) {
+    processor.process(fingers(2), release - 0.1, release - 0.1);
+    processor.beginPhysicalClick(release - 0.1);
+    return processor.completePhysicalClick(release).value();
 }
 
 TEST(TouchFrameProcessor, CountsToThreeAndFinalizesOnlyTheExpectedSequence) {
     TouchFrameProcessor taps, tipTaps, clicks;
     tipTaps.process(fingers(1), 0.5, 0.5);
     std::string counts;
-    for (const Seconds time : {1.0, 1.2, 1.4, 1.6}) {
-        tipTaps.process(fingers(2), time - 0.1, time - 0.1);
-        clicks.process(fingers(2), time - 0.1, time - 0.1);
-        clicks.beginPhysicalClick(time - 0.1);
+    for (const Seconds time : {1.0, 1.2, 1.4, 1.6})
         counts += std::to_string(tap(taps, time).tapSequence->taps) +
-                  std::to_string(tipTaps.process(fingers(1), time, time).tipTapSequence->taps) +
-                  std::to_string(clicks.completePhysicalClick(time)->sequence.clicks) + " ";
-    }
+                  std::to_string(tap(tipTaps, time, 1).tipTapSequence->taps) +
+                  std::to_string(click(clicks, time).sequence.clicks) + " ";
     EXPECT_EQ(counts, "111 222 333 333 ");
 
     constexpr auto right = TipTapDirection::right;
@@ -53,18 +55,23 @@ TEST(TouchFrameProcessor, CountsToThreeAndFinalizesOnlyTheExpectedSequence) {
 }
 
 TEST(TouchFrameProcessor, IgnoresAnOlderGeneration) {
-    const auto change = [](TouchFrameProcessor& processor) { processor.setCornerPalmRejection({.isEnabled = true}); };
-    const auto reset = [](TouchFrameProcessor& processor) { processor.reset(); };
-    for (const std::function<void(TouchFrameProcessor&)>& renew : {std::function(change), std::function(reset)}) {
+    for (const bool isReset : {false, true}) {
         TouchFrameProcessor processor;
-        const FrameRecognition before = tap(processor, 1);
-        renew(processor);
-        EXPECT_FALSE(processor.isCurrent(before.generation));
-        const FrameRecognition now = tap(processor, 1.1);
-        EXPECT_EQ(now.tapSequence, kOneTap) << "the tap before does not count";
-        EXPECT_TRUE(processor.isCurrent(now.generation));
-        EXPECT_EQ(processor.finalize(*now.tapSequence, before.generation), std::nullopt) << "an equal sequence";
-        EXPECT_EQ(processor.finalize(*now.tapSequence, now.generation), kOneTap);
+        const auto old = tap(processor, 1).generation;
+        isReset ? processor.reset() : processor.setCornerPalmRejection({.isEnabled = true});
+        EXPECT_FALSE(processor.isCurrent(old));
+        const auto [now, draw, slide, none, taps] = tap(processor, 1.1);
+        EXPECT_EQ(taps, kOneTap) << "the tap before does not count";
+        EXPECT_TRUE(processor.isCurrent(now));
+        EXPECT_EQ(processor.finalize(*taps, old), std::nullopt) << "an equal sequence";
+        EXPECT_EQ(processor.finalize(*taps, now), taps);
+        processor.process(fingers(1), 2, 2);
+        const auto tipTaps = tap(processor, 2.5, 1).tipTapSequence;
+        EXPECT_EQ(processor.finalizeTipTap(tipTaps.value(), old), std::nullopt);
+        EXPECT_EQ(processor.finalizeTipTap(*tipTaps, now), tipTaps);
+        const auto clicks = click(processor, 3).sequence;
+        EXPECT_EQ(processor.finalizePhysicalClick(clicks, old), std::nullopt);
+        EXPECT_EQ(processor.finalizePhysicalClick(clicks, now), clicks);
     }
 }
 

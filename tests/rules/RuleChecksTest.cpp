@@ -6,6 +6,7 @@
 #include "RuleMaking.h"
 #include "rules/GestureConflictChecker.h"
 #include "rules/GestureRuleCoding.h"
+#include "rules/RuleSelection.h"
 #include "rules/SystemGestureWarningChecker.h"
 #include "support/TemporaryFolder.h"
 
@@ -88,34 +89,87 @@ TEST(SystemGestureWarningChecker, WarnsOfTheGesturesThatMacOSUses) {
 }
 
 TEST(SystemGestureWarningChecker, NamesTheLinuxDesktopThatAlsoActs) {
-    struct Row {
-        GestureRule rule;
-        std::string onGnome, onKde;
+    const std::vector<std::tuple<GestureRule, std::string, std::string>> rows{
+        {makeDrawing(AnchorCorner::topLeft, std::nullopt), "scroll or zoom", ""},
+        {makeRule(doubleTap, 2), "click the right button", ""},
+        {makeRule(tripleForceClick, 2), "click the right button", ""},
+        {makeRule(singleTap, 3), "click the middle button", ""},
+        {makeRule(singleClick, 3), "click the middle button", ""},
+        {makeSlide(2, std::nullopt), "scroll onscreen content", ""},
+        {makeSlide(3, std::nullopt), "open the Activities overview", "change the virtual desktop"},
+        {makeSlide(4, std::nullopt), "change the workspace", "open the overview"},
     };
-    const std::string zoom = "May also scroll or zoom", scroll = "May also scroll onscreen content";
-    const std::string right = "May also click the right button", middle = "May also click the middle button";
-    const std::vector<Row> rows{
-        {makeDrawing(AnchorCorner::topLeft, std::nullopt), zoom, zoom},
-        {makeRule(doubleTap, 2), right, right},
-        {makeRule(tripleForceClick, 2), right, right},
-        {makeRule(singleTap, 3), middle, middle},
-        {makeRule(singleClick, 3), middle, middle},
-        {makeRule(singleTap, 4), "", ""},
-        {makeRule(singleClick, 4), "", ""},
-        {makeRule(singleTap), "", ""},
-        {makeRule(tipTapLeft, 2), "", ""},
-        {makeSlide(2, std::nullopt), scroll, scroll},
-        {makeSlide(3, std::nullopt), "May also open the Activities overview", "May also change the virtual desktop"},
-        {makeSlide(4, std::nullopt), "May also change the workspace", "May also open the overview"},
-        {makeSlide(5, std::nullopt), "", ""},
-    };
-    for (const Row& row : rows)
-        for (const auto& [system, expected, name] :
-             {std::tuple{GestureSystem::gnome, row.onGnome, "GNOME"}, {GestureSystem::kde, row.onKde, "Plasma"}}) {
-            const auto warning = SystemGestureWarningChecker::warning(row.rule, system);
-            EXPECT_EQ(warning ? warning->title : "", expected) << encodeRules(std::vector{row.rule});
-            EXPECT_TRUE(!warning || warning->detail.find(name) != std::string::npos) << warning->detail;
+    for (const auto& [rule, onGnome, onKde] : rows)
+        for (const auto& [system, name, expected] : {std::tuple{GestureSystem::gnome, "GNOME", onGnome},
+                                                     {GestureSystem::kde, "Plasma", onKde.empty() ? onGnome : onKde}}) {
+            const auto warning = SystemGestureWarningChecker::warning(rule, system);
+            EXPECT_EQ(warning.value().title, "May also " + expected);
+            EXPECT_NE(warning->detail.find(name), std::string::npos) << warning->detail;
         }
+    for (const GestureRule& rule : {makeRule(singleTap, 4), makeRule(singleClick, 4), makeRule(singleTap),
+                                    makeRule(tipTapLeft, 2), makeSlide(5, std::nullopt)})
+        for (const GestureSystem system : {GestureSystem::gnome, GestureSystem::kde})
+            EXPECT_FALSE(SystemGestureWarningChecker::warning(rule, system)) << encodeRules(std::vector{rule});
+}
+
+// The index of the selected rule, or -1.
+std::ptrdiff_t selected(const std::vector<GestureRule>& rules, const DetectedGesture& detected,
+                        ShellCommands shellCommands = ShellCommands::forbidden) {
+    const GestureRule* rule = selectRule(rules, detected, shellCommands);
+    return rule ? rule - rules.data() : -1;
+}
+
+TEST(RuleSelection, TakesTheFirstRuleThatQualifies) {
+    auto rules = std::vector{makeRule(singleTap, 3), makeRule(singleTap, 3), makeRule(doubleTap, 3)};
+    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}), 0);
+    rules[0].isEnabled = false;
+    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}), 1);
+    rules[1].action = {};
+    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}), -1);
+    EXPECT_EQ(selected(rules, DetectedTap{3, doubleTap}), 2);
+    EXPECT_EQ(selected({}, DetectedTap{3, singleTap}), -1);
+}
+
+TEST(RuleSelection, TakesARuleForItsOwnGestureOnly) {
+    using enum EdgeSlideSide;
+    const auto none = std::nullopt;
+    const DetectedEdgeSlide toTheLeft{3, left, -2}, toTheRight{3, right, 1};
+    const auto corner = AnchorCorner::topLeft;
+    const auto line = DrawPattern::lineUp;
+    const DetectedAnchorDraw drawn{corner, line};
+    GestureRule tapWithDrawing = makeDrawing(corner, line);
+    tapWithDrawing.gesture = tipTapLeft;
+    const std::vector<std::tuple<GestureRule, DetectedGesture, bool>> rows{
+        {makeRule(singleTap, 3), DetectedTap{2, singleTap}, false},
+        {makeRule(singleTap), DetectedTap{3, singleTap}, false},
+        {makeRule(singleClick, 2), DetectedTap{2, singleForceClick}, true},
+        {makeRule(singleClick, 2), DetectedTap{3, singleForceClick}, false},
+        {makeRule(tipTapLeft), DetectedTap{2, tipTapLeft}, true},
+        {makeRule(tipTapLeft, 5), DetectedTap{2, tipTapLeft}, true},
+        {makeRule(tipTapLeft), DetectedTap{2, tipTapRight}, false},
+        {makeSlide(3, none), toTheLeft, true},
+        {makeSlide(3, none), toTheRight, true},
+        {makeSlide(3, both), toTheLeft, true},
+        {makeSlide(3, right), toTheLeft, false},
+        {makeSlide(2, both), toTheLeft, false},
+        {makeSlide(none, both), toTheLeft, false},
+        {makeRule(edgeSlide, 3, ActionKind::middleClick), toTheLeft, false},
+        {makeDrawing(corner, line), drawn, true},
+        {makeDrawing(AnchorCorner::topRight, line), drawn, false},
+        {makeDrawing(corner, DrawPattern::lineDown), drawn, false},
+        {makeDrawing(corner, none), drawn, false},
+        {tapWithDrawing, drawn, false},
+    };
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        EXPECT_EQ(selected({std::get<0>(rows[i])}, std::get<1>(rows[i])) == 0, std::get<2>(rows[i])) << "row " << i;
+}
+
+TEST(RuleSelection, SkipsForbiddenShellCommands) {
+    auto rules = std::vector{makeShellCommand(true), makeRule(singleTap, 3)};
+    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}, ShellCommands::forbidden), 1);
+    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}, ShellCommands::allowed), 0);
+    rules[0].action.shellCommandAcknowledged.reset();
+    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}, ShellCommands::allowed), 1);
 }
 
 TEST(ExampleRules, DecodeAndAreReady) {

@@ -22,12 +22,6 @@ const std::string kRule = R"({
  "applicationArguments": ["-a", "b"]},
 "name": "Close tab"})";
 
-std::string replaced(std::string text, std::string_view from, std::string_view to) {
-    const std::size_t place = text.find(from);
-    EXPECT_NE(place, std::string::npos) << from;
-    return text.replace(place, from.size(), to);
-}
-
 std::string listOf(std::string_view rule) { return "[\n" + std::string(rule) + "\n]"; }
 
 std::string messageOf(std::string_view json) {
@@ -36,22 +30,23 @@ std::string messageOf(std::string_view json) {
 }
 
 TEST(RuleCoding, WritesTheKeysInOrderWithoutAbsentOnes) {
-    GestureRule rule = makeRule(GestureKind::tipTapLeft);
-    rule.id = *Uuid::parse(kId);
+    const auto encoded = [](GestureRule rule, std::string name) {
+        rule.id = *Uuid::parse(kId);
+        rule.name = std::move(name);
+        return encodeRules({&rule, 1});
+    };
     EXPECT_EQ(encodeRules({}), "[]");
     EXPECT_EQ(encodeRules({}, RuleListLayout::indented), "[]\n");
-    EXPECT_EQ(encodeRules({&rule, 1}), R"([{"id":")" + kId + R"(","name":"","isEnabled":true,"gesture":"tipTapLeft",)" +
-                                           R"("action":{"kind":"middleClick","modifiers":0,"value":""}}])");
-    rule = makeFullRule();
-    rule.id = *Uuid::parse(kId);
-    rule.name = "a\"\n/ü";
-    EXPECT_EQ(encodeRules({&rule, 1}),
-              R"([{"id":")" + kId +
-                  R"(","name":"a\"\n/ü","isEnabled":false,"fingerCount":-9223372036854775808,"gesture":"anchorDraw",)" +
-                  R"("edgeSlideSide":"both","anchorCorner":"bottomRight","drawPattern":"circleCounterclockwise",)" +
-                  R"("action":{"kind":"shellCommand","keyCode":65535,"modifiers":9223372036854775807,"value":"ls",)" +
-                  R"("applicationArguments":["","-a"],"customCueLabel":"","shellCommandAcknowledged":false},)" +
-                  R"("showsActionCue":false}])");
+    EXPECT_EQ(encoded(makeRule(GestureKind::tipTapLeft), ""),
+              R"([{"id":"11111111-2222-4333-8444-AAAAAAAAAAAA","name":"","isEnabled":true,"gesture":"tipTapLeft",)"
+              R"("action":{"kind":"middleClick","modifiers":0,"value":""}}])");
+    EXPECT_EQ(encoded(makeFullRule(), "a\"\n/ü"),
+              R"([{"id":"11111111-2222-4333-8444-AAAAAAAAAAAA","name":"a\"\n/ü","isEnabled":false,)"
+              R"("fingerCount":-9223372036854775808,"gesture":"anchorDraw","edgeSlideSide":"both",)"
+              R"("anchorCorner":"bottomRight","drawPattern":"circleCounterclockwise",)"
+              R"("action":{"kind":"shellCommand","keyCode":65535,"modifiers":9223372036854775807,"value":"ls",)"
+              R"("applicationArguments":["","-a"],"customCueLabel":"","shellCommandAcknowledged":false},)"
+              R"("showsActionCue":false}])");
 }
 
 TEST(RuleCoding, ReadsBackWhatItWrote) {
@@ -190,8 +185,7 @@ TEST(RuleCoding, ReplacesBytesThatAreNotUtf8) {
     for (const RuleListLayout layout : {RuleListLayout::compact, RuleListLayout::indented}) {
         const auto decoded = decodeRules(encodeRules(std::span(&rule, 1), layout));
         ASSERT_TRUE(decoded) << decoded.error().message;
-        EXPECT_EQ(decoded->front().name, "a\uFFFDz");
-        EXPECT_EQ(decoded->front().action.applicationArguments, (std::vector<std::string>{"\uFFFD"}));
+        EXPECT_EQ(decoded->front().name + decoded->front().action.applicationArguments->at(0), "a\uFFFDz\uFFFD");
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -44,6 +46,12 @@ inline GestureRule makeShellCommand(std::optional<bool> acknowledged) {
 inline GestureRule disabled(GestureRule rule) {
     rule.isEnabled = false;
     return rule;
+}
+
+inline std::string replaced(std::string text, std::string_view from, std::string_view to) {
+    const std::size_t place = text.find(from);
+    EXPECT_NE(place, std::string::npos) << from;
+    return text.replace(place, from.size(), to);
 }
 
 /// A rule with every field set, with texts that JSON escapes and integers at their limits.

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 #include <string>
 #include <tuple>
@@ -15,39 +14,58 @@ namespace kinesta {
 namespace {
 
 using Result = RuleEnablementResult;
+using Rules = std::vector<GestureRule>;
 
 constexpr std::string_view kKey = "gestureRules.v1";
 
+/// A rule that is ready for a small letter, and lacks its finger count for a capital one.
+GestureRule ruleOf(char name) {
+    GestureRule rule = makeRule(name >= 'a' ? GestureKind::tipTapLeft : GestureKind::singleTap);
+    rule.name = name;
+    return rule;
+}
+
+GestureRule shellRule(char name, std::optional<bool> acknowledged) {
+    GestureRule rule = makeShellCommand(acknowledged);
+    rule.name = name;
+    return rule;
+}
+
+/// The rules of a text like "ab-C": a "-" disables the one before.
+Rules rulesOf(std::string_view text) {
+    Rules rules;
+    for (const char name : text)
+        name == '-' ? void(rules.back().isEnabled = false) : rules.push_back(ruleOf(name));
+    return rules;
+}
+
 /// A store with a stored list, and the number of its notifications.
 struct Fixture {
-    explicit Fixture(const std::vector<GestureRule>& rules) : Fixture(std::optional(encodeRules(rules))) {}
+    explicit Fixture(const Rules& rules) : Fixture(std::optional(encodeRules(rules))) {}
     explicit Fixture(std::optional<std::string> bytes) {
         if (bytes)
             defaults.setData(kKey, *bytes);
-        defaults.writes = 0;
         start();
     }
 
     void start() {
+        defaults.writes = 0;
         store.emplace(defaults);
         subscription = store->rules().observe([this](const auto&) { ++published; });
     }
 
-    const std::vector<GestureRule>& rules() const { return store->rules().value(); }
+    const Rules& rules() const { return store->rules().value(); }
+    const Uuid& id(std::size_t index) const { return rules().at(index).id; }
 
-    /// "published/written" since the last call. Checks that the stored list equals the one in memory.
+    /// The rules as in rulesOf(), and "published/written" since the last call. Checks that the stored list equals
+    /// the one in memory.
     std::string changes() {
         EXPECT_TRUE(defaults.writes == 0 || defaults.data(kKey) == encodeRules(rules()));
-        std::string text = std::to_string(std::exchange(published, 0)) + "/";
-        return text + std::to_string(std::exchange(defaults.writes, 0));
-    }
-
-    /// One digit per rule: 1 if it is enabled.
-    std::string states() const {
         std::string text;
         for (const GestureRule& rule : rules())
-            text += rule.isEnabled ? '1' : '0';
-        return text;
+            text += rule.name + (rule.isEnabled ? "" : "-");
+        text += " " + std::to_string(std::exchange(published, 0)) + "/";
+        return text + std::to_string(std::exchange(defaults.writes, 0));
     }
 
     FakeUserDefaults defaults;
@@ -57,30 +75,27 @@ struct Fixture {
 };
 
 TEST(RuleStore, StartsWithTheDefaultRuleAndLeavesTheStoredBytes) {
-    const std::string spoilt =
-        R"([{"id":"11111111-2222-4333-8444-AAAAAAAAAAAA","name":"","isEnabled":true,)"
-        R"("gesture":"singleTipTapLeft","action":{"kind":"middleClick","modifiers":0,"value":""}}])";
+    const std::string spoilt = replaced(encodeRules(rulesOf("a")), "tipTapLeft", "singleTipTapLeft");
     for (const std::optional<std::string>& bytes :
          {std::optional<std::string>(), std::optional<std::string>(""), std::optional(spoilt)}) {
         Fixture fixture(bytes);
-        EXPECT_EQ(fixture.rules(), std::vector{GestureRule::recommendedDefault()});
-        EXPECT_EQ(fixture.defaults.writes, 0);
+        EXPECT_EQ(fixture.rules(), Rules{GestureRule::recommendedDefault()});
         EXPECT_EQ(fixture.defaults.data(kKey), bytes);
         fixture.store->deleteRules({Uuid::random()});
         fixture.store->moveRules({}, 0);
         fixture.store->moveRules({1}, 0);
-        EXPECT_EQ(fixture.changes(), "0/0") << "nothing came of it, so nothing is overwritten";
+        EXPECT_EQ(fixture.changes(), "Middle click 0/0") << "nothing came of it, so nothing is overwritten";
         fixture.store->addRule();
-        EXPECT_EQ(fixture.changes(), bytes ? "1/2" : "1/1");
+        EXPECT_EQ(fixture.changes(), bytes ? "Middle click- 1/2" : "Middle click- 1/1");
         EXPECT_EQ(fixture.defaults.data(std::string(kKey) + ".unreadable-1"), bytes) << "set aside";
         fixture.start();
         EXPECT_EQ(fixture.rules().size(), 2U);
     }
-    EXPECT_TRUE(Fixture(std::vector<GestureRule>{}).rules().empty()) << "an empty list is a list";
+    EXPECT_TRUE(Fixture(Rules{}).rules().empty()) << "an empty list is a list";
 }
 
 TEST(RuleStore, ReadsWhatIsWrittenByHandAndOverwritesNoneOfIt) {
-    const std::vector<GestureRule> rules{makeRule(GestureKind::tipTapLeft)};
+    const Rules rules = rulesOf("a");
     Fixture fixture(std::nullopt);
     const auto startWith = [&](StoredValue value) {
         fixture.defaults.replaceValues({{std::string(kKey), std::move(value)}});
@@ -105,40 +120,28 @@ TEST(RuleStore, ReadsWhatIsWrittenByHandAndOverwritesNoneOfIt) {
     }
 }
 
-TEST(RuleStore, UnacknowledgedShellRulesComeBackSwitchedOffAndAreSavedSo) {
-    const std::vector<GestureRule> others{makeShellCommand(true), disabled(makeShellCommand(std::nullopt)),
-                                          makeRule(GestureKind::singleTap), makeRule(GestureKind::unconfigured)};
-    Fixture quiet(others);
-    EXPECT_EQ(quiet.rules(), others);
-    EXPECT_EQ(quiet.changes(), "0/0");
-    for (const std::optional<bool> acknowledged : {std::optional<bool>(), {false}}) {
-        const GestureRule shell = makeShellCommand(acknowledged);
-        Fixture fixture(std::vector{others[0], shell, others[2]});
-        EXPECT_EQ(fixture.rules(), (std::vector{others[0], disabled(shell), others[2]}));
-        EXPECT_EQ(fixture.changes(), "0/1");
-    }
+TEST(RuleStore, DisablesUnacknowledgedShellRulesOnLoadingAndSavesThat) {
+    const Rules others{shellRule('a', true), disabled(shellRule('b', {})), ruleOf('C'),
+                       makeRule(GestureKind::unconfigured)};
+    EXPECT_EQ(Fixture(others).changes(), "ab-C 0/0");
+    for (const std::optional<bool> acknowledged : {std::optional<bool>(), {false}})
+        EXPECT_EQ(Fixture(Rules{others[0], shellRule('s', acknowledged), others[2]}).changes(), "as-C 0/1");
 }
 
 TEST(RuleStore, AddsABlankRuleAtTheEndAndDeletesById) {
-    std::vector<GestureRule> rules(5);
-    std::ranges::generate(rules, [] { return makeRule(GestureKind::tipTapLeft); });
+    Rules rules = rulesOf("abcde");
     rules[3].id = rules[1].id;
     Fixture fixture(rules);
     GestureRule blank;
     blank.id = fixture.store->addRule();
     EXPECT_EQ(fixture.rules().back(), blank);
-    EXPECT_EQ(fixture.changes(), "1/1");
+    EXPECT_EQ(fixture.changes(), "abcde- 1/1");
     fixture.store->deleteRules({blank.id, rules[1].id, Uuid::random()});
-    EXPECT_EQ(fixture.rules(), (std::vector{rules[0], rules[2], rules[4]}));
-    EXPECT_EQ(fixture.changes(), "1/1");
+    EXPECT_EQ(fixture.changes(), "ace 1/1");
 }
 
 TEST(RuleStore, MovesAnySelectionAnywhere) {
-    std::vector<GestureRule> rules;
-    for (const char letter : std::string("abcde")) {
-        rules.push_back(makeRule(GestureKind::tipTapLeft));
-        rules.back().name = letter;
-    }
+    const Rules rules = rulesOf("abcde");
     Fixture fixture(rules);
     const std::vector<std::tuple<std::set<std::size_t>, std::size_t, std::string>> rows{
         {{0}, 1, "abcde"},    {{0}, 2, "bacde"},    {{4}, 0, "eabcd"},    {{2}, 7, "abdec"},
@@ -150,115 +153,93 @@ TEST(RuleStore, MovesAnySelectionAnywhere) {
         auto withStray = from;
         withStray.insert({5, 9});
         fixture.store->moveRules(withStray, to);
-        std::string names;
-        for (const GestureRule& rule : fixture.rules())
-            names += rule.name;
-        EXPECT_EQ(names, expected) << ::testing::PrintToString(from) << " to " << to;
-        EXPECT_EQ(fixture.changes(), "1/1");
+        EXPECT_EQ(fixture.changes(), expected + " 1/1") << ::testing::PrintToString(from) << " to " << to;
     }
 }
 
-TEST(RuleStore, EnablesOneRuleOnlyWhenReady) {
-    const std::vector<GestureRule> rules{makeRule(GestureKind::singleTap, 3),
-                                         disabled(makeRule(GestureKind::singleTap)),
-                                         disabled(makeRule(GestureKind::tipTapLeft))};
-    Fixture fixture(rules);
+TEST(RuleStore, EnablesOnlyReadyRules) {
+    Fixture fixture(rulesOf("aB-c-"));
     const auto set = [&](const Uuid& id, bool enabled) { return fixture.store->setRuleEnabled(id, enabled); };
     EXPECT_EQ(set(Uuid::random(), true), Result::unchanged);
-    EXPECT_EQ(set(rules[0].id, true), Result::unchanged);
-    EXPECT_EQ(set(rules[1].id, false), Result::unchanged);
-    EXPECT_EQ(set(rules[1].id, true), Result::ruleNotReady);
-    EXPECT_EQ(fixture.changes(), "0/0");
-    EXPECT_EQ(set(rules[2].id, true), Result::changed);
-    EXPECT_EQ(set(rules[0].id, false), Result::changed);
-    EXPECT_EQ(fixture.changes(), "2/2");
-    EXPECT_EQ(fixture.states(), "001");
-}
+    EXPECT_EQ(set(fixture.id(0), true), Result::unchanged);
+    EXPECT_EQ(set(fixture.id(1), false), Result::unchanged);
+    EXPECT_EQ(set(fixture.id(1), true), Result::ruleNotReady);
+    EXPECT_EQ(fixture.changes(), "aB-c- 0/0");
+    EXPECT_EQ(set(fixture.id(2), true), Result::changed);
+    EXPECT_EQ(set(fixture.id(0), false), Result::changed);
+    EXPECT_EQ(fixture.changes(), "a-B-c 2/2");
 
-TEST(RuleStore, EnablesAllReadyRulesAndDisablesAll) {
-    const GestureRule ready = makeRule(GestureKind::tipTapLeft);
-    const GestureRule unready = makeRule(GestureKind::singleTap);
-    Fixture fixture(std::vector{disabled(ready), disabled(unready), disabled(ready), unready});
-    EXPECT_TRUE(fixture.store->canEnableAllRules());
-    EXPECT_EQ(fixture.store->enableAllRules(), Result::changed);
-    EXPECT_EQ(fixture.states() + " " + fixture.changes(), "1011 1/1");
-    EXPECT_FALSE(fixture.store->canEnableAllRules());
-    EXPECT_EQ(fixture.store->enableAllRules(), Result::unchanged);
-    fixture.store->disableAllRules();
-    fixture.store->disableAllRules();
-    EXPECT_EQ(fixture.states() + " " + fixture.changes(), "0000 1/1");
+    Fixture all(rulesOf("a-B-c-D"));
+    EXPECT_TRUE(all.store->canEnableAllRules());
+    EXPECT_EQ(all.store->enableAllRules(), Result::changed);
+    EXPECT_EQ(all.changes(), "aB-cD 1/1");
+    EXPECT_FALSE(all.store->canEnableAllRules());
+    EXPECT_EQ(all.store->enableAllRules(), Result::unchanged);
+    all.store->disableAllRules();
+    all.store->disableAllRules();
+    EXPECT_EQ(all.changes(), "a-B-c-D- 1/1");
 }
 
 TEST(RuleStoreBinding, FollowsItsRule) {
-    const std::vector<GestureRule> rules{makeRule(GestureKind::tipTapLeft), makeRule(GestureKind::tipTapRight)};
-    Fixture fixture(rules);
+    Fixture fixture(rulesOf("ab"));
+    GestureRule edited = fixture.rules()[1];
     EXPECT_FALSE(fixture.store->binding(Uuid::random()));
-    const auto binding = fixture.store->binding(rules[1].id);
+    const auto binding = fixture.store->binding(edited.id);
     ASSERT_TRUE(binding);
     fixture.store->moveRules({1}, 0);
-    EXPECT_EQ(binding->get(), rules[1]);
-    GestureRule edited = rules[1];
-    edited.name = "Edited";
-    fixture.changes();
+    EXPECT_EQ(binding->get(), edited);
+    EXPECT_EQ(fixture.changes(), "ba 1/1");
+    edited.name = "e";
     binding->set(edited);
-    EXPECT_EQ(fixture.rules(), (std::vector{edited, rules[0]}));
-    EXPECT_EQ(fixture.changes(), "1/1");
+    EXPECT_EQ(fixture.changes(), "ea 1/1");
     edited.action = {};
     binding->set(edited);
     EXPECT_EQ(binding->get(), disabled(edited));
     fixture.store->deleteRules({edited.id});
-    fixture.changes();
+    EXPECT_EQ(fixture.changes(), "a 2/2");
     EXPECT_EQ(binding->get(), GestureRule::recommendedDefault());
-    binding->set(rules[1]);
-    EXPECT_EQ(fixture.rules(), std::vector{rules[0]});
-    EXPECT_EQ(fixture.changes(), "0/0");
+    binding->set(edited);
+    EXPECT_EQ(fixture.changes(), "a 0/0");
 }
 
 TEST(RuleStore, DisablesUnreadyRulesOfAReplacement) {
-    const GestureRule ready = makeRule(GestureKind::tipTapLeft);
-    const GestureRule unready = makeRule(GestureKind::singleTap);
-    const GestureRule shell = makeShellCommand(std::nullopt);
-    const GestureRule acknowledged = makeShellCommand(true);
-    Fixture fixture(std::vector{ready});
-    fixture.store->replaceRules({shell, acknowledged, unready, disabled(ready)});
-    EXPECT_EQ(fixture.changes(), "1/1");
-    EXPECT_EQ(fixture.rules(), (std::vector{disabled(shell), acknowledged, disabled(unready), disabled(ready)}));
+    Fixture fixture(rulesOf("z"));
+    fixture.store->replaceRules({shellRule('s', {}), shellRule('t', true), ruleOf('U'), disabled(ruleOf('v'))});
+    EXPECT_EQ(fixture.changes(), "s-tU-v- 1/1");
 }
 
 TEST(RuleStore, PublishesOnlyDifferencesOnReload) {
-    const GestureRule rule = makeRule(GestureKind::tipTapLeft);
-    const GestureRule shell = makeShellCommand(std::nullopt);
-    Fixture fixture(std::vector{rule});
+    const Rules rules = rulesOf("a");
+    const std::string withShell = encodeRules(Rules{shellRule('s', {}), rules[0]});
+    Fixture fixture(rules);
     const auto reload = [&](const std::string& bytes) {
         fixture.defaults.setData(kKey, bytes);
         fixture.defaults.writes = 0;
         fixture.store->reload();
         return std::to_string(std::exchange(fixture.published, 0)) + "/" + std::to_string(fixture.defaults.writes);
     };
-    EXPECT_EQ(reload(encodeRules(std::vector{rule}, RuleListLayout::indented)), "0/0");
+    EXPECT_EQ(reload(encodeRules(rules, RuleListLayout::indented)), "0/0");
     EXPECT_EQ(reload("[{]"), "0/0");
-    EXPECT_EQ(fixture.rules(), std::vector{rule});
-    EXPECT_EQ(reload(encodeRules(std::vector{shell, rule})), "1/1");
-    EXPECT_EQ(fixture.rules(), (std::vector{disabled(shell), rule}));
-    EXPECT_EQ(reload(encodeRules(std::vector{shell, rule})), "0/1");
+    EXPECT_EQ(fixture.rules(), rules);
+    EXPECT_EQ(reload(withShell), "1/1");
+    EXPECT_EQ(reload(withShell), "0/1");
+    EXPECT_EQ(fixture.changes(), "s-a 0/1");
     fixture.defaults.remove(kKey);
     fixture.store->reload();
     fixture.store->reload();
-    EXPECT_EQ(fixture.rules(), std::vector{GestureRule::recommendedDefault()});
+    EXPECT_EQ(fixture.rules(), Rules{GestureRule::recommendedDefault()});
     EXPECT_EQ(fixture.published, 1);
     EXPECT_FALSE(fixture.defaults.contains(kKey));
 }
 
 TEST(RuleStore, LetsAnObserverChangeTheList) {
-    const std::vector<GestureRule> rules{disabled(makeRule(GestureKind::tipTapLeft))};
-    Fixture fixture(rules);
+    Fixture fixture(rulesOf("a-"));
     const auto again = fixture.store->rules().observe([&](const auto& list) {
         if (list.size() < 4)
             fixture.store->addRule();
     });
-    EXPECT_EQ(fixture.store->setRuleEnabled(rules[0].id, true), Result::changed);
-    EXPECT_EQ(fixture.rules().size(), 4U);
-    EXPECT_EQ(fixture.defaults.data(kKey), encodeRules(fixture.rules()));
+    EXPECT_EQ(fixture.store->setRuleEnabled(fixture.id(0), true), Result::changed);
+    EXPECT_EQ(fixture.changes(), "a--- 4/4");
 }
 
 }  // namespace

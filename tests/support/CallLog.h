@@ -8,6 +8,13 @@ namespace kinesta::testing {
 
 using Calls = std::vector<std::string>;
 
+inline std::string joined(const Calls& calls) {
+    std::string text;
+    for (const std::string& call : calls)
+        text += (text.empty() ? "" : "; ") + call;
+    return text;
+}
+
 /// The calls to the fakes, in order and as short text. A query begins with "?", the making of an event with "+";
 /// everything else is an effect.
 class CallLog {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -65,15 +64,14 @@ class PadScript {
     /// Moves fingers together by `way` in frames of 8 ms; the last one is at the end of `duration` to the bit.
     PadScript& glide(const std::vector<ContactId>& ids, Point way, Seconds duration) {
         const Seconds start = m_time;
-        std::map<ContactId, Point> origins;
-        for (const ContactId id : ids)
-            origins[id] = find(id)->position;
+        const std::vector<TouchSample> origins = m_fingers;
         const int frames = static_cast<int>(std::ceil(duration / 0.008 - 1e-9));
         for (int frame = 1; frame <= frames; ++frame) {
             const double part = frame < frames ? frame * 0.008 / duration : 1;
             at(start + part * duration);
             for (const auto& [id, origin] : origins)
-                move(id, {origin.x + part * way.x, origin.y + part * way.y});
+                if (std::ranges::count(ids, id) > 0)
+                    move(id, {origin.x + part * way.x, origin.y + part * way.y});
         }
         return *this;
     }
@@ -99,10 +97,7 @@ class PadScript {
     }
 
   private:
-    static void check(bool isGood, const char* complaint) {
-        if (!isGood)
-            throw std::logic_error(complaint);
-    }
+    static void check(bool isGood, const char* complaint) { isGood ? void() : throw std::logic_error(complaint); }
     std::vector<TouchSample>::iterator find(ContactId id) {
         const auto found = std::ranges::find(m_fingers, id, &TouchSample::id);
         check(found != m_fingers.end(), "no such finger is down");
@@ -126,10 +121,9 @@ class PadScript {
         return *this;
     }
     void flush() {
-        if (!std::exchange(m_isTouched, false))
-            return;
-        m_events.push_back(PadEvent{m_time, PadFrame{TouchSamples(std::span<const TouchSample>(m_fingers)),
-                                                     std::exchange(m_received, std::nullopt)}});
+        if (std::exchange(m_isTouched, false))
+            m_events.push_back(PadEvent{m_time, PadFrame{TouchSamples(std::span<const TouchSample>(m_fingers)),
+                                                         std::exchange(m_received, std::nullopt)}});
     }
 
     Seconds m_time = 0;

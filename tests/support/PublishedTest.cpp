@@ -12,8 +12,7 @@ namespace {
 using Heard = std::vector<std::string>;
 
 /// Logs each call of an observer as "name=value".
-class PublishedTest : public testing::Test {
-  protected:
+struct PublishedTest : testing::Test {
     Published<int>::Observer hear(std::string name, std::function<void(int)> then = {}) {
         return [this, name, then](int value) {
             heard.push_back(name + "=" + std::to_string(value));
@@ -68,7 +67,7 @@ TEST_F(PublishedTest, DeliversNestedChangesOnce) {
     EXPECT_EQ(heard, (Heard{"before=4", "setter=4", "after=4", "new=4", "new=4"}));
 }
 
-TEST_F(PublishedTest, observersAreFreedWithTheirSubscriptions) {
+TEST_F(PublishedTest, FreesObserversWithTheirSubscriptions) {
     const auto held = std::make_shared<int>();
     Subscription inner = number.observe([held](int) {});
     auto outer = std::make_shared<Subscription>(number.observe([held](int) {}));
@@ -82,10 +81,10 @@ TEST_F(PublishedTest, observersAreFreedWithTheirSubscriptions) {
     auto third = std::make_shared<Subscription>(number.observe([held](int) {}));
     own = number.observe([&own, held, other = std::move(third)](int) { own.end(); });
     number.set(1);
-    EXPECT_EQ(held.use_count(), 1) << "those that end while they are told, too";
+    EXPECT_EQ(held.use_count(), 1) << "also if they end during a notification";
 }
 
-TEST_F(PublishedTest, subscriptionsMoveAndOutliveTheValue) {
+TEST_F(PublishedTest, LetsSubscriptionsMoveAndOutliveTheValue) {
     auto published = std::make_unique<Published<int>>();
     Subscription kept = published->observe(hear("first"));
     kept = published->observe(hear("second"));  // ends the first

@@ -8,7 +8,6 @@
 
 #include "../recording/RecordingText.h"
 #include "input/evdev/PressureStageTracker.h"
-#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {
@@ -80,8 +79,7 @@ with a finger: left 1 id 5 x 0 y 0 / / left 0 / => 2 5@0,1; 2 down; 3 5@0,1; 4 5
 both, in their order: right 1 left 1 right 0 / left 0 / => 2 down; 2 down; 2 up; 3 up
 repeats: left 0 / left 1 / left 2 / left 1 / left 0 / left 0 / => 3 down; 6 up
 )");
-    std::string storm;
-    std::string expected;
+    std::string storm, expected;
     for (int i = 0; i < 101; ++i) {
         storm += i % 2 == 0 ? "left 1 " : "left 0 ";
         if (i < 32)
@@ -133,48 +131,33 @@ a finger that hovers, and one without a place: two 1 onlyX 5 / touch 1 onlyX 250
 }
 
 TEST(EvdevFrameAssembler, NormalizesAnyRange) {
-    struct Row {
-        EvdevAxisRange range;
-        int place;
-        double expected;
-    };
-    for (const auto& [range, place, expected] : {Row{{-4620, 5140}, 260, 0.5},
-                                                 {{5, 5}, 9, 0.5},
-                                                 {{10, -10}, 0, 0.5},
-                                                 {{kLeast, kMost}, kLeast, 0},
-                                                 {{kLeast, kMost}, kMost, 1},
-                                                 {{kMost - 1, kMost}, kLeast, 0},
-                                                 {{0, 1}, kMost, 1}}) {
+    const auto normalized = [](EvdevAxisRange range, int place) {
         const auto value = std::to_string(place);
-        EXPECT_EQ(play(pad(1, range), "id 1 x " + value + " y " + value + " /"),
-                  "2 1@" + numberText(expected) + "," + numberText(1 - expected))
-            << range.minimum << "…" << range.maximum << ": " << value;
-    }
+        return play(pad(1, range), "id 1 x " + value + " y " + value + " /");
+    };
+    EXPECT_EQ(normalized({-4620, 5140}, 260), "2 1@0.5,0.5");
+    EXPECT_EQ(normalized({5, 5}, 9), "2 1@0.5,0.5");
+    EXPECT_EQ(normalized({10, -10}, 0), "2 1@0.5,0.5");
+    EXPECT_EQ(normalized({kLeast, kMost}, kLeast), "2 1@0,1");
+    EXPECT_EQ(normalized({kLeast, kMost}, kMost), "2 1@1,0");
+    EXPECT_EQ(normalized({kMost - 1, kMost}, kLeast), "2 1@0,1");
+    EXPECT_EQ(normalized({0, 1}, kMost), "2 1@1,0");
     EXPECT_EQ(play(pad(kMost), "slot 255 id 1 slot 256 id 2 slot 2147483646 id 3 /"), "2 1@0.5,0.5");
     EXPECT_EQ(play(pad(kLeast), "touch 1 /"), "2 1@0.5,0.5");
 }
 
 TEST(PressureStageTracker, ChangesAtItsLimitsWhileTheButtonIsHeld) {
     PressureStageTracker tracker({.forcedFrom = 0.6, .softBelow = 0.4});
-    struct Report {
-        bool isButtonDown;
-        double pressure;
-        std::int64_t stage;  // 0 for no change
+    const auto stages = [&](bool isButtonDown, std::initializer_list<double> pressures) {
+        std::string text;  // 0 for no change
+        for (const double pressure : pressures)
+            text += std::to_string(tracker.process(isButtonDown, pressure).value_or(0));
+        return text;
     };
-    for (const auto& [isButtonDown, pressure, stage] : {Report{false, 1.0, 0},
-                                                        {true, 0.5999, 0},
-                                                        {true, 0.6, 2},
-                                                        {true, 1.0, 0},
-                                                        {true, 0.4, 0},
-                                                        {true, 0.3999, 1},
-                                                        {true, 0.5, 0},
-                                                        {true, 0.6, 2},
-                                                        {false, 0.9, 0},
-                                                        {true, 0.5, 0},
-                                                        {true, 0.9, 2},
-                                                        {true, std::numeric_limits<double>::quiet_NaN(), 0},
-                                                        {true, 0.0, 1}})
-        EXPECT_EQ(tracker.process(isButtonDown, pressure).value_or(0), stage) << pressure;
+    EXPECT_EQ(stages(false, {1.0}), "0");
+    EXPECT_EQ(stages(true, {0.5999, 0.6, 1.0, 0.4, 0.3999, 0.5, 0.6}), "0200102");
+    EXPECT_EQ(stages(false, {0.9}), "0");
+    EXPECT_EQ(stages(true, {0.5, 0.9, std::numeric_limits<double>::quiet_NaN(), 0.0}), "0201");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "RecordingText.h"
-#include "support/TableRows.h"
 
 namespace kinesta {
 namespace {
@@ -33,35 +32,33 @@ TEST(EvemuRecording, ReadsEveryAgeOfTheFormat) {
 }
 
 TEST(EvemuRecording, RefusesMalformedLines) {
-    const std::string badEvent = "this is not an event of the form \"E: time type code value\"";
-    const std::string badAxis = "this is not an axis of the form \"A: code minimum maximum …\"";
-    const std::string noRanges = ": the file does not contain the ranges of both axes of a trackpad";
     const std::string hint =
-        ": the recording does not contain the axis ranges of its device: give the file that describes the device with "
+        "the recording does not contain the axis ranges of its device: give the file that describes the device with "
         "--device FILE.desc";
-    for (const auto& [error, inputs] :
-         Refusals{{"1" + hint, {kTouch}},
-                  {"4" + hint, {"# EVEMU 1.2\nN: old\n\nE: 0 0 0 0\n"}},
-                  {"3" + hint, {"# EVEMU 1.2\nA: 35 0 9\nA: 00 0 9\n"}},
-                  {"2: this is not a line of an evemu recording", {"N: mouse\nQ: 1\n"}},
-                  {"1: " + badAxis, {"A: 35 0\n", "A: 35 0 2147483648\n", "A: 10000 0 1\n", "A: 35 0x0 9\n"}},
-                  {"8: " + badEvent, {kSlots + "E: 1 3\n"}},
-                  {"8: the time inf is not within 9.2e9 seconds", {kSlots + "E: inf 0 0 0\n"}}})
-        for (const std::string& input : inputs)
-            EXPECT_EQ(read(input).error, "x:" + error) << input;
-    for (const auto& [error, inputs] :
-         Refusals{{badEvent, {"E: nil 0 0 0", "E: 1 10000 0 0", "E: 1 0 0 2147483648", "E: 1 0 0 0 0", "A: 35 0 1"}},
-                  {"the time nan is not within 9.2e9 seconds", {"E: nan 0 0 0"}},
-                  {"the time 9200000001 is not within 9.2e9 seconds", {"E: 9200000001 0 0 0"}},
-                  {"the time 0.25 is before 0.5, that of the event before", {"E: 0.25 0 0 0"}}})
-        for (const std::string& input : inputs) {
-            const Reading reading = read(kSlots + kTouch + input + "\n");
-            EXPECT_EQ(reading.error, "x:14: " + error) << input;
-            EXPECT_EQ(reading.events.size(), 1U) << input;
-        }
-    for (const auto& [error, description] : std::vector<std::pair<std::string, std::string>>{
-             {"0" + noRanges, ""}, {"2" + noRanges, "N: mouse\nB: 02\n"}, {"2: " + badAxis, "N: pad\nA: x\n"}})
-        EXPECT_EQ(readWithDevice(kTouch, description).error, "the device description:" + error) << description;
+    expectErrors("", "", "", "1: " + hint + " => " + "E: 0.5 0003 0039 0007");
+    expectErrors("# EVEMU 1.2\nN: old\n\n", "\n", "4: ", hint + " => E: 0 0 0 0");
+    expectErrors("# EVEMU 1.2\nA: 35 0 9\n", "\n", "3: ", hint + " => A: 00 0 9");
+    expectErrors("N: mouse\n", "\n", "2: ", R"(
+this is not a line of an evemu recording => Q: 1
+this is not an axis of the form "A: code minimum maximum …" => A: 35 0 | A: 35 0 2147483648 | A: 10000 0 1 | A: 35 0x0 9
+)");
+    expectErrors(kSlots, "\n", "8: ", R"(
+this is not an event of the form "E: time type code value" => E: 1 3
+the time inf is not within 9.2e9 seconds => E: inf 0 0 0
+)");
+    expectErrors(kSlots + kTouch, "\n", "14: ", R"(
+this is not an event of the form "E: time type code value" => E: nil 0 0 0 | E: 1 10000 0 0 | E: 1 0 0 2147483648
+this is not an event of the form "E: time type code value" => E: 1 0 0 0 0 | A: 35 0 1
+the time nan is not within 9.2e9 seconds => E: nan 0 0 0
+the time 9200000001 is not within 9.2e9 seconds => E: 9200000001 0 0 0
+the time 0.25 is before 0.5, that of the event before => E: 0.25 0 0 0
+)");
+    EXPECT_EQ(read(kSlots + kTouch + "E: nan 0 0 0").events.size(), 1U);
+    const std::string noRanges = ": the file does not contain the ranges of both axes of a trackpad";
+    EXPECT_EQ(readWithDevice(kTouch, "").error, "the device description:0" + noRanges);
+    EXPECT_EQ(readWithDevice(kTouch, "N: mouse\nB: 02\n").error, "the device description:2" + noRanges);
+    EXPECT_EQ(readWithDevice(kTouch, "N: pad\nA: x\n").error,
+              "the device description:2: this is not an axis of the form \"A: code minimum maximum …\"");
 }
 
 std::string yaml(const std::string& devices) { return "# libinput record\nversion: 1\ndevices:\n" + devices; }
@@ -97,7 +94,7 @@ TEST(LibinputRecording, ReadsTheFirstTrackpad) {
 }
 
 TEST(LibinputRecording, RefusesMalformedParts) {
-    for (const auto& row : tableRows(R"(
+    expectErrors("---\n", "", "2: ", R"(
 a recording of libinput record begins with keys and values => [a]
 only version 1 of the format of libinput record is known => version: 2
 the recording holds no events of a trackpad => ndevices: 1
@@ -115,10 +112,10 @@ a list of numbers is missing => devices: [{evdev: {absinfo: {0: 5}}}]
 "events" is not a list => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}}, events: x}]
 an event is not described by keys and values => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}}, events: [x]}]
 "evdev" is not a list => devices: [{evdev: {absinfo: {0: [0, 1], 1: [0, 1]}}, events: [{evdev: x}]}]
-)"))
-        for (const std::string& input : split(row[1], " | "))
-            EXPECT_EQ(read("---\n" + input).error, "x:2: " + row[0]) << input;
-    for (const auto& row : tableRows(R"(
+)");
+    std::string open = yaml(device(kRanges, kTap + "\n    - "));
+    open.pop_back();
+    expectErrors(open, "\n", "11: ", R"(
 this is not an event of the form [seconds, microseconds, type, code, value] => [2, 0, 0, 0] | [2, 0, 0, 0, 0, 0]
 this is not an event of the form [seconds, microseconds, type, code, value] => [-1, 0, 0, 0, 0] | [2, 1000000, 0, 0, 0]
 this is not an event of the form [seconds, microseconds, type, code, value] => [2, 0, 65536, 0, 0] | [2, 0, 0, -1, 0]
@@ -127,9 +124,7 @@ a list holds something other than whole numbers => [2, 0, 0, 0, a] | [2, 0, 0, 0
 the time 1.499999 is before 1.5, that of the event before => [1, 499999, 0, 0, 0]
 the time 9200000001 is not within 9.2e9 seconds => [9200000001, 0, 0, 0, 0]
 the time 9223372036853 is not within 9.2e9 seconds => [9223372036854775807, 0, 0, 0, 0]
-)"))
-        for (const std::string& event : split(row[1], " | "))
-            EXPECT_EQ(read(yaml(device(kRanges, kTap + "\n    - " + event))).error, "x:11: " + row[0]) << event;
+)");
     EXPECT_EQ(read(yaml(device(kRanges, kTap + "\n    - [2, 0"))).error,
               "x:12: this is not valid YAML: did not find expected ',' or ']'");
     for (const std::size_t lines : {6U, 20'000U}) {

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <streambuf>
 
 #include "RecordingText.h"
 #include "input/recording/ReplayContactProvider.h"
@@ -14,6 +15,26 @@ namespace kinesta {
 namespace {
 
 using Limits = std::numeric_limits<double>;
+
+/// An output that counts its flushes and holds no more than a number of bytes.
+class CountingOutput final : public std::streambuf {
+  public:
+    explicit CountingOutput(std::size_t capacity = std::string::npos) : m_capacity(capacity) {}
+
+    std::string text;
+    int flushes = 0;
+
+  private:
+    std::streamsize xsputn(const char* data, std::streamsize size) override {
+        if (text.size() + static_cast<std::size_t>(size) > m_capacity)
+            return 0;
+        text.append(data, static_cast<std::size_t>(size));
+        return size;
+    }
+    int sync() override { return ++flushes, 0; }
+
+    std::size_t m_capacity;
+};
 
 RecordingEvent frame(Seconds time, std::initializer_list<TouchSample> samples, std::optional<Uptime> received = {}) {
     return PadEvent{time, PadFrame{TouchSamples(samples), received}};
