@@ -71,14 +71,15 @@ struct Daemon : ::testing::Test {
 };
 
 TEST_F(Daemon, PerformsWhatTheFingersMean) {
-    auto pad = std::make_unique<VirtualTouchpad>();
+    const PadShape shape{.maximumPressure = 1000, .pressureResolution = 10};
+    auto pad = std::make_unique<VirtualTouchpad>(shape);
     ProgramRun daemon({"kinesta", "daemon"});
     ASSERT_TRUE(daemon.says("Trackpad listening: Virtual Touchpad"));
     const DeviceListener desktop;
     pad->touch(1);
     pad.reset();
     ASSERT_TRUE(daemon.says("No built-in trackpad was found."));
-    pad = std::make_unique<VirtualTouchpad>();
+    pad = std::make_unique<VirtualTouchpad>(shape);
     ASSERT_TRUE(daemon.says("Trackpad listening"));
     pad->touch(2);
 
@@ -109,26 +110,21 @@ TEST_F(Daemon, PerformsWhatTheFingersMean) {
     pad->up(0).up(1).report();
     EXPECT_EQ(desktop.take(4), (Lines{"KEY_VOLUMEUP down", "KEY_VOLUMEUP up", "KEY_VOLUMEUP down", "KEY_VOLUMEUP up"}));
 
-    EXPECT_EQ(daemon.end(SIGTERM), 0);
-    EXPECT_EQ(desktop.take(1), (Lines{"gone"}));
-}
-
-TEST_F(Daemon, RecognizesAForceClick) {
-    VirtualTouchpad pad({.maximumPressure = 1000, .pressureResolution = 10});
-    ProgramRun daemon({"kinesta", "daemon"});
-    ASSERT_TRUE(daemon.says("Trackpad listening: Virtual Touchpad"));
     for (const int force : {300, 900}) {
-        pad.down(0, 1, 300, 250).down(1, 2, 450, 250).down(2, 3, 600, 250).report();
+        rest(500);
+        pad->down(0, 1, 300, 250).down(1, 2, 450, 250).down(2, 3, 600, 250).report();
         rest(30);
-        pad.key(BTN_LEFT, true).report();
-        pad.pressure(0, force).report();
+        pad->key(BTN_LEFT, true).report();
+        pad->pressure(0, force).report();
         rest(30);
-        pad.pressure(0, 100).key(BTN_LEFT, false).report();
-        pad.up(0).up(1).up(2).report();
+        pad->pressure(0, 100).key(BTN_LEFT, false).report();
+        pad->up(0).up(1).up(2).report();
         EXPECT_TRUE(daemon.says(force < 600 ? "3-finger single soft click (stage 1)  →  nothing"
                                             : "3-finger single force click (stage 2)  →  ⌘V"));
-        rest(500);
     }
+
+    EXPECT_EQ(daemon.end(SIGTERM), 0);
+    EXPECT_EQ(desktop.take(9).back(), "gone");
 }
 
 TEST_F(Daemon, NeitherMisfiresNorStaysDeafAfterLostEvents) {

@@ -23,12 +23,7 @@ double now() { return std::chrono::duration<double>(std::chrono::steady_clock::n
 PadReading::PadReading(const std::string& device) : m_provider(m_mainThread, {.device = device, .pressure = {}}) {
     m_provider.setFrameHandler([this](const TrackpadContactFrame& frame) {
         add(text(frame), frame.timestamp);
-        std::unique_lock lock(m_lock);
-        if (m_hold != Hold::wanted)
-            return;
-        m_hold = Hold::held;
-        m_change.notify_all();
-        m_change.wait(lock, [this] { return m_hold == Hold::none; });
+        const std::lock_guard passing(frameGate);
     });
     m_provider.setPointerHandler([this](const PadEvent& event) {
         if (const auto* pointer = std::get_if<PadButton>(&event.content))
@@ -81,22 +76,6 @@ void PadReading::add(std::string line, double time) {
         m_times.push_back(time);
     }
     m_mainThread.quit();
-}
-
-void PadReading::holdNextFrame() {
-    const std::lock_guard lock(m_lock);
-    m_hold = Hold::wanted;
-}
-
-void PadReading::waitUntilHeld() {
-    std::unique_lock lock(m_lock);
-    m_change.wait_for(lock, std::chrono::seconds(5), [this] { return m_hold == Hold::held; });
-}
-
-void PadReading::letGo() {
-    const std::lock_guard lock(m_lock);
-    m_hold = Hold::none;
-    m_change.notify_all();
 }
 
 }  // namespace kinesta::vm

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <condition_variable>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -23,7 +22,6 @@ double now();
 class PadReading {
   public:
     explicit PadReading(const std::string& device = "");
-    ~PadReading() { letGo(); }
 
     EvdevContactProvider& provider() { return m_provider; }
     std::string status() const;
@@ -38,18 +36,14 @@ class PadReading {
     /// Times of the frames and clicks of the last take(), seconds.
     const std::vector<double>& times() const { return m_takenTimes; }
 
-    /// Blocks the frame handler in its next frame until letGo().
-    void holdNextFrame();
-    void waitUntilHeld();
-    void letGo();
+    /// The driver's thread takes it for every frame.
+    std::mutex frameGate;
 
   private:
     void add(std::string line, double time = 0);
 
     RunLoop m_mainThread;
-    std::mutex m_lock;  // guards what follows
-    std::condition_variable m_change;
-    enum class Hold { none, wanted, held } m_hold = Hold::none;
+    std::mutex m_lock;  // guards the next two
     Lines m_lines;
     std::vector<double> m_times;
 

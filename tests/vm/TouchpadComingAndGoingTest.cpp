@@ -173,17 +173,17 @@ TEST(TouchpadComingAndGoing, StartsAndStopsAtOnceAndLeavesNothing) {
 
 TEST(TouchpadComingAndGoing, ListsWhatThereIs) {
     const VirtualTouchpad builtIn({.name = "Built-in", .maximumPressure = 255, .pressureResolution = 10});
-    const VirtualTouchpad external({.name = "External", .bus = BUS_BLUETOOTH, .slots = 2, .maximumX = 300});
+    const VirtualTouchpad external({.name = "External", .bus = BUS_BLUETOOTH, .slots = 2});
     std::set<std::string> found;
     for (const ListedTouchpad& listed : listTouchpads("External")) {
         ASSERT_TRUE(listed.touchpad);
         found.insert(listed.candidate.path + ' ' + listed.candidate.name +
                      (listed.candidate.isBuiltIn ? " inside" : "") + (listed.isChosen ? " chosen" : "") +
                      (listed.canTellPressure ? " force " : " ") + std::to_string(listed.touchpad->slotCount) + '/' +
-                     std::to_string(listed.touchpad->x.maximum) + listed.problem);
+                     std::to_string(listed.touchpad->y.maximum) + listed.problem);
     }
-    EXPECT_EQ(found, (std::set<std::string>{builtIn.path() + " Built-in inside force 5/1000",
-                                            external.path() + " External chosen 2/300"}));
+    EXPECT_EQ(found, (std::set<std::string>{builtIn.path() + " Built-in inside force 5/500",
+                                            external.path() + " External chosen 2/500"}));
 }
 
 }  // namespace

@@ -91,16 +91,14 @@ TEST(TouchpadReading, RecoversFromLostEvents) {
     PadReading reading;
     pad.down(0, 1, 100, 250).down(1, 2, 200, 250).report();
     reading.take(1);
-    reading.holdNextFrame();
-    pad.move(0, 101, 250).report();
-    reading.waitUntilHeld();
+    std::unique_lock blocked(reading.frameGate);
     for (int i = 0; i < 400; ++i)  // more than the kernel and libevdev keep
         pad.move(1, 200 + i % 50, 100 + i % 70).report();
     pad.up(0).report();
     pad.down(0, 3, 900, 50).report();  // another finger in the same slot
     pad.down(2, 4, 800, 250).report();
     pad.up(1).report();
-    reading.letGo();
+    blocked.unlock();
     pad.move(2, 810, 250).report();
     std::size_t frames = 0;
     EXPECT_TRUE(reading.takeUntil("t 3@0.90,0.90 4@0.81,0.50", &frames));

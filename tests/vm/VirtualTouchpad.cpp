@@ -52,7 +52,7 @@ VirtualTouchpad::VirtualTouchpad(const PadShape& shape)
     : m_device(connect(shape.name, shape.bus, [&shape](libevdev* device) {
           libevdev_enable_property(device, INPUT_PROP_POINTER);
           for (const int x : {ABS_X, ABS_MT_POSITION_X})
-              enableAxis(device, x, shape.maximumX);
+              enableAxis(device, x, 1000);
           for (const int y : {ABS_Y, ABS_MT_POSITION_Y})
               enableAxis(device, y, 500);
           enableAxis(device, ABS_MT_SLOT, shape.slots - 1);

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-struct libevdev;
 struct libevdev_uinput;
 
 namespace kinesta::vm {
@@ -20,8 +19,7 @@ struct PadShape {
     std::string name = "Virtual Touchpad";
     int bus = BUS_I2C;
     int slots = 5;
-    int fingers = 5;  // that it reports by a key, 2 to 5
-    int maximumX = 1000;
+    int fingers = 5;             // that it reports by a key, 2 to 5
     int maximumPressure = 0;     // 0: no pressure
     int pressureResolution = 0;  // units a gram; 0: pressure is no force
 };
