@@ -38,6 +38,10 @@ ProcessFigures::ProcessFigures(pid_t process) {
     const std::filesystem::path folder = "/proc/" + std::to_string(process);
     for (const auto& thread : std::filesystem::directory_iterator(folder / "task"))
         sleeps += numberAfter("voluntary_ctxt_switches:", thread.path() / "status");
+    std::ifstream stat(folder / "stat");
+    std::string word;
+    for (int field = 1; field <= 15 && stat >> word; ++field)
+        cpuHundredths += field >= 14 ? std::stol(word) : 0;  // in user mode and in the kernel
     residentKilobytes = numberAfter("VmRSS:", folder / "status");
     const std::filesystem::directory_iterator open(folder / "fd");
     descriptors = std::distance(begin(open), end(open));

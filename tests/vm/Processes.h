@@ -25,7 +25,8 @@ std::size_t allocationsOfThisThread();
 struct ProcessFigures {
     explicit ProcessFigures(pid_t process);
 
-    long sleeps = 0;  // how often its threads have blocked, together
+    long sleeps = 0;         // how often its threads have blocked, together
+    long cpuHundredths = 0;  // of a second
     long residentKilobytes = 0;
     long descriptors = 0;
 };

@@ -13,14 +13,14 @@ namespace fs = std::filesystem;
 struct FileWatching : ::testing::Test {
     FileWatching() { fs::create_directories(folder / "config"); }
 
-    /// Whether the watcher reports in time that the file has become this.
+    /// Whether the watcher reports in time that the file has become this, and has its folder.
     bool sees(const std::string& expected) {
         bool isLate = false;
         const DelayedTask late = loop.after(std::chrono::seconds(20), [&] {
             isLate = true;
             loop.quit();
         });
-        while (content != expected && !isLate)
+        while ((content != expected || !fs::exists(folder / "config")) && !isLate)
             loop.run();
         return !isLate;
     }
