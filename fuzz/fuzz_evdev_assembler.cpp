@@ -16,28 +16,23 @@ namespace {
 constexpr std::uint16_t kKnownCodes[] = {0x00,  0x01,  0x02,  0x03,  0x18,  0x2f,  0x30,  0x35,  0x36, 0x39,
                                          0x110, 0x111, 0x145, 0x148, 0x14a, 0x14d, 0x14e, 0x14f, 0x3f};
 
-class Checker {
-  public:
-    void check(const PadEvent& event, Seconds time) {
-        require(event.time == time);
+struct Checker {
+    void check(const PadEvent& event) {
         if (const auto* pointer = std::get_if<PadButton>(&event.content)) {
-            m_buttonsDown += *pointer == PadButton::down ? 1 : -1;
-            require(m_buttonsDown >= 0 && m_buttonsDown <= 2);
+            buttonsDown += *pointer == PadButton::down ? 1 : -1;
+            require(buttonsDown >= 0 && buttonsDown <= 2);
             return;
         }
         const auto* frame = std::get_if<PadFrame>(&event.content);
-        require(frame && (m_hadFingers || !frame->samples.empty()));
-        m_hadFingers = !frame->samples.empty();
+        require(frame && (hadFingers || !frame->samples.empty()));
+        hadFingers = !frame->samples.empty();
         require(ContactIdSet(frame->samples).size() == frame->samples.size());
-        for (const TouchSample& sample : frame->samples)
-            require(sample.id != -1 && isOnPad(sample.position.x) && isOnPad(sample.position.y));
+        for (const auto& [id, place] : frame->samples)
+            require(id != -1 && place.x >= 0 && place.x <= 1 && place.y >= 0 && place.y <= 1);
     }
 
-  private:
-    static bool isOnPad(double coordinate) { return coordinate >= 0 && coordinate <= 1; }
-
-    bool m_hadFingers = false;
-    int m_buttonsDown = 0;
+    bool hadFingers = false;
+    int buttonsDown = 0;
 };
 
 }  // namespace
@@ -58,7 +53,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         event.code = input.PickValueInArray(kKnownCodes);
         event.value = input.ConsumeBool() ? input.ConsumeIntegralInRange<std::int32_t>(-2, 9)
                                           : input.ConsumeIntegral<std::int32_t>();
-        assembler.process(event, [&](const PadEvent& made) { checker.check(made, time); });
+        assembler.process(event, [&](const PadEvent& made) {
+            require(made.time == time);
+            checker.check(made);
+        });
     }
     return 0;
 }

@@ -16,11 +16,10 @@ namespace {
 
 using namespace kinesta;
 
-/// Takes the fuzzer's bytes one by one, from the last; zeros after the first.
-class Bytes : public FuzzedDataProvider {
-  public:
+struct Bytes : FuzzedDataProvider {
     using FuzzedDataProvider::FuzzedDataProvider;
 
+    /// The bytes one by one, then zeros.
     std::uint8_t next() { return ConsumeIntegral<std::uint8_t>(); }
 
     /// Mostly on the pad, in steps of 1/200.
@@ -39,49 +38,40 @@ class Bytes : public FuzzedDataProvider {
     }
 };
 
-class Session {
-  public:
-    Session(const std::uint8_t* data, std::size_t size) : m_bytes(data, size) {}
+struct Session : Bytes {
+    using Bytes::Bytes;
 
-    void run() {
-        while (m_bytes.remaining_bytes() > 0)
-            step(m_bytes.next());
-    }
-
-  private:
     void step(std::uint8_t choice) {
-        m_time = m_bytes.timeAfter(m_time);
+        m_time = timeAfter(m_time);
         switch (choice % 16) {
             case 0:
                 return m_processor.beginPhysicalClick(m_time);
             case 1:
-                return m_processor.registerPressureStage(static_cast<std::int8_t>(m_bytes.next()));
+                return m_processor.registerPressureStage(static_cast<std::int8_t>(next()));
             case 2:
                 return completeClick();
             case 3:
                 return finalize();
             case 4:
-                return m_processor.setMaximumTapInterval(m_bytes.coordinate());
+                return m_processor.setMaximumTapInterval(coordinate());
             case 5:
-                return m_processor.setCornerPalmRejection({m_bytes.next() % 4 != 0, m_bytes.coordinate()});
+                return m_processor.setCornerPalmRejection({next() % 4 != 0, coordinate()});
             case 6:
                 return m_processor.reset();
             case 7:
                 addCrowd();
                 break;
             case 8:
-                m_samples.truncate(m_samples.size() - (m_samples.empty() ? 0 : 1));
-                break;
             case 9:
-                m_samples.clear();
+                m_samples.truncate(choice % 16 == 9 || m_samples.empty() ? 0 : m_samples.size() - 1);
                 break;
             case 10:
             case 11:
-                m_samples.push_back({m_bytes.next() % 8, {m_bytes.coordinate(), m_bytes.coordinate()}});
+                m_samples.push_back({next() % 8, {coordinate(), coordinate()}});
                 break;
             default:
                 for (TouchSample& sample : m_samples)
-                    sample.position.y += (m_bytes.next() - 128) / 1000.0;
+                    sample.position.y += (next() - 128) / 1000.0;
                 break;
         }
         sendFrame();
@@ -89,7 +79,7 @@ class Session {
 
     /// Adds up to 1,020 fingers, with ids that wrap around.
     void addCrowd() {
-        const unsigned count = m_bytes.next() * 4U;
+        const unsigned count = next() * 4U;
         for (unsigned i = 0; i < count && m_samples.size() < 1000; ++i)
             m_samples.push_back({static_cast<ContactId>(m_nextId++), {0.4 + i * 1e-4, 0.5}});
     }
@@ -99,18 +89,15 @@ class Session {
         if (found.isEmpty())
             return;
         checkGeneration(found.generation);
-        if (found.edgeSlide) {
-            require(found.edgeSlide->fingers >= 2 && found.edgeSlide->fingers <= 5);
-            require(found.edgeSlide->side != EdgeSlideSide::both && found.edgeSlide->steps != 0);
-        }
-        if (found.tipTapSequence) {
-            require(tipTapGesture(found.tipTapSequence->taps, found.tipTapSequence->direction).has_value());
+        if (const auto& slide = found.edgeSlide)
+            require(slide->fingers >= 2 && slide->fingers <= 5 && slide->side != EdgeSlideSide::both &&
+                    slide->steps != 0);
+        if (found.tipTapSequence)
             m_tipTap = found.tipTapSequence;
-        }
-        if (found.tapSequence) {
-            require(tapGesture(found.tapSequence->taps).has_value() && found.tapSequence->fingers >= 2);
+        require(!m_tipTap || tipTapGesture(m_tipTap->taps, m_tipTap->direction));
+        if (found.tapSequence)
             m_tap = found.tapSequence;
-        }
+        require(!m_tap || (tapGesture(m_tap->taps) && m_tap->fingers >= 2));
     }
 
     void completeClick() {
@@ -118,10 +105,10 @@ class Session {
         if (!click)
             return;
         checkGeneration(click->generation);
-        require(physicalClickGesture(click->sequence.clicks, click->sequence.pressure).has_value());
-        require(click->sequence.fingers >= 2 && click->sequence.fingers <= 5);
-        require(!m_processor.completePhysicalClick(m_time));
         m_click = click->sequence;
+        require(physicalClickGesture(m_click->clicks, m_click->pressure) && m_click->fingers >= 2 &&
+                m_click->fingers <= 5);
+        require(!m_processor.completePhysicalClick(m_time));
     }
 
     /// Every sequence is finalized once and only with its own generation.
@@ -145,7 +132,6 @@ class Session {
         m_generation = generation;
     }
 
-    Bytes m_bytes;
     TouchFrameProcessor m_processor;
     TouchSamples m_samples;
     std::uint32_t m_nextId = 0x7FFFFF00;
@@ -159,6 +145,8 @@ class Session {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    Session(data, size).run();
+    Session session(data, size);
+    while (session.remaining_bytes() > 0)
+        session.step(session.next());
     return 0;
 }

@@ -1,31 +1,24 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "platform/linux/process/FileDescriptor.h"
 #include "vm/PadReading.h"
 
-struct libevdev;
-
 namespace kinesta::vm {
 
-/// What any program sees of the keys and buttons of an input device.
+/// Reads the keys and buttons of the virtual keyboard as any program does.
 class DeviceListener {
   public:
-    /// There must be a device of this name.
-    explicit DeviceListener(const std::string& name);
+    DeviceListener();
 
     /// "/dev/input/eventN".
     const std::string& path() const { return m_path; }
 
-    /// The next `count` changes, such as "KEY_C down"; "gone" when the device is. Fewer if they do not come in time.
-    Lines take(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(5));
+    /// The next `count` changes, such as "KEY_C down", or "gone" once the device is removed. Fewer after `limit`.
+    Lines take(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(5)) const;
 
   private:
     std::string m_path;
     FileDescriptor m_descriptor;
-    std::unique_ptr<libevdev, void (*)(libevdev*)> m_device;
 };
 
 }  // namespace kinesta::vm

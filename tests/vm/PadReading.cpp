@@ -16,31 +16,14 @@ std::string text(const TrackpadContactFrame& frame) {
     return line;
 }
 
-std::string text(const TrackpadContactProviderStatus& status) {
-    switch (status.kind) {
-        case TrackpadContactProviderStatus::Kind::listening:
-            return "listening";
-        case TrackpadContactProviderStatus::Kind::stopped:
-            return "stopped";
-        case TrackpadContactProviderStatus::Kind::unavailable:
-            break;
-    }
-    return status.message;
-}
-
 }  // namespace
 
 double now() { return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count(); }
 
-PadReading::PadReading(EvdevContactProvider::Settings settings) : m_provider(m_mainThread, std::move(settings)) {
+PadReading::PadReading(const std::string& device) : m_provider(m_mainThread, {.device = device, .pressure = {}}) {
     m_provider.setFrameHandler([this](const TrackpadContactFrame& frame) {
         add(text(frame), frame.timestamp);
-        std::unique_lock lock(m_lock);
-        if (m_hold != Hold::wanted)
-            return;
-        m_hold = Hold::held;
-        m_change.notify_all();
-        m_change.wait(lock, [this] { return m_hold == Hold::none; });
+        const std::lock_guard passing(frameGate);
     });
     m_provider.setPointerHandler([this](const PadEvent& event) {
         if (const auto* pointer = std::get_if<PadButton>(&event.content))
@@ -48,13 +31,15 @@ PadReading::PadReading(EvdevContactProvider::Settings settings) : m_provider(m_m
         else if (const auto* pressure = std::get_if<PadPressure>(&event.content))
             add("stage " + std::to_string(pressure->stage), event.time);
     });
-    m_provider.setStatusHandler([this] { add(status(), 0); });
+    m_provider.setStatusHandler([this] { add(status()); });
     m_provider.start();
 }
 
-PadReading::~PadReading() { letGo(); }
-
-std::string PadReading::status() const { return text(m_provider.status()); }
+std::string PadReading::status() const {
+    using Kind = TrackpadContactProviderStatus::Kind;
+    const auto status = m_provider.status();
+    return status.kind == Kind::listening ? "listening" : status.kind == Kind::stopped ? "stopped" : status.message;
+}
 
 Lines PadReading::take(std::size_t count, std::chrono::milliseconds limit) {
     bool isLate = false;
@@ -70,7 +55,17 @@ Lines PadReading::take(std::size_t count, std::chrono::milliseconds limit) {
                 return std::exchange(m_lines, {});
             }
         }
-        m_mainThread.run();  // until add() has something
+        m_mainThread.run();  // until add() is called
+    }
+}
+
+bool PadReading::takeUntil(const std::string& last, std::size_t* taken) {
+    for (;;) {
+        const Lines lines = take(1);
+        if (taken)
+            *taken += lines.size();
+        if (lines.empty() || lines.back() == last)
+            return !lines.empty();
     }
 }
 
@@ -81,22 +76,6 @@ void PadReading::add(std::string line, double time) {
         m_times.push_back(time);
     }
     m_mainThread.quit();
-}
-
-void PadReading::holdNextFrame() {
-    const std::lock_guard lock(m_lock);
-    m_hold = Hold::wanted;
-}
-
-void PadReading::waitUntilHeld() {
-    std::unique_lock lock(m_lock);
-    m_change.wait_for(lock, std::chrono::seconds(5), [this] { return m_hold == Hold::held; });
-}
-
-void PadReading::letGo() {
-    const std::lock_guard lock(m_lock);
-    m_hold = Hold::none;
-    m_change.notify_all();
 }
 
 }  // namespace kinesta::vm

@@ -1,26 +1,18 @@
 #include <gtest/gtest.h>
-#include <libevdev/libevdev-uinput.h>
-#include <libevdev/libevdev.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <map>
-#include <memory>
 #include <set>
-#include <vector>
 
 #include "platform/linux/touchpad/DeviceAccess.h"
 #include "platform/linux/touchpad/TouchpadListing.h"
 #include "support/DconfSample.h"
 #include "support/TemporaryFolder.h"
-#include "vm/AsNobody.h"
 #include "vm/PadReading.h"
+#include "vm/Processes.h"
 #include "vm/VirtualTouchpad.h"
 
 namespace kinesta::vm {
@@ -28,28 +20,8 @@ namespace {
 
 constexpr const char* kNone = "No built-in trackpad was found.";
 
-/// How often each thread of this process has gone to sleep by itself.
-std::map<std::string, std::string> sleepsOfThreads() {
-    std::map<std::string, std::string> sleeps;
-    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
-        std::ifstream status(task.path() / "status");
-        for (std::string line; std::getline(status, line);)
-            if (line.starts_with("voluntary_ctxt_switches"))
-                sleeps[task.path().filename()] = line;
-    }
-    sleeps.erase(std::to_string(getpid()));
-    return sleeps;
-}
-
-std::size_t openDescriptors() {
-    const std::filesystem::directory_iterator all("/proc/self/fd");
-    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
-}
-
-void tap(VirtualTouchpad& pad, int trackingId) {
-    pad.down(0, trackingId, 500, 250).report();
-    pad.up(0).report();
-}
+/// What touch() makes of a pad.
+Lines touchOf(int trackingId) { return {"t " + std::to_string(trackingId) + "@0.50,0.50", "t"}; }
 
 TEST(TouchpadComingAndGoing, FollowsThePadThroughUnplugging) {
     PadReading reading;
@@ -63,8 +35,8 @@ TEST(TouchpadComingAndGoing, FollowsThePadThroughUnplugging) {
     for (int trackingId = 2; trackingId < 5; ++trackingId) {
         pad = std::make_unique<VirtualTouchpad>();
         EXPECT_EQ(reading.take(1), (Lines{"listening"}));
-        tap(*pad, trackingId);
-        EXPECT_EQ(reading.take(2), (Lines{"t " + std::to_string(trackingId) + "@0.50,0.50", "t"}));
+        pad->touch(trackingId);
+        EXPECT_EQ(reading.take(2), touchOf(trackingId));
         pad.reset();
         EXPECT_EQ(reading.take(1), (Lines{kNone}));
     }
@@ -73,36 +45,31 @@ TEST(TouchpadComingAndGoing, FollowsThePadThroughUnplugging) {
 TEST(TouchpadComingAndGoing, PrefersTheBuiltInPadAndReadsOnlyOne) {
     VirtualTouchpad external({.name = "External Touchpad", .bus = BUS_USB});
     PadReading reading;
-    EXPECT_EQ(reading.status(), "listening");
-    tap(external, 1);
-    EXPECT_EQ(reading.take(2).size(), 2U);
     external.down(0, 2, 500, 250).report();
     EXPECT_EQ(reading.take(1).size(), 1U);
 
     auto builtIn = std::make_unique<VirtualTouchpad>();
-    EXPECT_EQ(reading.take(2), (Lines{"t", "listening"}));  // the finger on the other pad counts no more
+    EXPECT_EQ(reading.take(2), (Lines{"t", "listening"}));  // the finger on the other pad no longer counts
     EXPECT_EQ(reading.provider().state().path, builtIn->path());
-    tap(external, 3);
-    tap(*builtIn, 4);
-    EXPECT_EQ(reading.take(2), (Lines{"t 4@0.50,0.50", "t"}));
+    external.touch(3);
+    builtIn->touch(4);
+    EXPECT_EQ(reading.take(2), touchOf(4));
 
-    PadReading byName({.device = "External Touchpad", .pressure = {}});
-    PadReading byPath({.device = external.path(), .pressure = {}});
-    tap(external, 5);
+    PadReading byName("External Touchpad");
+    PadReading byPath(external.path());
+    external.touch(5);
     for (PadReading* named : {&byName, &byPath})
-        EXPECT_EQ(named->take(2), (Lines{"t 5@0.50,0.50", "t"}));
+        EXPECT_EQ(named->take(2), touchOf(5));
     builtIn.reset();
     EXPECT_EQ(reading.take(1), (Lines{"listening"}));
     EXPECT_EQ(reading.provider().state().path, external.path());
-
-    PadReading wrong({.device = "No Such Pad", .pressure = {}});
-    EXPECT_EQ(wrong.status(), "No trackpad named \"No Such Pad\" was found.");
+    EXPECT_EQ(PadReading("No Such Pad").status(), "No trackpad named \"No Such Pad\" was found.");
 }
 
-TEST(TouchpadComingAndGoing, LeavesThePadOfTheSettingsWithNoFingerOnIt) {
+TEST(TouchpadComingAndGoing, LiftsTheFingersWhenAnotherPadIsChosen) {
     VirtualTouchpad first({.name = "First Touchpad"});
     VirtualTouchpad second({.name = "Second Touchpad"});
-    PadReading reading({.device = "First Touchpad", .pressure = {}});
+    PadReading reading("First Touchpad");
     first.down(0, 1, 500, 250).report();
     EXPECT_EQ(reading.take(1), (Lines{"t 1@0.50,0.50"}));
     const double landed = reading.times()[0];
@@ -110,10 +77,10 @@ TEST(TouchpadComingAndGoing, LeavesThePadOfTheSettingsWithNoFingerOnIt) {
     EXPECT_EQ(reading.take(2), (Lines{"t", "listening"}));
     EXPECT_GT(reading.times()[0], landed);
     first.up(0).report();
-    tap(second, 2);
-    EXPECT_EQ(reading.take(2), (Lines{"t 2@0.50,0.50", "t"}));
+    second.touch(2);
+    EXPECT_EQ(reading.take(2), touchOf(2));
     reading.provider().setDevice("First Touchpad");
-    EXPECT_EQ(reading.take(1), (Lines{"listening"})) << "no frame where there was no finger";
+    EXPECT_EQ(reading.take(1), (Lines{"listening"})) << "no frame, because there was no finger";
 }
 
 TEST(TouchpadComingAndGoing, FollowsThePermission) {
@@ -121,11 +88,10 @@ TEST(TouchpadComingAndGoing, FollowsThePermission) {
     ASSERT_EQ(chmod(pad.path().c_str(), 0600), 0);
     std::unique_ptr<PadReading> reading;
     std::vector<ListedTouchpad> listed;
-    {
-        const AsNobody nobody;
+    asOrdinaryUser([&] {
         reading = std::make_unique<PadReading>();
         listed = listTouchpads();
-    }
+    });
     const std::string refusal = "The trackpad \"Secret Touchpad\" (" + pad.path() +
                                 ") may not be read; to allow it, run: " + touchpadAccessCommand();
     EXPECT_EQ(reading->status(), refusal);
@@ -135,33 +101,20 @@ TEST(TouchpadComingAndGoing, FollowsThePermission) {
 
     ASSERT_EQ(chmod(pad.path().c_str(), 0644), 0);
     EXPECT_EQ(reading->take(1), (Lines{"listening"}));
-    tap(pad, 1);
-    EXPECT_EQ(reading->take(2), (Lines{"t 1@0.50,0.50", "t"}));
+    pad.touch(1);
+    EXPECT_EQ(reading->take(2), touchOf(1));
 
     // Another person's session has come to the front.
     ASSERT_EQ(chmod(pad.path().c_str(), 0600), 0);
     EXPECT_EQ(reading->take(1), (Lines{refusal}));
-    tap(pad, 2);
+    pad.touch(2);
     ASSERT_EQ(chmod(pad.path().c_str(), 0644), 0);
     EXPECT_EQ(reading->take(1), (Lines{"listening"}));
 }
 
-/// A mouse with a USB plug, connected from now until it is reset.
-std::shared_ptr<libevdev_uinput> connectMouse() {
-    const std::unique_ptr<libevdev, decltype(&libevdev_free)> device(libevdev_new(), libevdev_free);
-    libevdev_set_name(device.get(), "Mouse");
-    libevdev_set_id_bustype(device.get(), BUS_USB);
-    for (const unsigned axis : {0U + REL_X, 0U + REL_Y})
-        libevdev_enable_event_code(device.get(), EV_REL, axis, nullptr);
-    libevdev_enable_event_code(device.get(), EV_KEY, BTN_LEFT, nullptr);
-    libevdev_uinput* made = nullptr;
-    EXPECT_EQ(libevdev_uinput_create_from_device(device.get(), LIBEVDEV_UINPUT_OPEN_MANAGED, &made), 0);
-    return {made, libevdev_uinput_destroy};
-}
-
 TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
     const TemporaryFolder folder;
-    std::filesystem::create_directory(folder.path() / "dconf");
+    std::filesystem::create_directory(folder / "dconf");
     setenv("XDG_CURRENT_DESKTOP", "GNOME", 1);
     setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
     VirtualTouchpad pad;
@@ -171,36 +124,32 @@ TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
     folder.write("dconf/user", dconfSample());
     EXPECT_EQ(reading.take(2), (Lines{"t", "The trackpad is switched off in the desktop's settings."}));
     pad.up(0).report();
-    tap(pad, 2);
-    std::filesystem::rename(folder.path() / "dconf" / "user", folder.path() / "dconf" / "old");
+    pad.touch(2);
+    std::filesystem::rename(folder / "dconf/user", folder / "dconf/old");
     EXPECT_EQ(reading.take(1), (Lines{"listening"}));
-    tap(pad, 3);
-    EXPECT_EQ(reading.take(2), (Lines{"t 3@0.50,0.50", "t"}));
+    pad.touch(3);
+    EXPECT_EQ(reading.take(2), touchOf(3));
 
     // Off with a mouse only: the list says what the reader does.
     folder.write("dconf/user", dconfSample("disabled-on-external-mouse"));
     EXPECT_EQ(listTouchpads().front().problem, "");
     auto mouse = connectMouse();
-    const Lines told = reading.take(1);
-    EXPECT_EQ(told, (Lines{"The trackpad is switched off in the desktop's settings while an external mouse is "
-                           "connected."}));
-    EXPECT_EQ(Lines{listTouchpads().front().problem}, told);
+    const Lines off = reading.take(1);
+    EXPECT_EQ(off, (Lines{"The trackpad is switched off in the desktop's settings while an external mouse is "
+                          "connected."}));
+    EXPECT_EQ(Lines{listTouchpads().front().problem}, off);
     mouse.reset();
     EXPECT_EQ(reading.take(1), (Lines{"listening"}));
-    EXPECT_EQ(listTouchpads().front().problem, "");
-    unsetenv("XDG_CURRENT_DESKTOP");
-    unsetenv("XDG_CONFIG_HOME");
 }
 
 TEST(TouchpadComingAndGoing, StartsAndStopsAtOnceAndLeavesNothing) {
     VirtualTouchpad pad;
-    const std::size_t descriptors = openDescriptors();
+    const long descriptors = ProcessFigures(getpid()).descriptors;
     std::vector<double> delays;
     {
         PadReading reading;
         for (int i = 1; i <= 20; ++i) {
-            reading.provider().start();
-            tap(pad, i);
+            pad.touch(i);
             EXPECT_EQ(reading.take(2).size(), 2U) << i;
             pad.key(BTN_LEFT, true).report();
             pad.key(BTN_LEFT, false).report();
@@ -210,42 +159,31 @@ TEST(TouchpadComingAndGoing, StartsAndStopsAtOnceAndLeavesNothing) {
             EXPECT_EQ(reading.status(), "stopped");
             reading.provider().stop();
             reading.provider().start();
+            reading.provider().start();
         }
-        tap(pad, 99);
-        EXPECT_EQ(reading.take(3, kMoment), (Lines{"t 99@0.50,0.50", "t"}));  // and no click of a run that is over
+        pad.touch(99);
+        EXPECT_EQ(reading.take(3, kMoment), touchOf(99)) << "and no click of a run that is over";
     }
-    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_EQ(ProcessFigures(getpid()).descriptors, descriptors);
     std::sort(delays.begin(), delays.end());
     std::printf("LATENCY stop(): median %.1f ms, worst %.1f ms\n", delays[delays.size() / 2] * 1e3,
                 delays.back() * 1e3);
     EXPECT_LT(delays[delays.size() / 2], 0.01);
 }
 
-TEST(TouchpadComingAndGoing, SleepsWhileNothingHappens) {
-    VirtualTouchpad pad;
-    PadReading reading;
-    tap(pad, 1);
-    reading.take(2);
-    EXPECT_EQ(reading.take(1, kMoment).size(), 0U);  // the watch settles
-    const auto before = sleepsOfThreads();
-    ASSERT_EQ(before.size(), 1U);
-    EXPECT_EQ(reading.take(1, std::chrono::seconds(2)).size(), 0U);
-    EXPECT_EQ(sleepsOfThreads(), before);
-}
-
 TEST(TouchpadComingAndGoing, ListsWhatThereIs) {
-    const VirtualTouchpad builtIn({.name = "Built-in", .pressureResolution = 10, .maximumPressure = 255});
-    const VirtualTouchpad external({.name = "External", .bus = BUS_BLUETOOTH, .slots = 2, .maximumX = 300});
+    const VirtualTouchpad builtIn({.name = "Built-in", .maximumPressure = 255, .pressureResolution = 10});
+    const VirtualTouchpad external({.name = "External", .bus = BUS_BLUETOOTH, .slots = 2});
     std::set<std::string> found;
     for (const ListedTouchpad& listed : listTouchpads("External")) {
         ASSERT_TRUE(listed.touchpad);
         found.insert(listed.candidate.path + ' ' + listed.candidate.name +
                      (listed.candidate.isBuiltIn ? " inside" : "") + (listed.isChosen ? " chosen" : "") +
                      (listed.canTellPressure ? " force " : " ") + std::to_string(listed.touchpad->slotCount) + '/' +
-                     std::to_string(listed.touchpad->x.maximum) + listed.problem);
+                     std::to_string(listed.touchpad->y.maximum) + listed.problem);
     }
-    EXPECT_EQ(found, (std::set<std::string>{builtIn.path() + " Built-in inside force 5/1000",
-                                            external.path() + " External chosen 2/300"}));
+    EXPECT_EQ(found, (std::set<std::string>{builtIn.path() + " Built-in inside force 5/500",
+                                            external.path() + " External chosen 2/500"}));
 }
 
 }  // namespace

@@ -10,22 +10,21 @@ struct libevdev_uinput;
 
 namespace kinesta::vm {
 
-/// What a virtual pad is made like. The ranges make round fractions of round numbers.
+using VirtualDevice = std::shared_ptr<libevdev_uinput>;
+
+/// A USB mouse that is connected until the result is reset.
+VirtualDevice connectMouse();
+
 struct PadShape {
     std::string name = "Virtual Touchpad";
     int bus = BUS_I2C;
     int slots = 5;
-    /// Fingers that are told by a key of their own, 2 to 5; those beyond the slots have no place.
-    int fingers = 5;
-    int maximumX = 1000;
-    int maximumY = 500;
-    /// Units of force per gram; 0 makes a pad that cannot tell pressure.
-    int pressureResolution = 0;
-    /// ABS_MT_PRESSURE is declared if above 0, with or without a resolution.
-    int maximumPressure = 0;
+    int fingers = 5;             // that it reports by a key, 2 to 5
+    int maximumPressure = 0;     // 0: no pressure
+    int pressureResolution = 0;  // units a gram; 0: pressure is no force
 };
 
-/// A touchpad of the kernel's, made through uinput: present from construction to destruction.
+/// A touchpad that the kernel makes for uinput, 1000 by 500 units, present from construction to destruction.
 class VirtualTouchpad {
   public:
     explicit VirtualTouchpad(const PadShape& shape = {});
@@ -39,17 +38,18 @@ class VirtualTouchpad {
     VirtualTouchpad& pressure(int slot, int value);
     VirtualTouchpad& key(int code, bool isDown);
 
-    /// Sends what was said since the last report, as one report.
+    /// Sends all changes since the last report.
     void report();
 
-  private:
-    struct Destroy {
-        void operator()(libevdev_uinput* device) const;
-    };
+    /// One finger touches the middle.
+    void touch(int trackingId);
+    /// Three fingers touch for 60 ms.
+    void tapWithThree();
 
+  private:
     VirtualTouchpad& add(int type, int code, int value);
 
-    std::unique_ptr<libevdev_uinput, Destroy> m_device;
+    VirtualDevice m_device;
     std::vector<input_event> m_events;
 };
 

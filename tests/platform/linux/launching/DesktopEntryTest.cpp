@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <vector>
-
 #include "support/TemporaryFolder.h"
 
 namespace kinesta {
@@ -14,29 +11,27 @@ using Words = std::vector<std::string>;
 
 struct DesktopEntryTest : ::testing::Test {
     Result<DesktopEntry> read(const std::string& content, const std::string& locale = "C") {
-        std::ofstream(path) << content;
+        writeText(path, content);
         return DesktopEntry::read(path, locale);
     }
-    /// The command of an entry with this Exec line, or one word that says that there is none.
+    /// The command of an entry with this Exec line.
     Words command(const std::string& exec) {
         const auto entry = read("[Desktop Entry]\nType=Application\nName=Some Name\nExec=" + exec + "\n");
         return entry ? entry->command : Words{"(refused)"};
     }
 
     TemporaryFolder folder;
-    std::string path = folder.path() / "app.desktop";
+    std::string path = folder / "app.desktop";
 };
 
 TEST_F(DesktopEntryTest, DividesItsCommandAsWritten) {
     const std::vector<std::pair<const char*, Words>> rows{
         {"  app   --a\t-b ", {"app", "--a", "-b"}},
-        {R"("/opt/My App/app" --title "two  words")", {"/opt/My App/app", "--title", "two  words"}},
-        {R"(app "" end)", {"app", "", "end"}},
+        {R"("/opt/My App/app" --title "two  words" "")", {"/opt/My App/app", "--title", "two  words", ""}},
         {R"(app a"b c"d)", {"app", "ab cd"}},
         {R"(app "say \\"hi\\" for \\$5 \\`now\\` \\\\")", {"app", R"(say "hi" for $5 `now` \)"}},
         {R"(app 'single "quoted" $x')", {"app", R"(single "quoted" $x)"}},
-        {R"(app one\stwo "tab\tbed")", {"app", "one", "two", "tab\tbed"}},
-        {R"(app "keeps \\x")", {"app", R"(keeps \x)"}},
+        {R"(app one\stwo "tab\tbed" "keeps \\x")", {"app", "one", "two", "tab\tbed", R"(keeps \x)"}},
         {R"(app "never ends)", {"(refused)"}},
         {"", {"(refused)"}},
         {"%U", {"(refused)"}},
@@ -52,9 +47,8 @@ TEST_F(DesktopEntryTest, LeavesOutThePlacesOfDocuments) {
     EXPECT_EQ(command("app --file=%f 100%% %%U %"), (Words{"app", "--file=", "100%", "%U", "%"}));
     EXPECT_EQ(command("app --name %c --in=%k"), (Words{"app", "--name", "Some Name", "--in=" + path}));
     EXPECT_EQ(command("app %i end"), (Words{"app", "end"})) << "without an icon";
-    const auto entry = read("[Desktop Entry]\nType=Application\nIcon=my icon\nExec=app %i end");
-    ASSERT_TRUE(entry);
-    EXPECT_EQ(entry->command, (Words{"app", "--icon", "my icon", "end"}));
+    EXPECT_EQ(read("[Desktop Entry]\nType=Application\nIcon=my icon\nExec=app %i end")->command,
+              (Words{"app", "--icon", "my icon", "end"}));
 }
 
 TEST_F(DesktopEntryTest, ReadsItsOwnGroupAlone) {

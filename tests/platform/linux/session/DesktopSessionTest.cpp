@@ -9,54 +9,31 @@ using Kind = DesktopSession::Kind;
 using Route = LinuxActionSettings::InputRoute;
 using Capability = DesktopCapability;
 
-DesktopFacts x11() {
-    return {.hasX = true,
-            .hasXTest = true,
-            .hasWindowManager = true,
-            .hasXdgOpen = true,
-            .hasSessionBus = true,
-            .notifications = BusService::answering};
-}
-
-DesktopFacts wayland() {
-    return {.hasWayland = true,
-            .mayUseUinput = true,
-            .hasXdgOpen = true,
-            .hasSessionBus = true,
-            .notifications = BusService::answering};
-}
-
-DesktopFacts with(DesktopFacts facts, bool DesktopFacts::*fact, bool value) {
-    facts.*fact = value;
-    return facts;
-}
-
 TEST(DesktopSession, ChoosesTheWayThatReachesEveryWindow) {
-    const DesktopFacts withX = with(with(wayland(), &DesktopFacts::hasX, true), &DesktopFacts::hasXTest, true);
-    const DesktopFacts noTest = with(x11(), &DesktopFacts::hasXTest, false);
-    const DesktopFacts noTestButUinput = with(noTest, &DesktopFacts::mayUseUinput, true);
-    const DesktopFacts refused = with(wayland(), &DesktopFacts::mayUseUinput, false);
+    const DesktopFacts x11{.hasX = true, .hasXTest = true};
+    const DesktopFacts noTest{.hasX = true};
+    const DesktopFacts noTestButUinput{.hasX = true, .mayUseUinput = true};
+    const DesktopFacts wayland{.hasWayland = true, .mayUseUinput = true};
+    const DesktopFacts xWayland{.hasX = true, .hasXTest = true, .hasWayland = true, .mayUseUinput = true};
     const auto check = [](const char* what, const DesktopFacts& facts, Route wish, Kind kind, Route route, bool sends) {
         const DesktopSession session(facts, wish);
         EXPECT_EQ(session.kind(), kind) << what;
         EXPECT_EQ(session.inputRoute(), route) << what;
         EXPECT_EQ(session.finding(Capability::sendInput).works, sends) << what;
     };
-    check("X11", x11(), Route::automatic, Kind::x11, Route::xServer, true);
+    check("X11", x11, Route::automatic, Kind::x11, Route::xServer, true);
     check("X11 without XTest", noTest, Route::automatic, Kind::x11, Route::uinput, false);
-    check("the same, allowed uinput", noTestButUinput, Route::automatic, Kind::x11, Route::uinput, true);
-    check("X11, uinput wished", x11(), Route::uinput, Kind::x11, Route::uinput, false);
-    check("Wayland", wayland(), Route::automatic, Kind::wayland, Route::uinput, true);
-    check("Wayland, not allowed", refused, Route::automatic, Kind::wayland, Route::uinput, false);
-    check("XWayland", withX, Route::automatic, Kind::waylandWithX, Route::uinput, true);
-    check("XWayland, X wished", withX, Route::xServer, Kind::waylandWithX, Route::xServer, true);
-    check("Wayland, X wished", wayland(), Route::xServer, Kind::wayland, Route::xServer, false);
+    check("the same with uinput", noTestButUinput, Route::automatic, Kind::x11, Route::uinput, true);
+    check("X11, uinput wanted", x11, Route::uinput, Kind::x11, Route::uinput, false);
+    check("Wayland", wayland, Route::automatic, Kind::wayland, Route::uinput, true);
+    check("Wayland without uinput", {.hasWayland = true}, Route::automatic, Kind::wayland, Route::uinput, false);
+    check("XWayland", xWayland, Route::automatic, Kind::waylandWithX, Route::uinput, true);
+    check("XWayland, X wanted", xWayland, Route::xServer, Kind::waylandWithX, Route::xServer, true);
+    check("Wayland, X wanted", wayland, Route::xServer, Kind::wayland, Route::xServer, false);
     check("a console", {.mayUseUinput = true}, Route::automatic, Kind::none, Route::uinput, true);
-    check("nothing", {}, Route::automatic, Kind::none, Route::uinput, false);
 }
 
 TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
-    // Every combination of facts that can be, with each wish.
     for (unsigned bits = 0; bits < 2048; ++bits) {
         const auto bit = [&](unsigned index) { return (bits >> index & 1U) != 0; };
         const auto service = [&](unsigned index) {
@@ -67,9 +44,7 @@ TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
         const DesktopFacts facts{bit(0), bit(0) && bit(1), bit(0) && bit(2), bit(3),    bit(4),
                                  bit(5), bit(6),           service(7),       service(9)};
         for (const Route wish : {Route::automatic, Route::xServer, Route::uinput}) {
-            const DesktopSession session(facts, wish);
-            EXPECT_NE(session.inputRoute(), Route::automatic);
-            const auto findings = session.findings();
+            const auto findings = DesktopSession(facts, wish).findings();
             ASSERT_EQ(findings.size(), 5U);
             for (std::size_t i = 0; i < findings.size(); ++i) {
                 EXPECT_EQ(static_cast<std::size_t>(findings[i].capability), i);
@@ -78,33 +53,28 @@ TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
             }
         }
     }
+    const DesktopSession bare({.hasWayland = true}, Route::automatic);
+    const std::string remedy = bare.finding(Capability::sendInput).remedy;
+    EXPECT_TRUE(remedy.starts_with("Run once: sudo modprobe uinput")) << remedy;
+    EXPECT_NE(remedy.find("KERNEL==\"uinput\""), std::string::npos) << remedy;
+    EXPECT_EQ(bare.finding(Capability::open).remedy, "Install xdg-utils: sudo apt install xdg-utils");
+    EXPECT_FALSE(bare.finding(Capability::windows).works || bare.finding(Capability::keyboardLayout).works);
 }
 
-TEST(DesktopSession, TellsWhatTheWindowManagerDoes) {
-    const auto tells = [](bool closes, bool moves, bool works, const std::string& expected) {
-        DesktopFacts facts = x11();
+TEST(DesktopSession, SaysWhatTheWindowManagerDoes) {
+    for (const auto& [closes, moves, expected] :
+         {std::tuple{true, true, "takes such requests."},
+          {true, false, "closes windows for other programs and does not move them."},
+          {false, true, "moves windows for other programs and does not close them."},
+          {false, false, "takes no such requests, or does not answer."}}) {
+        DesktopFacts facts{.hasX = true, .hasWindowManager = true};
         facts.windowManager = "Some";
         facts.closesWindows = closes;
         facts.movesWindows = moves;
         const auto finding = DesktopSession(facts, Route::automatic).finding(Capability::windows);
-        EXPECT_EQ(finding.works, works) << finding.why;
-        EXPECT_EQ(finding.why, "The window manager “Some” " + expected);
-    };
-    tells(true, true, true, "takes such requests.");
-    tells(true, false, false, "closes windows for other programs and does not move them.");
-    tells(false, true, false, "moves windows for other programs and does not close them.");
-    tells(false, false, false, "takes no such requests, or does not answer.");
-}
-
-TEST(DesktopSession, NamesTheCommandThatMends) {
-    const DesktopSession refused(with(wayland(), &DesktopFacts::mayUseUinput, false), Route::automatic);
-    const std::string remedy = refused.finding(Capability::sendInput).remedy;
-    EXPECT_TRUE(remedy.starts_with("Run once: sudo modprobe uinput")) << remedy;
-    EXPECT_NE(remedy.find("KERNEL==\"uinput\""), std::string::npos) << remedy;
-    const DesktopSession bare(with(x11(), &DesktopFacts::hasXdgOpen, false), Route::automatic);
-    EXPECT_EQ(bare.finding(Capability::open).remedy, "Install xdg-utils: sudo apt install xdg-utils");
-    EXPECT_FALSE(DesktopSession(wayland(), Route::automatic).finding(Capability::windows).works);
-    EXPECT_FALSE(DesktopSession(wayland(), Route::automatic).finding(Capability::keyboardLayout).works);
+        EXPECT_EQ(finding.works, closes && moves) << finding.why;
+        EXPECT_EQ(finding.why, std::string("The window manager “Some” ") + expected);
+    }
 }
 
 }  // namespace

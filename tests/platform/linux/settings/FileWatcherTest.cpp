@@ -11,30 +11,34 @@ namespace {
 namespace fs = std::filesystem;
 
 struct FileWatching : ::testing::Test {
-    std::unique_ptr<FileWatcher> watch(const std::string& path) {
-        return std::make_unique<FileWatcher>(loop, path, [this] { content = fs::exists(file) ? readText(file) : ""; });
-    }
+    FileWatching() { fs::create_directories(folder / "config"); }
 
-    /// Whether the watcher tells in time that the file has become this.
+    /// Whether the watcher reports in time that the file has become this, and has its folder.
     bool sees(const std::string& expected) {
         bool isLate = false;
-        const DelayedTask late = loop.after(std::chrono::seconds(20), [&] { isLate = true; });
-        while (content != expected && !isLate) {
-            const DelayedTask look = loop.after(std::chrono::milliseconds(5), [this] { loop.quit(); });
+        const DelayedTask late = loop.after(std::chrono::seconds(20), [&] {
+            isLate = true;
+            loop.quit();
+        });
+        while ((content != expected || !fs::exists(folder / "config")) && !isLate)
             loop.run();
-        }
         return !isLate;
     }
 
     TemporaryFolder folder;
     std::string file = folder / "config/settings.json";
     RunLoop loop;
-    std::string content = "never told";
+    std::string content = "not reported";
+    std::function<void()> onChange = [this] {
+        content = fs::exists(file) ? readText(file) : "";
+        loop.quit();
+    };
 };
 
-TEST_F(FileWatching, TellsHoweverTheFileIsWritten) {
-    const auto watcher = watch(file);
-    ASSERT_TRUE(watcher->isWatching()) << "the folder is made";
+TEST_F(FileWatching, SeesEveryWayOfWriting) {
+    fs::remove(folder / "config");
+    const FileWatcher watcher(loop, file, onChange);
+    ASSERT_TRUE(watcher.isWatching());
     EXPECT_EQ(fs::status(folder / "config").permissions(), fs::perms::owner_all);
     writeText(file, "new");
     EXPECT_TRUE(sees("new"));
@@ -45,7 +49,7 @@ TEST_F(FileWatching, TellsHoweverTheFileIsWritten) {
 }
 
 TEST_F(FileWatching, FollowsFoldersThatAreReplaced) {
-    const auto watcher = watch(file);
+    const FileWatcher watcher(loop, file, onChange);
     for (const std::string text : {"once", "twice"}) {
         fs::rename(folder / "config", folder / text);
         EXPECT_TRUE(sees("")) << "gone with its folder";
@@ -60,11 +64,10 @@ TEST_F(FileWatching, FollowsFoldersThatAreReplaced) {
 }
 
 TEST_F(FileWatching, FollowsLinksThatArePointedElsewhere) {
-    fs::create_directories(folder / "config");
     for (const char* place : {"first", "second"})
         fs::create_directories(folder / place);
     fs::create_symlink(folder / "first/settings.json", file);
-    const auto watcher = watch(file);
+    const FileWatcher watcher(loop, file, onChange);
     folder.write("first/settings.json", "behind the link");
     EXPECT_TRUE(sees("behind the link"));
     folder.write("second/settings.json", "elsewhere");

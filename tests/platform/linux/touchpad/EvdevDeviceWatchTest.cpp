@@ -11,53 +11,48 @@
 namespace kinesta {
 namespace {
 
-class EvdevDeviceWatching : public ::testing::Test {
-  protected:
-    /// Whether the watch says, within `milliseconds`, that there is something to look at.
-    bool isTold(int milliseconds = 5000) {
-        pollfd watch{.fd = m_watch.fileDescriptor(), .events = POLLIN, .revents = 0};
-        while (poll(&watch, 1, milliseconds) > 0)
-            if (m_watch.takeChanges())
+struct EvdevDeviceWatching : ::testing::Test {
+    /// Whether the watch reports a change within `milliseconds`.
+    bool seesChange(int milliseconds = 5000) {
+        pollfd input{.fd = watch.fileDescriptor(), .events = POLLIN, .revents = 0};
+        while (poll(&input, 1, milliseconds) > 0)
+            if (watch.takeChanges())
                 return true;
         return false;
     }
 
-    std::string input(const std::string& name) { return (m_devices.path() / "input" / name).string(); }
-
-    TemporaryFolder m_devices;
-    EvdevDeviceWatch m_watch{m_devices.path().string()};
+    TemporaryFolder devices;
+    EvdevDeviceWatch watch{devices.path().string()};
 };
 
-TEST_F(EvdevDeviceWatching, TellsOfEveryChangeOfADeviceNode) {
-    std::filesystem::create_directory(m_devices.path() / "input");
-    EXPECT_TRUE(isTold());
-    m_devices.write("input/event0", "");
-    EXPECT_TRUE(isTold());
-    EXPECT_EQ(chmod(input("event0").c_str(), 0400), 0);
-    EXPECT_TRUE(isTold());
-    std::filesystem::rename(input("event0"), input("event1"));
-    EXPECT_TRUE(isTold());
-    std::filesystem::remove(input("event1"));
-    EXPECT_TRUE(isTold());
+TEST_F(EvdevDeviceWatching, ReportsEveryChangeOfADeviceNode) {
+    std::filesystem::create_directory(devices / "input");
+    EXPECT_TRUE(seesChange());
+    devices.write("input/event0", "");
+    EXPECT_TRUE(seesChange());
+    EXPECT_EQ(chmod((devices / "input/event0").c_str(), 0400), 0);
+    EXPECT_TRUE(seesChange());
+    std::filesystem::rename(devices / "input/event0", devices / "input/event1");
+    EXPECT_TRUE(seesChange());
+    std::filesystem::remove(devices / "input/event1");
+    EXPECT_TRUE(seesChange());
 
-    // What is no event device is not told, wherever it is.
-    std::filesystem::create_directory(m_devices.path() / "other");
-    m_devices.write("event7", "");
-    m_devices.write("input/mouse0", "");
-    EXPECT_FALSE(isTold(300));  // nor again what was told
+    for (const char* other : {"other", "event7", "input/mouse0"})
+        devices.write(other, "");
+    EXPECT_FALSE(seesChange(300));
 }
 
 TEST_F(EvdevDeviceWatching, OutlivesTheFolder) {
     for (int round = 0; round < 3; ++round) {
-        // At once, so that the end of a folder is read when the next is there already.
-        std::filesystem::create_directory(m_devices.path() / "input");
-        std::filesystem::remove(m_devices.path() / "input");
-        std::filesystem::create_directory(m_devices.path() / "input");
-        EXPECT_TRUE(isTold());
-        m_devices.write("input/event0", "");
-        EXPECT_TRUE(isTold()) << round;
-        std::filesystem::remove_all(m_devices.path() / "input");
-        EXPECT_TRUE(isTold());
+        // Quickly, so that the watch reads of the first folder's end when the second exists already.
+        std::filesystem::create_directory(devices / "input");
+        std::filesystem::remove(devices / "input");
+        std::filesystem::create_directory(devices / "input");
+        EXPECT_TRUE(seesChange());
+        devices.write("input/event0", "");
+        EXPECT_TRUE(seesChange()) << round;
+        std::filesystem::remove_all(devices / "input");
+        EXPECT_TRUE(seesChange());
     }
 }
 

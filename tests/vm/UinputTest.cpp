@@ -1,0 +1,36 @@
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+#include <array>
+
+#include "platform/linux/keyboard/UinputInputPoster.h"
+#include "vm/DeviceListener.h"
+#include "vm/Processes.h"
+
+namespace kinesta::vm {
+namespace {
+
+TEST(Uinput, SaysOnceThatItIsNotAllowedAndTriesAgain) {
+    Lines log;
+    std::optional<UinputInputPoster> poster;
+    asOrdinaryUser([&] {
+        poster.emplace([&](const std::string& line) { log.push_back(line); });
+        EXPECT_FALSE(poster->isAvailable());
+        EXPECT_FALSE(poster->canPost(KEY_A));
+        EXPECT_EQ(poster->pointerLocation(), std::nullopt);
+    });
+    ASSERT_EQ(log.size(), 1U);
+    EXPECT_TRUE(log.front().starts_with("Keys cannot be posted, for /dev/uinput may not be opened; to")) << log.front();
+    EXPECT_TRUE(poster->isAvailable()) << "now it is allowed";
+    EXPECT_FALSE(poster->canPost(BTN_LEFT) || poster->canPost(256));
+    const DeviceListener listener;
+    const std::array presses{InputTransition{KEY_LEFTSHIFT, KeyTransition::down},
+                             InputTransition{KEY_VOLUMEDOWN, KeyTransition::down}};
+    EXPECT_TRUE(poster->post(presses));
+    EXPECT_EQ(listener.take(2), (Lines{"KEY_LEFTSHIFT down", "KEY_VOLUMEDOWN down"}));
+    poster.reset();
+    EXPECT_EQ(listener.take(9).back(), "gone");
+}
+
+}  // namespace
+}  // namespace kinesta::vm
