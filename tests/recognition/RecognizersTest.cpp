@@ -272,6 +272,11 @@ TEST(AnchorDrawRecognizer, TakesADrawingBesideAFingerInACorner) {
         {"upper corner", upper, 0.8, 0.7999, "topRight lineUp"},
         {"lower corner", lower, 0.2, 0.2001, "bottomLeft lineUp"},
         {"right corner", right, 0.8, 0.7999, "bottomRight lineUp"},
+        {"lower right corner",
+         [](double y) {
+             return drawUp(anchored({0.9, y}));
+         },
+         0.2, 0.2001, "bottomRight lineUp"},
         {"rest", [](Seconds time) { return drawUp(anchored(kTopLeft, time)); }, 0.18, 0.1799, up},
         {"duration", [](Seconds lift) { return line(anchored(kTopLeft)).at(lift).up(2); }, 3.25, 3.2501, up},
         {"distance", apart, 0.08, 0.0799, "bottomLeft lineUp"},
