@@ -4,6 +4,7 @@
 #include <chrono>
 #include <thread>
 
+#include "platform/linux/windows/TilingPlan.h"
 #include "platform/linux/windows/TilingRecord.h"
 
 namespace kinesta {
@@ -12,6 +13,9 @@ namespace {
 using Outcome = WindowOutcomes::Outcome;
 
 constexpr std::chrono::milliseconds kBetweenLooks{5};
+
+/// How long to ask why nothing was done, in seconds: longer than actions wait, which this must not fail with.
+constexpr Seconds kPatienceForReasons = 2;
 
 Outcome outcomeOf(const EwmhRequest& request, const EwmhWindow* window) {
     using Kind = EwmhRequest::Kind;
@@ -68,7 +72,7 @@ Outcome WindowOutcomes::outcomeNow() {
 }
 
 std::string WindowOutcomes::obstacle(Kind kind) {
-    const auto desktop = m_desktop.snapshot();
+    const auto desktop = m_desktop.snapshot(kPatienceForReasons);
     if (!desktop)
         return "No X server answers that would tell of windows. See: kinesta doctor";
     if (kind == Kind::close ? !desktop->closesWindows : !desktop->movesWindows)
@@ -81,9 +85,13 @@ std::string WindowOutcomes::obstacle(Kind kind) {
                        (kind == Kind::close && m_programs.hasDialogInside(active->process));
     if (waits)
         return "A dialog waits for your answer.";
-    if (kind == Kind::untile)
+    if (kind == Kind::close && (!active->mayClose || active->isHidden || active->type == EwmhWindowType::other))
+        return "The active window cannot be closed.";
+    if (kind != Kind::close && !canTile(WindowTilingMenuCommand::left, *desktop))
+        return "The active window cannot be tiled.";
+    if (kind == Kind::untile && !m_desktop.tilingRecords({&active->id, 1}, kPatienceForReasons)[0])
         return "The window has no previous size: it was not tiled.";
-    return kind == Kind::close ? "The active window cannot be closed." : "The active window cannot be tiled.";
+    return "The desktop took too long to answer. Try again.";
 }
 
 }  // namespace kinesta
