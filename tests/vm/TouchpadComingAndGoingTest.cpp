@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <set>
 
+#include "platform/linux/keyboard/UinputDevice.h"
 #include "platform/linux/touchpad/DeviceAccess.h"
 #include "platform/linux/touchpad/TouchpadListing.h"
 #include "support/DconfSample.h"
@@ -115,6 +116,7 @@ TEST(TouchpadComingAndGoing, FollowsThePermission) {
 TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder / "dconf");
+    const auto keyboard = UinputDevice::create();  // ours: no external mouse
     setenv("XDG_CURRENT_DESKTOP", "GNOME", 1);
     setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
     VirtualTouchpad pad;

@@ -21,7 +21,7 @@ TEST(Uinput, SaysOnceThatItIsNotAllowedAndTriesAgain) {
     });
     ASSERT_EQ(log.size(), 1U);
     EXPECT_TRUE(log.front().starts_with("Keys cannot be posted, for /dev/uinput may not be opened; to")) << log.front();
-    EXPECT_TRUE(poster->isAvailable()) << "now it is allowed";
+    ASSERT_TRUE(poster->isAvailable()) << "now it is allowed";
     EXPECT_FALSE(poster->canPost(BTN_LEFT) || poster->canPost(256));
     const DeviceListener listener;
     const std::array presses{InputTransition{KEY_LEFTSHIFT, KeyTransition::down},
@@ -29,7 +29,8 @@ TEST(Uinput, SaysOnceThatItIsNotAllowedAndTriesAgain) {
     EXPECT_TRUE(poster->post(presses));
     EXPECT_EQ(listener.take(2), (Lines{"KEY_LEFTSHIFT down", "KEY_VOLUMEDOWN down"}));
     poster.reset();
-    EXPECT_EQ(listener.take(9).back(), "gone");
+    const Lines last = listener.take(3);
+    EXPECT_TRUE(!last.empty() && last.back() == "gone");
 }
 
 }  // namespace
