@@ -19,7 +19,7 @@ bool isShell(const std::string& path) {
 }  // namespace
 
 std::string loginShell() {
-    const auto user = userWithNumber(getuid());
+    const auto user = ownUser();
     const char* named = std::getenv("SHELL");
     return chosenShell(user ? user->shell : "", named != nullptr ? named : "");
 }

@@ -1,14 +1,21 @@
 #include "platform/linux/process/UserDatabase.h"
 
 #include <pwd.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <vector>
 
 namespace kinesta {
 namespace {
 
-// `ask` is one of the getpw…_r functions with all but its buffer given.
+std::string absolutePathIn(const char* variable) {
+    const char* path = std::getenv(variable);
+    return path != nullptr && path[0] == '/' ? path : "";
+}
+
+/// `ask` is one of the getpw…_r functions with all but its buffer given.
 template <typename Ask>
 std::optional<UserRecord> recordFrom(Ask ask) {
     std::vector<char> buffer(1024);
@@ -24,12 +31,24 @@ std::optional<UserRecord> recordFrom(Ask ask) {
 
 }  // namespace
 
-std::optional<UserRecord> userWithNumber(uid_t number) {
-    return recordFrom([&](auto... rest) { return getpwuid_r(number, rest...); });
-}
-
 std::optional<UserRecord> userWithName(const std::string& name) {
     return recordFrom([&](auto... rest) { return getpwnam_r(name.c_str(), rest...); });
+}
+
+std::optional<UserRecord> ownUser() {
+    return recordFrom([](auto... rest) { return getpwuid_r(getuid(), rest...); });
+}
+
+std::string ownHomeFolder() {
+    if (std::string home = absolutePathIn("HOME"); !home.empty())
+        return home;
+    const auto user = ownUser();
+    return user ? user->homeFolder : "";
+}
+
+std::string configurationFolder() {
+    std::string folder = absolutePathIn("XDG_CONFIG_HOME");
+    return folder.empty() ? ownHomeFolder() + "/.config" : folder;
 }
 
 }  // namespace kinesta

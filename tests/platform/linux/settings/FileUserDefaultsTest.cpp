@@ -88,13 +88,13 @@ TEST_F(FileUserDefaultsTest, storesEachChangeAtOnceForItsOwnerOnly) {
     auto writer = open();
     EXPECT_FALSE(fs::exists(folder / "a"));  // loading leaves no trace
     writer.setInteger("i", 5);
-    writer.setData("d", "\xFF");
+    writer.setData("d", "\u00FF");
     writer.setReal("r", 1);
     EXPECT_EQ(open().values(), writer.values());
     writer.remove("i");
     writer.remove("never there");
     ::umask(mask);
-    EXPECT_EQ(open().values(), (StoredValues{{"d", StoredData{"\xFF"}}, {"r", 1.0}}));
+    EXPECT_EQ(open().values(), (StoredValues{{"d", StoredData{"\u00FF"}}, {"r", 1.0}}));
     EXPECT_EQ(mode(path), 0600u);
     EXPECT_EQ(mode(folder / "a/b"), 0700u);
     EXPECT_EQ(mode(folder / "a"), 0700u);
@@ -127,7 +127,7 @@ TEST_F(FileUserDefaultsTest, mergesWhatOthersStoredAndKeepsWhatItDoesNotKnow) {
 TEST_F(FileUserDefaultsTest, setsADamagedFileAsideOnceAndNeverOverAnother) {
     open().setInteger("a", 1);
     auto running = open();
-    const Names damaged{"", "{\"a\":1", "[]", "{\"a\":\"\xFF\"}", "{\"a\":{\"bytes\":[300]}}"};
+    const Names damaged{"", "{\"a\":1", "[]", "{\"a\":\"\xFF\"}", "{\"a\":{\"data\":[300]}}"};
     Names expected{"defaults.json"};
     for (std::size_t i = 0; i < damaged.size(); ++i) {
         SCOPED_TRACE(damaged[i]);
