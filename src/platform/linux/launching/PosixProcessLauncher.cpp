@@ -14,7 +14,7 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/linux/launching/LoginShell.h"
+#include "platform/linux/process/UserDatabase.h"
 
 namespace kinesta {
 namespace {
