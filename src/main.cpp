@@ -7,6 +7,7 @@
 
 #include "cli/CommandLine.h"
 #include "platform/linux/Examples.h"
+#include "platform/linux/process/BrokenPipes.h"
 #include "platform/linux/process/SystemError.h"
 #include "platform/linux/process/Terminal.h"
 #include "platform/linux/session/CurrentDesktop.h"

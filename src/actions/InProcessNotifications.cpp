@@ -6,7 +6,7 @@
 namespace kinesta {
 
 void InProcessNotifications::post(std::string_view name, ActionKind object) {
-    m_observers.tell([] { return true; }, name, object);
+    m_observers.notify([] { return true; }, name, object);
 }
 
 Subscription InProcessNotifications::observe(std::string_view name, Observer observer) {

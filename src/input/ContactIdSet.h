@@ -41,7 +41,8 @@ class ContactIdSet {
 
   private:
     bool isListOf(std::span<const TouchSample> samples) const {
-        return std::equal(m_ids.begin(), m_ids.end(), samples.begin(), samples.end(),
+        return m_ids.size() == samples.size() &&
+               std::equal(m_ids.begin(), m_ids.end(), samples.begin(),
                           [](ContactId id, const TouchSample& sample) { return id == sample.id; });
     }
     bool isSetOfReordered(std::span<const TouchSample> samples) const;

@@ -9,8 +9,10 @@ std::span<const TouchSample> CornerPalmRejectionFilter::process(std::span<const 
     }
     if (!m_trackedIDs.isSetOf(samples))
         takeChangedContacts(samples);
-    if (m_rejectedIDs.empty())
-        return samples;
+    return m_rejectedIDs.empty() ? samples : withoutPalms(samples);
+}
+
+std::span<const TouchSample> CornerPalmRejectionFilter::withoutPalms(std::span<const TouchSample> samples) {
     m_kept.clear();
     for (const TouchSample& sample : samples)
         if (!m_rejectedIDs.contains(sample.id))
@@ -28,13 +30,12 @@ void CornerPalmRejectionFilter::takeChangedContacts(std::span<const TouchSample>
         reset();
         return;
     }
-    const ContactIdSet current(samples);
     if (!m_rejectedIDs.empty())
-        m_rejectedIDs.intersect(current);
+        m_rejectedIDs.intersect(ContactIdSet(samples));
     for (const TouchSample& sample : samples)
         if (!m_trackedIDs.contains(sample.id) && m_settings.contains(sample.position))
             m_rejectedIDs.insert(sample.id);
-    m_trackedIDs = current;
+    m_trackedIDs.assign(samples);
 }
 
 }  // namespace kinesta

@@ -26,6 +26,7 @@ class CornerPalmRejectionFilter {
     void reset();
 
   private:
+    std::span<const TouchSample> withoutPalms(std::span<const TouchSample> samples);
     void takeChangedContacts(std::span<const TouchSample> samples);
 
     CornerPalmRejectionSettings m_settings;

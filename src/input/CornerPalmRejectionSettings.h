@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "input/SettingsKeys.h"
 #include "support/Point.h"
 
 namespace kinesta {
@@ -9,8 +10,8 @@ namespace kinesta {
 /// Whether contacts that start in a corner of the pad count as palms, and how large a corner is.
 struct CornerPalmRejectionSettings {
     static constexpr double defaultSensitivity = 0.5;
-    static constexpr std::string_view enabledStorageKey = "cornerPalmRejectionEnabled.v1";
-    static constexpr std::string_view sensitivityStorageKey = "cornerPalmRejectionSensitivity.v1";
+    static constexpr std::string_view enabledStorageKey = SettingsKeys::cornerPalmRejectionEnabled;
+    static constexpr std::string_view sensitivityStorageKey = SettingsKeys::cornerPalmRejectionSensitivity;
 
     bool isEnabled = false;
     /// 0…1, for the smallest to the largest corners.

@@ -20,39 +20,45 @@ constexpr std::size_t kMostTrackedFingers = 4096;
 std::optional<TapSequence> MultiTapRecognizer::process(std::span<const TouchSample> samples, Seconds timestamp) {
     if (samples.empty())
         return m_contact ? endContact(timestamp) : std::nullopt;
-    trackContact(samples, timestamp);
-    return std::nullopt;
-}
-
-void MultiTapRecognizer::trackContact(std::span<const TouchSample> samples, Seconds timestamp) {
     if (!m_contact) {
         assert(ContactIdSet(samples).size() == samples.size() && "two contacts of a frame share an id");
         m_contact = Contact{.beganAt = timestamp};
     }
-    m_contact->maximumFingerCount = std::max(m_contact->maximumFingerCount, static_cast<int>(samples.size()));
-    if (!m_contact->movedTooFar)
-        trackMovement(samples);
+    trackContact(samples);
+    return std::nullopt;
 }
 
-void MultiTapRecognizer::trackMovement(std::span<const TouchSample> samples) {
-    TouchSamples& initial = m_contact->initialPositions;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const TouchSample& sample = samples[i];
-        const auto isSameFinger = [&sample](const TouchSample& other) { return other.id == sample.id; };
-        // Most drivers list the fingers in the same order in every frame.
-        const TouchSample* first = i < initial.size() && isSameFinger(initial[i])
-                                       ? &initial[i]
-                                       : std::find_if(initial.begin(), initial.end(), isSameFinger);
-        const bool isKnown = first != initial.end();
-        if (isKnown ? compareDistance(first->position, sample.position, m_limits.maximumMovement) > 0
-                    : initial.size() == kMostTrackedFingers) {
-            m_contact->movedTooFar = true;
-            initial.clear();
-            return;
-        }
-        if (!isKnown)
-            initial.push_back(sample);
+void MultiTapRecognizer::trackContact(std::span<const TouchSample> samples) {
+    Contact& contact = *m_contact;
+    contact.maximumFingerCount = std::max(contact.maximumFingerCount, static_cast<int>(samples.size()));
+    if (contact.movedTooFar)
+        return;
+    const TouchSamples& initial = contact.initialPositions;
+    // Most drivers list the fingers in the same order in every frame: skips those that have hardly moved.
+    const auto skipped =
+        std::mismatch(samples.begin(), samples.end(), initial.begin(), initial.end(),
+                      [limit = m_limits.maximumMovement](const auto& sample, const auto& first) {
+                          return first.id == sample.id && isClearlyCloser(first.position, sample.position, limit);
+                      });
+    for (auto sample = skipped.first; sample != samples.end(); ++sample) {
+        if (staysPut(*sample))
+            continue;
+        contact.movedTooFar = true;
+        contact.initialPositions.clear();
+        return;
     }
+}
+
+/// Remembers where a new finger is first seen.
+bool MultiTapRecognizer::staysPut(const TouchSample& sample) {
+    TouchSamples& initial = m_contact->initialPositions;
+    for (const TouchSample& first : initial)
+        if (first.id == sample.id)
+            return !(compareDistance(first.position, sample.position, m_limits.maximumMovement) > 0);
+    if (initial.size() == kMostTrackedFingers)
+        return false;
+    initial.push_back(sample);
+    return true;
 }
 
 std::optional<TapSequence> MultiTapRecognizer::endContact(Seconds timestamp) {

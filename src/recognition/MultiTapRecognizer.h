@@ -56,8 +56,8 @@ class MultiTapRecognizer {
         Seconds lastTapTime = 0;
     };
 
-    void trackContact(std::span<const TouchSample> samples, Seconds timestamp);
-    void trackMovement(std::span<const TouchSample> samples);
+    void trackContact(std::span<const TouchSample> samples);
+    bool staysPut(const TouchSample& sample);
     std::optional<TapSequence> endContact(Seconds timestamp);
 
     Limits m_limits;

@@ -7,9 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "input/SettingsKeys.h"
+#include "input/TapWaitingInterval.h"
 #include "input/TrackpadContactProviding.h"
 #include "recognition/PointerEventMonitoring.h"
-#include "recognition/TapWaitingInterval.h"
 #include "recognition/TouchFrameProcessor.h"
 #include "rules/RuleSelection.h"
 #include "support/Clock.h"
@@ -25,7 +26,7 @@ namespace kinesta {
 class MultitouchService {
   public:
     using Status = TrackpadContactProviderStatus;
-    static constexpr std::string_view enabledStorageKey = "gesturesEnabled";
+    static constexpr std::string_view enabledStorageKey = SettingsKeys::gesturesEnabled;
 
     /// Reads the settings and installs the provider's frame handler; starts nothing. All ports must outlive the
     /// service, main thread and clock also the last frame of the provider.

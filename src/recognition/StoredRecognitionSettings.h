@@ -1,7 +1,7 @@
 #pragma once
 
 #include "input/CornerPalmRejectionSettings.h"
-#include "recognition/TapWaitingInterval.h"
+#include "input/TapWaitingInterval.h"
 #include "support/UserDefaults.h"
 
 namespace kinesta {

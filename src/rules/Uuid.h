@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -21,7 +20,8 @@ struct Uuid {
 
     std::string toString() const;
 
-    friend auto operator<=>(const Uuid&, const Uuid&) = default;
+    friend bool operator==(const Uuid&, const Uuid&) = default;
+    friend bool operator<(const Uuid& a, const Uuid& b) { return a.bytes < b.bytes; }  // libc++ 16: no <=> of arrays
 };
 
 }  // namespace kinesta

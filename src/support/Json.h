@@ -9,8 +9,8 @@
 
 namespace kinesta {
 
-/// A JSON value for writing. Members keep their order; what is no UTF-8 becomes U+FFFD. Its header costs next to
-/// nothing to include, unlike that of the library behind it.
+/// A JSON value for writing. Members keep their order; bytes that are not UTF-8 become U+FFFD. Quick to compile, unlike
+/// the header of the library behind it.
 class Json {
   public:
     struct Member;
@@ -32,12 +32,12 @@ class Json {
     Json& operator=(Json other) noexcept;
     ~Json();
 
-    /// Sets a member of an object, to which null turns.
+    /// Sets a member of an object. Null becomes an object.
     void set(const char* key, Json value);
     /// Appends to an array.
     void push_back(Json element);
 
-    /// On one line, or with each level indented by so many spaces.
+    /// On one line, or with each level indented by `indent` spaces.
     std::string text(int indent = -1) const;
 
   private:

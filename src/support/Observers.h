@@ -12,9 +12,9 @@
 
 namespace kinesta {
 
-/// Callbacks that are told in the order in which they came, until their subscriptions end. Main thread only. They may
-/// subscribe, unsubscribe and have everyone told again from within their call; one that comes while others are told
-/// hears only of what follows.
+/// Calls its observers in the order in which they subscribed, until their subscriptions end. Main thread only. An
+/// observer may subscribe, unsubscribe and notify from within its call; a new one is called from the next
+/// notification on.
 template <typename... Arguments>
 class Observers {
   public:
@@ -22,10 +22,10 @@ class Observers {
 
     [[nodiscard]] Subscription add(Observer observer) { return {m_list, m_list->add(std::move(observer))}; }
 
-    /// Calls every observer, as long as `isWanted` says so before each.
+    /// Calls every observer. Stops when `isWanted`, asked before each, returns false.
     template <typename IsWanted>
-    void tell(const IsWanted& isWanted, Arguments... arguments) const {
-        m_list->tell(isWanted, arguments...);
+    void notify(const IsWanted& isWanted, Arguments... arguments) const {
+        m_list->notify(isWanted, arguments...);
     }
 
   private:
@@ -40,7 +40,7 @@ class Observers {
             const auto place = std::ranges::lower_bound(m_entries, number, {}, [](const auto& e) { return e->number; });
             if (place == m_entries.end() || (*place)->number != number)
                 return;
-            // Destroyed last, when the list is in order again: what the observer holds may end other subscriptions.
+            // Destroyed last, when the list is consistent again: the observer may own other subscriptions.
             const auto ended = *place;
             ended->isActive = false;
             if (m_depth == 0)
@@ -48,7 +48,7 @@ class Observers {
         }
 
         template <typename IsWanted>
-        void tell(const IsWanted& isWanted, Arguments... arguments) {
+        void notify(const IsWanted& isWanted, Arguments... arguments) {
             // By index and up to the present size: a callback may subscribe, which may move the list.
             const std::size_t present = m_entries.size();
             ++m_depth;

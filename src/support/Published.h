@@ -7,8 +7,8 @@
 
 namespace kinesta {
 
-/// A value with observers. Main thread only. Observers may subscribe, unsubscribe and set the
-/// value again from within their callback.
+/// A value with observers. Main thread only. Observers may subscribe, unsubscribe and set the value again from within
+/// their callback.
 template <typename T>
 class Published {
   public:
@@ -25,8 +25,8 @@ class Published {
     void set(T value) {
         m_value = std::move(value);
         const std::uint64_t change = ++m_changes;
-        // A nested set() has told everyone the newer value: nothing is left to say.
-        m_observers.tell([&] { return change == m_changes; }, m_value);
+        // After a nested set() every observer has the newer value.
+        m_observers.notify([&] { return change == m_changes; }, m_value);
     }
 
     /// Calls `observer` after every later set(), until the subscription ends.
@@ -35,7 +35,7 @@ class Published {
   private:
     T m_value{};
     std::uint64_t m_changes = 0;
-    mutable Observers<const T&> m_observers;  // who may read may follow
+    mutable Observers<const T&> m_observers;  // const readers may observe
 };
 
 }  // namespace kinesta

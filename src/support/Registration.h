@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <utility>
+#include <memory>
 
 namespace kinesta {
 
@@ -11,27 +11,18 @@ template <typename Owner>
 class Registration {
   public:
     Registration() = default;
-    Registration(Owner* owner, std::uint64_t id) : m_owner(owner), m_id(id) {}
-    Registration(Registration&& other) noexcept : m_owner(std::exchange(other.m_owner, nullptr)), m_id(other.m_id) {}
-    Registration& operator=(Registration&& other) noexcept {
-        if (this != &other) {
-            cancel();
-            m_owner = std::exchange(other.m_owner, nullptr);
-            m_id = other.m_id;
-        }
-        return *this;
-    }
-    ~Registration() { cancel(); }
+    Registration(Owner* owner, std::uint64_t id) : m_owner(owner, Cancel{id}) {}
 
     /// Does nothing if there is nothing left to cancel.
-    void cancel() {
-        if (Owner* owner = std::exchange(m_owner, nullptr))
-            owner->cancel(m_id);
-    }
+    void cancel() { m_owner.reset(); }
 
   private:
-    Owner* m_owner = nullptr;
-    std::uint64_t m_id = 0;
+    struct Cancel {
+        std::uint64_t id = 0;
+        void operator()(Owner* owner) const { owner->cancel(id); }
+    };
+
+    std::unique_ptr<Owner, Cancel> m_owner;
 };
 
 }  // namespace kinesta

@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// What subscriptions end: observations, each with a number.
+/// Observations by number; subscriptions end them.
 class Observations {
   public:
     virtual ~Observations() = default;
@@ -20,12 +20,9 @@ class Subscription {
     Subscription(std::weak_ptr<Observations> observations, std::uint64_t number)
         : m_observations(std::move(observations)), m_number(number) {}
     Subscription(Subscription&&) noexcept = default;
-    Subscription& operator=(Subscription&& other) noexcept {
-        if (this != &other) {
-            end();
-            m_observations = std::move(other.m_observations);
-            m_number = other.m_number;
-        }
+    Subscription& operator=(Subscription other) noexcept {
+        std::swap(m_observations, other.m_observations);
+        std::swap(m_number, other.m_number);
         return *this;
     }
     ~Subscription() { end(); }

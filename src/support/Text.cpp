@@ -2,6 +2,8 @@
 
 #include <array>
 #include <charconv>
+#include <locale>
+#include <sstream>
 
 namespace kinesta {
 namespace {
@@ -78,6 +80,22 @@ void appendUtf8(std::string& text, std::uint32_t codePoint) {
         put(0x80 | (codePoint >> 6 & 0x3F));
         put(0x80 | (codePoint & 0x3F));
     }
+}
+
+std::optional<double> parsedNumber(std::string_view text) {
+    double value = 0;
+#if defined(__cpp_lib_to_chars)
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+#else  // libc++ has no from_chars for doubles
+    std::istringstream stream{std::string(text)};
+    stream.imbue(std::locale::classic());
+    if (text.find_first_not_of("0123456789+-.eE") != std::string_view::npos || text.starts_with('+') ||
+        !(stream >> value) || stream.peek() != std::istringstream::traits_type::eof())
+        return std::nullopt;
+#endif
+    return value;
 }
 
 std::string numberText(double value) {

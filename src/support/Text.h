@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,10 @@ bool isUtf8(std::string_view bytes);
 
 /// Appends a code point as UTF-8. It must be at most U+10FFFF and not a surrogate.
 void appendUtf8(std::string& text, std::uint32_t codePoint);
+
+/// The double nearest to a decimal number in any locale: digits with an optional "-", fraction and exponent, and
+/// nothing else. Nothing if the number is out of range.
+std::optional<double> parsedNumber(std::string_view text);
 
 /// The shortest decimal text that reads back as exactly `value` in any locale: "0.1", "250", "1e-07". For a finite
 /// number this is also a JSON number.

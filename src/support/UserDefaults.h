@@ -23,7 +23,7 @@ class UserDefaults {
     virtual std::optional<std::string> string(std::string_view key) const = 0;
     /// Arbitrary bytes.
     virtual std::optional<std::string> data(std::string_view key) const = 0;
-    /// What is stored under the key, whatever its type: data and strings as they are, all else as JSON text.
+    /// The value as text, of any type: data and strings as they are, all others as JSON.
     virtual std::optional<std::string> anyAsText(std::string_view key) const = 0;
 
     virtual void setBoolean(std::string_view key, bool value) = 0;

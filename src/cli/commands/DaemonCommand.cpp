@@ -9,6 +9,7 @@
 #include "cli/StoredSettings.h"
 #include "cli/terminal/TextTable.h"
 #include "platform/linux/LinuxActions.h"
+#include "platform/linux/process/BrokenPipes.h"
 #include "platform/linux/process/SignalListener.h"
 #include "platform/linux/process/SingleInstance.h"
 #include "platform/linux/settings/FileWatcher.h"
@@ -149,8 +150,7 @@ class Daemon {
 }  // namespace
 
 ExitStatus runDaemon(const Console& console, const std::filesystem::path& defaults, LogLevel level) {
-    // Whoever reads the log may go away; that is no reason to stop.
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    surviveBrokenPipes();  // the reader of the log may end
     const auto instance = SingleInstance::claim(defaults);
     if (!instance)
         return console.fail(instance.error().message);

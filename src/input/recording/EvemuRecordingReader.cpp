@@ -32,6 +32,12 @@ class Fields {
         return error == std::errc() && parsed == end && !field.empty();
     }
 
+    bool next(Seconds& time) {
+        const auto number = parsedNumber(next());
+        time = number.value_or(0);
+        return number.has_value();
+    }
+
   private:
     std::string_view m_text;
 };

@@ -107,11 +107,13 @@ std::optional<JsonNumber> JsonScanner::number() {
     }
     const char* const first = m_text.data() + begin;
     const char* const last = m_text.data() + m_at;
-    JsonNumber number;
-    if (std::from_chars(first, last, number.value).ec != std::errc()) {
+    const auto value = parsedNumber({first, last});
+    if (!value) {
         fail("a number is out of range");
         return std::nullopt;
     }
+    JsonNumber number;
+    number.value = *value;
     // Above 2⁵³ every double is whole, so a fraction as written counts as no whole number.
     constexpr double kExact = 9007199254740992.0;
     if (isWhole) {

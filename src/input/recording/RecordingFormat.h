@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -13,13 +12,6 @@ namespace kinesta {
 /// Shared by the reader and the writer of Kinesta's own recordings.
 struct RecordingFormat {
     static constexpr int kVersion = 1;
-
-    static constexpr const char* kGesturesEnabled = "gesturesEnabled";
-    static constexpr const char* kTapWaitingInterval = "tapWaitingInterval.v1";
-    static constexpr const char* kCornerPalmRejectionEnabled = "cornerPalmRejectionEnabled.v1";
-    static constexpr const char* kCornerPalmRejectionSensitivity = "cornerPalmRejectionSensitivity.v1";
-
-    static constexpr std::array kTapWaitingMilliseconds{150, 200, 250, 300, 400};
 
     /// The limit of times in both directions: they must fit 64-bit nanoseconds.
     static constexpr Seconds kLatestTime = 9.2e9;

@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "input/TapWaitingInterval.h"
 #include "input/recording/RecordingFormat.h"
 
 namespace kinesta {
@@ -216,22 +217,21 @@ bool RecordingLineDecoder::takeSettings(JsonScanner& json, RecordedSettings& set
         return fail("\"settings\" is not an object");
     json.beginObject();
     while (const auto key = json.nextKey()) {
-        if (*key == RecordingFormat::kGesturesEnabled) {
-            if (!takeBoolean(json, RecordingFormat::kGesturesEnabled, settings.gesturesEnabled))
+        if (*key == SettingsKeys::gesturesEnabled) {
+            if (!takeBoolean(json, SettingsKeys::gesturesEnabled, settings.gesturesEnabled))
                 return false;
-        } else if (*key == RecordingFormat::kCornerPalmRejectionEnabled) {
-            if (!takeBoolean(json, RecordingFormat::kCornerPalmRejectionEnabled, settings.cornerPalmRejectionEnabled))
+        } else if (*key == SettingsKeys::cornerPalmRejectionEnabled) {
+            if (!takeBoolean(json, SettingsKeys::cornerPalmRejectionEnabled, settings.cornerPalmRejectionEnabled))
                 return false;
-        } else if (*key == RecordingFormat::kTapWaitingInterval) {
+        } else if (*key == SettingsKeys::tapWaitingInterval) {
             const auto number = json.kind() == Kind::number ? json.number() : std::nullopt;
-            const auto& known = RecordingFormat::kTapWaitingMilliseconds;
-            if (!number || !number->integer || std::find(known.begin(), known.end(), *number->integer) == known.end())
-                return fail(quoted(RecordingFormat::kTapWaitingInterval) + " is none of 150, 200, 250, 300 and 400");
+            if (!number || !number->integer || !TapWaitingInterval::fromRawValue(*number->integer))
+                return fail(quoted(SettingsKeys::tapWaitingInterval) + " is none of 150, 200, 250, 300 and 400");
             settings.tapWaitingMilliseconds = static_cast<int>(*number->integer);
-        } else if (*key == RecordingFormat::kCornerPalmRejectionSensitivity) {
+        } else if (*key == SettingsKeys::cornerPalmRejectionSensitivity) {
             const auto number = json.kind() == Kind::number ? json.number() : std::nullopt;
             if (!number)
-                return fail(quoted(RecordingFormat::kCornerPalmRejectionSensitivity) + " is not a number");
+                return fail(quoted(SettingsKeys::cornerPalmRejectionSensitivity) + " is not a number");
             settings.cornerPalmRejectionSensitivity = number->value;
         } else {
             json.skipValue();

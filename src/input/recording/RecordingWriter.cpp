@@ -1,9 +1,9 @@
 #include "input/recording/RecordingWriter.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "input/ContactIdSet.h"
+#include "input/TapWaitingInterval.h"
 #include "support/Json.h"
 #include "support/Text.h"
 
@@ -49,30 +49,29 @@ Problem append(std::string& line, const PadPressure& pressure) {
 
 Problem append(std::string& line, const RecordedSettings& settings) {
     std::string members;
-    const auto key = [&members](const char* name) {
+    const auto key = [&members](std::string_view name) {
         members += members.empty() ? "\"" : ",\"";
         members += name;
         members += "\":";
     };
-    const auto boolean = [&](const char* name, const std::optional<bool>& value) {
+    const auto boolean = [&](std::string_view name, const std::optional<bool>& value) {
         if (value) {
             key(name);
             members += *value ? "true" : "false";
         }
     };
-    boolean(RecordingFormat::kGesturesEnabled, settings.gesturesEnabled);
+    boolean(SettingsKeys::gesturesEnabled, settings.gesturesEnabled);
     if (settings.tapWaitingMilliseconds) {
-        const auto& known = RecordingFormat::kTapWaitingMilliseconds;
-        if (std::find(known.begin(), known.end(), *settings.tapWaitingMilliseconds) == known.end())
+        if (!TapWaitingInterval::fromRawValue(*settings.tapWaitingMilliseconds))
             return "the tap waiting interval is not one of those that can be set";
-        key(RecordingFormat::kTapWaitingInterval);
+        key(SettingsKeys::tapWaitingInterval);
         members += std::to_string(*settings.tapWaitingMilliseconds);
     }
-    boolean(RecordingFormat::kCornerPalmRejectionEnabled, settings.cornerPalmRejectionEnabled);
+    boolean(SettingsKeys::cornerPalmRejectionEnabled, settings.cornerPalmRejectionEnabled);
     if (settings.cornerPalmRejectionSensitivity) {
         if (!std::isfinite(*settings.cornerPalmRejectionSensitivity))
             return "the sensitivity of the corner palm rejection is not finite";
-        key(RecordingFormat::kCornerPalmRejectionSensitivity);
+        key(SettingsKeys::cornerPalmRejectionSensitivity);
         appendNumber(members, *settings.cornerPalmRejectionSensitivity);
     }
     line += "\"settings\":{" + members + "}";

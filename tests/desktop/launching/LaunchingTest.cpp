@@ -13,9 +13,9 @@
 
 #include "desktop/harness/ChildProcess.h"
 #include "desktop/harness/LaunchedProgram.h"
-#include "platform/linux/launching/LoginShell.h"
 #include "platform/linux/launching/PosixProcessLauncher.h"
 #include "platform/linux/process/PosixHomeFolders.h"
+#include "platform/linux/process/UserDatabase.h"
 #include "support/TemporaryFolder.h"
 
 namespace kinesta::testing {

@@ -38,7 +38,7 @@ std::string unescaped(std::string_view value) {
             case '\\':
                 result += '\\';
                 break;
-            default:  // meant for a later reading
+            default:  // an escape of the Exec line, resolved later
                 result += {'\\', next};
         }
     }
@@ -65,7 +65,7 @@ std::string valueOf(const Keys& keys, std::string_view name) {
     return found == keys.end() ? std::string() : found->second;
 }
 
-// The value for a locale lang_COUNTRY.ENCODING@MODIFIER, by the best match that is there.
+// The value for a locale lang_COUNTRY.ENCODING@MODIFIER; the closest match wins.
 std::string localizedValueOf(const Keys& keys, const std::string& name, std::string_view locale) {
     const auto at = locale.find('@');
     const std::string modifier(at == std::string_view::npos ? "" : locale.substr(at));
@@ -77,7 +77,7 @@ std::string localizedValueOf(const Keys& keys, const std::string& name, std::str
     return valueOf(keys, name);
 }
 
-// The words of a command line, as a shell would divide it that expands nothing; nothing if a quotation does not end.
+// The words of a command line, split and unquoted as in a shell, without expansion. Nothing if a quote is not closed.
 std::optional<std::vector<std::string>> wordsOf(std::string_view line) {
     std::vector<std::string> words;
     std::string word;
@@ -111,7 +111,7 @@ std::optional<std::vector<std::string>> wordsOf(std::string_view line) {
     return words;
 }
 
-// A word with its field codes replaced; nothing if nothing but codes for documents was in it.
+// A word with its field codes replaced; nothing if it held only codes for documents.
 std::optional<std::string> expanded(const std::string& word, const std::string& name, const std::string& path) {
     std::string result;
     bool hadOnlyCodes = !word.empty();

@@ -9,14 +9,14 @@ namespace kinesta {
 
 /// What a desktop file (*.desktop) says about starting its application.
 struct DesktopEntry {
-    /// The program and its arguments. Places that the file keeps for documents are left out: none is handed over.
+    /// The program and its arguments, without the placeholders for documents.
     std::vector<std::string> command;
-    /// Empty: none is asked for.
+    /// Empty if the file names none.
     std::string workingDirectory;
     bool runsInTerminal = false;
 
-    /// Reads a desktop file. `locale` ("de_DE.UTF-8", as in LC_MESSAGES) chooses the name, which some programs want to
-    /// be told.
+    /// Reads a desktop file. `locale` ("de_DE.UTF-8", as in LC_MESSAGES) chooses the name, which some programs take as
+    /// an argument.
     static Result<DesktopEntry> read(const std::string& path, const std::string& locale);
 };
 

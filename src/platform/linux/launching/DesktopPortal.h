@@ -6,8 +6,8 @@
 
 namespace kinesta {
 
-/// The desktop's service that opens things on behalf of programs. Main thread only. True says that the request is on
-/// its way.
+/// The desktop's service that opens addresses and files for programs. Main thread only. True means that the request
+/// was sent.
 class DesktopPortal {
   public:
     /// `bus` must outlive this.

@@ -14,7 +14,7 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/linux/launching/LoginShell.h"
+#include "platform/linux/process/UserDatabase.h"
 
 namespace kinesta {
 namespace {
@@ -59,7 +59,7 @@ class SpawnFileActions {
         if (output == PosixProcessLauncher::Output::nowhere || isPipe(STDOUT_FILENO))
             posix_spawn_file_actions_addopen(&m_actions, STDOUT_FILENO, kNowhere, O_WRONLY, 0);
         posix_spawn_file_actions_adddup2(&m_actions, STDOUT_FILENO, STDERR_FILENO);
-        // Not every library marks what it opens as ours alone.
+        // Not every library opens its files with O_CLOEXEC.
         posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1);
     }
     SpawnFileActions(const SpawnFileActions&) = delete;
@@ -101,7 +101,7 @@ void PosixProcessLauncher::launch(ProcessDescription process) {
     m_waiting.push_back(std::move(process));
     if (!m_thread.joinable()) {
         m_wake = FileDescriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-        // The thread takes no signals: they are for those who have set up to receive them.
+        // Other threads handle signals, so this one blocks them all.
         sigset_t all;
         sigset_t before;
         sigfillset(&all);
@@ -129,7 +129,7 @@ void PosixProcessLauncher::run() {
             return;
         watched.assign(1, {m_wake.number(), POLLIN, 0});
         for (const Child& child : m_children)
-            watched.push_back({child.end.number(), POLLIN, 0});  // poll passes over a negative one
+            watched.push_back({child.end.number(), POLLIN, 0});  // poll ignores a negative one
         poll(watched.data(), watched.size(), -1);
         eventfd_t ignored = 0;
         eventfd_read(m_wake.number(), &ignored);

@@ -17,32 +17,31 @@ struct ProcessDescription {
     std::string executable;
     /// Without the program's own name.
     std::vector<std::string> arguments;
-    /// Empty: ours.
+    /// Empty for Kinesta's own.
     std::string workingDirectory;
 };
 
-/// Starts programs that live on their own: in a session of their own, so that they survive us and no terminal's signal
-/// reaches them through us; with nothing to read, and no output of ours but the log; with the signals as programs
-/// expect them. Any thread.
+/// Starts programs in sessions of their own: they outlive Kinesta, and the signals of its terminal do not reach them.
+/// They get an empty input, the log or nothing as output, and default signal handling. Any thread.
 ///
-/// A thread, begun at the first launch, starts them and waits for their ends. It sleeps while nothing of that happens,
-/// and is told by process descriptors: SIGCHLD belongs to whoever else wants it, and so do other children.
+/// A thread, created at the first launch, starts the programs and waits for them to end. It uses process descriptors
+/// instead of SIGCHLD, which stays free for other code, and does not wait for other children.
 class PosixProcessLauncher final : public ProcessLauncher {
   public:
     /// Where the standard output and standard error of programs go.
     enum class Output {
         nowhere,
-        /// To our standard output, which is the daemon's log. To nowhere if that is a pipe: whoever reads it would wait
-        /// for the end of programs that outlive us.
+        /// To standard output, which is the daemon's log. To nowhere if that is a pipe: its reader would wait until all
+        /// these programs have ended.
         log
     };
 
     struct Options {
         /// The shell that shell commands ask for.
         std::string zsh = "/bin/zsh";
-        /// What stands in where there is no zsh: a shell that takes the same arguments.
+        /// The shell to use where there is no zsh. It must take the same arguments.
         std::function<std::string()> loginShell;
-        /// Is told, on another thread and as one sentence, what could not be started and why.
+        /// Gets one sentence, on another thread, when a program cannot be started.
         std::function<void(const std::string&)> log;
         Output output = Output::nowhere;
     };
@@ -51,7 +50,7 @@ class PosixProcessLauncher final : public ProcessLauncher {
     explicit PosixProcessLauncher(Options options);
     PosixProcessLauncher(const PosixProcessLauncher&) = delete;
     PosixProcessLauncher& operator=(const PosixProcessLauncher&) = delete;
-    /// Returns once all that was asked for has been started; what runs goes on.
+    /// Returns when every launched program has been started. Running programs go on.
     ~PosixProcessLauncher() override;
 
     void launch(std::string executable, std::vector<std::string> arguments) override;
@@ -72,7 +71,7 @@ class PosixProcessLauncher final : public ProcessLauncher {
     std::mutex m_mutex;  // guards the two below
     std::vector<ProcessDescription> m_waiting;
     bool m_isEnding = false;
-    std::vector<Child> m_children;  // of the thread alone
+    std::vector<Child> m_children;  // used by the thread only
     std::thread m_thread;
 };
 

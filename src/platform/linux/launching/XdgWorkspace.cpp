@@ -45,7 +45,7 @@ void XdgWorkspace::openURL(const std::string& url) {
 }
 
 void XdgWorkspace::openFile(const std::string& path) {
-    const std::string file = absolutePath(path);  // never taken for an option or an address
+    const std::string file = absolutePath(path);  // absolute, so it cannot be mistaken for an option or an address
     if (isInSearchPath(kOpener))
         m_launcher.launch(kOpener, {file});
     else if (!m_portal.openFile(file))

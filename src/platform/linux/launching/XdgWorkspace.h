@@ -8,13 +8,13 @@
 
 namespace kinesta {
 
-/// Opens things as the desktop would: addresses and files with xdg-open, or the desktop's portal where there is no
-/// xdg-open; applications by their program or their desktop file. Main thread only.
+/// Opens addresses and files with xdg-open, or with the desktop's portal where there is no xdg-open; starts
+/// applications by their program or desktop file. Main thread only.
 class XdgWorkspace final : public Workspace {
   public:
-    /// Tells which application has the person's attention.
+    /// Returns the process of the frontmost application, if that is known.
     using FrontmostApplication = std::function<std::optional<ProcessIdentifier>()>;
-    /// Is told, as one sentence, what could not be opened and why.
+    /// Gets one sentence when something cannot be opened.
     using Log = std::function<void(const std::string&)>;
 
     /// The launcher and the portal must outlive this.
@@ -24,8 +24,8 @@ class XdgWorkspace final : public Workspace {
     void openURL(const std::string& url) override;
     void openFile(const std::string& path) override;
 
-    /// A path that ends in ".desktop" is started as that file says, with `arguments` after its own: they are options,
-    /// not the documents for which the file keeps a place.
+    /// Starts a path that ends in ".desktop" as that file says. `arguments` follow the file's own as options; they do
+    /// not replace its placeholders for documents.
     void launchApplication(const std::string& path, const std::vector<std::string>& arguments) override;
 
     std::optional<ProcessIdentifier> frontmostApplication() override;

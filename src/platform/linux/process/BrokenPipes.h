@@ -2,9 +2,13 @@
 
 namespace kinesta {
 
-/// Makes writing to a socket whose other end is gone fail, instead of ending the process. XCB writes without
-/// MSG_NOSIGNAL, so that the end of the X server would otherwise be ours. Leaves alone what anyone else has set for the
-/// signal.
+/// Lets a write to a closed pipe end the program without a message, even if the parent process ignored SIGPIPE. For
+/// the start of a program.
+void endQuietlyOnClosedPipe();
+
+/// Makes a write to a closed pipe or socket fail instead. For programs that outlive the reader of their log, and for
+/// XCB, which writes without MSG_NOSIGNAL: the end of the X server would end the program too. Keeps a handler that is
+/// installed for the signal.
 void surviveBrokenPipes();
 
 }  // namespace kinesta

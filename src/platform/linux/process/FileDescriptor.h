@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// Owns an open file of the system and closes it. Negative: none.
+/// Owns an open file descriptor and closes it. Negative: none.
 class FileDescriptor {
   public:
     FileDescriptor() = default;

@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// The home folders of the user database; our own by HOME, if that is an absolute path, as shells have it.
+/// The home folders of the user database; for the empty name ownHomeFolder().
 class PosixHomeFolders final : public HomeFolders {
   public:
     std::optional<std::string> homeFolder(const std::string& userName) const override;

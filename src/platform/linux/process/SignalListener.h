@@ -10,11 +10,11 @@
 
 namespace kinesta {
 
-/// Turns signals into tasks on the main thread. To be made before any other thread starts, as threads inherit which
-/// signals they do not take; one at a time. Afterwards the signals are taken as before.
+/// Turns signals into tasks on the main thread. Create it before any other thread, because threads inherit the mask of
+/// blocked signals; at most one at a time. The destructor restores the mask.
 class SignalListener {
   public:
-    /// `onSignal` gets the number of each of `signals` that arrives, on the main thread.
+    /// Calls `onSignal` with the number of each of `signals` that arrives, on the main thread.
     SignalListener(MainThread& mainThread, const std::vector<int>& signals, std::function<void(int)> onSignal);
     ~SignalListener();
     SignalListener(const SignalListener&) = delete;

@@ -16,13 +16,13 @@ namespace kinesta {
 
 namespace {
 
-/// A file of ours, made if need be; none where that is not possible.
+/// Opens or creates a file that belongs to this user. None if that is not possible.
 FileDescriptor openOwn(const std::filesystem::path& path) {
     std::error_code ignored;
     std::filesystem::create_directories(path.parent_path(), ignored);
     FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     struct stat status {};
-    // In a folder for everyone, somebody else may have made it.
+    // In a shared folder another user may have created it.
     if (!file || ::fstat(file.number(), &status) != 0 || status.st_uid != ::geteuid())
         return {};
     return file;
@@ -57,7 +57,7 @@ Result<SingleInstance> SingleInstance::claim(const std::filesystem::path& settin
             continue;  // a file system without locks
         }
         const std::string own = std::to_string(::getpid()) + "\n";
-        // Only to be told to a person: without it the lock holds as well.
+        // Only for the message to the user; the lock works without it.
         if (::ftruncate(lock.number(), 0) == 0)
             static_cast<void>(::pwrite(lock.number(), own.data(), own.size(), 0) < 0);
         return SingleInstance(std::move(lock));

@@ -8,15 +8,15 @@
 
 namespace kinesta {
 
-/// Held by the one process that acts on a person's gestures: two would perform each action twice. Given up when the
-/// process ends, however it does.
+/// Held by the one process that acts on a person's gestures: two would perform each action twice. The system releases
+/// it when the process ends, even by a crash.
 class SingleInstance {
   public:
-    /// Claims it with a file in the first of these folders that takes one: that of the person's session
-    /// (XDG_RUNTIME_DIR), that of `settings`, that for temporary files. The error names the process that has it.
+    /// Locks a file in the first of these folders where that is possible: XDG_RUNTIME_DIR, the folder of `settings`,
+    /// the folder for temporary files. The error names the process that holds it.
     static Result<SingleInstance> claim(const std::filesystem::path& settings);
 
-    /// Whether it is certain that there is no other: not where no folder took a file.
+    /// Whether another process is ruled out: false if no file could be locked.
     bool isCertain() const { return static_cast<bool>(m_lock); }
 
   private:

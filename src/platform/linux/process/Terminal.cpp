@@ -32,7 +32,7 @@ void take() {
 }
 
 void giveBack() {
-    // Given back twice, the cursor would jump to where it was the first time.
+    // A second time would move the cursor to where it was at the first.
     if (isTaken != 0)
         writeAll(kGiveBack);
     isTaken = 0;
@@ -40,7 +40,7 @@ void giveBack() {
 
 extern "C" void giveTerminalBackAndEnd(int signal) {
     giveBack();
-    // SA_RESETHAND has put the default action back: raised again, the signal ends the program as it should.
+    // SA_RESETHAND has restored the default action, so the signal now ends the program.
     static_cast<void>(::raise(signal));
 }
 
@@ -58,7 +58,7 @@ TerminalSize terminalSize(StandardStream stream) {
 TerminalTakeover::TerminalTakeover() {
     struct sigaction action {};
     action.sa_handler = giveTerminalBackAndEnd;
-    // SA_NODEFER lets the raise above act at once instead of when the handler returns.
+    // With SA_NODEFER the raise above acts at once, not when the handler returns.
     action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);
     for (std::size_t i = 0; i < kEndingSignals.size(); ++i)
         ::sigaction(kEndingSignals[i], &action, &previousActions[i]);
@@ -82,12 +82,10 @@ void stopUntilContinued() {
     sigset_t before;
     ::sigemptyset(&stop);
     ::sigaddset(&stop, SIGTSTP);
-    // SIGSTOP would not do: the shell tells it from Ctrl-Z, and it stops also where no shell could continue.
+    // Not SIGSTOP: shells treat it unlike Ctrl-Z, and it also stops a program that no shell can continue.
     static_cast<void>(::raise(SIGTSTP));
     ::pthread_sigmask(SIG_UNBLOCK, &stop, &before);
     ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
-
-void endQuietlyOnClosedPipe() { static_cast<void>(::signal(SIGPIPE, SIG_DFL)); }
 
 }  // namespace kinesta

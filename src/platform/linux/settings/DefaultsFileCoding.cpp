@@ -1,98 +1,36 @@
 #include "platform/linux/settings/DefaultsFileCoding.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <utility>
-
-#include "support/Text.h"
+#include <variant>
 
 namespace kinesta {
 namespace {
 
 using nlohmann::json;
 
-// Far more than anyone nests, and few enough that writing, which recurses, cannot exhaust the stack.
+// More than any file needs, and too few for writing, which recurses, to exhaust the stack.
 constexpr int kMostNesting = 100;
 
-constexpr std::array<std::pair<const char*, double>, 3> kNonFinite{{
-    {"nan", std::numeric_limits<double>::quiet_NaN()},
-    {"inf", std::numeric_limits<double>::infinity()},
-    {"-inf", -std::numeric_limits<double>::infinity()},
-}};
+constexpr const char* kData = "data";
 
 std::string text(const json& value) { return value.dump(-1, ' ', false, json::error_handler_t::replace); }
 
-json wrapped(const char* form, json content) {
-    json object;
-    object[form] = std::move(content);
-    return object;
-}
-
-json byteArray(std::string_view bytes) {
-    json array = json::array();
-    for (const char byte : bytes)
-        array.push_back(static_cast<unsigned char>(byte));
-    return array;
-}
-
-std::optional<std::string> bytesOf(const json& array) {
-    if (!array.is_array())
-        return std::nullopt;
-    std::string bytes;
-    for (const json& byte : array) {
-        if (!byte.is_number_unsigned() || byte.get<std::uint64_t>() > 255)
-            return std::nullopt;
-        bytes.push_back(static_cast<char>(byte.get<unsigned char>()));
-    }
-    return bytes;
-}
-
 struct Encoder {
-    std::string operator()(bool value) const { return text(value); }
-    std::string operator()(std::int64_t value) const { return text(value); }
-    std::string operator()(double value) const {
-        if (std::isfinite(value))
-            return text(value);
-        return text(wrapped("real", std::isnan(value) ? "nan" : value > 0 ? "inf" : "-inf"));
-    }
-    std::string operator()(const std::string& value) const {
-        return isUtf8(value) ? text(value) : text(wrapped("stringBytes", byteArray(value)));
-    }
-    std::string operator()(const StoredData& value) const {
-        return isUtf8(value.bytes) ? text(wrapped("data", value.bytes))
-                                   : text(wrapped("bytes", byteArray(value.bytes)));
-    }
+    std::string operator()(const StoredData& value) const { return text(json{{kData, value.bytes}}); }
     std::string operator()(const ForeignValue& value) const { return value.text; }
+    std::string operator()(const auto& value) const { return text(value); }
 };
 
-std::optional<StoredValue> decodeNonFinite(const json& name) {
-    for (const auto& [known, value] : kNonFinite)
-        if (name == known)
-            return value;
-    return std::nullopt;
-}
-
-/// Nothing for an object of ours with a content that is not.
+/// Nothing for data that is no text.
 std::optional<StoredValue> decodeObject(const json& object) {
     const auto member = object.begin();
-    if (object.size() != 1)
+    if (object.size() != 1 || member.key() != kData)
         return ForeignValue{text(object)};
-    if (member.key() == "data")
-        return member->is_string() ? std::optional<StoredValue>(StoredData{member->get<std::string>()}) : std::nullopt;
-    if (member.key() == "real")
-        return decodeNonFinite(*member);
-    if (member.key() != "bytes" && member.key() != "stringBytes")
-        return ForeignValue{text(object)};
-    auto bytes = bytesOf(*member);
-    if (!bytes)
-        return std::nullopt;
-    if (member.key() == "bytes")
-        return StoredData{std::move(*bytes)};
-    return std::move(*bytes);
+    return member->is_string() ? std::optional<StoredValue>(StoredData{member->get<std::string>()}) : std::nullopt;
 }
 
 std::optional<StoredValue> decodeValue(const json& value) {
@@ -117,7 +55,7 @@ std::optional<StoredValue> decodeValue(const json& value) {
 }
 
 Result<json> parse(std::string_view content) {
-    // The parser would take it for the end and drop what follows. A crash of the system can leave a file full of them.
+    // The parser stops at one and ignores the rest. A crash of the system can leave a file full of them.
     if (content.find('\0') != std::string_view::npos)
         return Error{"it holds zero bytes"};
     bool isTooDeep = false;

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <climits>
 
 #include "platform/linux/process/SystemError.h"
@@ -14,8 +15,9 @@
 namespace kinesta {
 namespace {
 
-constexpr int kLockWaitMilliseconds = 5;
-constexpr int kMostLockTries = 400;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::seconds kLongestWait(2);
 constexpr int kMostLinks = 40;  // as many as the kernel follows
 
 Error failure(const std::string& path, int reason) { return {path + ": " + systemErrorText(reason)}; }
@@ -62,18 +64,28 @@ int writeAll(int file, std::string_view content) {
     return 0;
 }
 
+/// Locks an open file. Returns 0 or the reason why not.
+int waitForLock(const FileDescriptor& file, Clock::time_point deadline) {
+    while (::flock(file.number(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EINTR && (errno != EWOULDBLOCK || Clock::now() >= deadline))
+            return errno;
+        ::poll(nullptr, 0, 1);
+    }
+    return 0;
+}
+
 }  // namespace
 
 DurableFile::DurableFile(std::string path) : m_path(std::move(path)), m_folder(folderOf(m_path)) {}
 
 Result<DurableFile> DurableFile::at(std::string path) {
-    // By hand: the system's own resolution does not tell where a link leads whose target is yet to be created.
+    // By hand: realpath() fails for a link whose target does not exist yet.
     const std::string start = path;
     for (int links = 0; links <= kMostLinks; ++links) {
         std::array<char, PATH_MAX> target;
         const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
         if (length < 0)
-            return DurableFile(std::move(path));  // no link; any other trouble shows when the file is used
+            return DurableFile(std::move(path));  // not a link; other errors show when the file is used
         const std::string_view next(target.data(), static_cast<std::size_t>(length));
         path = next.starts_with('/') ? std::string(next) : folderOf(path) + "/" + std::string(next);
     }
@@ -81,7 +93,7 @@ Result<DurableFile> DurableFile::at(std::string path) {
 }
 
 Result<std::optional<std::string>> DurableFile::read() const {
-    // Without waiting: something that is no file, such as a pipe, must not hold up the program.
+    // O_NONBLOCK: a pipe in place of the file must not block the program.
     const FileDescriptor file(::open(m_path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file && errno == ENOENT)
         return std::optional<std::string>();
@@ -116,20 +128,23 @@ Result<FileDescriptor> DurableFile::lock() const {
     FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!file)
         return failure(path, errno);
-    // Others hold it for milliseconds. One that was stopped while it did must not stop us with it.
-    for (int tries = 0; ::flock(file.number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
-        if (errno == EWOULDBLOCK && tries < kMostLockTries)
-            ::poll(nullptr, 0, kLockWaitMilliseconds);
-        else if (errno == EWOULDBLOCK)
-            return Error{m_path + ": another program has been writing it for too long"};
-        else if (errno != EINTR)
-            return failure(path, errno);
-    }
+    // Others hold the lock for milliseconds. A process that was stopped while it did must not block this one.
+    const auto deadline = Clock::now() + kLongestWait;
+    // The process that waits for the file holds the folder's lock meanwhile: a process that saves again and again has
+    // to queue too. Folders of some network file systems cannot be locked; then there is no queue.
+    const FileDescriptor turn(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    static_cast<void>(waitForLock(turn, deadline));
+    const int reason = waitForLock(file, deadline);
+    if (reason == EWOULDBLOCK)
+        return Error{m_path + ": another program has been writing it for too long"};
+    if (reason != 0)
+        return failure(path, reason);
     return file;
 }
 
 Outcome DurableFile::replace(std::string_view content) const {
-    // One name is enough, and one that is there was left by a process that was killed: only who holds the lock saves.
+    // One name is enough, because only the holder of the lock writes. A file of that name is left from a killed
+    // process.
     const std::string temporary = m_path + ".tmp";
     ::unlink(temporary.c_str());
     const FileDescriptor file(

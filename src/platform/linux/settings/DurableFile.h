@@ -9,15 +9,15 @@
 
 namespace kinesta {
 
-/// A file that several processes replace as a whole: whoever reads it, at any time and after any crash, finds one
-/// complete content. Errors name the file and the system's reason.
+/// A file that several processes replace as a whole: a reader finds one complete content at any time, even after a
+/// crash. Errors name the file and the system's reason.
 class DurableFile {
   public:
     /// The file that `path` leads to through any symbolic links, so that replacing it keeps the links. It and its
     /// folder need not exist.
     static Result<DurableFile> at(std::string path);
 
-    /// Where it is, behind all links.
+    /// The path with all links resolved.
     const std::string& path() const { return m_path; }
 
     /// The content, or nothing if there is no such file. Only a regular file can be read.
@@ -28,11 +28,12 @@ class DurableFile {
     /// after each save.
     Result<FileDescriptor> lock() const;
 
-    /// Replaces the content; afterwards it is on the disk. After an error the old content is still there, and no
-    /// temporary file; only an error of the folder's last synchronization leaves the new content. Locked only.
+    /// Replaces the content and waits until it is on the disk. After an error the old content is still there and the
+    /// temporary file is gone; only if the folder cannot be synchronized at the end, the new content stays. Needs the
+    /// lock.
     Outcome replace(std::string_view content) const;
 
-    /// Renames the file to a free name that tells that it is damaged and returns that. Locked only.
+    /// Renames the file to a free name that ends in ".damaged-" and a number, and returns that name. Needs the lock.
     Result<std::string> setAside() const;
 
   private:

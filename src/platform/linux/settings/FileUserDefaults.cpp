@@ -1,11 +1,8 @@
 #include "platform/linux/settings/FileUserDefaults.h"
 
-#include <pwd.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <utility>
 
+#include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/settings/DefaultsFileCoding.h"
 
 namespace kinesta {
@@ -38,17 +35,7 @@ Outcome FileUserDefaults::checkSaving() const {
     return lock ? success() : lock.error();
 }
 
-std::string FileUserDefaults::defaultPath() {
-    const auto path = [](const char* folder, const char* rest) { return std::string(folder) + rest; };
-    if (const char* config = std::getenv("XDG_CONFIG_HOME"); config && *config == '/')
-        return path(config, "/kinesta/defaults.json");
-    const char* home = std::getenv("HOME");
-    if (!home || !*home) {
-        const passwd* entry = ::getpwuid(::getuid());
-        home = entry ? entry->pw_dir : "";
-    }
-    return path(home, "/.config/kinesta/defaults.json");
-}
+std::string FileUserDefaults::defaultPath() { return configurationFolder() + "/kinesta/defaults.json"; }
 
 void FileUserDefaults::didChange(std::string_view key) {
     m_unsaved.emplace(key);
@@ -86,7 +73,7 @@ Outcome FileUserDefaults::save() {
     return success();
 }
 
-/// Takes over what the file holds; a damaged one is set aside, so that nothing is in the way of saving.
+/// Reads the file; sets a damaged one aside, so that saving can go on.
 Outcome FileUserDefaults::mergeLocked(const DurableFile& file) {
     const auto content = file.read();
     if (!content)
@@ -97,16 +84,15 @@ Outcome FileUserDefaults::mergeLocked(const DurableFile& file) {
     const auto name = file.setAside();
     if (!name)
         return notSetAside(merged.error(), name.error());
-    report("The settings file is damaged and was set aside; mend it and put it back, or make the settings again: " +
+    report("The settings file is damaged and was set aside; repair it and put it back, or make the settings again: " +
            merged.error().message + ", now " + *name);
     return success();
 }
 
-/// Makes the values those of `content`, if there is any, with the unsaved changes on top. The error tells what is
+/// Replaces the values by those of `content`, if there is any, and keeps the unsaved changes. The error is what is
 /// damaged.
 Outcome FileUserDefaults::merge(const std::optional<std::string>& content) {
-    // Compared whole: the file's time stamps are too coarse to tell two quick saves apart, and its number is used
-    // again.
+    // Compares the whole content: two quick saves can have the same time stamp and inode number.
     if (!content || content == m_content)
         return success();
     Result<StoredValues> merged = decodeDefaults(*content);

@@ -11,26 +11,25 @@
 
 namespace kinesta {
 
-/// Settings in one JSON file, which several processes may write at once: each change takes over what others have
+/// Settings in one JSON file, which several processes may write at once: each change first reads what others have
 /// stored meanwhile, then stores its own key. Main thread only.
 ///
-/// A file that cannot be understood is set aside under another name before anything is stored. One that cannot be
-/// read is left alone: changes are then kept in this process and stored with the first later one that succeeds. One
-/// that is gone (another process may have set it aside) is written anew with all values that this process has.
+/// A damaged file is renamed before anything is stored. A file that cannot be read stays as it is: this process keeps
+/// its changes and stores them with the first later one that succeeds. A missing file (another process may have renamed
+/// it) is created with all values of this process.
 class FileUserDefaults final : public InMemoryUserDefaults {
   public:
-    /// Gets one sentence for the person; the same problem is told once, until something was stored or read again.
+    /// Gets one sentence for the user. The same problem is not reported again until storing or reading has succeeded.
     using ProblemHandler = std::function<void(const std::string&)>;
 
     /// Loads the file at `path`; it need not exist, nor its folder.
     FileUserDefaults(std::string path, ProblemHandler problemHandler);
 
-    /// Takes over what other processes have stored and returns whether a value changed by it. The values stay when
-    /// the file cannot be read or understood.
+    /// Reads what other processes have stored and returns whether a value has changed. If the file is unreadable or
+    /// damaged, the values stay.
     bool reload();
 
-    /// Whether changes can be stored, as far as that is known before one is: makes the folder and locks the file. The
-    /// error tells why not.
+    /// Whether changes can be stored, as far as that can be known before one is: creates the folder and locks the file.
     Outcome checkSaving() const;
 
     /// Where a person's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is
@@ -50,7 +49,7 @@ class FileUserDefaults final : public InMemoryUserDefaults {
 
     std::string m_path;
     ProblemHandler m_problemHandler;
-    std::optional<std::string> m_content;          // of the file, as of when the values were last in line with it
+    std::optional<std::string> m_content;          // of the file when it last matched the values
     std::set<std::string, std::less<>> m_unsaved;  // keys changed since the last successful save
     std::string m_lastProblem;
 };

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 constexpr std::uint32_t kChanges =
     IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | IN_CREATE | IN_DELETE_SELF | IN_MOVE_SELF;
 
-/// Creates a folder that only its owner may read, with all above it.
+/// Creates a folder, and its parents, that only the owner may read.
 void createFolder(const fs::path& folder) {
     std::error_code ignored;
     if (!fs::exists(folder, ignored) && !folder.parent_path().empty() && folder != folder.parent_path()) {
@@ -61,7 +61,7 @@ FileWatcher::~FileWatcher() {
     m_thread.join();
 }
 
-/// Watches the folders where the file is now; to watch one again changes nothing.
+/// Watches the folders where the file is now. Adding a watch twice has no effect.
 bool FileWatcher::watchFolders() {
     const auto target = DurableFile::at(m_path);
     const fs::path real = target ? target->path() : m_path;
@@ -81,16 +81,16 @@ bool FileWatcher::watchFolders() {
     return !m_watches.empty();
 }
 
-/// Reads what there is; whether any of it may be about the file.
+/// Reads all notifications. Returns whether one may concern the file.
 bool FileWatcher::readChanges() {
-    constexpr std::uint32_t kNoOneKnows = IN_Q_OVERFLOW | IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED;
+    constexpr std::uint32_t kUnclear = IN_Q_OVERFLOW | IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED;
     alignas(inotify_event) std::array<char, 4096> buffer;
     const ssize_t length = ::read(m_notifications.number(), buffer.data(), buffer.size());
     bool isConcerned = false;
     for (ssize_t at = 0; at < length;) {
         const auto* event = reinterpret_cast<const inotify_event*>(buffer.data() + at);
-        const bool isOurs = m_watches.contains(event->wd) || event->wd < 0;  // not of a watch that was given up
-        if (isOurs && ((event->mask & kNoOneKnows) != 0 || (event->len > 0 && m_names.contains(event->name))))
+        const bool isOurs = m_watches.contains(event->wd) || event->wd < 0;  // not from a removed watch
+        if (isOurs && ((event->mask & kUnclear) != 0 || (event->len > 0 && m_names.contains(event->name))))
             isConcerned = true;
         at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
     }

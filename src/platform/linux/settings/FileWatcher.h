@@ -10,9 +10,9 @@
 
 namespace kinesta {
 
-/// Tells when a file was replaced, written or removed by anyone, on the main thread, without polling. Watches folders,
-/// since a file that is saved as a whole is another one each time: the one that the path names, and the one that it
-/// leads to through symbolic links. They are created if need be, and watched anew when they or the links are replaced.
+/// Calls back on the main thread when a file was replaced, written or removed. Does not poll. Watches folders, because
+/// saving replaces the file: the folder of the path, and the folder of its target if it is a symbolic link. Creates
+/// missing folders, and follows folders and links that are replaced.
 class FileWatcher {
   public:
     FileWatcher(MainThread& mainThread, std::string path, std::function<void()> onChange);
@@ -30,7 +30,7 @@ class FileWatcher {
     std::string m_path;
     FileDescriptor m_notifications;
     FileDescriptor m_stop;
-    // Of the thread, once it runs.
+    // Used by the thread only, once it runs.
     std::set<int> m_watches;
     std::set<std::string> m_names;
 

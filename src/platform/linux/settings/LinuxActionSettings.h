@@ -4,14 +4,13 @@
 
 namespace kinesta {
 
-/// What a person can choose about actions that exists on Linux alone. A value that is missing or unknown is the first
-/// of its kind.
+/// The settings of actions that only Linux has. A missing or unknown value counts as the first case.
 struct LinuxActionSettings {
-    /// The key that ⌘ stands for: Ctrl, so that Copy, New Tab and their like do what they say, or the Super key.
+    /// The key for ⌘: Ctrl, with which Copy and New Tab work in Linux applications, or Super.
     enum class CommandKey { control, super };
 
-    /// The way keys and clicks take to the desktop: what suits the session, always the X server, or always a device
-    /// of our own in the kernel.
+    /// How keys and clicks are posted: as the session requires, always through the X server, or always through a
+    /// virtual kernel device.
     enum class InputRoute { automatic, xServer, uinput };
 
     /// "control" or "super".

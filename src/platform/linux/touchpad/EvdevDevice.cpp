@@ -33,7 +33,7 @@ EvdevAxisRange range(const libevdev* device, unsigned multitouchAxis, unsigned p
     return {libevdev_get_abs_minimum(device, axis), libevdev_get_abs_maximum(device, axis)};
 }
 
-/// Pressure without a unit is mostly the size of the contact, which no force threshold can be put on.
+/// Pressure without a unit is mostly the size of the contact, so a force threshold makes no sense.
 std::optional<EvdevAxisRange> forceRange(const libevdev* device) {
     const input_absinfo* pressure = libevdev_get_abs_info(device, ABS_MT_PRESSURE);
     if (!pressure || pressure->maximum <= pressure->minimum ||
@@ -92,12 +92,12 @@ int EvdevDevice::fingers() const {
     // Reports without slots list as many contacts as they like.
     if (m_touchpad.slotCount == 0 && libevdev_has_event_code(m_device.get(), EV_ABS, ABS_MT_POSITION_X))
         return 0;
-    int told = std::max(m_touchpad.slotCount, 1);
+    int fingers = std::max(m_touchpad.slotCount, 1);
     constexpr std::array kKeys{BTN_TOOL_DOUBLETAP, BTN_TOOL_TRIPLETAP, BTN_TOOL_QUADTAP, BTN_TOOL_QUINTTAP};
     for (std::size_t i = 0; i < kKeys.size(); ++i)
         if (libevdev_has_event_code(m_device.get(), EV_KEY, static_cast<unsigned>(kKeys[i])))
-            told = std::max(told, static_cast<int>(i) + 2);
-    return told;
+            fingers = std::max(fingers, static_cast<int>(i) + 2);
+    return fingers;
 }
 
 void EvdevDevice::tellPresentState(const Sink& sink) {
@@ -136,8 +136,8 @@ EvdevDevice::ReadOutcome EvdevDevice::read(const Sink& sink) {
     }
 }
 
-// The report that the loss cut short ends here, untold: what is left of it comes with the difference to the real
-// state, which is stamped with the time at which it is known to be true.
+// Drops the report that the loss cut short. The difference to the real state replaces it, with the time at which that
+// state was read.
 void EvdevDevice::resynchronize(const input_event& dropped, const Sink& sink) {
     process(timeOf(dropped), EV_SYN, SYN_DROPPED, 0, sink);
     process(timeOf(dropped), EV_SYN, SYN_REPORT, 0, sink);

@@ -24,8 +24,8 @@ class EvdevDevice {
     using Sink = std::function<void(const PadEvent&)>;
     enum class ReadOutcome { drained, gone };
 
-    /// Opens the pad. The error names the pad, what is wrong and, where permission is missing, the command that
-    /// mends it.
+    /// Opens the pad. The error names the pad, what is wrong and, if permission is missing, the command that grants
+    /// it.
     static Result<std::unique_ptr<EvdevDevice>> open(const TouchpadCandidate& candidate,
                                                      PressureStageTracker::Limits limits = {});
     ~EvdevDevice();
@@ -36,17 +36,16 @@ class EvdevDevice {
     int fileDescriptor() const { return m_descriptor.number(); }
     const EvdevTouchpad& touchpad() const { return m_touchpad; }
     bool canTellPressure() const { return m_pressureRange.has_value(); }
-    /// How many fingers it can tell of at once, be it without their places; 0 if that cannot be known beforehand.
+    /// How many fingers it reports at once, with or without their positions; 0 if that is not known in advance.
     int fingers() const;
 
-    /// Tells what has happened, without waiting for more; the first time beginning with the fingers that rest on the
-    /// pad already, but not a button that is held: its press was no one's click here. After a loss of events (the
-    /// reader was too slow) the contacts are brought to the device's real state: what lifted in between lifts, what
-    /// landed lands. Times never decrease; they are those of the kernel, on the monotonic clock. `gone` when the
-    /// device no longer exists.
+    /// Reports all pending events, without waiting for more. The first call reports the fingers that rest on the pad
+    /// already, but no held button: that press was not for Kinesta. After a loss of events (the reader was too slow)
+    /// the contacts are synchronized with the device: lifted ones lift, new ones land. Times are the kernel's, on the
+    /// monotonic clock, and never decrease. `gone` when the device no longer exists.
     ReadOutcome read(const Sink& sink);
 
-    /// Lifts all fingers: tells an empty frame if the last one had fingers. For when the pad is gone or left alone.
+    /// Lifts all fingers: reports an empty frame if the last one had fingers. For a pad that is gone or given up.
     void liftAll(const Sink& sink);
 
   private:
@@ -73,7 +72,7 @@ class EvdevDevice {
     Seconds m_lastTime = 0;
     bool m_isFirstRead = true;
     bool m_hasFingers = false;
-    /// Made once, for process() must not allocate: notes what passes by on its way to the sink of the moment.
+    /// Records the state of events and passes them to the current sink. Created once, as process() must not allocate.
     const Sink* m_sink = nullptr;
     Sink m_noting;
 };

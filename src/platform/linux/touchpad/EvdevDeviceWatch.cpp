@@ -40,7 +40,7 @@ EvdevDeviceWatch::EvdevDeviceWatch(std::string devicesDirectory)
 EvdevDeviceWatch::~EvdevDeviceWatch() = default;
 
 bool EvdevDeviceWatch::takeChanges() {
-    // Both, always: what is not drained would be reported again at once.
+    // Drain both: the rest would be reported again at once.
     const bool isDirectoryChanged = drainDirectories();
     if (drainUdev() || isDirectoryChanged) {
         itimerspec current{};
@@ -68,7 +68,7 @@ bool EvdevDeviceWatch::drainDirectories() {
             at += sizeof event + event.len;
             const bool isFolderEnd = event.wd == m_inputWatch && (event.mask & IN_IGNORED) != 0;
             const bool isFolderStart = event.wd != m_inputWatch && name == "input";
-            // Also at the end: a new folder may have come before the end of the old one was read.
+            // A new folder may exist before the removal of the old one is read.
             if (isFolderStart || isFolderEnd)
                 watchInputDirectory();
             isChanged = isChanged || isFolderStart || isFolderEnd || (event.mask & IN_Q_OVERFLOW) != 0 ||

@@ -10,8 +10,8 @@ struct udev_monitor;
 
 namespace kinesta {
 
-/// Tells when input devices come and go, become readable or cease to be (a udev rule was applied, another person's
-/// session came to the front), or are described anew by udev. Works without udev too. Costs nothing meanwhile.
+/// Reports when input devices come and go, become readable or unreadable (a udev rule was applied, another session came
+/// to the front), or when udev changes their properties. Works without udev too. Costs nothing meanwhile.
 class EvdevDeviceWatch {
   public:
     explicit EvdevDeviceWatch(std::string devicesDirectory = "/dev");

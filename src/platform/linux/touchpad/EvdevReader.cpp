@@ -31,7 +31,7 @@ void EvdevReader::run(int ending) {
         if (m_device && m_device->read(m_sink) == EvdevDevice::ReadOutcome::gone) {
             leaveDevice();
             lookAgain();
-            timeout = 0;  // a device may have been opened, whose resting fingers the next read tells
+            timeout = 0;  // the next read reports the fingers on a newly opened device
         }
         std::array<pollfd, 4> sources{
             pollfd{.fd = ending, .events = POLLIN, .revents = 0},
@@ -69,7 +69,7 @@ EvdevReader::State EvdevReader::look() {
         leaveDevice();
         return unavailable(std::move(why));
     }
-    // An open device stays readable when the permission goes; but then another person sits at the pad.
+    // An open device stays readable without permission, but then another person uses the pad.
     if (m_device && (chosen->inputName != m_inputName || access(chosen->path.c_str(), R_OK) != 0))
         leaveDevice();
     if (!m_device) {

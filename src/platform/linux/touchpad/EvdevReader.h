@@ -13,7 +13,7 @@
 
 namespace kinesta {
 
-/// Reads the touchpad of the moment and follows its coming and going: what the provider's thread does. Asleep while
+/// Reads the current touchpad and follows as it is connected and disconnected, on the provider's thread. Sleeps while
 /// nothing happens.
 class EvdevReader {
   public:
@@ -25,7 +25,7 @@ class EvdevReader {
 
     struct State {
         TrackpadContactProviderStatus status;
-        /// Of the touchpad that is read, while one is.
+        /// Of the touchpad that is being read, if any.
         std::string path;
         std::string name;
         bool canTellPressure = false;
@@ -36,13 +36,13 @@ class EvdevReader {
     /// `sink` gets what happens on the touchpad, `onChange` every new state; both on the thread of run().
     EvdevReader(Settings settings, EvdevDevice::Sink sink, std::function<void(const State&)> onChange);
 
-    /// Looks for the touchpad and opens it. Before run(), on any thread; `onChange` is not told.
+    /// Looks for the touchpad and opens it. Before run(), on any thread; `onChange` is not called.
     const State& open();
 
     /// Reads until the descriptor `ending` becomes readable.
     void run(int ending);
 
-    /// Tells that no finger is on the touchpad any more, for it is given up. After run().
+    /// Reports that no finger is on the touchpad any more. After run().
     void liftAll();
 
   private:

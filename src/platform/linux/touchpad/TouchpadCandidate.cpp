@@ -24,7 +24,7 @@ const TouchpadCandidate* chooseTouchpad(std::span<const TouchpadCandidate> candi
         return wanted.empty() || candidate.name == wanted ||
                (!wantedPath.empty() && withoutLinks(candidate.path) == wantedPath);
     };
-    // "input9" was there before "input10".
+    // "input9" is older than "input10".
     const auto rank = [&](const TouchpadCandidate& candidate) {
         return std::tuple(!candidate.isBuiltIn, candidate.inputName != currentInputName, candidate.inputName.size(),
                           candidate.inputName);

@@ -5,12 +5,12 @@
 
 namespace kinesta {
 
-/// A touchpad that the system knows, as far as can be told without opening it.
+/// A touchpad that the system knows, as described without opening it.
 struct TouchpadCandidate {
     /// "/dev/input/event5".
     std::string path;
-    /// "input12": how the kernel counts its input devices. Unlike the path never used twice, so that a pad that came
-    /// back is told from one that stayed.
+    /// "input12": the kernel's number of the device. Unlike the path it is never reused, so a pad that was reconnected
+    /// differs from one that stayed.
     std::string inputName;
     std::string name;
     bool isBuiltIn = false;
@@ -18,12 +18,12 @@ struct TouchpadCandidate {
     friend bool operator==(const TouchpadCandidate&, const TouchpadCandidate&) = default;
 };
 
-/// The touchpad to read, or null. `wanted` is the path or the name of one, or empty for any: then a built-in one goes
-/// first. Among equals the one that is read already (`currentInputName`) stays, else the one that was there first.
+/// The touchpad to read, or null. `wanted` is its path or name, or empty for any, with built-in ones preferred. Among
+/// equals the current one (`currentInputName`) stays, else the oldest wins.
 const TouchpadCandidate* chooseTouchpad(std::span<const TouchpadCandidate> candidates, const std::string& wanted,
                                         const std::string& currentInputName);
 
-/// What to tell a person when there is none to read: one sentence.
+/// The sentence for the user when there is none to read.
 std::string noTouchpadMessage(const std::string& wanted);
 
 }  // namespace kinesta

@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// A touchpad of this machine as a person may want to see it.
+/// A touchpad of this machine, described for the user.
 struct ListedTouchpad {
     TouchpadCandidate candidate;
     /// Whether it is the one that is read.
@@ -17,15 +17,15 @@ struct ListedTouchpad {
     /// Axis ranges and slots; absent if the pad may not be read.
     std::optional<EvdevTouchpad> touchpad;
     bool canTellPressure = false;
-    /// Whether the desktop may have it switched off without anyone being told.
+    /// Whether the desktop may have switched it off without a way to find out.
     bool mayBeOff = false;
-    /// How many fingers it can tell of at once; 0 if that is not known.
+    /// How many fingers it reports at once; 0 if that is not known.
     int fingers = 0;
-    /// Why it cannot be read and what to do, as a sentence; empty if it can.
+    /// One sentence on why it cannot be read and what to do; empty if it can.
     std::string problem;
 };
 
-/// All touchpads, opened for a moment. `wanted` is the setting that names the one to read.
+/// All touchpads. Opens each for a moment. `wanted` is the setting that names the one to read.
 std::vector<ListedTouchpad> listTouchpads(const std::string& wanted = {});
 
 }  // namespace kinesta

@@ -8,8 +8,9 @@
 
 namespace kinesta {
 
-/// Finds the touchpads by what sysfs says of all input devices, which everyone may read, so that no device has to be
-/// opened (and woken) just to learn that it is a keyboard.
+/// Finds the touchpads in sysfs, which everyone may read, so that no device is opened (and woken) just to learn that it
+/// is a keyboard. Reads the kernel's bitmaps instead of udev's ID_INPUT_TOUCHPAD: containers and small systems have
+/// devices but no udev database.
 class TouchpadScanner {
   public:
     /// A property of the udev database for an input device ("event5"), or empty.
@@ -19,11 +20,10 @@ class TouchpadScanner {
     TouchpadScanner();
     TouchpadScanner(std::string inputDirectory, std::string classDirectory, Property property);
 
-    /// The touchpads that have a device node, less those that the system's owner has had ignored
-    /// (LIBINPUT_IGNORE_DEVICE).
+    /// The touchpads that have a device node, without those that a udev rule excludes (LIBINPUT_IGNORE_DEVICE).
     std::vector<TouchpadCandidate> scan() const;
 
-    /// Whether a mouse is connected by USB or Bluetooth. A pointing stick is none.
+    /// Whether a mouse is connected by USB or Bluetooth. A pointing stick does not count.
     bool hasExternalMouse() const;
 
   private:

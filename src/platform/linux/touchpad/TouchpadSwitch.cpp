@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/session/CurrentDesktop.h"
 #include "platform/linux/touchpad/DconfDatabase.h"
 
@@ -29,10 +30,8 @@ TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
     const bool isWayland = !variable("WAYLAND_DISPLAY").empty();
     if (!isWayland)
         desktop.display = variable("DISPLAY");
-    if (isCurrentDesktop("GNOME")) {
-        const std::string configuration = variable("XDG_CONFIG_HOME");
-        desktop.dconfDirectory = (configuration.empty() ? variable("HOME") + "/.config" : configuration) + "/dconf";
-    }
+    if (isCurrentDesktop("GNOME"))
+        desktop.dconfDirectory = configurationFolder() + "/dconf";
     desktop.isSilent = isWayland && desktop.dconfDirectory.empty();
     return desktop;
 }

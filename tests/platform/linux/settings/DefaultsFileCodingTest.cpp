@@ -7,17 +7,14 @@
 
 using namespace kinesta;
 
-TEST(DefaultsFileCoding, EveryValueReadsBackAsItWasWritten) {
+TEST(DefaultsFileCoding, ReadsEveryValueBackAsItWasWritten) {
     using Real = std::numeric_limits<double>;
     using Integer = std::numeric_limits<std::int64_t>;
-    std::string bytes;
-    for (int byte = 0; byte < 256; ++byte)
-        bytes.push_back(static_cast<char>(byte));
     std::vector<StoredValue> values{true, false, std::int64_t{0}, Integer::min(), Integer::max()};
-    for (const double real : {0.1, 1.0, 1e22, Real::max(), Real::denorm_min(), Real::infinity(), -Real::infinity()})
+    for (const double real : {0.1, 1.0, 1e22, Real::max(), Real::denorm_min()})
         values.emplace_back(real);
-    for (const std::string& text :
-         {bytes, std::string("a\0b", 3), std::string("{\"data\":\"x\"}"), std::string("\"\\\n\u2028\U0001F600")}) {
+    for (const std::string& text : {std::string(), std::string("a\0b", 3), std::string("{\"data\":\"x\"}"),
+                                    std::string("{\"k\":[1]}"), std::string("a\"\\\n\x7F\u2028\U0001F600")}) {
         values.emplace_back(text);
         values.emplace_back(StoredData{text});
     }
@@ -28,13 +25,15 @@ TEST(DefaultsFileCoding, EveryValueReadsBackAsItWasWritten) {
     ASSERT_TRUE(decoded) << decoded.error().message;
     EXPECT_EQ(*decoded, all);
     EXPECT_TRUE(std::signbit(std::get<double>(decoded->at("negative zero"))));
-    const auto nan = decodeDefaults(encodeDefaults({{"n", std::nan("")}}));
-    EXPECT_TRUE(nan && std::isnan(std::get<double>(nan->at("n"))));
+}
+
+TEST(DefaultsFileCoding, WritesAFileThatAPersonCanRead) {
+    EXPECT_EQ(encodeDefaults({}), "{\n}\n");
+    EXPECT_EQ(encodeDefaults({{"b", StoredData{"[1]"}}, {"a", 2.0}, {"c", StoredData{"\xFF"}}, {"d", std::nan("")}}),
+              "{\n  \"a\": 2.0,\n  \"b\": {\"data\":\"[1]\"},\n  \"c\": {\"data\":\"\uFFFD\"},\n  \"d\": null\n}\n");
 }
 
 TEST(DefaultsFileCoding, KeepsForeignValues) {
-    EXPECT_EQ(encodeDefaults({{"b", StoredData{"[1]"}}, {"a", 2.0}, {"c", StoredData{"\xFF"}}}),
-              "{\n  \"a\": 2.0,\n  \"b\": {\"data\":\"[1]\"},\n  \"c\": {\"bytes\":[255]}\n}\n");
     for (const std::string text :
          {"null", "[1,{\"a\":null}]", "{}", "{\"data\":\"x\",\"more\":1}", "{\"other\":1.5}", "18446744073709551615"}) {
         const auto decoded = decodeDefaults("\xEF\xBB\xBF {\"k\" : " + text + "}");
@@ -55,11 +54,7 @@ TEST(DefaultsFileCoding, SaysWhatIsDamaged) {
              {"{\"a\":" + deep + std::string(deep.size(), ']') + "}", "it is nested too deep"},
              {"[1]", "it is not a JSON object"},
              {"1e400", "it holds a number that is too large"},
-             {R"({"k":{"data":5}})", form},
-             {R"({"k":{"bytes":[256]}})", form},
-             {R"({"k":{"bytes":[-1]}})", form},
-             {R"({"k":{"stringBytes":"x"}})", form},
-             {R"({"k":{"real":"NaN"}})", form}}) {
+             {R"({"k":{"data":5}})", form}}) {
         const auto decoded = decodeDefaults(text);
         EXPECT_EQ(decoded ? "decoded" : decoded.error().message, expected) << text.substr(0, 40);
     }

@@ -78,12 +78,12 @@ TEST_F(FileUserDefaultsTest, StoresEachChangeAtOnceForItsOwnerOnly) {
     auto writer = open();
     EXPECT_FALSE(fs::exists(folder / "a"));
     writer.setInteger("i", 5);
-    writer.setData("d", "\xFF");
+    writer.setData("d", "\u00FF");
     EXPECT_EQ(open().values(), writer.values());
     writer.remove("i");
     writer.remove("missing");
     ::umask(mask);
-    EXPECT_EQ(open().values(), (StoredValues{{"d", StoredData{"\xFF"}}}));
+    EXPECT_EQ(open().values(), (StoredValues{{"d", StoredData{"\u00FF"}}}));
     EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
     for (const char* parent : {"a", "a/b"})
         EXPECT_EQ(fs::status(folder / parent).permissions(), fs::perms(0700));

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "input/SettingsKeys.h"
 #include "support/Seconds.h"
 
 namespace kinesta {
@@ -18,7 +19,7 @@ class TapWaitingInterval {
 
     static constexpr std::array allCases{veryShort, shortWait, standard, longWait, veryLong};
     static constexpr Case defaultValue = standard;
-    static constexpr std::string_view storageKey = "tapWaitingInterval.v1";
+    static constexpr std::string_view storageKey = SettingsKeys::tapWaitingInterval;
 
     // Converts implicitly: a case is an interval.
     constexpr TapWaitingInterval(Case value = defaultValue) : m_case(value) {}
