@@ -38,6 +38,12 @@ class DesktopActions {
         std::function<void()> meanwhile;
     };
 
+    /// On a busy machine the server may answer too late for the real one.
+    struct GrantedPermission final : AccessibilityPermission {
+        bool isTrusted() override { return true; }
+        bool prompt() override { return true; }
+    };
+
   public:
     std::optional<ProcessIdentifier> frontmost() { return m_actions.ports().workspace.frontmostApplication(); }
 
@@ -73,9 +79,9 @@ class DesktopActions {
     ActionPorts ports() { return m_actions.ports(); }
     DesktopSession session() { return m_actions.session(); }
     bool works(DesktopCapability capability) { return session().finding(capability).works; }
-    std::vector<std::string> log() {
+    std::string lastMessage() {
         const std::lock_guard lock(m_mutex);
-        return m_log;
+        return m_lastMessage;
     }
     InMemoryUserDefaults& defaults() { return m_defaults; }
 
@@ -84,7 +90,7 @@ class DesktopActions {
         m_workspace.questions = 0;
         m_workspace.meanwhile = std::move(meanwhile);
         const ActionPorts p = ports();
-        return {p.clock,      p.defaults,       p.systemVersion, p.homeFolders, p.permission,
+        return {p.clock,      p.defaults,       p.systemVersion, p.homeFolders, m_permission,
                 p.events,     p.keyboardLayout, m_workspace,     p.processes,   p.accessibility,
                 p.ownWindows, p.ownMenus,       p.notifications, p.cue};
     }
@@ -92,11 +98,12 @@ class DesktopActions {
     SteadyClock m_clock;
     InMemoryUserDefaults m_defaults;
     std::mutex m_mutex;
-    std::vector<std::string> m_log;
+    std::string m_lastMessage;
     LinuxActions m_actions{m_clock, m_defaults, [this](const std::string& line) {
                                const std::lock_guard lock(m_mutex);
-                               m_log.push_back(line);
+                               m_lastMessage = line;
                            }};
+    GrantedPermission m_permission;
     InterruptedWorkspace m_workspace{m_actions.ports().workspace};
 };
 

@@ -35,7 +35,7 @@ TestDesktop::TestDesktop(const Options& options) {
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, probe, root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, 0, nullptr);
     const auto answers = [&] {
-        tell(probe, "_NET_REQUEST_FRAME_EXTENTS");
+        request(probe, "_NET_REQUEST_FRAME_EXTENTS");
         return !property(probe, "_NET_FRAME_EXTENTS").empty();
     };
     if (!eventually(answers))

@@ -68,7 +68,7 @@ class TestDesktop {
     xcb_window_t awaitWindowOf(pid_t process, xcb_window_t other = XCB_WINDOW_NONE) const;
 
     /// Sends a message to the window manager.
-    void tell(xcb_window_t window, const std::string& message, const std::vector<std::uint32_t>& numbers = {}) const;
+    void request(xcb_window_t window, const std::string& message, const std::vector<std::uint32_t>& numbers = {}) const;
     /// Each waits until it is so.
     void activate(xcb_window_t window) const;
     void addState(xcb_window_t window, const std::string& state, const std::string& second = {}) const;

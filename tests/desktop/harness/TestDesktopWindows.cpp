@@ -50,8 +50,8 @@ xcb_window_t TestDesktop::awaitWindowOf(pid_t process, xcb_window_t other) const
     return eventually(isThere) ? found : xcb_window_t{XCB_WINDOW_NONE};
 }
 
-void TestDesktop::tell(xcb_window_t window, const std::string& message,
-                       const std::vector<std::uint32_t>& numbers) const {
+void TestDesktop::request(xcb_window_t window, const std::string& message,
+                          const std::vector<std::uint32_t>& numbers) const {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
@@ -64,21 +64,21 @@ void TestDesktop::tell(xcb_window_t window, const std::string& message,
 }
 
 void TestDesktop::activate(xcb_window_t window) const {
-    tell(window, "_NET_ACTIVE_WINDOW", {2});
+    request(window, "_NET_ACTIVE_WINDOW", {2});
     EXPECT_TRUE(eventually([&] { return active() == window; }));
 }
 
 void TestDesktop::addState(xcb_window_t window, const std::string& state, const std::string& second) const {
     constexpr std::uint32_t kAdd = 1;
     const auto before = frame(window);
-    tell(window, "_NET_WM_STATE", {kAdd, atom(state), second.empty() ? 0 : atom(second), 2});
+    request(window, "_NET_WM_STATE", {kAdd, atom(state), second.empty() ? 0 : atom(second), 2});
     // The frame follows the state.
     EXPECT_TRUE(eventually([&] { return hasState(window, state) && !(frame(window) == before); })) << state;
 }
 
 void TestDesktop::minimize(xcb_window_t window) const {
     constexpr std::uint32_t kIconic = 3;
-    tell(window, "WM_CHANGE_STATE", {kIconic});
+    request(window, "WM_CHANGE_STATE", {kIconic});
     EXPECT_TRUE(eventually([&] { return hasState(window, "_NET_WM_STATE_HIDDEN") && active() != window; }));
 }
 
@@ -97,7 +97,7 @@ void TestDesktop::letWindowManagerCatchUp(xcb_window_t window) const {
     constexpr std::uint32_t kToggle = 2;
     const std::string state = "_NET_WM_STATE_SKIP_PAGER";  // harmless
     const bool before = hasState(window, state);
-    tell(window, "_NET_WM_STATE", {kToggle, atom(state), 0, 2});
+    request(window, "_NET_WM_STATE", {kToggle, atom(state), 0, 2});
     EXPECT_TRUE(eventually([&] { return hasState(window, state) != before; }));
 }
 

@@ -123,6 +123,8 @@ TestWindow& TestWindow::show(bool takesFocus) {
             xcb_get_input_focus_reply(m_connection.get(), xcb_get_input_focus(m_connection.get()), nullptr));
         return focus && focus->focus == m_window;
     }));
+    if (m_desktop.hasWindowManager())
+        m_desktop.letWindowManagerCatchUp(m_window);
     return *this;
 }
 

@@ -169,7 +169,7 @@ TEST(PostingWithoutAServer, ReturnsWithTheNextOne) {
         window.show();
         actions.stroke(0, 0);
         EXPECT_EQ(window.events(), (Events{"press a", "release a"}));
-        EXPECT_TRUE(actions.closes());
+        EXPECT_TRUE(eventually([&] { return actions.closes(); }));
         desktop.stopServer();
         actions.stroke(0, 0);
         EXPECT_FALSE(isTrusted());

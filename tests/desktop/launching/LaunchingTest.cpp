@@ -122,12 +122,14 @@ TEST_F(Launching, LetsProgramsSurviveUsAndWriteIntoTheLog) {
     const std::string fifo = folder.path() / "fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     const FileDescriptor log(open((folder / "log").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+    ASSERT_EQ(mkfifo((folder / "end").c_str(), 0600), 0);
+    const std::string holding = "echo word; read line < '" + (folder / "end") + "'";
     std::array<int, 2> pipe{};
     ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
     const LaunchedProgram result(folder);
     const std::string command = "echo out; echo err >&2; read line < '" + fifo + "'; '" + result.path() + "' $line";
     // Each from a process of its own, which ends at once.
-    for (const auto& [output, text] : {std::pair{pipe[1], "true"}, {log.number(), command.c_str()}}) {
+    for (const auto& [output, text] : {std::pair{pipe[1], holding.c_str()}, {log.number(), command.c_str()}}) {
         const pid_t us = fork();
         if (us == 0) {
             dup2(output, STDOUT_FILENO);
@@ -144,6 +146,7 @@ TEST_F(Launching, LetsProgramsSurviveUsAndWriteIntoTheLog) {
     char byte = 0;
     EXPECT_EQ(read(pipe[0], &byte, 1), 0) << "the reader of our output waits for us alone";
     close(pipe[0]);
+    std::ofstream(folder / "end") << "end\n";
     std::ofstream(fifo) << "alive\n";
     EXPECT_EQ(result.waitForArguments(), Words{"alive"});
     EXPECT_EQ(readText(folder / "log"), "out\nerr\n");

@@ -81,17 +81,17 @@ TEST_F(Opening, LaunchesProgramsAndDesktopFilesWithTheirArguments) {
     EXPECT_EQ(terminal.waitForArguments(), (Words{"-e", "top", "-b", "-n", "1"}));
 
     workspace.launchApplication(folder.path() / "missing.desktop", {});
-    EXPECT_EQ(actions.log(),
-              Words{(folder.path() / "missing.desktop").string() + " cannot be read; choose the application again."});
+    EXPECT_EQ(actions.lastMessage(),
+              (folder.path() / "missing.desktop").string() + " cannot be read; choose the application again.");
 }
 
 TEST_F(Opening, AsksThePortalWhereThereIsNoXdgOpen) {
     setenv("PATH", folder.path().c_str(), 1);
     const std::string file = folder.write("a file", "");
     workspace.openFile(folder.path() / "missing");
-    EXPECT_EQ(actions.log(),
-              Words{(folder.path() / "missing").string() +
-                    " could not be opened: it is missing, or nothing here opens files; install xdg-utils."});
+    EXPECT_EQ(actions.lastMessage(),
+              (folder.path() / "missing").string() +
+                  " could not be opened: it is missing, or nothing here opens files; install xdg-utils.");
     BusServices services;
     workspace.openURL("http://kinesta.test/");
     workspace.openFile(file);

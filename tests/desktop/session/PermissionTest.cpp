@@ -31,10 +31,10 @@ TEST_F(Permission, ShowsOneNotificationWhileNothingCanBePosted) {
         desktop.stopServer();
         EXPECT_FALSE(actions.ports().permission.isTrusted());
         EXPECT_TRUE(prompts());
-        EXPECT_TRUE(services.waitForRequests(1));
+        ASSERT_TRUE(services.waitForRequests(1));
         EXPECT_EQ(services.requests().size(), 1U) << "none while there was permission";
         // Before and after the answers to the earlier ones.
-        EXPECT_TRUE(eventually([&] { return prompts() && services.requests().size() >= 3; }));
+        ASSERT_TRUE(eventually([&] { return prompts() && services.requests().size() >= 3; }));
         const Requests requests = services.requests();
         EXPECT_TRUE(requests.front().starts_with("notify 0 -> 1: Kinesta may not send keys and clicks | "))
             << requests.front();
@@ -46,7 +46,7 @@ TEST_F(Permission, ShowsOneNotificationWhileNothingCanBePosted) {
     desktop.startSessionBus();
     BusServices services;
     EXPECT_TRUE(prompts());
-    EXPECT_TRUE(services.waitForRequests(1));
+    ASSERT_TRUE(services.waitForRequests(1));
     EXPECT_TRUE(services.requests().front().starts_with("notify 0 -> 1:")) << services.requests().front();
 }
 
@@ -59,7 +59,7 @@ TEST_F(Permission, DoesNotWaitForADesktopThatHangs) {
         for (int i = 0; i < 100; ++i)
             EXPECT_TRUE(prompts());
         EXPECT_LT(Clock::now() - start, std::chrono::seconds(1));
-        EXPECT_TRUE(services.waitForRequests(1));
+        ASSERT_TRUE(services.waitForRequests(1));
         EXPECT_EQ(services.requests().size(), 1U) << "a hundred would appear once it answers";
     }
     DesktopActions later;
@@ -70,7 +70,7 @@ TEST_F(Permission, DoesNotWaitForADesktopThatHangs) {
     desktop.sessionBus().signal(SIGCONT);
     BusServices services;
     EXPECT_FALSE(later.ports().permission.prompt());
-    EXPECT_TRUE(services.waitForRequests(1));
+    ASSERT_TRUE(services.waitForRequests(1));
 }
 
 TEST(DesktopFacts, AreWhatIsThere) {

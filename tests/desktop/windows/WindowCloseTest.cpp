@@ -31,7 +31,7 @@ TEST_F(WindowClosing, ClosesEditorsAndLeavesSaveDialogsToThePerson) {
         const xcb_window_t dialog = desktop.awaitWindowOf(program->pid(), editor);
         ASSERT_NE(dialog, 0U) << command[0] << " does not ask";
         EXPECT_FALSE(actions.closes()) << command[0] << ": the dialog is in front";
-        desktop.tell(editor, "_NET_ACTIVE_WINDOW", {2});
+        desktop.request(editor, "_NET_ACTIVE_WINDOW", {2});
         EXPECT_FALSE(actions.closes()) << command[0] << ": its owner is in front";
         desktop.letWindowManagerCatchUp(editor);
         EXPECT_TRUE(desktop.isManaged(dialog)) << command[0];
