@@ -5,6 +5,7 @@
 
 #include "desktop/harness/DesktopActions.h"
 #include "desktop/harness/TestWindow.h"
+#include "platform/linux/keyboard/X11Keyboard.h"
 #include "platform/linux/x11/XcbPointer.h"
 
 namespace kinesta::testing {
@@ -178,6 +179,20 @@ TEST(PostingWithoutAServer, ReturnsWithTheNextOne) {
         EXPECT_EQ(actions.frontmost(), std::nullopt);
         EXPECT_TRUE(actions.ports().keyboardLayout.charactersWithoutModifiers()) << "the layout of the system";
     }
+}
+
+TEST(X11Keyboard, FetchesTheKeymapOnlyWhenItChanged) {
+    TestDesktop desktop;
+    X11Connection connection;
+    X11Keyboard keyboard(connection);
+    keyboard.characters();
+    const int before = keyboard.fetches();
+    for (int i = 0; i < 50; ++i)
+        keyboard.modifiers();
+    EXPECT_EQ(keyboard.fetches(), before);
+    desktop.setLayout("fr");
+    keyboard.characters();
+    EXPECT_EQ(keyboard.fetches(), before + 1);
 }
 
 }  // namespace
