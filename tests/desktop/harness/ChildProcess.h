@@ -10,17 +10,15 @@
 
 namespace kinesta::testing {
 
-/// A program that a test runs beside itself. It ends when this object does, or with the test program if that dies.
+/// A program that a test runs. It ends when this object does, or with the test program if that dies.
 class ChildProcess {
   public:
     /// How long anything on the desktop may take before a test gives up: far beyond what it takes, also when the
     /// machine is busy and sanitizers slow it down.
     static constexpr std::chrono::milliseconds kPatience{20000};
 
-    /// Runs `command` (its program searched in PATH) with `environment` ("NAME=value") added to ours. Its output is
-    /// read through readLine(). `inheritedDescriptor`, if any, is the one it finds under the same number.
-    explicit ChildProcess(std::vector<std::string> command, const std::vector<std::string>& environment = {},
-                          int inheritedDescriptor = -1);
+    /// Runs `command`, its program searched in PATH. Its output is read through readLine().
+    explicit ChildProcess(std::vector<std::string> command);
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
     ~ChildProcess();
@@ -38,16 +36,15 @@ class ChildProcess {
 
   private:
     pid_t m_pid = -1;
-    int m_pidDescriptor = -1;
     int m_output = -1;
     bool m_ended = false;
     std::string m_buffer;
 };
 
 /// Waits until `descriptor` has something to read; whether it has.
-bool waitForInput(int descriptor, std::chrono::milliseconds patience);
+bool waitForInput(int descriptor, std::chrono::milliseconds patience = ChildProcess::kPatience);
 
-/// Waits until `condition` holds for something that tells nobody when it changes, such as a file that appears.
+/// Waits until `condition` holds; whether it does.
 bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds patience = ChildProcess::kPatience);
 
 }  // namespace kinesta::testing

@@ -4,22 +4,39 @@
 #include <string>
 #include <vector>
 
+#include "desktop/harness/ChildProcess.h"
 #include "support/TemporaryFolder.h"
 
 namespace kinesta::testing {
 
-/// A program that tells a test the arguments it was started with, byte for byte, and where.
+/// A program that writes down the arguments it was started with, byte for byte, and where.
 class LaunchedProgram {
   public:
-    explicit LaunchedProgram(const TemporaryFolder& folder, const std::string& name = "a program");
+    explicit LaunchedProgram(const TemporaryFolder& folder, const std::string& name = "a program")
+        // The file with the arguments appears whole, by its renaming.
+        : m_path(folder.write(name,
+                              "#!/bin/sh\npwd > \"$0.folder\"\nfor a; do printf '%s\\0' \"$a\"; done > \"$0.new\"\n"
+                              "mv \"$0.new\" \"$0.arguments\"\n")) {
+        std::filesystem::permissions(m_path, std::filesystem::perms::owner_all);
+    }
 
     const std::string& path() const { return m_path; }
 
-    /// The arguments of its next start; one word that says so if it is not started.
-    std::vector<std::string> waitForArguments() const;
+    /// The arguments of its next start.
+    std::vector<std::string> waitForArguments() const {
+        const std::string file = m_path + ".arguments";
+        if (!eventually([&] { return std::filesystem::exists(file); }))
+            return {"(not started)"};
+        std::ifstream content(file);
+        std::vector<std::string> arguments;
+        for (std::string argument; std::getline(content, argument, '\0');)
+            arguments.push_back(argument);
+        std::filesystem::remove(file);
+        return arguments;
+    }
 
     /// The working directory of the start that was waited for.
-    std::string workingDirectory() const;
+    std::string workingDirectory() const { return readText(m_path + ".folder"); }
 
   private:
     std::string m_path;

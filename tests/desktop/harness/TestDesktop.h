@@ -6,76 +6,87 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "desktop/harness/ChildProcess.h"
+#include "platform/linux/windows/WindowRectangle.h"
 
 namespace kinesta::testing {
 
 /// The folder that a variable of the environment names.
 std::filesystem::path folderOf(const char* variable);
 
-/// A desktop of a test's own: an X server without a screen to look at, and on request a window manager and a session
-/// bus, which the environment names from then on. One at a time; its parts end with it, by their process numbers.
+/// A desktop of a test's own: an X server without a screen, and on request a window manager and a session bus, which
+/// the environment then names. One at a time. Windows are seen here as the server knows them, apart from the code
+/// under test.
 class TestDesktop {
   public:
     struct Options {
-        /// What the screen measures, in pixels and bits.
-        std::string screen = "1280x800x24";
         bool hasWindowManager = false;
         bool hasSessionBus = false;
     };
 
-    TestDesktop();
     explicit TestDesktop(const Options& options);
+    TestDesktop() : TestDesktop(Options{}) {}
     TestDesktop(const TestDesktop&) = delete;
     TestDesktop& operator=(const TestDesktop&) = delete;
     ~TestDesktop();
 
-    /// The name of the display, as in DISPLAY.
+    /// Runs a program to its end, or beside the test.
+    void run(std::vector<std::string> command) const;
+    std::unique_ptr<ChildProcess> start(std::vector<std::string> command) const;
+
     const std::string& display() const { return m_display; }
-
-    /// A connection that the test may use as it likes; lives as long as the X server.
-    xcb_connection_t* connection() const { return m_connection; }
-    xcb_screen_t* screen() const;
-    xcb_window_t root() const { return screen()->root; }
-    xcb_atom_t atom(const std::string& name) const;
-
-    /// The first item of a property of 32-bit items, if it is there.
-    std::optional<std::uint32_t> property(xcb_window_t window, const std::string& name) const;
-
-    /// Gives the keyboard to a window that is there or on its way; whether it has it.
-    bool bringToKeyboard(xcb_window_t window) const;
-
-    /// Switches the keyboard layout as a person does: setxkbmap with these words, such as "fr" or "us,fr".
-    void setLayout(const std::string& layout);
-
-    /// Ends the X server, as a crash or a logout would; the connection here is lost with it.
-    void stopServer();
-
-    /// Starts an X server again, under a name of its own, which DISPLAY then tells.
-    void startServer();
-
-    /// Ends the window manager, or the session bus.
-    void stopWindowManager() { m_windowManager.reset(); }
-    void stopSessionBus() { m_bus.reset(); }
-
-    /// The session bus. Only if there is one.
+    bool hasWindowManager() const { return m_windowManager != nullptr; }
+    ChildProcess& server() { return *m_server; }
     ChildProcess& sessionBus() { return *m_bus; }
+    ChildProcess& windowManager() { return *m_windowManager; }
 
-    /// Starts a session bus, which the environment then names.
+    /// The parts of the desktop come and go. A server that is started again has another number.
+    void startServer();
+    void stopServer();
     void startSessionBus();
+    void stopSessionBus() { m_bus.reset(); }
+    void stopWindowManager() { m_windowManager.reset(); }
 
-    /// Starts one more program on this desktop's displays and bus.
-    std::unique_ptr<ChildProcess> run(std::vector<std::string> command) const;
+    /// Switches the keyboard layout with setxkbmap, such as to "fr" or "us,fr".
+    void setLayout(const std::string& layout) const;
+
+    /// A connection for the test, which lives as long as the server.
+    xcb_connection_t* connection() const { return m_connection; }
+    xcb_window_t root() const;
+    xcb_atom_t atom(const std::string& name) const;
+    /// A property of 32-bit items, and whether it has a certain atom.
+    std::vector<std::uint32_t> property(xcb_window_t window, const std::string& name) const;
+    bool hasState(xcb_window_t window, const std::string& state) const;
+
+    /// The managed windows, the lowest first.
+    std::vector<xcb_window_t> stacking() const { return property(root(), "_NET_CLIENT_LIST_STACKING"); }
+    bool isManaged(xcb_window_t window) const;
+    xcb_window_t active() const;
+    /// Waits until a window of this process besides `other` is active. Returns 0 if none comes.
+    xcb_window_t awaitWindowOf(pid_t process, xcb_window_t other = XCB_WINDOW_NONE) const;
+
+    /// Sends a message to the window manager.
+    void request(xcb_window_t window, const std::string& message, const std::vector<std::uint32_t>& numbers = {}) const;
+    /// Each waits until it is so.
+    void activate(xcb_window_t window) const;
+    void addState(xcb_window_t window, const std::string& state, const std::string& second = {}) const;
+    void minimize(xcb_window_t window) const;
+    /// Names a window as the active one although the window manager did not activate it.
+    void pretendActive(xcb_window_t window) const;
+    /// Returns once the window manager has done what it was asked for before.
+    void letWindowManagerCatchUp(xcb_window_t window) const;
+
+    /// What a window occupies with its frame, and without.
+    WindowRectangle frame(xcb_window_t window) const;
+    WindowRectangle client(xcb_window_t window) const;
 
   private:
-    void startWindowManager();
+    WindowRectangle geometry(xcb_window_t window) const;
 
-    std::string m_screen;
     std::string m_display;
-    std::unique_ptr<ChildProcess> m_server;
-    std::unique_ptr<ChildProcess> m_bus;
-    std::unique_ptr<ChildProcess> m_windowManager;
+    std::unique_ptr<ChildProcess> m_server, m_bus, m_windowManager;
     xcb_connection_t* m_connection = nullptr;
 };
 

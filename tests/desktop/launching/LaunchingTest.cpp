@@ -36,29 +36,9 @@ struct Launching : ::testing::Test {
         return content;
     }
 
-    /// Launches a shell from a process of its own, whose standard output is `output`, and ends that process.
-    static void runAndEnd(int output, const std::string& command) {
-        const pid_t us = fork();
-        if (us == 0) {
-            dup2(output, STDOUT_FILENO);
-            PosixProcessLauncher::Options options;
-            options.output = PosixProcessLauncher::Output::log;
-            PosixProcessLauncher(options).launch("/bin/sh", {"-c", command});
-            _exit(0);
-        }
-        int status = 0;
-        ASSERT_EQ(waitpid(us, &status, 0), us);
-        ASSERT_EQ(status, 0);
-    }
-
     TemporaryFolder folder;
     PosixProcessLauncher launcher;
 };
-
-bool hasChildren() {
-    siginfo_t info{};
-    return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
-}
 
 std::ptrdiff_t openDescriptors() {
     return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
@@ -74,7 +54,7 @@ TEST_F(Launching, HandsOverArgumentsAsTheyAre) {
 }
 
 TEST_F(Launching, GivesProgramsAFreshStart) {
-    const FileDescriptor leaky(dup(STDERR_FILENO));  // inherited by whoever does not close it
+    const FileDescriptor leaky(dup(STDERR_FILENO));  // without close-on-exec
     ASSERT_TRUE(leaky);
     sigset_t blocked;
     sigset_t before;
@@ -99,7 +79,7 @@ TEST_F(Launching, GivesProgramsAFreshStart) {
 
 TEST_F(Launching, ReapsItsOwnChildrenAndNoOthers) {
     while (waitpid(-1, nullptr, 0) > 0) {
-        // One that an earlier test launched, and whose launcher has gone.
+        // An earlier test launched it, and its launcher is gone.
     }
     const auto descriptors = openDescriptors();
     const pid_t other = fork();
@@ -111,12 +91,16 @@ TEST_F(Launching, ReapsItsOwnChildrenAndNoOthers) {
     int status = 0;
     EXPECT_TRUE(eventually([&] { return waitpid(other, &status, WNOHANG) == other; }));
     EXPECT_EQ(WEXITSTATUS(status), 7);
-    EXPECT_TRUE(eventually([] { return !hasChildren(); })) << "zombies";
+    const auto hasNoChildren = [] {
+        siginfo_t info{};
+        return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) != 0;
+    };
+    EXPECT_TRUE(eventually(hasNoChildren)) << "zombies";
     EXPECT_TRUE(eventually([&] { return openDescriptors() == descriptors + 1; }))
         << openDescriptors() - descriptors << " more than before, one of them the launcher's own";
 }
 
-TEST_F(Launching, NeitherWaitsNorMindsWhatCannotBeStarted) {
+TEST_F(Launching, ReportsWhatCannotBeStartedAndDoesNotWait) {
     std::promise<std::string> complaint;
     PosixProcessLauncher::Options options;
     options.log = [&](const std::string& line) { complaint.set_value(line); };
@@ -126,7 +110,7 @@ TEST_F(Launching, NeitherWaitsNorMindsWhatCannotBeStarted) {
     auto line = complaint.get_future();
     ASSERT_EQ(line.wait_for(ChildProcess::kPatience), std::future_status::ready);
     EXPECT_EQ(line.get(), missing + " could not be started: No such file or directory.");
-    // Nor does one that runs on.
+    // It does not wait for one that runs on.
     const std::string fifo = folder.path() / "fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     launcher.launch("/bin/sh", {"-c", "read line < '" + fifo + "'"});
@@ -134,27 +118,37 @@ TEST_F(Launching, NeitherWaitsNorMindsWhatCannotBeStarted) {
     std::ofstream(fifo) << "end\n";
 }
 
-TEST_F(Launching, LetsProgramsSurviveUs) {
+TEST_F(Launching, LetsProgramsSurviveUsAndWriteIntoTheLog) {
     const std::string fifo = folder.path() / "fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    const LaunchedProgram result(folder);
-    const std::string command = "echo word; read line < '" + fifo + "'; '" + result.path() + "' $line";
+    const FileDescriptor log(open((folder / "log").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+    ASSERT_EQ(mkfifo((folder / "end").c_str(), 0600), 0);
+    const std::string holding = "echo word; read line < '" + (folder / "end") + "'";
     std::array<int, 2> pipe{};
     ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
-    runAndEnd(pipe[1], command);
+    const LaunchedProgram result(folder);
+    const std::string command = "echo out; echo err >&2; read line < '" + fifo + "'; '" + result.path() + "' $line";
+    // Each from a process of its own, which ends at once.
+    for (const auto& [output, text] : {std::pair{pipe[1], holding.c_str()}, {log.number(), command.c_str()}}) {
+        const pid_t us = fork();
+        if (us == 0) {
+            dup2(output, STDOUT_FILENO);
+            PosixProcessLauncher::Options options;
+            options.output = PosixProcessLauncher::Output::log;
+            PosixProcessLauncher(options).launch("/bin/sh", {"-c", text});
+            _exit(0);
+        }
+        int status = -1;
+        ASSERT_EQ(waitpid(us, &status, 0), us);
+        ASSERT_EQ(status, 0);
+    }
     close(pipe[1]);
     char byte = 0;
-    EXPECT_EQ(read(pipe[0], &byte, 1), 0) << "who reads our output waits for us alone";
+    EXPECT_EQ(read(pipe[0], &byte, 1), 0) << "the reader of our output waits for us alone";
     close(pipe[0]);
+    std::ofstream(folder / "end") << "end\n";
     std::ofstream(fifo) << "alive\n";
     EXPECT_EQ(result.waitForArguments(), Words{"alive"});
-}
-
-TEST_F(Launching, WritesWhatProgramsSayIntoTheLog) {
-    const FileDescriptor log(open((folder / "log").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
-    const LaunchedProgram result(folder);
-    runAndEnd(log.number(), "echo out; echo err >&2; '" + result.path() + "' end");
-    EXPECT_EQ(result.waitForArguments(), Words{"end"});
     EXPECT_EQ(readText(folder / "log"), "out\nerr\n");
 }
 
@@ -169,7 +163,7 @@ TEST_F(Launching, RunsShellCommandsWithZshOrElseTheLoginShell) {
     withoutZsh.launch("/bin/zsh", arguments);
     EXPECT_EQ(login.waitForArguments(), arguments);
 
-    // With the real one of whoever runs this.
+    // With the real one of the person who runs this.
     PosixProcessLauncher real({folder.path() / "missing", {}, {}});
     real.launch("/bin/zsh", {"-lc", "'" + login.path() + "' done"});
     EXPECT_EQ(login.waitForArguments(), Words{"done"});

@@ -6,12 +6,10 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "desktop/harness/BusServices.h"
+#include "desktop/harness/BusPeer.h"
+#include "desktop/harness/DesktopActions.h"
 #include "desktop/harness/TestDesktop.h"
-#include "platform/linux/keyboard/X11InputPoster.h"
 #include "platform/linux/process/FileDescriptor.h"
-#include "platform/linux/session/DesktopPermission.h"
-#include "platform/linux/session/DesktopSession.h"
 
 namespace kinesta::testing {
 namespace {
@@ -19,132 +17,102 @@ namespace {
 using Requests = std::vector<std::string>;
 using Clock = std::chrono::steady_clock;
 
-/// A desktop on which nothing can be posted, as its X server has gone.
 struct Permission : ::testing::Test {
+    bool prompts() { return !actions.ports().permission.prompt(); }
+
     TestDesktop desktop{{.hasSessionBus = true}};
-    X11Connection connection;
-    X11Keyboard keyboard{connection};
-    X11InputPoster poster{connection, keyboard};
-    MessageBus bus;
-    DesktopNotifications notifications{bus};
-    int asked = 0;
-    DesktopPermission permission{poster, notifications, [this] { return "Do this & that " + std::to_string(++asked); }};
+    DesktopActions actions;
 };
 
-TEST_F(Permission, IsThereWherePostingWorks) {
+TEST_F(Permission, ShowsOneNotificationWhileNothingCanBePosted) {
+    {
+        BusServices services;
+        EXPECT_FALSE(prompts());
+        desktop.stopServer();
+        EXPECT_FALSE(actions.ports().permission.isTrusted());
+        EXPECT_TRUE(prompts());
+        ASSERT_TRUE(services.waitForRequests(1));
+        EXPECT_EQ(services.requests().size(), 1U) << "none while there was permission";
+        // Before and after the answers to the earlier ones.
+        ASSERT_TRUE(eventually([&] { return prompts() && services.requests().size() >= 3; }));
+        const Requests requests = services.requests();
+        EXPECT_TRUE(requests.front().starts_with("notify 0 -> 1: Kinesta may not send keys and clicks | "))
+            << requests.front();
+        for (std::size_t i = 1; i < requests.size(); ++i)
+            EXPECT_TRUE(requests[i].starts_with("notify 1 -> 1:")) << requests[i];
+    }
+    desktop.stopSessionBus();
+    EXPECT_TRUE(prompts());
+    desktop.startSessionBus();
     BusServices services;
-    EXPECT_TRUE(permission.isTrusted());
-    EXPECT_TRUE(permission.prompt());
-    desktop.stopServer();
-    EXPECT_FALSE(permission.isTrusted());
-    EXPECT_FALSE(permission.prompt());
-    EXPECT_TRUE(services.waitForRequests(1));
-    EXPECT_EQ(services.requests(), Requests{"notify 0 -> 1: Kinesta may not send keys and clicks | Do this & that 1"})
-        << "and none while there was permission";
-}
-
-TEST_F(Permission, KeepsOneNotificationOnTheScreen) {
-    desktop.stopServer();
-    permission.prompt();  // to nobody
-    BusServices services;
-    // Again and again, as a person would who wonders: before and after the answers to the ones before.
-    EXPECT_TRUE(eventually([&] {
-        permission.prompt();
-        return services.requests().size() >= 3;
-    }));
-    const Requests requests = services.requests();
-    for (const std::string& request : requests)
-        EXPECT_TRUE(request.find("-> 1:") != std::string::npos) << request;
-    EXPECT_TRUE(requests.front().starts_with("notify 0 "));
-    EXPECT_TRUE(requests.back().starts_with("notify 1 "));
+    EXPECT_TRUE(prompts());
+    ASSERT_TRUE(services.waitForRequests(1));
+    EXPECT_TRUE(services.requests().front().starts_with("notify 0 -> 1:")) << services.requests().front();
 }
 
 TEST_F(Permission, DoesNotWaitForADesktopThatHangs) {
     desktop.stopServer();
-    BusServices services(BusServices::Manner::hanging);
-    const auto start = Clock::now();
-    for (int i = 0; i < 100; ++i)
-        EXPECT_FALSE(permission.prompt());
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(500)) << "5 ms a prompt are felt by nobody";
-    EXPECT_TRUE(services.waitForRequests(1));
-    EXPECT_EQ(services.requests().size(), 1U) << "a hundred would appear when it comes round";
-}
-
-TEST_F(Permission, DoesNotWaitLongForABusThatHangs) {
-    desktop.stopServer();
+    EXPECT_TRUE(prompts()) << "without services";
+    {
+        BusServices services(BusServices::Manner::hanging);
+        const auto start = Clock::now();
+        for (int i = 0; i < 100; ++i)
+            EXPECT_TRUE(prompts());
+        EXPECT_LT(Clock::now() - start, std::chrono::seconds(1));
+        ASSERT_TRUE(services.waitForRequests(1));
+        EXPECT_EQ(services.requests().size(), 1U) << "a hundred would appear once it answers";
+    }
+    DesktopActions later;
     desktop.sessionBus().signal(SIGSTOP);
     const auto start = Clock::now();
-    EXPECT_FALSE(permission.prompt());
-    EXPECT_LT(Clock::now() - start, 2 * MessageBus::kPatience);
+    EXPECT_FALSE(later.ports().permission.prompt());
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(1));
     desktop.sessionBus().signal(SIGCONT);
     BusServices services;
-    EXPECT_FALSE(permission.prompt());
-    EXPECT_TRUE(services.waitForRequests(1));
-}
-
-TEST_F(Permission, DoesWithoutABusAndTakesUpWithTheNext) {
-    desktop.stopServer();
-    EXPECT_FALSE(permission.prompt());
-    desktop.stopSessionBus();
-    EXPECT_FALSE(permission.prompt());
-    EXPECT_EQ(bus.open(), nullptr);
-    desktop.startSessionBus();
-    BusServices services;
-    EXPECT_FALSE(permission.prompt());
-    EXPECT_TRUE(services.waitForRequests(1));
-    EXPECT_TRUE(services.requests().front().starts_with("notify 0 -> 1:")) << services.requests().front();
+    EXPECT_FALSE(later.ports().permission.prompt());
+    ASSERT_TRUE(services.waitForRequests(1));
 }
 
 TEST(DesktopFacts, AreWhatIsThere) {
+    using enum DesktopCapability;
     TestDesktop desktop({.hasWindowManager = true, .hasSessionBus = true});
-    X11Connection connection;
-    EwmhDesktop windows;
-    MessageBus bus;
-    const auto probe = [&] { return DesktopFacts::probe(connection, windows, bus, "/dev/null"); };
-    DesktopFacts facts = probe();
-    EXPECT_TRUE(facts.hasX && facts.hasXTest && facts.hasWindowManager && facts.hasSessionBus && facts.hasXdgOpen);
-    EXPECT_FALSE(facts.hasWayland);
-    EXPECT_EQ(facts.notifications, BusService::absent);
-    EXPECT_EQ(facts.portal, BusService::absent);
-    EXPECT_TRUE(facts.mayUseUinput) << "stands for a device that may be opened";
-    EXPECT_FALSE(DesktopFacts::probe(connection, windows, bus, "/nonexistent").mayUseUinput);
+    DesktopActions actions;
+    EXPECT_TRUE(actions.works(sendInput) && actions.works(windows) && actions.works(open));
+    EXPECT_FALSE(actions.works(notify));
+    const std::string programs = std::getenv("PATH");
+    setenv("PATH", "/nonexistent", 1);
+    EXPECT_FALSE(actions.works(open)) << "no xdg-open and no portal";
     {
         const BusServices services;
-        facts = probe();
-        EXPECT_EQ(facts.notifications, BusService::answering);
-        EXPECT_EQ(facts.portal, BusService::absent) << "and not started for nothing: there is xdg-open";
-        const std::string programs = std::getenv("PATH");
-        setenv("PATH", "/nonexistent", 1);
-        EXPECT_EQ(probe().portal, BusService::answering);
-        setenv("PATH", programs.c_str(), 1);
+        EXPECT_TRUE(actions.works(notify));
+        EXPECT_TRUE(actions.works(open)) << "by the portal";
     }
+    setenv("PATH", programs.c_str(), 1);
     {
         const BusServices services(BusServices::Manner::refusing);
-        EXPECT_EQ(probe().notifications, BusService::silent) << "there, but of no use";
+        EXPECT_FALSE(actions.works(notify));
     }
     desktop.stopWindowManager();
-    EXPECT_FALSE(probe().hasWindowManager) << "though it left its mark on the root window";
+    EXPECT_FALSE(actions.works(windows)) << "though it left its mark on the root window";
 
-    // A compositor is one that answers on the socket, not a name that an old session left behind.
+    // A compositor counts if it listens on the socket; an old session may have left the name.
+    using Kind = DesktopSession::Kind;
     setenv("WAYLAND_DISPLAY", "wayland-7", 1);
-    EXPECT_FALSE(probe().hasWayland);
+    EXPECT_EQ(actions.session().kind(), Kind::x11);
     const FileDescriptor compositor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     const std::string path = folderOf("XDG_RUNTIME_DIR") / "wayland-7";
     std::memcpy(address.sun_path, path.c_str(), path.size());
     ASSERT_EQ(bind(compositor.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-    EXPECT_FALSE(probe().hasWayland) << "nobody listens";
+    EXPECT_EQ(actions.session().kind(), Kind::x11);
     ASSERT_EQ(listen(compositor.number(), 8), 0);
-    EXPECT_TRUE(probe().hasWayland);
+    EXPECT_EQ(actions.session().kind(), Kind::waylandWithX);
     setenv("WAYLAND_DISPLAY", path.c_str(), 1);
-    EXPECT_TRUE(probe().hasWayland);
-
+    EXPECT_EQ(actions.session().kind(), Kind::waylandWithX);
+    unsetenv("WAYLAND_DISPLAY");
     desktop.stopServer();
-    desktop.stopSessionBus();
-    facts = probe();
-    EXPECT_FALSE(facts.hasX || facts.hasXTest || facts.hasWindowManager || facts.hasSessionBus);
-    EXPECT_EQ(facts.notifications, BusService::absent);
+    EXPECT_EQ(actions.session().kind(), Kind::none);
 }
 
 }  // namespace

@@ -16,9 +16,9 @@ namespace {
 
 constexpr const char* kKey = "/org/gnome/desktop/peripherals/touchpad/send-events";
 
-bool isTold(TouchpadSwitch& pads, int milliseconds = 5000) {
-    pollfd changes{.fd = pads.fileDescriptor(), .events = POLLIN, .revents = 0};
-    while (poll(&changes, 1, milliseconds) > 0)
+bool changes(TouchpadSwitch& pads, int milliseconds = 5000) {
+    pollfd events{.fd = pads.fileDescriptor(), .events = POLLIN, .revents = 0};
+    while (poll(&events, 1, milliseconds) > 0)
         if (pads.takeChanges())
             return true;
     return false;
@@ -51,7 +51,7 @@ TEST(TouchpadSwitching, FollowsGnomesStoredSetting) {
     const auto store = [&](const std::string& database) {
         const std::string file = folder.write("new", database);
         std::filesystem::rename(file, folder.path() / "user");
-        EXPECT_TRUE(isTold(pads));
+        EXPECT_TRUE(changes(pads));
     };
     store(dconfSample());
     EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::disabled);
@@ -59,7 +59,7 @@ TEST(TouchpadSwitching, FollowsGnomesStoredSetting) {
     other.replace(other.find("disabled"), 8, "enabled\0", 8);
     store(other);
     EXPECT_EQ(pads.mode("/dev/input/event0"), SendEventsMode::enabled);
-    EXPECT_FALSE(isTold(pads, 0));
+    EXPECT_FALSE(changes(pads, 0));
 
     TouchpadSwitch nothing({.display = "", .dconfDirectory = (folder.path() / "none").string()});
     EXPECT_EQ(nothing.mode("/dev/input/event0"), SendEventsMode::enabled);
@@ -81,36 +81,27 @@ TEST(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
     TouchpadSwitch pads({.display = desktop.display(), .dconfDirectory = ""});
     const std::string pad = "/dev/input/event5";
     EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
-    struct Case {
-        const char* property;
-        std::string bytes;
-        SendEventsMode mode;
+    const auto check = [&](const char* property, const std::string& bytes, SendEventsMode mode) {
+        set(desktop, property, bytes);
+        EXPECT_TRUE(changes(pads)) << property;
+        EXPECT_EQ(pads.mode(pad), mode) << property;
+        EXPECT_EQ(pads.mode("/dev/input/event"), SendEventsMode::enabled);
     };
+    constexpr const char* kLibinput = "libinput Send Events Mode Enabled";
     const std::string off("\1\0", 2);
     const std::string on("\0\0", 2);
-    const std::string offWithMouse("\0\1", 2);
-    const std::vector<Case> cases{
-        {"libinput Send Events Mode Enabled", off, SendEventsMode::disabled},
-        {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
-        {"libinput Send Events Mode Enabled", offWithMouse, SendEventsMode::disabledWithExternalMouse},
-        {"Synaptics Off", "\1", SendEventsMode::disabled},
-        {"Synaptics Off", "\2", SendEventsMode::disabledWithExternalMouse},  // that is tapping alone
-        {"libinput Send Events Mode Enabled", on, SendEventsMode::enabled},
-    };
-    for (const Case& one : cases) {
-        set(desktop, one.property, one.bytes);
-        EXPECT_TRUE(isTold(pads));
-        EXPECT_EQ(pads.mode(pad), one.mode) << one.property;
-        EXPECT_EQ(pads.mode("/dev/input/event"), SendEventsMode::enabled);
-    }
-    set(desktop, "libinput Send Events Mode Enabled", off);
-    set(desktop, "Device Node", std::string("/dev/input/event5\0", 18));
-    EXPECT_TRUE(isTold(pads));
-    EXPECT_EQ(pads.mode(pad), SendEventsMode::disabled);
+    check(kLibinput, off, SendEventsMode::disabled);
+    check(kLibinput, on, SendEventsMode::enabled);
+    check(kLibinput, std::string("\0\1", 2), SendEventsMode::disabledWithExternalMouse);
+    check("Synaptics Off", "\1", SendEventsMode::disabled);
+    check("Synaptics Off", "\2", SendEventsMode::disabledWithExternalMouse);  // that is tapping alone
+    check(kLibinput, on, SendEventsMode::enabled);
+    set(desktop, kLibinput, off);
+    check("Device Node", std::string("/dev/input/event5\0", 18), SendEventsMode::disabled);
     desktop.stopServer();
-    EXPECT_TRUE(isTold(pads));
+    EXPECT_TRUE(changes(pads));
     EXPECT_EQ(pads.mode(pad), SendEventsMode::enabled);
-    EXPECT_FALSE(isTold(pads, 100));  // nor does the broken connection keep anyone awake
+    EXPECT_FALSE(changes(pads, 100)) << "the broken connection stays silent";
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ TEST(EwmhWorkAreas, AreWhatDocksLeaveOfEachMonitor) {
     EwmhWindow elsewhere = kBottomOfLeft;
     elsewhere.desktop = 1;
     const auto topOfRight = dock({640, 0, 640, 25}, {.top = {25, 640, 1279}});
-    // On an inner edge: told from the screen's edge, the room seems to hold all of the left monitor.
+    // On an inner edge: counted from the screen's edge, it covers all of the left monitor.
     const auto leftOfRight = dock({640, 0, 40, 600}, {.left = {680, 0, 599}});
     const auto acrossTheTop = dock({0, 0, 1280, 20}, {.top = {20, 0, 1279}});
     const auto slidesIn = dock({0, -40, 640, 30}, {.top = {2, 0, 639}});
@@ -43,7 +43,7 @@ TEST(EwmhWorkAreas, AreWhatDocksLeaveOfEachMonitor) {
     check("that slides in", {slidesIn}, {0, 2, 640, 798}, kRight);
 }
 
-TEST(EwmhWorkAreas, FollowWhatTheDesktopTells) {
+TEST(EwmhWorkAreas, FollowTheAreasThatTheDesktopLists) {
     using Areas = std::vector<WindowRectangle>;
     const std::vector<EwmhWindow> windows{kBottomOfLeft};
     const Areas both{kLeft, kRight};
@@ -54,14 +54,14 @@ TEST(EwmhWorkAreas, FollowWhatTheDesktopTells) {
             areas.push_back(each.workArea);
         EXPECT_EQ(areas, expected) << what;
     };
-    const WindowRectangle told{640, 27, 640, 573};
+    const WindowRectangle listed{640, 27, 640, 573};
     const WindowRectangle leftOver{0, 0, 640, 770};
-    check("the window manager's word", {kScreen}, {{5, 6, 1200, 700}}, {}, {{5, 6, 1200, 700}});
-    check("no word", {kScreen}, {}, {}, {{0, 0, 1280, 770}});
+    check("the window manager's area", {kScreen}, {{5, 6, 1200, 700}}, {}, {{5, 6, 1200, 700}});
+    check("no area", {kScreen}, {}, {}, {{0, 0, 1280, 770}});
     check("no room left", {kScreen}, {{0, 0, 0, 0}}, {}, {{0, 0, 1280, 770}});
-    check("told in another order", both, kScreen, {told, {0, 0, 640, 790}}, {{0, 0, 640, 790}, told});
-    check("only one told", both, kScreen, {told}, {leftOver, told});
-    check("told by the dock already", both, {{0, 0, 1280, 770}}, {}, {leftOver, kRight});
+    check("listed in another order", both, kScreen, {listed, {0, 0, 640, 790}}, {{0, 0, 640, 790}, listed});
+    check("only one listed", both, kScreen, {listed}, {leftOver, listed});
+    check("the dock's area already", both, {{0, 0, 1280, 770}}, {}, {leftOver, kRight});
     check("margins of its own", both, {{7, 8, 1264, 752}}, {}, {{7, 8, 633, 752}, {640, 8, 631, 592}});
     check("margins that leave nothing", both, {{640, 0, 640, 800}}, {}, {leftOver, kRight});
 }

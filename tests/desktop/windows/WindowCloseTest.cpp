@@ -3,163 +3,184 @@
 
 #include <csignal>
 
-#include "desktop/harness/ClientWindow.h"
-#include "desktop/harness/TestDesktop.h"
-#include "desktop/harness/WindowPorts.h"
-#include "desktop/harness/WindowWatch.h"
+#include "desktop/harness/DesktopActions.h"
+#include "desktop/harness/TestWindow.h"
 
 namespace kinesta::testing {
 namespace {
 
-struct WindowCloseTest : ::testing::Test {
+using Words = std::vector<std::string>;
+const Words kClose{"close"};
+
+struct WindowClosing : ::testing::Test {
     TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
-    WindowWatch watch{desktop};
-    WindowPorts ports;
+    DesktopActions actions;
 };
 
-TEST_F(WindowCloseTest, ClosesRealEditorsAndLeavesTheirSaveDialogsToThePerson) {
-    for (const std::vector<std::string>& command :
-         {std::vector<std::string>{"mousepad", "--disable-server"}, {"featherpad", "--standalone"}}) {
-        const auto unchanged = desktop.run(command);
-        ASSERT_NE(watch.awaitWindowOf(unchanged->pid()), 0U) << command[0];
-        EXPECT_TRUE(ports.closes()) << command[0];
+TEST_F(WindowClosing, ClosesEditorsAndLeavesSaveDialogsToThePerson) {
+    for (const Words& command : {Words{"mousepad", "--disable-server"}, {"featherpad", "--standalone"}}) {
+        const auto unchanged = desktop.start(command);
+        ASSERT_NE(desktop.awaitWindowOf(unchanged->pid()), 0U) << command[0];
+        EXPECT_TRUE(actions.closes()) << command[0];
         EXPECT_TRUE(unchanged->waitForEnd()) << command[0];
-        const auto program = desktop.run(command);
-        const xcb_window_t editor = watch.awaitWindowOf(program->pid());
+        const auto program = desktop.start(command);
+        const xcb_window_t editor = desktop.awaitWindowOf(program->pid());
         ASSERT_NE(editor, 0U) << command[0];
-        ASSERT_TRUE(desktop.run({"xdotool", "type", "not saved"})->waitForEnd());
-        ASSERT_TRUE(ports.closes());
-        const xcb_window_t dialog = watch.awaitWindowOf(program->pid(), editor);
+        desktop.run({"xdotool", "type", "not saved"});
+        ASSERT_TRUE(actions.closes());
+        const xcb_window_t dialog = desktop.awaitWindowOf(program->pid(), editor);
         ASSERT_NE(dialog, 0U) << command[0] << " does not ask";
-        EXPECT_FALSE(ports.closes()) << command[0] << ": the dialog is in front";
-        watch.tell(editor, "_NET_ACTIVE_WINDOW", {2});
-        EXPECT_FALSE(ports.closes()) << command[0] << ": its owner is in front";
-        watch.letWindowManagerCatchUp(editor);
-        EXPECT_TRUE(watch.isManaged(dialog)) << command[0];
+        EXPECT_FALSE(actions.closes()) << command[0] << ": the dialog is in front";
+        desktop.request(editor, "_NET_ACTIVE_WINDOW", {2});
+        EXPECT_FALSE(actions.closes()) << command[0] << ": its owner is in front";
+        desktop.letWindowManagerCatchUp(editor);
+        EXPECT_TRUE(desktop.isManaged(dialog)) << command[0];
         program->signal(SIGKILL);
-        ASSERT_TRUE(watch.await([this] { return watch.stacking().empty(); }));
-        EXPECT_FALSE(ports.closes()) << "an empty desktop";
+        ASSERT_TRUE(eventually([this] { return desktop.stacking().empty(); }));
+        EXPECT_FALSE(actions.closes()) << "an empty desktop";
     }
 }
 
-TEST_F(WindowCloseTest, LeavesAWindowAloneWhileAModalDialogWaitsForAnAnswer) {
-    const auto connection = ClientWindow::connect(desktop);
+TEST_F(WindowClosing, WaitsForTheAnswerToAModalDialog) {
     constexpr xcb_window_t kLeader = 0x77;
-    ClientWindow editor(desktop, watch, {100, 100, 300, 200}, connection);
+    const auto connection = TestWindow::connect(desktop);
+    TestWindow editor(desktop, {100, 100, 300, 200}, connection);
     editor.setGroup(kLeader).show();
-    constexpr xcb_window_t kNone = 0;
     const struct {
         const char* description;
         xcb_window_t group, owner;
         bool holdsBack;
     } rows[] = {
-        {"its own", kNone, editor.window(), true},
+        {"its own", 0, editor.id(), true},
         {"its group's, owned by the root", kLeader, desktop.root(), true},
-        {"its group's, owned by the leader", kLeader, kLeader, true},
-        {"its group's, without an owner", kLeader, kNone, true},
+        {"its group's, without an owner", kLeader, 0, true},
         {"another group's", kLeader + 1, desktop.root(), false},
     };
     for (const auto& row : rows) {
-        ClientWindow dialog(desktop, watch, {200, 200, 100, 50}, connection);
-        dialog.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DIALOG"});
-        dialog.setAtoms("_NET_WM_STATE", {"_NET_WM_STATE_MODAL"});
-        if (row.group != kNone)
+        TestWindow dialog(desktop, {200, 200, 100, 50}, connection);
+        dialog.setType("DIALOG").setModal();
+        if (row.group != 0)
             dialog.setGroup(row.group);
-        if (row.owner != kNone)
-            dialog.setTransientFor(row.owner);
+        if (row.owner != 0)
+            dialog.setWindow("WM_TRANSIENT_FOR", row.owner);
         dialog.show();
-        EXPECT_FALSE(ports.closes()) << row.description << ": the dialog is in front";
-        EXPECT_FALSE(dialog.wasAskedToClose()) << row.description;
-        // Openbox hands the focus on to the dialog; other window managers do not.
-        watch.pretendActive(editor.window());
-        EXPECT_EQ(ports.closes(), !row.holdsBack) << row.description << ": its owner is in front";
-        EXPECT_EQ(editor.wasAskedToClose(), !row.holdsBack) << row.description;
+        EXPECT_FALSE(actions.closes()) << row.description << ": the dialog is in front";
+        EXPECT_EQ(dialog.eventsAfterWindowManager(), Words{}) << row.description;
+        // Openbox gives the focus to the dialog; other window managers do not.
+        desktop.pretendActive(editor.id());
+        EXPECT_EQ(actions.closes(), !row.holdsBack) << row.description << ": its owner is in front";
+        EXPECT_EQ(editor.eventsAfterWindowManager(), row.holdsBack ? Words{} : kClose) << row.description;
     }
-    ClientWindow find(desktop, watch, {200, 200, 100, 50}, connection);
-    find.setTransientFor(editor.window()).show();
-    EXPECT_TRUE(ports.closes()) << "a dialog that is not modal is a window like others";
-    EXPECT_TRUE(find.awaitCloseRequest());
+    TestWindow find(desktop, {200, 200, 100, 50}, connection);
+    find.setWindow("WM_TRANSIENT_FOR", editor.id()).show();
+    EXPECT_TRUE(actions.closes()) << "not modal";
+    EXPECT_EQ(find.next(), "close");
 }
 
-TEST_F(WindowCloseTest, LeavesWindowsAloneThatAreNotToBeClosed) {
-    ClientWindow window(desktop, watch, {100, 100, 300, 200});
-    window.show();
+TEST_F(WindowClosing, LeavesSpecialWindowsAlone) {
+    TestWindow window(desktop, {100, 100, 300, 200});
+    window.setProcess(getpid()).show();  // windows of our own follow the same rules
+    EXPECT_TRUE(actions.closes());
+    EXPECT_EQ(window.next(), "close");
     for (const char* type : {"DESKTOP", "DOCK", "TOOLBAR", "MENU", "UTILITY", "SPLASH"}) {
-        ASSERT_TRUE(watch.awaitActive(window.window())) << "openbox is done with the one before";
-        ClientWindow other(desktop, watch, {500, 100, 200, 100});
-        // A type that only some other desktop knows says nothing.
-        other.setAtoms("_NET_WM_WINDOW_TYPE",
-                       {"_KDE_NET_WM_WINDOW_TYPE_OVERRIDE", std::string("_NET_WM_WINDOW_TYPE_") + type});
-        other.show(false);
-        watch.activate(other.window());
-        EXPECT_FALSE(ports.closes()) << type;
-        EXPECT_FALSE(other.wasAskedToClose()) << type;
+        for (const pid_t process : {getppid(), getpid()}) {
+            ASSERT_TRUE(eventually([&] { return desktop.active() == window.id(); }));
+            TestWindow other(desktop, {500, 100, 200, 100});
+            // The first type is unknown here and says nothing.
+            other.setAtoms("_NET_WM_WINDOW_TYPE",
+                           {"_KDE_NET_WM_WINDOW_TYPE_OVERRIDE", std::string("_NET_WM_WINDOW_TYPE_") + type});
+            other.setProcess(process).show(false);
+            desktop.activate(other.id());
+            EXPECT_FALSE(actions.closes()) << type;
+            EXPECT_EQ(other.eventsAfterWindowManager(), Words{}) << type;
+        }
     }
-    ASSERT_TRUE(watch.awaitActive(window.window()));
-    ClientWindow stubborn(desktop, watch, {500, 300, 200, 100});
+    ASSERT_TRUE(eventually([&] { return desktop.active() == window.id(); }));
+    TestWindow stubborn(desktop, {500, 300, 200, 100});
     stubborn.show();
-    // Openbox, which writes this too, is done with it once it has done something about another window.
-    watch.letWindowManagerCatchUp(window.window());
-    stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", {"_NET_WM_ACTION_MOVE"}).send();
-    EXPECT_FALSE(ports.closes()) << "the window manager does not allow closing it";
-    stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", {}).send();
-    EXPECT_FALSE(ports.closes()) << "nor anything else";
-    EXPECT_FALSE(stubborn.wasAskedToClose());
-    stubborn.remove("_NET_WM_ALLOWED_ACTIONS").send();
-    EXPECT_TRUE(ports.closes()) << "who does not tell what is allowed allows it";
-    EXPECT_TRUE(stubborn.awaitCloseRequest());
+    desktop.letWindowManagerCatchUp(window.id());  // openbox writes the allowed actions too
+    for (const Words& allowed : {Words{"_NET_WM_ACTION_MOVE"}, {}}) {
+        stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", allowed).send();
+        EXPECT_FALSE(actions.closes());
+    }
+    EXPECT_EQ(stubborn.eventsAfterWindowManager(), Words{});
+    xcb_delete_property(desktop.connection(), stubborn.id(), desktop.atom("_NET_WM_ALLOWED_ACTIONS"));
+    ASSERT_TRUE(desktop.property(stubborn.id(), "_NET_WM_ALLOWED_ACTIONS").empty());
+    EXPECT_TRUE(actions.closes()) << "all is allowed where nothing is listed";
+    EXPECT_EQ(stubborn.next(), "close");
 
-    // Openbox takes the attention off a window that it minimizes; a slower one would still name it.
-    watch.minimize(window.window());
-    watch.pretendActive(window.window());
-    EXPECT_FALSE(ports.closes()) << "minimized";
-    EXPECT_FALSE(window.wasAskedToClose());
+    desktop.minimize(window.id());
+    desktop.pretendActive(window.id());
+    EXPECT_FALSE(actions.closes()) << "minimized";
+    EXPECT_EQ(window.eventsAfterWindowManager(), Words{});
 }
 
-TEST_F(WindowCloseTest, PressesNothingOnceThePersonHasGoneElsewhere) {
-    const auto connection = ClientWindow::connect(desktop);
-    ClientWindow first(desktop, watch, {100, 100, 300, 200}, connection);
-    ClientWindow sibling(desktop, watch, {300, 300, 300, 200}, connection);
-    ClientWindow stranger(desktop, watch, {600, 100, 300, 200});
-    sibling.show();
-    stranger.show();
-    first.show();
-    for (ClientWindow* other : {&stranger, &sibling}) {
-        watch.activate(first.window());
-        EXPECT_FALSE(ports.closes([&] { watch.activate(other->window()); }));
-        EXPECT_FALSE(first.wasAskedToClose());
-        EXPECT_FALSE(other->wasAskedToClose());
+TEST_F(WindowClosing, ClosesNothingOnceThePersonHasGoneElsewhere) {
+    const auto connection = TestWindow::connect(desktop);
+    TestWindow first(desktop, {100, 100, 300, 200}, connection);
+    TestWindow sibling(desktop, {300, 300, 300, 200}, connection);
+    TestWindow stranger(desktop, {600, 100, 300, 200});
+    for (TestWindow* each : {&sibling, &stranger, &first})
+        each->show();
+    for (TestWindow* other : {&stranger, &sibling}) {
+        desktop.activate(first.id());
+        EXPECT_FALSE(actions.closes([&] { desktop.activate(other->id()); }));
+        EXPECT_EQ(first.eventsAfterWindowManager(), Words{});
+        EXPECT_EQ(other->eventsAfterWindowManager(), Words{});
     }
-    watch.activate(first.window());
-    EXPECT_FALSE(ports.closes([&] {
-        xcb_destroy_window(connection.get(), first.window());
+    desktop.activate(first.id());
+    const auto vanishes = [&] {
+        xcb_destroy_window(connection.get(), first.id());
         xcb_flush(connection.get());
-        EXPECT_TRUE(watch.await([&] { return !watch.isManaged(first.window()); }));
-    })) << "it went by itself";
-    EXPECT_FALSE(sibling.wasAskedToClose());
-    EXPECT_FALSE(stranger.wasAskedToClose());
+        EXPECT_TRUE(eventually([&] { return !desktop.isManaged(first.id()); }));
+    };
+    EXPECT_FALSE(actions.closes(vanishes)) << "it went by itself";
+    EXPECT_EQ(sibling.eventsAfterWindowManager(), Words{});
+    EXPECT_EQ(stranger.eventsAfterWindowManager(), Words{});
+    desktop.pretendActive(first.id());
+    EXPECT_EQ(actions.frontmost(), std::nullopt) << "the window is gone";
+    EXPECT_FALSE(actions.closes());
+    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill));
+    desktop.activate(stranger.id());
+    EXPECT_TRUE(actions.closes());
 }
 
-TEST_F(WindowCloseTest, ClosesItsOwnWindowsByTheSameRules) {
-    const auto own = static_cast<std::uint32_t>(getpid());
-    ClientWindow window(desktop, watch, {100, 100, 300, 200});
-    window.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {own}).show();
-    EXPECT_TRUE(ports.closes());
-    EXPECT_TRUE(window.awaitCloseRequest());
+TEST_F(WindowClosing, KnowsTheProcessInFront) {
+    EXPECT_EQ(actions.frontmost(), std::nullopt) << "an empty desktop";
     {
-        ClientWindow palette(desktop, watch, {500, 100, 200, 100});
-        palette.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_UTILITY"});
-        palette.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {own}).show(false);
-        watch.activate(palette.window());
-        EXPECT_FALSE(ports.closes());
-        EXPECT_FALSE(palette.wasAskedToClose() || window.wasAskedToClose());
+        const auto terminal = desktop.start({"xterm"});
+        ASSERT_NE(desktop.awaitWindowOf(terminal->pid()), 0U);
+        EXPECT_EQ(actions.frontmost(), terminal->pid());
     }
-    ClientWindow dialog(desktop, watch, {200, 200, 100, 50});
-    dialog.setTransientFor(window.window()).setAtoms("_NET_WM_STATE", {"_NET_WM_STATE_MODAL"});
-    dialog.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {own}).show();
-    EXPECT_FALSE(ports.closes());
-    EXPECT_FALSE(dialog.wasAskedToClose());
-    EXPECT_FALSE(window.wasAskedToClose());
+    std::string machine(256, '\0');
+    ASSERT_EQ(gethostname(machine.data(), machine.size() - 1), 0);
+    machine.resize(machine.find('\0'));
+    const struct {
+        std::string machine;
+        xcb_atom_t type;
+        std::int64_t number;
+        bool isProcess;
+    } rows[] = {{machine, XCB_ATOM_CARDINAL, 4711, true},
+                {"elsewhere", XCB_ATOM_CARDINAL, 4711, false},
+                {machine, XCB_ATOM_CARDINAL, 0, false},
+                {machine, XCB_ATOM_STRING, 4711, false}};
+    for (const auto& row : rows) {
+        TestWindow window(desktop, {100, 100, 200, 100});
+        window.setMachine(row.machine).setProcess(row.number, row.type).show();
+        const auto process = actions.frontmost().value_or(0);
+        EXPECT_TRUE(row.isProcess ? process == 4711 : process < 0) << process << ' ' << row.machine;
+    }
+    const auto connection = TestWindow::connect(desktop);
+    TestWindow first(desktop, {100, 100, 200, 100}, connection);
+    first.show();
+    const auto process = actions.frontmost();
+    EXPECT_LT(process.value_or(0), 0) << "names no process";
+    TestWindow second(desktop, {150, 150, 200, 100}, connection);
+    second.show();
+    EXPECT_EQ(actions.frontmost(), process) << "the same client";
+    TestWindow stranger(desktop, {150, 150, 200, 100});
+    stranger.show();
+    EXPECT_NE(actions.frontmost(), process) << "another client";
 }
 
 }  // namespace

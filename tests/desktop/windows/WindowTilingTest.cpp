@@ -5,305 +5,274 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "desktop/harness/ClientWindow.h"
-#include "desktop/harness/TestDesktop.h"
-#include "desktop/harness/WindowPorts.h"
-#include "desktop/harness/WindowWatch.h"
+#include "desktop/harness/DesktopActions.h"
+#include "desktop/harness/TestWindow.h"
 
 namespace kinesta::testing {
 namespace {
 
 using Command = WindowTilingMenuCommand;
 
-struct WindowTilingTest : ::testing::Test {
+constexpr const char* kHorizontally = "_NET_WM_STATE_MAXIMIZED_HORZ";
+constexpr const char* kVertically = "_NET_WM_STATE_MAXIMIZED_VERT";
+
+struct WindowTiling : ::testing::Test {
     TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
-    WindowWatch watch{desktop};
-    WindowPorts ports;
+    DesktopActions actions;
 
     /// Waits until a window's frame is there, each edge within `tolerance` pixels.
     ::testing::AssertionResult isAt(xcb_window_t window, const WindowRectangle& expected, int tolerance = 0) {
         const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
         WindowRectangle frame;
         const auto isThere = [&] {
-            frame = watch.frame(window);
-            // A window manager moves the frame and what is in it one after the other; we look at the latter.
-            const auto seen = ports.desktop.window(window);
-            return seen && seen->frame == frame && isNear(frame.x, expected.x) && isNear(frame.y, expected.y) &&
+            frame = desktop.frame(window);
+            return isNear(frame.x, expected.x) && isNear(frame.y, expected.y) &&
                    isNear(frame.right(), expected.right()) && isNear(frame.bottom(), expected.bottom());
         };
-        if (watch.await(isThere, std::chrono::seconds(5)))
-            return ::testing::AssertionSuccess();
-        return ::testing::AssertionFailure() << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
+        if (!eventually(isThere, std::chrono::seconds(5)))
+            return ::testing::AssertionFailure()
+                   << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
+        desktop.letWindowManagerCatchUp(window);  // what is in the frame follows it
+        return ::testing::AssertionSuccess();
     }
 };
 
-TEST_F(WindowTilingTest, TilesARealEditorAndReturnsItToItsPreviousSize) {
-    const auto program = desktop.run({"mousepad", "--disable-server"});
-    const xcb_window_t editor = watch.awaitWindowOf(program->pid());
+TEST_F(WindowTiling, TilesEditorsAndReturnsThemToTheirPlace) {
+    const auto program = desktop.start({"mousepad", "--disable-server"});
+    const xcb_window_t editor = desktop.awaitWindowOf(program->pid());
     ASSERT_NE(editor, 0U);
-    const auto before = watch.frame(editor);
-    const std::pair<Command, WindowRectangle> rows[] = {
-        {Command::left, {0, 0, 640, 800}},        {Command::right, {640, 0, 640, 800}},
-        {Command::top, {0, 0, 1280, 400}},        {Command::bottom, {0, 400, 1280, 400}},
-        {Command::topThreeUp, {0, 0, 1280, 400}}, {Command::center, {0, 200, 1280, 400}},
-        {Command::fill, {0, 0, 1280, 800}},
-    };
-    for (const auto& [command, expected] : rows) {
-        EXPECT_TRUE(ports.tiles(command));
+    const auto before = desktop.frame(editor);
+    for (const auto& [command, expected] : {std::pair{Command::right, WindowRectangle{640, 0, 640, 800}},
+                                            {Command::topThreeUp, {0, 0, 1280, 400}},
+                                            {Command::center, {0, 200, 1280, 400}}}) {
+        EXPECT_TRUE(actions.tiles(command));
         EXPECT_TRUE(isAt(editor, expected)) << rawValue(command);
     }
-    EXPECT_TRUE(ports.tiles(Command::untile));
+    EXPECT_TRUE(actions.tiles(Command::untile));
     EXPECT_TRUE(isAt(editor, before)) << "from before the first of them";
-    EXPECT_TRUE(ports.tiles(Command::untile)) << "there is nothing to return to, and no key is to be posted instead";
-    watch.letWindowManagerCatchUp(editor);
-    EXPECT_EQ(watch.frame(editor), before);
+    EXPECT_TRUE(actions.tiles(Command::untile)) << "posts no key instead";
+    EXPECT_TRUE(isAt(editor, before));
 }
 
-TEST_F(WindowTilingTest, TilesTerminalsInWholeCells) {
+TEST_F(WindowTiling, TilesTerminalsInWholeCells) {
     std::vector<std::unique_ptr<ChildProcess>> programs;
     std::vector<xcb_window_t> terminals;
-    for (int i = 0; i < 3; ++i) {
-        programs.push_back(desktop.run({"xterm", "-geometry", "40x10+" + std::to_string(50 * i) + "+50"}));
-        terminals.push_back(watch.awaitWindowOf(programs.back()->pid()));
+    for (const char* place : {"40x10+0+50", "40x10+50+50"}) {
+        programs.push_back(desktop.start({"xterm", "-geometry", place}));
+        terminals.push_back(desktop.awaitWindowOf(programs.back()->pid()));
         ASSERT_NE(terminals.back(), 0U);
     }
     constexpr int kCell = 26;
-    EXPECT_TRUE(ports.tiles(Command::rightThreeUp));
-    EXPECT_TRUE(isAt(terminals[2], {640, 0, 640, 800}, kCell));
-    EXPECT_TRUE(isAt(terminals[1], {0, 0, 640, 400}, kCell));
-    EXPECT_TRUE(isAt(terminals[0], {0, 400, 640, 400}, kCell));
-    for (const xcb_window_t terminal : terminals) {
-        const auto frame = watch.frame(terminal);
-        EXPECT_EQ(frame.intersection({0, 0, 1280, 800}), frame) << "out of the screen";
-    }
-    // A terminal that is tiled stays tiled: cells are no sign that a person has resized it.
-    EXPECT_TRUE(ports.tiles(Command::bottom));
-    EXPECT_TRUE(isAt(terminals[2], {0, 400, 1280, 400}, kCell));
-    EXPECT_TRUE(ports.tiles(Command::untile));
-    EXPECT_TRUE(watch.await([&] { return watch.client(terminals[2]).height < 200; }));
-    EXPECT_EQ(watch.frame(terminals[2]).x, 100);
-    EXPECT_EQ(watch.frame(terminals[2]).y, 50);
+    EXPECT_TRUE(actions.tiles(Command::rightAndLeft));
+    EXPECT_TRUE(isAt(terminals[1], {640, 0, 640, 800}, kCell));
+    EXPECT_TRUE(isAt(terminals[0], {0, 0, 640, 800}, kCell));
+    for (const xcb_window_t terminal : terminals)
+        EXPECT_EQ(desktop.frame(terminal).intersection(TestWindow::kWholeScreen), desktop.frame(terminal));
+    EXPECT_TRUE(actions.tiles(Command::bottom)) << "cells are no sign that a person has resized it";
+    EXPECT_TRUE(isAt(terminals[1], {0, 400, 1280, 400}, kCell));
+    EXPECT_TRUE(actions.tiles(Command::untile));
+    EXPECT_TRUE(eventually([&] { return desktop.client(terminals[1]).height < 200; }));
+    EXPECT_EQ(desktop.frame(terminals[1]).x, 50);
+    EXPECT_EQ(desktop.frame(terminals[1]).y, 50);
 }
 
-TEST_F(WindowTilingTest, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
-    ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", "L", "640/170x800/210+0+0", "screen"})->waitForEnd());
-    ASSERT_TRUE(desktop.run({"xrandr", "--setmonitor", "R", "640/170x800/210+640+0", "none"})->waitForEnd());
-    ClientWindow dock(desktop, watch, {1240, 0, 40, 800});
-    dock.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DOCK"});
-    dock.set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 40, 0, 0, 0, 0, 0, 799, 0, 0, 0, 0}).show(false);
-    ClientWindow panel(desktop, watch, {0, 775, 640, 25});
-    panel.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DOCK"});
+TEST_F(WindowTiling, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
+    desktop.run({"xrandr", "--setmonitor", "L", "640/170x800/210+0+0", "screen"});
+    desktop.run({"xrandr", "--setmonitor", "R", "640/170x800/210+640+0", "none"});
+    TestWindow panel(desktop, {0, 775, 640, 25});
+    panel.setType("DOCK");
     panel.set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, 0, 25, 0, 0, 0, 0, 0, 0, 0, 639}).show(false);
-
-    ClientWindow third(desktop, watch, {700, 50, 200, 150});
-    ClientWindow second(desktop, watch, {720, 80, 200, 150});
-    ClientWindow onLeft(desktop, watch, {100, 100, 200, 150});
-    ClientWindow minimized(desktop, watch, {800, 100, 200, 150});
-    ClientWindow fixed(desktop, watch, {800, 100, 200, 150});
-    ClientWindow palette(desktop, watch, {900, 100, 200, 150});
-    ClientWindow elsewhere(desktop, watch, {900, 100, 200, 150});
-    ClientWindow active(desktop, watch, {740, 110, 200, 150});
-    for (ClientWindow* each : {&third, &second, &onLeft, &minimized})
+    TestWindow second(desktop, {720, 80, 200, 150});
+    TestWindow onLeft(desktop, {100, 100, 200, 150});
+    TestWindow minimized(desktop, {800, 100, 200, 150});
+    TestWindow elsewhere(desktop, {900, 100, 200, 150});
+    TestWindow active(desktop, {740, 110, 200, 150});
+    for (TestWindow* each : {&second, &onLeft, &minimized})
         each->show();
-    const auto beforeMinimizing = watch.frame(minimized.window());
-    watch.minimize(minimized.window());
-    fixed.setFixedSize().show();
-    palette.setAtoms("_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_UTILITY"}).show(false);
+    const auto beforeMinimizing = desktop.frame(minimized.id());
+    desktop.minimize(minimized.id());
     elsewhere.show();
-    watch.tell(elsewhere.window(), "_NET_WM_DESKTOP", {1, 2});
+    desktop.request(elsewhere.id(), "_NET_WM_DESKTOP", {1, 2});
     active.show();
-    const auto bystanders = [&] {
-        std::vector<WindowRectangle> frames;
-        for (const ClientWindow* each : {&onLeft, &fixed, &palette, &elsewhere})
-            frames.push_back(watch.frame(each->window()));
-        return frames;
-    };
+    const auto bystanders = [&] { return std::pair(desktop.frame(onLeft.id()), desktop.frame(elsewhere.id())); };
     const auto before = bystanders();
-
-    EXPECT_TRUE(ports.tiles(Command::leftAndRight));
-    EXPECT_TRUE(isAt(active.window(), {640, 0, 300, 800}));
-    EXPECT_TRUE(isAt(second.window(), {940, 0, 300, 800}));
-    const auto height = [&](const ClientWindow& window) {
-        const auto stacking = watch.stacking();
-        return std::find(stacking.begin(), stacking.end(), window.window()) - stacking.begin();
+    EXPECT_TRUE(actions.tiles(Command::leftAndRight));
+    EXPECT_TRUE(isAt(active.id(), {640, 0, 320, 800}));
+    EXPECT_TRUE(isAt(second.id(), {960, 0, 320, 800}));
+    const auto isBelow = [&](const TestWindow& lower, const TestWindow& upper) {
+        const auto all = desktop.stacking();
+        return std::ranges::find(all, lower.id()) < std::ranges::find(all, upper.id());
     };
-    EXPECT_TRUE(watch.await([&] { return height(second) > height(fixed); })) << "still behind a bystander";
-    EXPECT_TRUE(watch.await([&] { return height(active) > height(second); }));
-
-    EXPECT_TRUE(ports.tiles(Command::bottomThreeUp));
-    EXPECT_TRUE(isAt(active.window(), {640, 400, 600, 400}));
-    EXPECT_TRUE(isAt(second.window(), {640, 0, 300, 400}));
-    EXPECT_TRUE(isAt(third.window(), {940, 0, 300, 400}));
-
+    EXPECT_TRUE(eventually([&] { return isBelow(onLeft, second); })) << "still behind a bystander";
+    EXPECT_TRUE(eventually([&] { return isBelow(second, active); }));
     EXPECT_EQ(bystanders(), before);
-    watch.activate(onLeft.window());
-    EXPECT_TRUE(ports.tiles(Command::topAndBottom));
-    EXPECT_TRUE(isAt(onLeft.window(), {0, 0, 640, 387})) << "alone on its monitor, above the panel";
-    EXPECT_TRUE(ports.tiles(Command::bottom));
-    EXPECT_TRUE(isAt(onLeft.window(), {0, 387, 640, 388}));
-    watch.activate(minimized.window());
-    EXPECT_TRUE(isAt(minimized.window(), beforeMinimizing));
+
+    desktop.activate(onLeft.id());
+    EXPECT_TRUE(actions.tiles(Command::bottom));
+    EXPECT_TRUE(isAt(onLeft.id(), {0, 387, 640, 388})) << "above the panel";
+    // Some desktops list what each monitor leaves to windows.
+    const std::vector<std::uint32_t> areas{0, 40, 640, 700, 640, 0, 640, 800};
+    xcb_change_property(desktop.connection(), XCB_PROP_MODE_REPLACE, desktop.root(), desktop.atom("_GTK_WORKAREAS_D0"),
+                        XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(areas.size()), areas.data());
+    ASSERT_EQ(desktop.property(desktop.root(), "_GTK_WORKAREAS_D0"), areas);
+    EXPECT_TRUE(actions.tiles(Command::fill));
+    EXPECT_TRUE(isAt(onLeft.id(), {0, 40, 640, 700}));
+    desktop.activate(minimized.id());
+    EXPECT_TRUE(isAt(minimized.id(), beforeMinimizing));
 }
 
-TEST_F(WindowTilingTest, EndsMaximizedAndFullscreenFirstAndReturnsToThem) {
-    ClientWindow other(desktop, watch, {50, 50, 300, 200});
-    ClientWindow window(desktop, watch, {200, 150, 400, 300});
+TEST_F(WindowTiling, EndsMaximizedAndFullscreenAndReturnsToThem) {
+    TestWindow other(desktop, {50, 50, 300, 200});
+    TestWindow window(desktop, {200, 150, 400, 300});
     other.setStaticGravity().show();
     window.show();
-    const auto before = watch.frame(window.window());
-    const auto otherBefore = watch.frame(other.window());
-    const std::string maximizedHorizontally = "_NET_WM_STATE_MAXIMIZED_HORZ";
-    const std::string maximizedVertically = "_NET_WM_STATE_MAXIMIZED_VERT";
+    const auto before = desktop.frame(window.id());
+    const auto otherBefore = desktop.frame(other.id());
     const std::pair<std::string, std::string> rows[] = {
-        {maximizedHorizontally, maximizedVertically}, {maximizedHorizontally, ""}, {"_NET_WM_STATE_FULLSCREEN", ""}};
+        {kHorizontally, kVertically}, {kHorizontally, ""}, {"_NET_WM_STATE_FULLSCREEN", ""}};
     for (const auto& [state, second] : rows) {
         const auto endState = [&, first = desktop.atom(state),
-                               last = second.empty() ? 0 : desktop.atom(second)](const ClientWindow& of) {
-            watch.tell(of.window(), "_NET_WM_STATE", {0, first, last, 2});
+                               last = second.empty() ? 0 : desktop.atom(second)](xcb_window_t id) {
+            desktop.request(id, "_NET_WM_STATE", {0, first, last, 2});
         };
-        watch.addState(other.window(), state, second);
-        watch.activate(window.window());
-        watch.addState(window.window(), state, second);
-        const auto zoomed = watch.frame(window.window());
-        EXPECT_TRUE(ports.tiles(Command::leftAndRight));
-        EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800})) << state;
-        EXPECT_TRUE(isAt(other.window(), {640, 0, 640, 800})) << state;
-        EXPECT_FALSE(watch.hasState(window.window(), state) || watch.hasState(other.window(), state));
-        EXPECT_TRUE(ports.tiles(Command::untile));
-        EXPECT_TRUE(isAt(window.window(), zoomed)) << state;
-        EXPECT_TRUE(watch.hasState(window.window(), state));
-        endState(window);
-        EXPECT_TRUE(isAt(window.window(), before)) << state << ": what it had been maximized from";
-        watch.activate(other.window());
-        EXPECT_TRUE(ports.tiles(Command::untile));
-        EXPECT_TRUE(watch.await([&, &state = state] { return watch.hasState(other.window(), state); }));
-        endState(other);
-        EXPECT_TRUE(isAt(other.window(), otherBefore));
+        desktop.addState(other.id(), state, second);
+        desktop.activate(window.id());
+        desktop.addState(window.id(), state, second);
+        const auto zoomed = desktop.frame(window.id());
+        EXPECT_TRUE(actions.tiles(Command::leftAndRight));
+        EXPECT_TRUE(isAt(window.id(), {0, 0, 640, 800})) << state;
+        EXPECT_TRUE(isAt(other.id(), {640, 0, 640, 800})) << state;
+        EXPECT_FALSE(desktop.hasState(window.id(), state) || desktop.hasState(other.id(), state));
+        EXPECT_TRUE(actions.tiles(Command::untile));
+        EXPECT_TRUE(isAt(window.id(), zoomed)) << state;
+        EXPECT_TRUE(desktop.hasState(window.id(), state));
+        endState(window.id());
+        EXPECT_TRUE(isAt(window.id(), before)) << state << ": what it had been maximized from";
+        desktop.activate(other.id());
+        EXPECT_TRUE(actions.tiles(Command::untile));
+        EXPECT_TRUE(eventually([&, &state = state] { return desktop.hasState(other.id(), state); }));
+        endState(other.id());
+        EXPECT_TRUE(isAt(other.id(), otherBefore));
     }
-    watch.activate(window.window());
-    watch.addState(window.window(), maximizedHorizontally, maximizedVertically);
-    EXPECT_TRUE(ports.tiles(Command::center));
-    EXPECT_TRUE(
-        isAt(window.window(), {(1280 - before.width) / 2, (800 - before.height) / 2, before.width, before.height}))
-        << "centered in the size that it was maximized from";
+    desktop.activate(window.id());
+    desktop.addState(window.id(), kHorizontally, kVertically);
+    EXPECT_TRUE(actions.tiles(Command::center));
+    EXPECT_TRUE(isAt(window.id(), {(1280 - before.width) / 2, (800 - before.height) / 2, before.width, before.height}))
+        << "in the size that it was maximized from";
 }
 
-TEST_F(WindowTilingTest, RemembersAnewOnceThePersonHasMovedTheWindow) {
-    ClientWindow window(desktop, watch, {200, 150, 400, 300});
-    // One of its own, which is tiled like any other.
-    window.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(getpid())}).show();
-    EXPECT_TRUE(ports.tiles(Command::left));
-    EXPECT_TRUE(isAt(window.window(), {0, 0, 640, 800}));
+TEST_F(WindowTiling, RemembersThePlaceThatThePersonChose) {
+    TestWindow window(desktop, {200, 150, 400, 300});
+    window.setProcess(getpid()).show();  // one of our own is tiled like any other
+    EXPECT_TRUE(actions.tiles(Command::left));
+    EXPECT_TRUE(isAt(window.id(), {0, 0, 640, 800}));
     constexpr std::uint32_t kStaticWithAll = 10 | 0xF << 8;
-    watch.tell(window.window(), "_NET_MOVERESIZE_WINDOW", {kStaticWithAll, 600, 300, 320, 240});
-    ASSERT_TRUE(watch.await([&] { return watch.client(window.window()) == WindowRectangle{600, 300, 320, 240}; }));
-    const auto chosen = watch.frame(window.window());
-    EXPECT_TRUE(ports.tiles(Command::right));
-    EXPECT_TRUE(isAt(window.window(), {640, 0, 640, 800}));
-    EXPECT_TRUE(ports.tiles(Command::untile));
-    EXPECT_TRUE(isAt(window.window(), chosen));
-
-    // A window that remembers a monitor which is gone, or nonsense that someone else wrote, does not get lost.
-    const auto record = [&](std::vector<std::uint32_t> numbers) {
-        window.set("_KINESTA_TILING_RECORD", XCB_ATOM_CARDINAL, std::move(numbers)).send();
-    };
-    record({3000, 100, 500, 400, 0, 0, 640, 800, 0});
-    EXPECT_TRUE(ports.tiles(Command::untile));
-    EXPECT_TRUE(isAt(window.window(), {390, 200, 500, 400}));
-    record({1, 2, 3});
-    EXPECT_TRUE(ports.tiles(Command::untile));
-    watch.letWindowManagerCatchUp(window.window());
-    EXPECT_EQ(watch.frame(window.window()), (WindowRectangle{390, 200, 500, 400}));
+    desktop.request(window.id(), "_NET_MOVERESIZE_WINDOW", {kStaticWithAll, 600, 300, 320, 240});
+    ASSERT_TRUE(eventually([&] { return desktop.client(window.id()) == WindowRectangle{600, 300, 320, 240}; }));
+    const auto chosen = desktop.frame(window.id());
+    EXPECT_TRUE(actions.tiles(Command::right));
+    EXPECT_TRUE(isAt(window.id(), {640, 0, 640, 800}));
+    EXPECT_TRUE(actions.tiles(Command::untile));
+    EXPECT_TRUE(isAt(window.id(), chosen));
+    // A record of a monitor that is gone, or of nonsense, does not move the window out of sight.
+    for (const std::vector<std::uint32_t>& record :
+         {std::vector<std::uint32_t>{3000, 100, 500, 400, 0, 0, 640, 800, 0}, {1, 2, 3}}) {
+        window.set("_KINESTA_TILING_RECORD", XCB_ATOM_CARDINAL, record).send();
+        EXPECT_TRUE(actions.tiles(Command::untile));
+        EXPECT_TRUE(isAt(window.id(), {390, 200, 500, 400}));
+    }
 }
 
-TEST_F(WindowTilingTest, KeepsWindowsInTheWorkAreaThatDoNotTakeTheirPlace) {
-    ClientWindow wide(desktop, watch, {50, 50, 800, 200});
-    wide.setMinimum({800, 100}).show();
-    EXPECT_TRUE(ports.tiles(Command::right));
-    EXPECT_TRUE(watch.await([&] { return watch.frame(wide.window()).height == 800; }));
-    EXPECT_EQ(watch.frame(wide.window()).right(), 1280);
-    EXPECT_EQ(watch.client(wide.window()).width, 800);
-
-    ClientWindow fixed(desktop, watch, {50, 50, 300, 200});
-    fixed.setFixedSize().show();
-    const auto size = watch.frame(fixed.window()).size();
-    EXPECT_FALSE(ports.tiles(Command::fill)) << "it cannot be";
-    EXPECT_TRUE(ports.tiles(Command::center));
-    EXPECT_TRUE(isAt(fixed.window(), {(1280 - size.width) / 2, (800 - size.height) / 2, size.width, size.height}));
-
-    // It puts shadows around itself, within the window that the desktop knows.
-    ClientWindow shadowed(desktop, watch, {50, 50, 300, 200});
+TEST_F(WindowTiling, KeepsWindowsWithSizeLimitsOnTheScreen) {
+    TestWindow wide(desktop, {50, 50, 800, 200});
+    wide.setSizes({800, 100}, {32767, 32767}).show();
+    EXPECT_TRUE(actions.tiles(Command::right));
+    EXPECT_TRUE(eventually([&] { return desktop.frame(wide.id()).height == 800; }));
+    EXPECT_EQ(desktop.frame(wide.id()).right(), 1280);
+    EXPECT_EQ(desktop.client(wide.id()).width, 800);
+    TestWindow fixed(desktop, {50, 50, 300, 200});
+    fixed.setSizes({300, 200}, {300, 200}).show();
+    const auto size = desktop.frame(fixed.id()).size();
+    EXPECT_FALSE(actions.tiles(Command::fill));
+    EXPECT_TRUE(actions.tiles(Command::center));
+    EXPECT_TRUE(isAt(fixed.id(), {(1280 - size.width) / 2, (800 - size.height) / 2, size.width, size.height}));
+    // Its shadows are a part of the window.
+    TestWindow shadowed(desktop, {50, 50, 300, 200});
     shadowed.set("_MOTIF_WM_HINTS", desktop.atom("_MOTIF_WM_HINTS"), {2, 0, 0, 0, 0});
     shadowed.set("_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL, {10, 12, 8, 14}).show();
-    EXPECT_TRUE(ports.tiles(Command::right));
-    EXPECT_TRUE(watch.await([&] { return watch.client(shadowed.window()) == WindowRectangle{630, -8, 662, 822}; }));
+    EXPECT_TRUE(actions.tiles(Command::right));
+    EXPECT_TRUE(eventually([&] { return desktop.client(shadowed.id()) == WindowRectangle{630, -8, 662, 822}; }));
 }
 
-TEST_F(WindowTilingTest, TouchesNothingOnceThePersonHasGoneElsewhere) {
-    const auto connection = ClientWindow::connect(desktop);
-    ClientWindow first(desktop, watch, {100, 100, 300, 200}, connection);
-    ClientWindow stranger(desktop, watch, {600, 100, 300, 200});
+TEST_F(WindowTiling, TouchesNothingOnceThePersonHasGoneElsewhere) {
+    TestWindow first(desktop, {100, 100, 300, 200});
+    TestWindow stranger(desktop, {600, 100, 300, 200});
     stranger.show();
     first.show();
-    const auto before = watch.frame(first.window());
-    const auto strangerBefore = watch.frame(stranger.window());
-    EXPECT_FALSE(ports.tiles(Command::fill, [&] { watch.activate(stranger.window()); }));
-    watch.minimize(first.window());
-    watch.minimize(stranger.window());
-    watch.pretendActive(first.window());
-    EXPECT_FALSE(ports.tiles(Command::fill)) << "minimized";
-    for (const ClientWindow* each : {&first, &stranger})
-        watch.activate(each->window());
-    EXPECT_TRUE(isAt(first.window(), before));
-    EXPECT_TRUE(isAt(stranger.window(), strangerBefore));
+    const auto before = desktop.frame(first.id());
+    const auto strangerBefore = desktop.frame(stranger.id());
+    EXPECT_FALSE(actions.tiles(Command::fill, [&] { desktop.activate(stranger.id()); }));
+    desktop.minimize(first.id());
+    desktop.minimize(stranger.id());
+    desktop.pretendActive(first.id());
+    EXPECT_FALSE(actions.tiles(Command::fill)) << "minimized";
+    for (const TestWindow* each : {&first, &stranger})
+        desktop.activate(each->id());
+    EXPECT_TRUE(isAt(first.id(), before));
+    EXPECT_TRUE(isAt(stranger.id(), strangerBefore));
 }
 
-TEST_F(WindowTilingTest, IsNotHeldUpByAProgramThatHangs) {
-    const auto program = desktop.run({"xterm", "-geometry", "40x10+50+50"});
-    const xcb_window_t terminal = watch.awaitWindowOf(program->pid());
+TEST_F(WindowTiling, DoesNotWaitForProgramsAndWindowManagersThatHang) {
+    const auto program = desktop.start({"xterm", "-geometry", "40x10+50+50"});
+    const xcb_window_t terminal = desktop.awaitWindowOf(program->pid());
     ASSERT_NE(terminal, 0U);
-    watch.addState(terminal, "_NET_WM_STATE_MAXIMIZED_HORZ", "_NET_WM_STATE_MAXIMIZED_VERT");
+    const auto isQuick = [&] {
+        const auto began = std::chrono::steady_clock::now();
+        EXPECT_TRUE(actions.tiles(Command::left));
+        EXPECT_TRUE(actions.closes());
+        return std::chrono::steady_clock::now() - began < std::chrono::seconds(1);
+    };
+    desktop.addState(terminal, kHorizontally, kVertically);
     program->signal(SIGSTOP);
-    const auto began = std::chrono::steady_clock::now();
-    EXPECT_TRUE(ports.tiles(Command::left));
-    EXPECT_TRUE(ports.closes());
-    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(500));
+    EXPECT_TRUE(isQuick());
     EXPECT_TRUE(isAt(terminal, {0, 0, 640, 800}, 26));
-    program->signal(SIGCONT);
+    desktop.addState(terminal, kHorizontally, kVertically);
+    desktop.windowManager().signal(SIGSTOP);
+    EXPECT_TRUE(isQuick());
+    desktop.windowManager().signal(SIGCONT);
+    program->signal(SIGKILL);
 }
 
 TEST(WindowTilingOnI3, TakesWindowsOutOfTheLayoutAndGivesThemBack) {
     TestDesktop desktop;
     const std::string config = (folderOf("HOME") / "i3").string();
-    std::ofstream(config) << "# i3 config file (v4)\nfont pango:DejaVu Sans 8\nbar {\n status_command true\n}\n";
-    const auto i3 = desktop.run({"i3", "-c", config});
-    WindowWatch watch(desktop);
-    WindowPorts ports;
-    ASSERT_TRUE(eventually([&] {
-        const auto seen = ports.desktop.snapshot();
-        return seen && seen->movesWindows && seen->monitors[0].workArea.height < 800;
-    })) << "the bar, which is in no list of windows, takes some";
-    const WindowRectangle area = ports.desktop.snapshot()->monitors[0].workArea;
-    ClientWindow other(desktop, watch, {50, 50, 300, 200});
-    ClientWindow window(desktop, watch, {50, 50, 300, 200});
-    other.show();
-    window.show();
-    const auto frame = [&] { return ports.desktop.window(window.window()).value_or(EwmhWindow{}).frame; };
-    const auto inLayout = frame();
-    EXPECT_EQ(inLayout, (WindowRectangle{640, area.y, 640, area.height}));
-    EXPECT_TRUE(ports.tiles(Command::left));
-    EXPECT_EQ(frame(), (WindowRectangle{0, area.y, 640, area.height})) << "at once: i3 says when it is done";
-    EXPECT_TRUE(ports.tiles(Command::topAndBottom));
-    EXPECT_EQ(frame(), (WindowRectangle{0, area.y, 1280, area.height / 2}));
-    EXPECT_EQ(ports.desktop.window(other.window())->frame.y, area.y + area.height / 2);
-    EXPECT_TRUE(ports.tiles(Command::untile));
-    EXPECT_TRUE(ports.desktop.window(window.window())->isInLayout);
-    EXPECT_TRUE(ports.closes());
-    EXPECT_TRUE(window.awaitCloseRequest());
+    std::ofstream(config) << "# i3 config file (v4)\nfont pango:DejaVu Sans 8\n";
+    const auto i3 = desktop.start({"i3", "-c", config});
+    ASSERT_TRUE(eventually([&] { return !desktop.property(desktop.root(), "_NET_SUPPORTING_WM_CHECK").empty(); }));
+    DesktopActions actions;
+    TestWindow other(desktop, {50, 50, 300, 200});
+    TestWindow window(desktop, {50, 50, 300, 200});
+    for (TestWindow* each : {&other, &window}) {
+        each->show();
+        EXPECT_TRUE(eventually([&] { return desktop.active() == each->id(); }));
+    }
+    const auto isAt = [&](const TestWindow& of, const WindowRectangle& place) {
+        return eventually([&] { return desktop.frame(of.id()) == place; }, std::chrono::seconds(5));
+    };
+    EXPECT_TRUE(isAt(window, {640, 0, 640, 800})) << "in the layout";
+    EXPECT_TRUE(actions.tiles(Command::left));
+    EXPECT_TRUE(isAt(window, {0, 0, 640, 800}));
+    EXPECT_TRUE(actions.tiles(Command::topAndBottom));
+    EXPECT_TRUE(isAt(window, {0, 0, 1280, 400}));
+    EXPECT_TRUE(isAt(other, {0, 400, 1280, 400}));
+    EXPECT_TRUE(actions.tiles(Command::untile));
+    EXPECT_TRUE(isAt(window, TestWindow::kWholeScreen)) << "alone in the layout";
+    EXPECT_TRUE(actions.closes());
+    EXPECT_EQ(window.next(), "close");
     i3->signal(SIGKILL);
     ASSERT_TRUE(i3->waitForEnd());
-    EXPECT_FALSE(ports.tiles(Command::left)) << "what it left on the root window is no window manager";
-    EXPECT_FALSE(ports.closes());
+    EXPECT_FALSE(actions.tiles(Command::left)) << "what it left on the root window is no window manager";
+    EXPECT_FALSE(actions.closes());
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 namespace kinesta {
 namespace {
 
-TEST(I3Layout, CountsTheTitleBarToTheFrameWhoeverTells) {
+TEST(I3Layout, CountsTheTitleBarAsPartOfTheFrame) {
     const auto places = i3Places(R"({"nodes":[
         {"window":1,"rect":{"x":640,"y":32,"width":640,"height":748},"deco_rect":{"x":0,"y":0,"width":640,"height":18},
          "window_rect":{"x":2,"y":18,"width":636,"height":728}},
@@ -24,7 +24,7 @@ TEST(I3Layout, CountsTheTitleBarToTheFrameWhoeverTells) {
     EXPECT_EQ(places->at(3).frame, (WindowRectangle{32767, -32767, 0, 0}));
 }
 
-TEST(I3Layout, TakesNothingFromAnAnswerOfAnotherKind) {
+TEST(I3Layout, RejectsAnswersOfAnotherKind) {
     for (const char* text : {"", "[]", "7", "{", "null"}) {
         EXPECT_FALSE(i3Places(text)) << text;
         EXPECT_FALSE(i3Succeeded(text)) << text;

@@ -47,7 +47,7 @@ TEST(TilingPlan, TakesTheActiveWindowAndThenTheNextOnesBelow) {
     EXPECT_EQ(participants(Command::fill, desktop), Ids{});
 }
 
-TEST(TilingPlan, PassesOverWindowsThatAreNotToBeTiled) {
+TEST(TilingPlan, SkipsWindowsThatCannotBeTiled) {
     const struct {
         const char* description;
         void (*change)(EwmhWindow&);
@@ -84,7 +84,7 @@ TEST(EwmhSnapshot, FindsTheModalDialogsOfAWindow) {
     auto& find = desktop.windows[1];
     auto& dialog = desktop.windows[2];
     dialog.isModal = true;
-    EXPECT_EQ(desktop.modalDialogsOf(owner), Ids{}) << "of nobody, in no group";
+    EXPECT_EQ(desktop.modalDialogsOf(owner), Ids{}) << "no owner and no group";
     find.transientFor = owner.id;
     dialog.transientFor = find.id;
     EXPECT_EQ(desktop.modalDialogsOf(owner), (Ids{3})) << "by way of another dialog";
