@@ -16,7 +16,7 @@ std::string gestureAsJson(std::chrono::nanoseconds time, const DetectedGesture& 
 std::string gestureForPeople(const Console& console, std::chrono::nanoseconds time, const DetectedGesture& gesture,
                              const GestureRule* rule);
 
-/// What a rule would do, in words: its action, and its name where that says more.
+/// What a rule does in words, safe to print on a terminal.
 std::string ruleInWords(const GestureRule& rule);
 
 }  // namespace kinesta

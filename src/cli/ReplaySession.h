@@ -4,10 +4,10 @@
 #include <functional>
 #include <optional>
 
+#include "input/PointerEventBroadcaster.h"
 #include "input/recording/RecordingReading.h"
 #include "input/recording/ReplayContactProvider.h"
 #include "recognition/MultitouchService.h"
-#include "recognition/PointerEventBroadcaster.h"
 #include "rules/RuleSelection.h"
 #include "support/InMemoryUserDefaults.h"
 #include "support/VirtualClock.h"

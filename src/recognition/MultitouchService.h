@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "input/PointerEventMonitoring.h"
 #include "input/TrackpadContactProviding.h"
-#include "recognition/PointerEventMonitoring.h"
 #include "recognition/TapWaitingInterval.h"
 #include "recognition/TouchFrameProcessor.h"
 #include "rules/RuleSelection.h"

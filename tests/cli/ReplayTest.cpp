@@ -21,7 +21,7 @@ std::string taps(int fingers, const std::vector<std::pair<std::string, std::stri
 
 std::string recorded(const std::string& lines) { return std::string(kHeader) + lines; }
 
-class ReplayTest : public ::testing::Test {
+class Replay : public ::testing::Test {
   protected:
     CommandRunner kinesta;
 
@@ -45,7 +45,7 @@ class ReplayTest : public ::testing::Test {
     }
 };
 
-TEST_F(ReplayTest, deliversATapWhenItsWaitIsOver) {
+TEST_F(Replay, DeliversATapWhenItsWaitIsOver) {
     EXPECT_EQ(told(taps(3, {{"1.0", "1.1"}})), line("1.35", "singleTap", 3));
     // The lift that comes exactly when the wait ends is seen first, one nanosecond later it is not.
     EXPECT_EQ(told(taps(2, {{"0.9", "1"}, {"1.2", "1.25"}})), line("1.5", "doubleTap", 2));
@@ -54,7 +54,7 @@ TEST_F(ReplayTest, deliversATapWhenItsWaitIsOver) {
     EXPECT_EQ(told(taps(2, {{"-5.1", "-5"}})), line("-4.75", "singleTap", 2)) << "time runs before zero as after it";
 }
 
-TEST_F(ReplayTest, obeysTheSettingsOfHeaderAndStream) {
+TEST_F(Replay, AppliesTheSettingsOfHeaderAndStream) {
     const std::string tap = taps(2, {{"1.0", "1.1"}});
     const auto withHeader = [&](const std::string& settings) {
         return replayed(R"({"kinesta":"recording","version":1,"settings":{)" + settings + "}}\n" + tap).out;
@@ -77,7 +77,7 @@ TEST_F(ReplayTest, obeysTheSettingsOfHeaderAndStream) {
               line("1.3", "singleTap", 3) + line("3.3", "singleTap", 2));
 }
 
-TEST_F(ReplayTest, tellsClicksByPressureAndByWhenTheFrameWasReceived) {
+TEST_F(Replay, JudgesClicksByPressureAndArrivalOfFrames) {
     const auto click = [](const std::string& frame, const std::string& pressure) {
         return frame + R"({"t":1.1,"pointer":"down"})" + "\n" + pressure + R"({"t":1.2,"pointer":"up"})" + "\n";
     };
@@ -95,7 +95,7 @@ TEST_F(ReplayTest, tellsClicksByPressureAndByWhenTheFrameWasReceived) {
     EXPECT_EQ(told(click(lifted("0.9"), "")), tap);
 }
 
-TEST_F(ReplayTest, knowsSlidesAndDrawings) {
+TEST_F(Replay, RecognizesSlidesAndDrawings) {
     EXPECT_EQ(told("{\"t\":1,\"touches\":[[1,0.1,0.5],[2,0.2,0.5]]}\n"
                    "{\"t\":1.01,\"touches\":[[1,0.1,0.44],[2,0.2,0.44]]}\n"),
               line("1.01", R"("gesture":"edgeSlide","fingers":2,"side":"left","steps":-2)"));
@@ -106,7 +106,7 @@ TEST_F(ReplayTest, knowsSlidesAndDrawings) {
               line("1.4", R"("gesture":"anchorDraw","corner":"topLeft","pattern":"lineUp")"));
 }
 
-TEST_F(ReplayTest, recognizesInRealRecordingsWhatAPersonWouldSay) {
+TEST_F(Replay, RecognizesTheGesturesOfRealRecordings) {
     const auto gestures = [&](const std::string& name) {
         const std::string none = kinesta.folder.write("none.json", "[]");
         const Ran ran = kinesta.run({"replay", recording(name), "--rules", none});
@@ -123,7 +123,7 @@ TEST_F(ReplayTest, recognizesInRealRecordingsWhatAPersonWouldSay) {
               "2-finger single soft click (stage 1)  →  no rule;3-finger single soft click (stage 1)  →  no rule;");
 }
 
-TEST_F(ReplayTest, selectsTheFirstRuleThatMayRun) {
+TEST_F(Replay, SelectsTheFirstRuleThatMayRun) {
     const std::string threeTaps = R"("name":"","fingerCount":3,"gesture":"singleTap")";
     const std::string shell = R"("kind":"shellCommand","value":"ls","shellCommandAcknowledged":true)";
     const std::string list = rule("01", threeTaps, shell) + "," + rule("0a", threeTaps, R"("kind":"middleClick")");
@@ -141,7 +141,7 @@ TEST_F(ReplayTest, selectsTheFirstRuleThatMayRun) {
     EXPECT_FALSE(std::filesystem::exists(kinesta.folder.path() / "settings" / "defaults.json"));
 }
 
-TEST_F(ReplayTest, stopsAtABadLineWithWhatCameBefore) {
+TEST_F(Replay, StopsAtABadLine) {
     const std::string tap = taps(3, {{"1.0", "1.1"}, {"2.0", "2.1"}});
     const Ran ran = replayed(recorded(tap + "{\"t\":3,\"touches\":[[1,0.5\n"));
     EXPECT_EQ(ran.status, 1);
@@ -159,7 +159,7 @@ TEST_F(ReplayTest, stopsAtABadLineWithWhatCameBefore) {
     EXPECT_EQ(refused.err.rfind(rules + ":2: ", 0), 0U) << refused.err;
 }
 
-TEST_F(ReplayTest, givesTheSameInRealTime) {
+TEST_F(Replay, RecognizesTheSameInRealTime) {
     const std::string tap = kinesta.folder.write("tap.jsonl", recorded(taps(3, {{"1.0", "1.05"}, {"1.1", "1.15"}})));
     const Ran atOnce = kinesta.run({"replay", tap, "--json"});
     const auto began = std::chrono::steady_clock::now();
@@ -168,7 +168,7 @@ TEST_F(ReplayTest, givesTheSameInRealTime) {
     EXPECT_GE(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(400));
 }
 
-TEST_F(ReplayTest, recognizesTheSameAfterConversion) {
+TEST_F(Replay, RecognizesTheSameAfterConversion) {
     for (const char* name : {"bcm5974.three-finger-click.events", "CyPS2-Cypress-Trackpad.two_finger_tap.events",
                              "CyPS2-Cypress-Trackpad.three_finger_tap.events", "corner-circle.jsonl"}) {
         const std::string target = (kinesta.folder.path() / "converted.jsonl").string();
@@ -182,7 +182,7 @@ TEST_F(ReplayTest, recognizesTheSameAfterConversion) {
     }
 }
 
-TEST_F(ReplayTest, leavesNoHalfWrittenConversionBehind) {
+TEST_F(Replay, WritesAConversionWholeOrNotAtAll) {
     const std::string cut = kinesta.folder.write("cut.jsonl", recorded("{\"t\":1,\"touches\":[]}\n{\"t\":0"));
     const std::string target = kinesta.folder.write("kept.jsonl", "precious");
     const Ran ran = kinesta.run({"convert", cut, "-o", target});

@@ -15,6 +15,7 @@
 #include "actions/ActionExecutor.h"
 #include "desktop/harness/EventWindow.h"
 #include "desktop/harness/TestDesktop.h"
+#include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxActions.h"
 #include "support/InMemoryUserDefaults.h"
 #include "support/SteadyClock.h"
@@ -33,6 +34,8 @@ constexpr std::uint8_t kD = 40;
 
 /// All that lies between the decision for an action and the desktop.
 struct ActionEndurance : ::testing::Test {
+    ActionEndurance() { actions.prepareToPost(); }
+
     void run(ActionKind kind, std::int64_t steps = 0) {
         GestureAction action;
         action.kind = kind;
@@ -46,7 +49,8 @@ struct ActionEndurance : ::testing::Test {
     SteadyClock clock;
     InMemoryUserDefaults defaults;
     LinuxActions actions{clock, defaults, [](const std::string&) {}};
-    ActionExecutor executor{actions.ports()};
+    NoActionCue cue;
+    ActionExecutor executor{actions.ports(defaults, cue)};
 };
 
 TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {

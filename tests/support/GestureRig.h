@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
+#include "input/PointerEventBroadcaster.h"
 #include "recognition/MultitouchService.h"
-#include "recognition/PointerEventBroadcaster.h"
 #include "support/FakeContactProvider.h"
 #include "support/FakeUserDefaults.h"
 #include "support/PadScript.h"

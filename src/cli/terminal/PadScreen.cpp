@@ -22,7 +22,10 @@ bool PadScreen::fits(const Console& console) {
            console.rows >= kPictureRows + kOtherRows;
 }
 
-PadScreen::PadScreen(const Console& console) : m_console(console), m_picture(kPictureColumns, kPictureRows) {}
+PadScreen::PadScreen(const Console& console, Desktop& desktop)
+    : m_console(console), m_desktop(desktop), m_picture(kPictureColumns, kPictureRows) {
+    m_desktop.takeTerminal();
+}
 
 void PadScreen::setTitle(std::string title, std::string detail) {
     m_title = std::move(title);
@@ -34,7 +37,7 @@ void PadScreen::setTitle(std::string title, std::string detail) {
 
 void PadScreen::show(const PadEvent& event) {
     m_now = event.time;
-    // Movements are drawn now and then. What comes and goes is drawn at once: nothing may follow for a long time.
+    // Movements are drawn now and then. Landing and lifting are drawn at once: the next event may be far away.
     bool isToBeDrawn = m_now - m_drawnAt >= kDrawingInterval || m_now < m_drawnAt;
     if (const auto* frame = std::get_if<PadFrame>(&event.content)) {
         isToBeDrawn |= frame->samples.size() != m_contactCount;
@@ -49,7 +52,7 @@ void PadScreen::show(const PadEvent& event) {
 }
 
 void PadScreen::tell(std::string gesture, std::string consequence) {
-    // A slide tells itself many times: one line that stays.
+    // A slide reports many steps; it gets one line.
     if (!m_told.empty() && m_told.front().gesture == gesture)
         m_told.pop_front();
     m_told.push_front({std::move(gesture), std::move(consequence)});
@@ -59,7 +62,7 @@ void PadScreen::tell(std::string gesture, std::string consequence) {
 }
 
 void PadScreen::stopUntilContinued() {
-    m_terminal.stopUntilContinued();
+    m_desktop.stopUntilContinued();
     draw();
 }
 

@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <climits>
 
-#include "platform/linux/process/SystemError.h"
+#include "support/SystemError.h"
 
 namespace kinesta {
 namespace {

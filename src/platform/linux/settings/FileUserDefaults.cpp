@@ -52,7 +52,8 @@ std::string FileUserDefaults::defaultPath() {
 
 void FileUserDefaults::didChange(std::string_view key) {
     m_unsaved.emplace(key);
-    settle(save(), "Changed settings could not be stored and last only until Kinesta quits");
+    m_lastSaving = save();
+    settle(m_lastSaving, "Changed settings could not be stored and last only until Kinesta quits");
 }
 
 Outcome FileUserDefaults::load() {

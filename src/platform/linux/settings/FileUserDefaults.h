@@ -33,6 +33,9 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     /// error tells why not.
     Outcome checkSaving() const;
 
+    /// Whether the last change was stored, and why not.
+    const Outcome& lastSaving() const { return m_lastSaving; }
+
     /// Where a person's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is
     /// not set or not absolute.
     static std::string defaultPath();
@@ -53,6 +56,7 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     std::optional<std::string> m_content;          // of the file, as of when the values were last in line with it
     std::set<std::string, std::less<>> m_unsaved;  // keys changed since the last successful save
     std::string m_lastProblem;
+    Outcome m_lastSaving = success();
 };
 
 }  // namespace kinesta
