@@ -37,7 +37,7 @@ std::size_t enabledOf(const std::vector<GestureRule>& rules) {
     return static_cast<std::size_t>(std::ranges::count_if(rules, [](const auto& rule) { return rule.isEnabled; }));
 }
 
-// A copy must never overwrite an earlier one, which may be the only one of a list that someone wants back.
+// A copy must never overwrite an earlier one, which may be the only one of a list that a person wants back.
 std::filesystem::path freshCopyPath(const std::filesystem::path& folder, const Clock& clock) {
     const auto now = static_cast<std::time_t>(clock.wallClock());
     std::array<char, 32> stamp{};
@@ -92,7 +92,7 @@ Outcome exportRules(const RuleStore& store, const std::string& file) {
 }
 
 Result<ImportedRules> importRules(Desktop& desktop, RuleStore& store, std::vector<GestureRule> rules) {
-    // Rules that do not decode are copied as they are: they may be all that is left of someone's list.
+    // Rules that do not decode are copied as they are: they may be all that is left of a list.
     const std::string before = store.problem().empty()
                                    ? ruleFileText(store)
                                    : desktop.defaults().anyAsText(RuleStore::storageKey).value_or("");

@@ -65,7 +65,7 @@ class Parser {
 
         CLI::App* replayCommand = command(m_app, "replay", "Tell what is recognized in a recording", [this] {
             m_replay.form = form();
-            m_replay.performing = m_perform ? Performing::performed : Performing::onlyTold;
+            m_replay.performing = m_perform ? Performing::performed : Performing::onlyShown;
             m_replay.pace = m_realTime ? Pace::realTime : Pace::asFastAsPossible;
             m_replay.shellCommands = m_allowShellCommands ? ShellCommands::allowed : ShellCommands::forbidden;
             return replay(m_console, m_desktop, m_replay);

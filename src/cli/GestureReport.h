@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// One finished gesture as a line of JSON: when, what, and the rule that takes it (null for none).
+/// One finished gesture as a line of JSON: time, gesture, and the matching rule or null.
 std::string gestureAsJson(std::chrono::nanoseconds time, const DetectedGesture& gesture, const GestureRule* rule);
 
 /// The same for a person: "  1.250 s  3-finger double tap  →  Middle click (Paste)".

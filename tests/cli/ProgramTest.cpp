@@ -55,7 +55,7 @@ class Program {
     void type(const std::string& keys) const { EXPECT_EQ(::write(m_terminal, keys.data(), keys.size()), keys.size()); }
     void signal(int number) const { ::kill(m_child, number); }
 
-    /// Waits for the end, reading what is still said, and returns what waitpid() tells.
+    /// Waits for the end, reads the remaining output, and returns the status of waitpid().
     int wait() {
         waitFor("text that no program says");
         int status = -1;

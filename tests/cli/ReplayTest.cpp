@@ -30,8 +30,8 @@ class Replay : public ::testing::Test {
         const std::string rules = kinesta.folder.write("none.json", "[]");
         return kinesta.run({"replay", "-", "--rules", rules, "--json"}, content);
     }
-    /// What is said of it after the header, if all goes well.
-    std::string told(const std::string& lines) {
+    /// The same with a header added, for a recording without errors.
+    std::string gesturesOf(const std::string& lines) {
         const Ran ran = replayed(recorded(lines));
         EXPECT_EQ(ran.err, "");
         EXPECT_EQ(ran.status, 0);
@@ -46,12 +46,13 @@ class Replay : public ::testing::Test {
 };
 
 TEST_F(Replay, DeliversATapWhenItsWaitIsOver) {
-    EXPECT_EQ(told(taps(3, {{"1.0", "1.1"}})), line("1.35", "singleTap", 3));
+    EXPECT_EQ(gesturesOf(taps(3, {{"1.0", "1.1"}})), line("1.35", "singleTap", 3));
     // The lift that comes exactly when the wait ends is seen first, one nanosecond later it is not.
-    EXPECT_EQ(told(taps(2, {{"0.9", "1"}, {"1.2", "1.25"}})), line("1.5", "doubleTap", 2));
-    EXPECT_EQ(told(taps(2, {{"0.9", "1"}, {"1.2", "1.250000001"}})),
+    EXPECT_EQ(gesturesOf(taps(2, {{"0.9", "1"}, {"1.2", "1.25"}})), line("1.5", "doubleTap", 2));
+    EXPECT_EQ(gesturesOf(taps(2, {{"0.9", "1"}, {"1.2", "1.250000001"}})),
               line("1.25", "singleTap", 2) + line("1.500000001", "singleTap", 2));
-    EXPECT_EQ(told(taps(2, {{"-5.1", "-5"}})), line("-4.75", "singleTap", 2)) << "time runs before zero as after it";
+    EXPECT_EQ(gesturesOf(taps(2, {{"-5.1", "-5"}})), line("-4.75", "singleTap", 2))
+        << "time runs before zero as after it";
 }
 
 TEST_F(Replay, AppliesTheSettingsOfHeaderAndStream) {
@@ -63,17 +64,17 @@ TEST_F(Replay, AppliesTheSettingsOfHeaderAndStream) {
     EXPECT_EQ(withHeader(R"("gesturesEnabled":false)"), "");
 
     // Off in the middle of a wait: the tap is gone; on again: the next one counts.
-    EXPECT_EQ(told(tap + R"({"t":1.2,"settings":{"gesturesEnabled":false}})" + "\n" + taps(2, {{"2.0", "2.1"}}) +
-                   R"({"t":3,"settings":{"gesturesEnabled":true}})" + "\n" + taps(2, {{"4.0", "4.1"}})),
+    EXPECT_EQ(gesturesOf(tap + R"({"t":1.2,"settings":{"gesturesEnabled":false}})" + "\n" + taps(2, {{"2.0", "2.1"}}) +
+                         R"({"t":3,"settings":{"gesturesEnabled":true}})" + "\n" + taps(2, {{"4.0", "4.1"}})),
               line("4.35", "singleTap", 2));
 
-    // A palm in the corner is a third finger until the filter is on; switching it on voids what waits.
+    // A palm in the corner is a third finger until the filter is on; switching it on drops waiting taps.
     const auto palmTap = [](const std::string& down) {
         return "{\"t\":" + down + ",\"touches\":[[1,0.4,0.5],[2,0.5,0.5],[3,0.02,0.02]]}\n{\"t\":" + down +
                "5,\"touches\":[]}\n";
     };
-    EXPECT_EQ(told(palmTap("1.0") + palmTap("2.0") + R"({"t":2.2,"settings":{"cornerPalmRejectionEnabled.v1":true}})" +
-                   "\n" + palmTap("3.0")),
+    EXPECT_EQ(gesturesOf(palmTap("1.0") + palmTap("2.0") +
+                         R"({"t":2.2,"settings":{"cornerPalmRejectionEnabled.v1":true}})" + "\n" + palmTap("3.0")),
               line("1.3", "singleTap", 3) + line("3.3", "singleTap", 2));
 }
 
@@ -81,28 +82,29 @@ TEST_F(Replay, JudgesClicksByPressureAndArrivalOfFrames) {
     const auto click = [](const std::string& frame, const std::string& pressure) {
         return frame + R"({"t":1.1,"pointer":"down"})" + "\n" + pressure + R"({"t":1.2,"pointer":"up"})" + "\n";
     };
-    EXPECT_EQ(told(click("{\"t\":1,\"touches\":[[1,0.4,0.5],[2,0.5,0.5]]}\n",
-                         "{\"t\":1.1,\"pressure\":2}\n{\"t\":1.15,\"pressure\":1}\n")),
+    EXPECT_EQ(gesturesOf(click("{\"t\":1,\"touches\":[[1,0.4,0.5],[2,0.5,0.5]]}\n",
+                               "{\"t\":1.1,\"pressure\":2}\n{\"t\":1.15,\"pressure\":1}\n")),
               line("1.45", "singleForceClick", 2));
 
-    // Fingers that lifted before the button: 0.1 s by arrival is recent enough, 0.2 s is not, whatever the frame's t.
+    // Fingers that lifted before the button: 0.1 s by arrival is recent enough, 0.2 s is not, independent of the
+    // frame's t.
     const auto lifted = [](const std::string& received) {
         return R"({"t":0.9,"touches":[[1,0.4,0.5],[2,0.5,0.5]],"received":)" + received + "}\n" +
                R"({"t":0.95,"touches":[]})" + "\n";
     };
     const std::string tap = line("1.2", "singleTap", 2);
-    EXPECT_EQ(told(click(lifted("1.0"), "")), tap + line("1.45", "singleSoftClick", 2));
-    EXPECT_EQ(told(click(lifted("0.9"), "")), tap);
+    EXPECT_EQ(gesturesOf(click(lifted("1.0"), "")), tap + line("1.45", "singleSoftClick", 2));
+    EXPECT_EQ(gesturesOf(click(lifted("0.9"), "")), tap);
 }
 
 TEST_F(Replay, RecognizesSlidesAndDrawings) {
-    EXPECT_EQ(told("{\"t\":1,\"touches\":[[1,0.1,0.5],[2,0.2,0.5]]}\n"
-                   "{\"t\":1.01,\"touches\":[[1,0.1,0.44],[2,0.2,0.44]]}\n"),
+    EXPECT_EQ(gesturesOf("{\"t\":1,\"touches\":[[1,0.1,0.5],[2,0.2,0.5]]}\n"
+                         "{\"t\":1.01,\"touches\":[[1,0.1,0.44],[2,0.2,0.44]]}\n"),
               line("1.01", R"("gesture":"edgeSlide","fingers":2,"side":"left","steps":-2)"));
-    EXPECT_EQ(told("{\"t\":1,\"touches\":[[1,0.1,0.9]]}\n"
-                   "{\"t\":1.2,\"touches\":[[1,0.1,0.9],[2,0.5,0.3]]}\n"
-                   "{\"t\":1.3,\"touches\":[[1,0.1,0.9],[2,0.5,0.6]]}\n"
-                   "{\"t\":1.4,\"touches\":[[1,0.1,0.9]]}\n"),
+    EXPECT_EQ(gesturesOf("{\"t\":1,\"touches\":[[1,0.1,0.9]]}\n"
+                         "{\"t\":1.2,\"touches\":[[1,0.1,0.9],[2,0.5,0.3]]}\n"
+                         "{\"t\":1.3,\"touches\":[[1,0.1,0.9],[2,0.5,0.6]]}\n"
+                         "{\"t\":1.4,\"touches\":[[1,0.1,0.9]]}\n"),
               line("1.4", R"("gesture":"anchorDraw","corner":"topLeft","pattern":"lineUp")"));
 }
 
@@ -155,7 +157,7 @@ TEST_F(Replay, StopsAtABadLine) {
     const std::string rules = kinesta.folder.write("rules.json", "[\n{\"id\":1}]");
     const Ran refused = kinesta.run({"replay", "-", "--rules", rules, "--json"}, recorded(tap));
     EXPECT_EQ(refused.status, 1);
-    EXPECT_EQ(refused.out, "") << "nothing is replayed with a bad rule file";
+    EXPECT_EQ(refused.out, "") << "replayed with a bad rule file";
     EXPECT_EQ(refused.err.rfind(rules + ":2: ", 0), 0U) << refused.err;
 }
 
@@ -177,7 +179,7 @@ TEST_F(Replay, RecognizesTheSameAfterConversion) {
         EXPECT_EQ(kinesta.run({"convert", recording(name)}).out, readText(target));
         EXPECT_EQ(kinesta.run({"replay", target, "--json"}).out,
                   kinesta.run({"replay", recording(name), "--json"}).out);
-        // What is Kinesta's own already is not changed by another pass.
+        // Converting twice changes nothing more.
         EXPECT_EQ(kinesta.run({"convert", target}).out, readText(target));
     }
 }

@@ -24,7 +24,7 @@ class RulesCommand : public ::testing::Test {
 };
 
 TEST_F(RulesCommand, ChecksEveryRule) {
-    // Twice the modifiers key: the later one counts, as JSON readers do.
+    // The key modifiers is there twice: the later one counts.
     const std::string rules = "[" + kTap + "," + kIncomplete + "," + kTap + "]";
     const Ran ran = kinesta.run({"rules", "check", "-", "--json", "--system", "macos"}, rules);
     const std::string tap =
@@ -114,7 +114,7 @@ TEST_F(RulesCommand, KeepsUnreadableRulesButDoesNotShowThem) {
     writeText(defaults(), R"({"gestureRules.v1":[)" + kTap + "]}");
     const std::string plain = kinesta.run({"rules", "export", "-"}).out;
     writeText(defaults(), "{");
-    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, "") << "nor what stands in for a damaged file";
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, "") << "default rules exported for a damaged file";
     ASSERT_EQ(kinesta.run({"rules", "import", rules}).status, 0);
     EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, plain) << "a plain list is read";
 }

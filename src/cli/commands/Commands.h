@@ -45,7 +45,7 @@ ExitStatus record(const Console& console, Desktop& desktop, const std::string& o
 enum class Pace { asFastAsPossible, realTime };
 
 /// Whether the matching rules are only shown, or their actions run too.
-enum class Performing { onlyTold, performed };
+enum class Performing { onlyShown, performed };
 
 struct ReplayRequest {
     std::string recording;
@@ -57,7 +57,7 @@ struct ReplayRequest {
     ShellCommands shellCommands = ShellCommands::forbidden;
     OutputForm form = OutputForm::forPeople;
     Pace pace = Pace::asFastAsPossible;
-    Performing performing = Performing::onlyTold;
+    Performing performing = Performing::onlyShown;
 };
 
 /// `kinesta replay`: what a recording is recognized as, and which rules would take it.

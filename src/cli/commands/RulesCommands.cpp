@@ -49,10 +49,10 @@ void printForPeople(const Console& console, const std::vector<GestureRule>& rule
         console.out << '\n'
                     << console.warning("clash") << "  Another enabled rule uses this gesture. "
                     << "Only the first matching rule will run.\n";
-    std::set<std::string> told;
+    std::set<std::string> shown;
     for (const GestureRule& rule : rules)
         if (const auto warning = SystemGestureWarningChecker::warning(rule, system);
-            warning && rule.isEnabled && told.insert(warning->title + warning->detail).second)
+            warning && rule.isEnabled && shown.insert(warning->title + warning->detail).second)
             console.out << '\n' << console.warning(warning->title) << '\n' << "  " << warning->detail << '\n';
 }
 

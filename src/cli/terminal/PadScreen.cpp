@@ -53,11 +53,11 @@ void PadScreen::show(const PadEvent& event) {
 
 void PadScreen::tell(std::string gesture, std::string consequence) {
     // A slide reports many steps; it gets one line.
-    if (!m_told.empty() && m_told.front().gesture == gesture)
-        m_told.pop_front();
-    m_told.push_front({std::move(gesture), std::move(consequence)});
-    if (m_told.size() > kRemembered)
-        m_told.pop_back();
+    if (!m_gestures.empty() && m_gestures.front().gesture == gesture)
+        m_gestures.pop_front();
+    m_gestures.push_front({std::move(gesture), std::move(consequence)});
+    if (m_gestures.size() > kRemembered)
+        m_gestures.pop_back();
     draw();
 }
 
@@ -81,14 +81,14 @@ void PadScreen::draw() {
         put(line);
     put("");
     for (std::size_t i = 0; i < kRemembered; ++i) {
-        if (i >= m_told.size()) {
+        if (i >= m_gestures.size()) {
             put(i == 0 ? m_console.dim("Waiting for a gesture…") : "");
             continue;
         }
-        const auto& told = m_told[i];
-        const std::string gesture = fitted(told.gesture, width);
+        const auto& shown = m_gestures[i];
+        const std::string gesture = fitted(shown.gesture, width);
         const std::size_t rest = width - std::min(width, displayWidth(gesture) + 5);
-        const std::string consequence = "  →  " + fitted(told.consequence, rest);
+        const std::string consequence = "  →  " + fitted(shown.consequence, rest);
         put(i == 0 ? m_console.bold(gesture) + m_console.good(consequence) : m_console.dim(gesture + consequence));
     }
     screen += "\x1b[J";

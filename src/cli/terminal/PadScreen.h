@@ -43,11 +43,11 @@ class PadScreen {
     Seconds m_drawnAt = -1e300;
     std::size_t m_contactCount = 0;
 
-    struct Told {
+    struct ShownGesture {
         std::string gesture;
         std::string consequence;
     };
-    std::deque<Told> m_told;
+    std::deque<ShownGesture> m_gestures;
 };
 
 }  // namespace kinesta
