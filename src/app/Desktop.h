@@ -43,6 +43,8 @@ class Desktop {
     /// before any other part is used.
     virtual void catchSignals(const std::vector<ProgramSignal>& signals,
                               std::function<void(ProgramSignal)> handler) = 0;
+    /// Lets writing to a closed pipe fail instead of ending the program.
+    virtual void surviveClosedPipes() = 0;
     /// The error names the other process that acts on gestures. Holds until the process ends.
     virtual Result<SingleInstanceClaim> claimSingleInstance() = 0;
     /// Hides the cursor and shows the terminal's second screen until giveTerminalBack() or the end of the program.

@@ -1,7 +1,5 @@
 #include "cli/commands/Commands.h"
 
-#include <csignal>
-
 #include "app/App.h"
 #include "cli/GestureReport.h"
 #include "cli/terminal/LogLines.h"
@@ -110,8 +108,7 @@ class Daemon {
 }  // namespace
 
 ExitStatus runDaemon(const Console& console, Desktop& desktop, LogLevel level) {
-    // Readers of the log may go away; that is no reason to stop.
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    desktop.surviveClosedPipes();  // the reader of the log may end
     const auto claim = desktop.claimSingleInstance();
     if (!claim)
         return console.fail(claim.error().message);

@@ -6,6 +6,7 @@
 
 #include "platform/linux/keyboard/KeyObstacle.h"
 #include "platform/linux/launching/DesktopEntry.h"
+#include "platform/linux/process/BrokenPipes.h"
 #include "platform/linux/process/CurrentDesktop.h"
 #include "platform/linux/process/ExecutableSearch.h"
 #include "support/SystemError.h"
@@ -60,6 +61,8 @@ void LinuxDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::
     }
     m_signals.emplace(m_mainLoop, numbers, [handler = std::move(handler)](int signal) { handler(meaningOf(signal)); });
 }
+
+void LinuxDesktop::surviveClosedPipes() { surviveBrokenPipes(); }
 
 Result<SingleInstanceClaim> LinuxDesktop::claimSingleInstance() {
     auto claimed = SingleInstance::claim(m_places.settings);

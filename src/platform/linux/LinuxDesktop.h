@@ -36,6 +36,7 @@ class LinuxDesktop final : public Desktop {
     MainLoop& mainLoop() override { return m_mainLoop; }
     const Clock& clock() const override { return m_clock; }
     void catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) override;
+    void surviveClosedPipes() override;
     Result<SingleInstanceClaim> claimSingleInstance() override;
     void takeTerminal() override { m_terminal.emplace(); }
     void giveTerminalBack() override { m_terminal.reset(); }
