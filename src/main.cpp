@@ -6,23 +6,12 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
-#include "platform/linux/Examples.h"
+#include "feedback/NoActionCue.h"
+#include "platform/linux/LinuxDesktop.h"
 #include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/process/SystemError.h"
 #include "platform/linux/process/Terminal.h"
-#include "platform/linux/session/CurrentDesktop.h"
-#include "platform/linux/settings/FileUserDefaults.h"
-
-namespace {
-
-kinesta::GestureSystem runningSystem() {
-    using kinesta::GestureSystem, kinesta::isCurrentDesktop;
-    if (isCurrentDesktop("GNOME"))
-        return GestureSystem::gnome;
-    return isCurrentDesktop("KDE") ? GestureSystem::kde : GestureSystem::none;
-}
-
-}  // namespace
+#include "support/RunLoop.h"
+#include "support/SystemError.h"
 
 int main(int argc, char** argv) {
     using namespace kinesta;
@@ -40,10 +29,11 @@ int main(int argc, char** argv) {
                           .colour = outIsTerminal && (noColour == nullptr || std::string_view(noColour).empty()),
                           .columns = size.columns,
                           .rows = size.rows};
-    const Places places{
-        .defaults = FileUserDefaults::defaultPath(), .examples = examplesFolder(), .system = runningSystem()};
     try {
-        const ExitStatus status = runCommandLine(console, places, argc, argv);
+        RunLoop mainLoop;
+        NoActionCue cue;
+        LinuxDesktop desktop(mainLoop, cue, LinuxDesktop::Places::current());
+        const ExitStatus status = runCommandLine(console, desktop, argc, argv);
         errno = 0;
         std::cout.flush();
         if (!std::cout)
@@ -51,7 +41,7 @@ int main(int argc, char** argv) {
                                                  (errno != 0 ? ": " + systemErrorText(errno) : std::string()) + "."));
         return static_cast<int>(status);
     } catch (const std::exception& error) {
-        // Only what no one can do anything about arrives here: memory, above all.
+        // Only failures without a remedy arrive here, above all that of memory.
         std::cerr << "Kinesta had to give up: " << error.what() << '\n';
         return static_cast<int>(ExitStatus::badInput);
     }

@@ -1,7 +1,6 @@
 #include "app/GestureDispatcher.h"
 
-#include <utility>
-
+#include "app/RulePerformer.h"
 #include "rules/ShellCommandSettings.h"
 
 namespace kinesta {
@@ -18,13 +17,8 @@ void GestureDispatcher::dispatch(const DetectedGesture& gesture) {
         m_observer(gesture, rule);
     if (rule == nullptr)
         return;
-    const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture);
     // A copy: the action may change the list that holds the rule.
-    perform(GestureRule(*rule), slide ? slide->steps : 0);
-}
-
-void GestureDispatcher::perform(const GestureRule& rule, std::int64_t steps) {
-    m_executor.execute(rule.action, steps, rule.shouldShowActionCue(), rule.resolvedVisualCueMessage());
+    performRule(m_executor, GestureRule(*rule), adjustmentSteps(gesture));
 }
 
 }  // namespace kinesta

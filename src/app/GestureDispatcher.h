@@ -26,9 +26,6 @@ class GestureDispatcher {
 
     void dispatch(const DetectedGesture& gesture);
 
-    /// Runs a rule's action with `steps` slide steps (0 for every other gesture).
-    void perform(const GestureRule& rule, std::int64_t steps);
-
   private:
     const RuleStore& m_store;
     const UserDefaults& m_defaults;

@@ -3,16 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 
-#include "cli/commands/DaemonCommand.h"
-#include "cli/commands/DemoCommand.h"
-#include "cli/commands/DevicesCommand.h"
-#include "cli/commands/DoctorCommand.h"
-#include "cli/commands/MonitorCommand.h"
-#include "cli/commands/PerformCommand.h"
-#include "cli/commands/RecordCommand.h"
-#include "cli/commands/ReplayCommand.h"
-#include "cli/commands/RulesCommands.h"
-#include "cli/commands/VocabularyCommands.h"
+#include "cli/commands/Commands.h"
 
 namespace kinesta {
 namespace {
@@ -30,7 +21,7 @@ Exit status: 0 done, 1 bad input, 2 bad usage.)";
 /// Collects what the arguments ask for; `run` is set by the one subcommand that was chosen.
 class Parser {
   public:
-    Parser(const Console& console, const Places& places) : m_console(console), m_places(places) {
+    Parser(const Console& console, Desktop& desktop) : m_console(console), m_desktop(desktop) {
         m_app.set_version_flag("--version", "kinesta " KINESTA_VERSION, "Show the version and exit");
         m_app.set_help_flag("-h,--help", "Show this help and exit");
         m_app.require_subcommand(1);
@@ -64,20 +55,20 @@ class Parser {
 
     void addJson(CLI::App* app) { app->add_flag("--json", m_json, "Write JSON and nothing else to standard output"); }
 
-    GestureSystem system() const { return fromRawValue<GestureSystem>(m_system).value_or(m_places.system); }
+    GestureSystem system() const { return fromRawValue<GestureSystem>(m_system).value_or(m_desktop.gestureSystem()); }
 
     OutputForm form() const { return m_json ? OutputForm::json : OutputForm::forPeople; }
 
     void addPlaying() {
         command(m_app, "demo", "Play the bundled recordings and show what is recognized",
-                [this] { return demo(m_console, m_places.examples); });
+                [this] { return demo(m_console, m_desktop); });
 
         CLI::App* replayCommand = command(m_app, "replay", "Tell what is recognized in a recording", [this] {
             m_replay.form = form();
-            m_replay.performing = m_perform ? Performing::performed : Performing::onlyTold;
+            m_replay.performing = m_perform ? Performing::performed : Performing::onlyShown;
             m_replay.pace = m_realTime ? Pace::realTime : Pace::asFastAsPossible;
             m_replay.shellCommands = m_allowShellCommands ? ShellCommands::allowed : ShellCommands::forbidden;
-            return replay(m_console, m_places.defaults, m_replay);
+            return replay(m_console, m_desktop, m_replay);
         });
         replayCommand
             ->add_option("FILE", m_replay.recording,
@@ -103,20 +94,20 @@ class Parser {
 
     void addLive() {
         command(m_app, "daemon", "Recognize gestures and run their actions, without a window", [this] {
-            return runDaemon(m_console, m_places.defaults, m_verbose ? LogLevel::everything : LogLevel::gestures);
+            return runDaemon(m_console, m_desktop, m_verbose ? LogLevel::everything : LogLevel::gestures);
         })->add_flag("--verbose", m_verbose, "Also list the rules that are on");
         command(m_app, "monitor", "Show the live pad and what is recognized; no action runs",
-                [this] { return monitor(m_console, m_places.defaults); });
+                [this] { return monitor(m_console, m_desktop); });
         CLI::App* recording = command(m_app, "record", "Write what the pad reports to a recording",
-                                      [this] { return record(m_console, m_places.defaults, m_output, m_device); });
+                                      [this] { return record(m_console, m_desktop, m_output, m_device); });
         recording->add_option("-o,--output", m_output, "Where to write it (default: standard output)");
         recording->add_option("--device", m_device, "The touchpad to record, by path or name");
         addJson(command(m_app, "devices", "Show the touchpads of this machine",
-                        [this] { return listDevices(m_console, m_places.defaults, form()); }));
+                        [this] { return listDevices(m_console, m_desktop, form()); }));
         addJson(command(m_app, "doctor", "Tell what works on this machine, and what to do about the rest",
-                        [this] { return doctor(m_console, m_places.defaults, form()); }));
+                        [this] { return doctor(m_console, m_desktop, form()); }));
         command(m_app, "perform", "Run the action of one stored rule now",
-                [this] { return perform(m_console, m_places.defaults, m_input); })
+                [this] { return perform(m_console, m_desktop, m_input); })
             ->add_option("RULE", m_input, "The rule's name or id")
             ->required();
     }
@@ -132,18 +123,18 @@ class Parser {
                                   [this] { return checkRules(m_console, m_input, system(), form()); });
         check->add_option("FILE", m_input, "A rule file; - for standard input")->required();
         CLI::App* list = command(*rules, "list", "Show the stored rules",
-                                 [this] { return listRules(m_console, m_places.defaults, system(), form()); });
+                                 [this] { return listRules(m_console, m_desktop, system(), form()); });
         for (CLI::App* app : {check, list}) {
             app->add_option("--system", m_system, "Whose own gestures to warn of (default: the running desktop's)")
                 ->check(CLI::IsMember({"macos", "gnome", "kde", "none"}));
             addJson(app);
         }
         command(*rules, "export", "Write the stored rules to a file",
-                [this] { return exportRules(m_console, m_places.defaults, m_output); })
+                [this] { return exportRules(m_console, m_desktop, m_output); })
             ->add_option("FILE", m_output, "Where to write; - for standard output")
             ->required();
         command(*rules, "import", "Replace the stored rules by those of a file, keeping a copy",
-                [this] { return importRules(m_console, m_places.defaults, m_input); })
+                [this] { return importRules(m_console, m_desktop, m_input); })
             ->add_option("FILE", m_input, "A rule file; - for standard input")
             ->required();
     }
@@ -158,7 +149,7 @@ class Parser {
     }
 
     const Console& m_console;
-    const Places& m_places;
+    Desktop& m_desktop;
     CLI::App m_app{"Kinesta: deliberate trackpad gestures that run what you choose.", "kinesta"};
     std::function<ExitStatus()> m_run;
     ReplayRequest m_replay;
@@ -175,8 +166,8 @@ class Parser {
 
 }  // namespace
 
-ExitStatus runCommandLine(const Console& console, const Places& places, int count, const char* const* arguments) {
-    return Parser(console, places).parse(count, arguments);
+ExitStatus runCommandLine(const Console& console, Desktop& desktop, int count, const char* const* arguments) {
+    return Parser(console, desktop).parse(count, arguments);
 }
 
 }  // namespace kinesta

@@ -42,11 +42,7 @@ std::string gestureAsJson(std::chrono::nanoseconds time, const DetectedGesture& 
     return line.text();
 }
 
-std::string ruleInWords(const GestureRule& rule) {
-    const std::string action = rule.action.summary();
-    const std::string words = rule.name.empty() || rule.name == action ? action : action + "  (" + rule.name + ")";
-    return printable(words);
-}
+std::string ruleInWords(const GestureRule& rule) { return printable(describeConsequence(rule)); }
 
 std::string gestureForPeople(const Console& console, std::chrono::nanoseconds time, const DetectedGesture& gesture,
                              const GestureRule* rule) {

@@ -3,15 +3,15 @@
 namespace kinesta {
 namespace {
 
-// Once the input has ended, no gesture waits longer than this; what runs later only takes feedback down.
+// Once the input has ended, no gesture waits longer than this; later timers only end feedback.
 constexpr std::chrono::milliseconds kLongestWait{TapWaitingInterval::veryLong};
 
 }  // namespace
 
-PacedPlayer::PacedPlayer(RunLoop& loop, const Clock& clock, RecordingReading& reader, ReplaySession& session,
+PacedPlayer::PacedPlayer(MainThread& mainThread, const Clock& clock, RecordingReading& reader, ReplaySession& session,
                          std::function<void(const RecordingEvent&)> onEvent,
                          std::function<void(std::optional<Error>)> onEnd)
-    : m_loop(loop),
+    : m_mainThread(mainThread),
       m_clock(clock),
       m_reader(reader),
       m_session(session),
@@ -45,7 +45,7 @@ void PacedPlayer::proceed() {
         const auto elapsed = std::chrono::duration<Seconds>(m_clock.uptime() - m_realStart);
         const auto wait = (due - m_virtualStart) - std::chrono::duration_cast<ReplaySession::Time>(elapsed);
         if (wait > ReplaySession::Time::zero()) {
-            m_wake = m_loop.after(wait, [this] { proceed(); });
+            m_wake = m_mainThread.after(wait, [this] { proceed(); });
             return;
         }
         if (!eventIsNext) {

@@ -4,29 +4,30 @@
 #include <functional>
 
 #include "cli/ReplaySession.h"
-#include "support/RunLoop.h"
+#include "support/Clock.h"
+#include "support/MainThread.h"
 
 namespace kinesta {
 
-/// Plays one recording at the pace at which it was made: the session's virtual time follows the loop's real time, so
-/// that what is recognized, and when, is the same as without waiting.
+/// Plays one recording at the pace at which it was made. The session's virtual time follows real time, so it recognizes
+/// the same, at the same times, as without waiting.
 class PacedPlayer {
   public:
-    /// `onEvent` sees each event after it was delivered; `onEnd` is called once, with the reader's error if there was
-    /// one. All must outlive the player.
-    PacedPlayer(RunLoop& loop, const Clock& clock, RecordingReading& reader, ReplaySession& session,
+    /// Calls `onEvent` with each event after its delivery, and `onEnd` once, with the reader's error if there was one.
+    /// All arguments must outlive the player.
+    PacedPlayer(MainThread& mainThread, const Clock& clock, RecordingReading& reader, ReplaySession& session,
                 std::function<void(const RecordingEvent&)> onEvent, std::function<void(std::optional<Error>)> onEnd);
 
     void start();
 
-    /// Goes on as if this time had not passed, in which the program was stopped.
+    /// Leaves out this much time, in which the program was stopped.
     void passOver(Seconds time) { m_realStart += time; }
 
   private:
     void readNext();
     void proceed();
 
-    RunLoop& m_loop;
+    MainThread& m_mainThread;
     const Clock& m_clock;
     RecordingReading& m_reader;
     ReplaySession& m_session;

@@ -20,7 +20,7 @@ class RecordingFile {
 
     RecordingReading& reader() { return *m_reader; }
 
-    /// How much has been read, 0 to 1; nothing where the length is not known.
+    /// How much has been read, 0 to 1, if the length is known.
     std::optional<double> progress();
 
   private:

@@ -4,10 +4,10 @@
 #include <functional>
 #include <optional>
 
+#include "input/PointerEventBroadcaster.h"
 #include "input/recording/RecordingReading.h"
 #include "input/recording/ReplayContactProvider.h"
 #include "recognition/MultitouchService.h"
-#include "recognition/PointerEventBroadcaster.h"
 #include "rules/RuleSelection.h"
 #include "support/InMemoryUserDefaults.h"
 #include "support/VirtualClock.h"
@@ -15,8 +15,7 @@
 
 namespace kinesta {
 
-/// The whole of gesture recognition over one recording, in virtual time: what the recording says goes in, finished
-/// gestures come out, at the moments at which they would have.
+/// Gesture recognition over one recording, in virtual time. Gestures are delivered at the same times as live.
 class ReplaySession {
   public:
     using Time = std::chrono::nanoseconds;
@@ -26,7 +25,7 @@ class ReplaySession {
     /// delivery.
     ReplaySession(const RecordingHeader& header, Handler onGesture);
 
-    /// Runs every timer due before the event, then delivers the event and what follows from it at once.
+    /// Runs every timer due before the event, then delivers the event and its immediate results.
     void deliver(const RecordingEvent& event);
 
     /// Runs the timers that are due at `time` or before.
@@ -35,7 +34,7 @@ class ReplaySession {
     /// When the next timer is due, if there is one.
     std::optional<Time> nextTimer() const { return m_mainThread.nextTimer(); }
 
-    /// Runs what is left to run after the last event.
+    /// Runs the remaining timers after the last event.
     void finish() { m_mainThread.runRemaining(); }
 
     /// The time of an event on the clock of the replay: `seconds` × 10⁹ rounded to the nearest.

@@ -1,48 +1,48 @@
 #pragma once
 
-#include <filesystem>
-#include <functional>
 #include <string>
-#include <utility>
 
+#include "app/Desktop.h"
+#include "app/RuleTransfer.h"
 #include "cli/terminal/Console.h"
-#include "platform/linux/settings/FileUserDefaults.h"
-#include "rules/RuleStore.h"
 
 namespace kinesta {
 
-/// The person's settings file as a subcommand uses it: problems are told and go into the exit status.
+/// The person's settings as a subcommand uses them: problems go to the error stream and into the exit status.
 class StoredSettings {
   public:
-    using Tell = std::function<void(const std::string&)>;
+    StoredSettings(const Console& console, Desktop& desktop) : m_console(console), m_desktop(desktop) {
+        m_desktop.onSettingsProblem([this](const std::string& problem) { m_status = m_console.fail(problem); });
+        m_desktop.defaults();
+    }
+    ~StoredSettings() { m_desktop.onSettingsProblem({}); }
+    StoredSettings(const StoredSettings&) = delete;
+    StoredSettings& operator=(const StoredSettings&) = delete;
 
-    /// Tells problems on the error stream.
-    StoredSettings(const Console& console, const std::filesystem::path& path)
-        : StoredSettings([&console](const std::string& problem) { console.fail(problem); }, path) {}
-    StoredSettings(Tell tell, const std::filesystem::path& path)
-        : m_tell(std::move(tell)), m_defaults(path, [this](const std::string& problem) { fail(problem); }) {}
-
-    FileUserDefaults& defaults() { return m_defaults; }
+    UserDefaults& defaults() { return m_desktop.defaults(); }
 
     /// Reports a stored rule list that could not be read.
     void check(const RuleStore& store) {
-        if (store.problem().empty())
-            return;
-        fail("The stored rules cannot be read: " + store.problem() + ". They are kept; mend them, or import others.");
+        if (const auto problem = problemOfStoredRules(store))
+            m_status = m_console.fail(*problem);
+    }
+
+    /// Whether all rules are off now, and stored so.
+    bool disableAllRules() {
+        RuleStore store(defaults());
+        check(store);
+        if (m_status == ExitStatus::success)
+            store.disableAllRules();
+        return m_status == ExitStatus::success;
     }
 
     /// badInput once a problem was reported.
     ExitStatus status() const { return m_status; }
 
   private:
-    void fail(const std::string& problem) {
-        m_tell(problem);
-        m_status = ExitStatus::badInput;
-    }
-
-    Tell m_tell;
+    const Console& m_console;
+    Desktop& m_desktop;
     ExitStatus m_status = ExitStatus::success;
-    FileUserDefaults m_defaults;
 };
 
 }  // namespace kinesta

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "input/PointerEventMonitoring.h"
 #include "input/SettingsKeys.h"
 #include "input/TapWaitingInterval.h"
 #include "input/TrackpadContactProviding.h"
-#include "recognition/PointerEventMonitoring.h"
 #include "recognition/TouchFrameProcessor.h"
 #include "rules/RuleSelection.h"
 #include "support/Clock.h"

@@ -46,6 +46,11 @@ std::string describeTrigger(const GestureRule& rule) {
     return text;
 }
 
+std::string describeConsequence(const GestureRule& rule) {
+    const std::string action = rule.action.summary();
+    return rule.name.empty() || rule.name == action ? action : action + "  (" + rule.name + ")";
+}
+
 std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected) {
     for (const GestureRule& rule : rules) {
         GestureRule completed = rule;

@@ -16,6 +16,9 @@ std::string describe(const DetectedGesture& detected);
 /// not set shows as "…".
 std::string describeTrigger(const GestureRule& rule);
 
+/// What a rule does in words: its action, and its name if that adds something.
+std::string describeConsequence(const GestureRule& rule);
+
 /// Why no rule ran for a gesture: names the first rule that would match if it were enabled, complete or permitted, or
 /// says that there is none.
 std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected);

@@ -5,25 +5,20 @@
 #include <cstdint>
 #include <mutex>
 
-#include "support/MainThread.h"
+#include "support/MainLoop.h"
 #include "support/TimerQueue.h"
 
 namespace kinesta {
 
 /// The main thread of a program without a window. Sleeps until a task is posted or the next delayed task is due. Runs
 /// tasks in order of time (when posted or when due), so that neither kind starves the other.
-class RunLoop final : public MainThread {
+class RunLoop final : public MainLoop {
   public:
     RunLoop() = default;
     ~RunLoop() override = default;
 
-    /// Makes the calling thread the main thread until quit(). Must not be called from a task.
-    void run();
-
-    /// Makes run() return after the current task, or the next run() return at once. Remaining tasks stay for another
-    /// run(). Any thread, but not a signal handler: let a thread wait for the signal and call this.
-    void quit();
-
+    void run() override;
+    void quit() override;
     void post(Task task) override;
     [[nodiscard]] DelayedTask after(std::chrono::nanoseconds delay, Task task) override;
 

@@ -15,8 +15,8 @@ GestureRule named(const std::string& name, GestureRule rule) {
 }
 
 /// A dispatcher on a fake desktop. The log has every gesture with its rule's name, then the calls to the desktop.
-struct GestureDispatcherTest : ::testing::Test {
-    GestureDispatcherTest() {
+struct GestureDispatching : ::testing::Test {
+    GestureDispatching() {
         dispatcher.setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {
             desktop.log.add(describe(gesture) + ": " + (rule ? rule->name : "nothing"));
         });
@@ -32,7 +32,7 @@ struct GestureDispatcherTest : ::testing::Test {
     GestureDispatcher dispatcher{store, desktop.defaults, executor};
 };
 
-TEST_F(GestureDispatcherTest, PerformsTheFirstRuleWithItsStepsAndCue) {
+TEST_F(GestureDispatching, PerformsTheFirstRuleWithItsStepsAndCue) {
     store.replaceRules({named("volume", makeSlide(2, EdgeSlideSide::left)),
                         named("first", makeRule(GestureKind::singleTap, 3)),
                         named("second", makeRule(GestureKind::singleTap, 3))});
@@ -46,7 +46,7 @@ TEST_F(GestureDispatcherTest, PerformsTheFirstRuleWithItsStepsAndCue) {
               Calls{"top left line up: nothing"});
 }
 
-TEST_F(GestureDispatcherTest, LetsAnActionReplaceTheRules) {
+TEST_F(GestureDispatching, LetsAnActionReplaceTheRules) {
     store.replaceRules({named("off", makeRule(GestureKind::singleTap, 2, ActionKind::disableAllRules))});
     const auto observed =
         desktop.notifications.observe(kAppActionRequested, [this](ActionKind) { store.replaceRules({}); });
@@ -55,7 +55,7 @@ TEST_F(GestureDispatcherTest, LetsAnActionReplaceTheRules) {
     EXPECT_EQ(dispatch(DetectedTap{2, GestureKind::singleTap}), Calls{"2-finger single tap: nothing"});
 }
 
-TEST_F(GestureDispatcherTest, ReadsTheShellCommandSwitchForEachGesture) {
+TEST_F(GestureDispatching, ReadsTheShellCommandSwitchForEachGesture) {
     store.replaceRules({named("shell", makeShellCommand(true)), named("click", makeRule(GestureKind::singleTap, 3))});
     EXPECT_EQ(dispatch(DetectedTap{3, GestureKind::singleTap}).front(), "3-finger single tap: click");
     desktop.defaults.setBoolean("shellCommandActionsEnabled.v1", true);

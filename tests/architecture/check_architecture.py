@@ -10,7 +10,7 @@ import re
 import sys
 import tempfile
 
-# What each module may include besides itself. Only main.cpp and cli know ui and platform.
+# What each module may include besides itself. Only the main programs know the platforms.
 CORE = {
     "support": set(),
     "input": {"support"},
@@ -21,11 +21,18 @@ CORE = {
     "app": {"support", "input", "rules", "recognition", "actions", "feedback"},
 }
 ARROWS = CORE | {
-    "ui": {"support", "rules", "recognition", "actions", "feedback", "app"},
+    "ui": {"support", "input", "rules", "recognition", "feedback", "app"},
     "platform": {"support", "input", "actions", "feedback", "app"},
-    "cli": set(CORE) | {"ui", "platform"},
+    "cli": {"support", "input", "rules", "recognition", "app"},
     "main.cpp": set(CORE) | {"ui", "platform", "cli"},
 }
+
+# The floors of platform/linux, from the ground; the files beside these folders are above them all. A lower floor
+# includes no higher one.
+FLOORS = [{"process", "x11"}, {"settings", "touchpad"}, {"keyboard"}, {"session"}, {"launching", "windows"}]
+
+# The session still asks the window manager itself.
+ABOVE_ITS_FLOOR = {("session/DesktopFacts.h", "windows")}
 
 # What a core module may include in angle brackets beyond the standard library.
 LIBRARIES = {"support": ("nlohmann/",), "rules": ("nlohmann/",), "input": ("nlohmann/", "yaml.h")}
@@ -47,8 +54,29 @@ CONDITION = re.compile(
 PLATFORM_FOLDERS = ("src/platform/", "tests/platform/", "tests/desktop/", "tests/vm/")
 
 
-def judge_include(module, folder, system, quoted):
-    """The complaint about one include of a file in src/, or None. `folder` is that of the file, below src/."""
+def floor(path):
+    """The floor in platform/linux of a file or header, below src/."""
+    room = path.split("/")[2]
+    if room.endswith((".h", ".cpp")):
+        return len(FLOORS)
+    return next((number for number, rooms in enumerate(FLOORS) if room in rooms), None)
+
+
+def judge_platform_include(name, quoted):
+    if quoted.split("/")[1] != name.split("/")[1]:
+        return f'"{quoted}" belongs to another platform'
+    if not name.startswith("platform/linux/"):
+        return None
+    own, other = floor(name), floor(quoted)
+    if own is None or other is None:
+        return f'"{quoted}": this folder or that of the file has no floor in platform/linux'
+    if other > own and (name.removeprefix("platform/linux/"), quoted.split("/")[2]) not in ABOVE_ITS_FLOOR:
+        return f'"{quoted}" is on a higher floor'
+    return None
+
+
+def judge_include(module, name, system, quoted):
+    """The complaint about one include of the file `name`, below src/, or None."""
     if system:
         if module in CORE and not STANDARD.fullmatch(system) and not system.startswith(LIBRARIES.get(module, ())):
             return f"<{system}> is not for the core: put it behind a port in platform/"
@@ -59,8 +87,7 @@ def judge_include(module, folder, system, quoted):
     if target not in ARROWS or "/" not in quoted or "/../" in quoted:
         return f'"{quoted}" must be named from src/, as module/Header.h'
     if target == "platform" and module == "platform":
-        same = quoted.split("/")[1] == folder.split("/")[1]
-        return None if same else f'"{quoted}" belongs to another platform'
+        return judge_platform_include(name, quoted)
     if target != module and target not in ARROWS[module]:
         return f'"{quoted}": {module} must not know {target}'
     return None
@@ -82,9 +109,10 @@ def judge_file(root, path):
             yield f"{name}:{number}: {found[1]} belongs into platform/"
         in_directive = in_directive and line.endswith("\\")
         include = INCLUDE.match(line)
-        if module and include:
-            folder = path.parent.relative_to(root / "src").as_posix()
-            if complaint := judge_include(module, folder, include[1], include[2]):
+        if module == "cli" and "platform" in line.lower():
+            yield f"{name}:{number}: the command line knows no platform"
+        elif module and include:
+            if complaint := judge_include(module, name.removeprefix("src/"), include[1], include[2]):
                 yield f"{name}:{number}: {complaint}"
 
 
@@ -102,7 +130,14 @@ WRONG = [  # file, content, the number of the line at fault (0: the file itself)
     ("src/rules/A.h", '\n#include "recognition/B.h"', 2),
     ("src/support/A.cpp", '#include "input/B.h"', 1),
     ("src/recognition/A.h", '  #  include "actions/B.h"', 1),
-    ("src/ui/A.h", '#include "input/B.h"', 1),
+    ("src/ui/A.h", '#include "actions/B.h"', 1),
+    ("src/cli/A.h", '#include "actions/B.h"', 1),
+    ("src/cli/A.h", '#include "platform/linux/B.h"', 1),
+    ("src/cli/A.cpp", "\n// Not on this Platform.", 2),
+    ("src/platform/linux/x11/A.h", '#include "platform/linux/touchpad/B.h"', 1),
+    ("src/platform/linux/keyboard/A.h", '#include "platform/linux/session/B.h"', 1),
+    ("src/platform/linux/windows/A.h", '#include "platform/linux/LinuxDesktop.h"', 1),
+    ("src/platform/linux/attic/A.h", '#include "platform/linux/x11/B.h"', 1),
     ("src/platform/linux/A.h", '#include "platform/macos/B.h"', 1),
     ("src/platform/macos/A.mm", '#import "recognition/B.h"', 1),
     ("src/actions/A.h", '#include "B.h"', 1),
@@ -125,8 +160,9 @@ RIGHT = [
     ("src/rules/A.h", '#include "support/B.h"\n#include <vector>\n#include <nlohmann/json.hpp>'),
     ("src/input/A.cpp", '#include "input/A.h"\n#include <yaml.h>'),
     ("src/actions/A.h", '#include "feedback/B.h"\n// not for __linux__\n#define X 1'),
-    ("src/platform/linux/A.cpp", '#include "platform/linux/B.h"\n#include <unistd.h>\n#ifdef __linux__'),
-    ("src/cli/A.cpp", '#include "platform/linux/B.h"\n#include <CLI/CLI.hpp>'),
+    ("src/platform/linux/windows/A.h", '#include "platform/linux/launching/B.h"\n#include "platform/linux/x11/B.h"'),
+    ("src/platform/linux/A.cpp", '#include "platform/linux/B.h"\n#include "platform/linux/windows/B.h"\n#include <unistd.h>\n#ifdef __linux__'),
+    ("src/cli/A.cpp", '#include "app/B.h"\n#include <CLI/CLI.hpp>'),
     ("src/main.cpp", '#include "ui/B.h"\n#ifdef __APPLE__\n#include "platform/macos/B.h"'),
     ("tests/platform/A.cpp", '#include <unistd.h>\n#ifdef __linux__'),
     ("src/ui/TimeLabel.h", "#include <QLabel>"),

@@ -10,7 +10,7 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 
-TEST(CommandLineTest, badUsageIsToldOnTheErrorStreamWithStatusTwo) {
+TEST(CommandLine, ReportsBadUsageWithStatusTwo) {
     const CommandRunner kinesta;
     for (const Arguments& arguments :
          {Arguments{}, Arguments{"frobnicate"}, Arguments{"replay"}, Arguments{"rules"}, Arguments{"rules", "check"},
@@ -23,7 +23,7 @@ TEST(CommandLineTest, badUsageIsToldOnTheErrorStreamWithStatusTwo) {
     }
 }
 
-TEST(CommandLineTest, helpHasExamplesForEverySubcommand) {
+TEST(CommandLine, HelpsWithEverySubcommand) {
     const CommandRunner kinesta;
     const Ran help = kinesta.run({"--help"});
     EXPECT_EQ(help.status, 0);
@@ -36,7 +36,7 @@ TEST(CommandLineTest, helpHasExamplesForEverySubcommand) {
     EXPECT_EQ(kinesta.run({"--version"}).out.rfind("kinesta ", 0), 0U);
 }
 
-TEST(CommandLineTest, vocabularyComesAsOneArrayInDeclarationOrder) {
+TEST(CommandLine, ListsTheVocabularyInDeclarationOrder) {
     const CommandRunner kinesta;
     const auto array = [&](const char* command) {
         const Ran ran = kinesta.run({command, "--json"});
@@ -65,7 +65,7 @@ TEST(CommandLineTest, vocabularyComesAsOneArrayInDeclarationOrder) {
                                     R"("minimumMacOSMajorVersion":null,"label":"⌃⇧Tab"})");
 }
 
-TEST(TextTableTest, measuresAndCutsByColumnsNotBytes) {
+TEST(TextTable, MeasuresAndCutsByColumns) {
     const std::vector<std::tuple<std::string, std::size_t, std::string>> rows{{"", 0, ""},
                                                                               {"abcd", 4, "abcd"},
                                                                               {"abcde", 5, "abc…"},

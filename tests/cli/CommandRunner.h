@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "cli/CommandLine.h"
+#include "feedback/NoActionCue.h"
+#include "platform/linux/LinuxDesktop.h"
+#include "support/RunLoop.h"
 #include "support/TemporaryFolder.h"
 
 namespace kinesta::testing {
@@ -25,13 +28,16 @@ class CommandRunner {
         std::ostringstream out;
         std::ostringstream err;
         const Console console{.in = in, .out = out, .err = err};
-        const Places places{.defaults = folder.path() / "settings" / "defaults.json",
-                            .examples = std::filesystem::path(KINESTA_SOURCE_DIR) / "examples"};
+        RunLoop mainLoop;
+        NoActionCue cue;
+        LinuxDesktop desktop(mainLoop, cue,
+                             {.settings = folder.path() / "settings" / "defaults.json",
+                              .examples = std::filesystem::path(KINESTA_SOURCE_DIR) / "examples"});
         arguments.insert(arguments.begin(), "kinesta");
         std::vector<const char*> pointers;
         for (const std::string& argument : arguments)
             pointers.push_back(argument.c_str());
-        const ExitStatus status = runCommandLine(console, places, static_cast<int>(pointers.size()), pointers.data());
+        const ExitStatus status = runCommandLine(console, desktop, static_cast<int>(pointers.size()), pointers.data());
         return {static_cast<int>(status), out.str(), err.str()};
     }
 };

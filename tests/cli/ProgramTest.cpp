@@ -55,7 +55,7 @@ class Program {
     void type(const std::string& keys) const { EXPECT_EQ(::write(m_terminal, keys.data(), keys.size()), keys.size()); }
     void signal(int number) const { ::kill(m_child, number); }
 
-    /// Waits for the end, reading what is still said, and returns what waitpid() tells.
+    /// Waits for the end, reads the remaining output, and returns the status of waitpid().
     int wait() {
         waitFor("text that no program says");
         int status = -1;
@@ -70,7 +70,7 @@ class Program {
     int m_terminal = -1;
 };
 
-TEST(ProgramTest, demoShowsEveryGestureInTimeAndLeavesTheTerminalAsItWas) {
+TEST(Program, DemonstratesEveryGestureAndRestoresTheTerminal) {
     const auto began = Clock::now();
     Program demo("exec " + kKinesta + "demo");
     const int status = demo.wait();
@@ -88,7 +88,7 @@ TEST(ProgramTest, demoShowsEveryGestureInTimeAndLeavesTheTerminalAsItWas) {
     EXPECT_EQ(demo.output.find('\x1b', back + 8), std::string::npos) << "what stays on the screen is plain";
 }
 
-TEST(ProgramTest, anInterruptedDemoGivesTheTerminalBackAndEndsAsInterrupted) {
+TEST(Program, RestoresTheTerminalWhenInterrupted) {
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         Program demo("exec " + kKinesta + "demo");
         ASSERT_TRUE(demo.waitFor("●"));
@@ -100,7 +100,7 @@ TEST(ProgramTest, anInterruptedDemoGivesTheTerminalBackAndEndsAsInterrupted) {
     }
 }
 
-TEST(ProgramTest, stoppedItGivesTheTerminalBackAndGoesOnWithThePicture) {
+TEST(Program, RestoresTheTerminalWhileStopped) {
     const TemporaryFolder settings;
     const std::string monitor = "XDG_CONFIG_HOME=" + settings.path().string() + " " + kKinesta + "monitor";
     for (const auto& [command, title] : {std::pair(kKinesta + "demo", "Two fingers tap"), {monitor, "Waiting for"}}) {
@@ -120,7 +120,7 @@ TEST(ProgramTest, stoppedItGivesTheTerminalBackAndGoesOnWithThePicture) {
     }
 }
 
-TEST(ProgramTest, coloursOnlyOnATerminalThatWantsThem) {
+TEST(Program, ColoursOnlyOnTerminals) {
     const auto escapes = [](const std::string& command) {
         Program list(command);
         list.wait();
@@ -132,7 +132,7 @@ TEST(ProgramTest, coloursOnlyOnATerminalThatWantsThem) {
     EXPECT_FALSE(escapes(kKinesta + "gestures | cat"));
 }
 
-TEST(ProgramTest, warnsOfTheGesturesOfTheDesktopThatRuns) {
+TEST(Program, WarnsOfTheRunningDesktopsGestures) {
     const TemporaryFolder folder;
     const std::string rules = folder.write(
         "rules.json",
@@ -150,7 +150,7 @@ TEST(ProgramTest, warnsOfTheGesturesOfTheDesktopThatRuns) {
         EXPECT_EQ(warned(other), R"("warning":null)") << other;
 }
 
-TEST(ProgramTest, endsQuietlyWhenNobodyReads) {
+TEST(Program, EndsQuietlyOnAClosedPipe) {
     TemporaryFolder folder;
     std::string slide = "{\"kinesta\":\"recording\",\"version\":1}\n";
     for (int i = 0; i < 20000; ++i)

@@ -21,7 +21,7 @@ std::string taps(int fingers, const std::vector<std::pair<std::string, std::stri
 
 std::string recorded(const std::string& lines) { return std::string(kHeader) + lines; }
 
-class ReplayTest : public ::testing::Test {
+class Replay : public ::testing::Test {
   protected:
     CommandRunner kinesta;
 
@@ -30,8 +30,8 @@ class ReplayTest : public ::testing::Test {
         const std::string rules = kinesta.folder.write("none.json", "[]");
         return kinesta.run({"replay", "-", "--rules", rules, "--json"}, content);
     }
-    /// What is said of it after the header, if all goes well.
-    std::string told(const std::string& lines) {
+    /// The same with a header added, for a recording without errors.
+    std::string gesturesOf(const std::string& lines) {
         const Ran ran = replayed(recorded(lines));
         EXPECT_EQ(ran.err, "");
         EXPECT_EQ(ran.status, 0);
@@ -45,16 +45,17 @@ class ReplayTest : public ::testing::Test {
     }
 };
 
-TEST_F(ReplayTest, deliversATapWhenItsWaitIsOver) {
-    EXPECT_EQ(told(taps(3, {{"1.0", "1.1"}})), line("1.35", "singleTap", 3));
+TEST_F(Replay, DeliversATapWhenItsWaitIsOver) {
+    EXPECT_EQ(gesturesOf(taps(3, {{"1.0", "1.1"}})), line("1.35", "singleTap", 3));
     // The lift that comes exactly when the wait ends is seen first, one nanosecond later it is not.
-    EXPECT_EQ(told(taps(2, {{"0.9", "1"}, {"1.2", "1.25"}})), line("1.5", "doubleTap", 2));
-    EXPECT_EQ(told(taps(2, {{"0.9", "1"}, {"1.2", "1.250000001"}})),
+    EXPECT_EQ(gesturesOf(taps(2, {{"0.9", "1"}, {"1.2", "1.25"}})), line("1.5", "doubleTap", 2));
+    EXPECT_EQ(gesturesOf(taps(2, {{"0.9", "1"}, {"1.2", "1.250000001"}})),
               line("1.25", "singleTap", 2) + line("1.500000001", "singleTap", 2));
-    EXPECT_EQ(told(taps(2, {{"-5.1", "-5"}})), line("-4.75", "singleTap", 2)) << "time runs before zero as after it";
+    EXPECT_EQ(gesturesOf(taps(2, {{"-5.1", "-5"}})), line("-4.75", "singleTap", 2))
+        << "time runs before zero as after it";
 }
 
-TEST_F(ReplayTest, obeysTheSettingsOfHeaderAndStream) {
+TEST_F(Replay, AppliesTheSettingsOfHeaderAndStream) {
     const std::string tap = taps(2, {{"1.0", "1.1"}});
     const auto withHeader = [&](const std::string& settings) {
         return replayed(R"({"kinesta":"recording","version":1,"settings":{)" + settings + "}}\n" + tap).out;
@@ -63,50 +64,51 @@ TEST_F(ReplayTest, obeysTheSettingsOfHeaderAndStream) {
     EXPECT_EQ(withHeader(R"("gesturesEnabled":false)"), "");
 
     // Off in the middle of a wait: the tap is gone; on again: the next one counts.
-    EXPECT_EQ(told(tap + R"({"t":1.2,"settings":{"gesturesEnabled":false}})" + "\n" + taps(2, {{"2.0", "2.1"}}) +
-                   R"({"t":3,"settings":{"gesturesEnabled":true}})" + "\n" + taps(2, {{"4.0", "4.1"}})),
+    EXPECT_EQ(gesturesOf(tap + R"({"t":1.2,"settings":{"gesturesEnabled":false}})" + "\n" + taps(2, {{"2.0", "2.1"}}) +
+                         R"({"t":3,"settings":{"gesturesEnabled":true}})" + "\n" + taps(2, {{"4.0", "4.1"}})),
               line("4.35", "singleTap", 2));
 
-    // A palm in the corner is a third finger until the filter is on; switching it on voids what waits.
+    // A palm in the corner is a third finger until the filter is on; switching it on drops waiting taps.
     const auto palmTap = [](const std::string& down) {
         return "{\"t\":" + down + ",\"touches\":[[1,0.4,0.5],[2,0.5,0.5],[3,0.02,0.02]]}\n{\"t\":" + down +
                "5,\"touches\":[]}\n";
     };
-    EXPECT_EQ(told(palmTap("1.0") + palmTap("2.0") + R"({"t":2.2,"settings":{"cornerPalmRejectionEnabled.v1":true}})" +
-                   "\n" + palmTap("3.0")),
+    EXPECT_EQ(gesturesOf(palmTap("1.0") + palmTap("2.0") +
+                         R"({"t":2.2,"settings":{"cornerPalmRejectionEnabled.v1":true}})" + "\n" + palmTap("3.0")),
               line("1.3", "singleTap", 3) + line("3.3", "singleTap", 2));
 }
 
-TEST_F(ReplayTest, tellsClicksByPressureAndByWhenTheFrameWasReceived) {
+TEST_F(Replay, JudgesClicksByPressureAndArrivalOfFrames) {
     const auto click = [](const std::string& frame, const std::string& pressure) {
         return frame + R"({"t":1.1,"pointer":"down"})" + "\n" + pressure + R"({"t":1.2,"pointer":"up"})" + "\n";
     };
-    EXPECT_EQ(told(click("{\"t\":1,\"touches\":[[1,0.4,0.5],[2,0.5,0.5]]}\n",
-                         "{\"t\":1.1,\"pressure\":2}\n{\"t\":1.15,\"pressure\":1}\n")),
+    EXPECT_EQ(gesturesOf(click("{\"t\":1,\"touches\":[[1,0.4,0.5],[2,0.5,0.5]]}\n",
+                               "{\"t\":1.1,\"pressure\":2}\n{\"t\":1.15,\"pressure\":1}\n")),
               line("1.45", "singleForceClick", 2));
 
-    // Fingers that lifted before the button: 0.1 s by arrival is recent enough, 0.2 s is not, whatever the frame's t.
+    // Fingers that lifted before the button: 0.1 s by arrival is recent enough, 0.2 s is not, independent of the
+    // frame's t.
     const auto lifted = [](const std::string& received) {
         return R"({"t":0.9,"touches":[[1,0.4,0.5],[2,0.5,0.5]],"received":)" + received + "}\n" +
                R"({"t":0.95,"touches":[]})" + "\n";
     };
     const std::string tap = line("1.2", "singleTap", 2);
-    EXPECT_EQ(told(click(lifted("1.0"), "")), tap + line("1.45", "singleSoftClick", 2));
-    EXPECT_EQ(told(click(lifted("0.9"), "")), tap);
+    EXPECT_EQ(gesturesOf(click(lifted("1.0"), "")), tap + line("1.45", "singleSoftClick", 2));
+    EXPECT_EQ(gesturesOf(click(lifted("0.9"), "")), tap);
 }
 
-TEST_F(ReplayTest, knowsSlidesAndDrawings) {
-    EXPECT_EQ(told("{\"t\":1,\"touches\":[[1,0.1,0.5],[2,0.2,0.5]]}\n"
-                   "{\"t\":1.01,\"touches\":[[1,0.1,0.44],[2,0.2,0.44]]}\n"),
+TEST_F(Replay, RecognizesSlidesAndDrawings) {
+    EXPECT_EQ(gesturesOf("{\"t\":1,\"touches\":[[1,0.1,0.5],[2,0.2,0.5]]}\n"
+                         "{\"t\":1.01,\"touches\":[[1,0.1,0.44],[2,0.2,0.44]]}\n"),
               line("1.01", R"("gesture":"edgeSlide","fingers":2,"side":"left","steps":-2)"));
-    EXPECT_EQ(told("{\"t\":1,\"touches\":[[1,0.1,0.9]]}\n"
-                   "{\"t\":1.2,\"touches\":[[1,0.1,0.9],[2,0.5,0.3]]}\n"
-                   "{\"t\":1.3,\"touches\":[[1,0.1,0.9],[2,0.5,0.6]]}\n"
-                   "{\"t\":1.4,\"touches\":[[1,0.1,0.9]]}\n"),
+    EXPECT_EQ(gesturesOf("{\"t\":1,\"touches\":[[1,0.1,0.9]]}\n"
+                         "{\"t\":1.2,\"touches\":[[1,0.1,0.9],[2,0.5,0.3]]}\n"
+                         "{\"t\":1.3,\"touches\":[[1,0.1,0.9],[2,0.5,0.6]]}\n"
+                         "{\"t\":1.4,\"touches\":[[1,0.1,0.9]]}\n"),
               line("1.4", R"("gesture":"anchorDraw","corner":"topLeft","pattern":"lineUp")"));
 }
 
-TEST_F(ReplayTest, recognizesInRealRecordingsWhatAPersonWouldSay) {
+TEST_F(Replay, RecognizesTheGesturesOfRealRecordings) {
     const auto gestures = [&](const std::string& name) {
         const std::string none = kinesta.folder.write("none.json", "[]");
         const Ran ran = kinesta.run({"replay", recording(name), "--rules", none});
@@ -123,7 +125,7 @@ TEST_F(ReplayTest, recognizesInRealRecordingsWhatAPersonWouldSay) {
               "2-finger single soft click (stage 1)  →  no rule;3-finger single soft click (stage 1)  →  no rule;");
 }
 
-TEST_F(ReplayTest, selectsTheFirstRuleThatMayRun) {
+TEST_F(Replay, SelectsTheFirstRuleThatMayRun) {
     const std::string threeTaps = R"("name":"","fingerCount":3,"gesture":"singleTap")";
     const std::string shell = R"("kind":"shellCommand","value":"ls","shellCommandAcknowledged":true)";
     const std::string list = rule("01", threeTaps, shell) + "," + rule("0a", threeTaps, R"("kind":"middleClick")");
@@ -141,7 +143,7 @@ TEST_F(ReplayTest, selectsTheFirstRuleThatMayRun) {
     EXPECT_FALSE(std::filesystem::exists(kinesta.folder.path() / "settings" / "defaults.json"));
 }
 
-TEST_F(ReplayTest, stopsAtABadLineWithWhatCameBefore) {
+TEST_F(Replay, StopsAtABadLine) {
     const std::string tap = taps(3, {{"1.0", "1.1"}, {"2.0", "2.1"}});
     const Ran ran = replayed(recorded(tap + "{\"t\":3,\"touches\":[[1,0.5\n"));
     EXPECT_EQ(ran.status, 1);
@@ -155,11 +157,11 @@ TEST_F(ReplayTest, stopsAtABadLineWithWhatCameBefore) {
     const std::string rules = kinesta.folder.write("rules.json", "[\n{\"id\":1}]");
     const Ran refused = kinesta.run({"replay", "-", "--rules", rules, "--json"}, recorded(tap));
     EXPECT_EQ(refused.status, 1);
-    EXPECT_EQ(refused.out, "") << "nothing is replayed with a bad rule file";
+    EXPECT_EQ(refused.out, "") << "replayed with a bad rule file";
     EXPECT_EQ(refused.err.rfind(rules + ":2: ", 0), 0U) << refused.err;
 }
 
-TEST_F(ReplayTest, givesTheSameInRealTime) {
+TEST_F(Replay, RecognizesTheSameInRealTime) {
     const std::string tap = kinesta.folder.write("tap.jsonl", recorded(taps(3, {{"1.0", "1.05"}, {"1.1", "1.15"}})));
     const Ran atOnce = kinesta.run({"replay", tap, "--json"});
     const auto began = std::chrono::steady_clock::now();
@@ -168,7 +170,7 @@ TEST_F(ReplayTest, givesTheSameInRealTime) {
     EXPECT_GE(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(400));
 }
 
-TEST_F(ReplayTest, recognizesTheSameAfterConversion) {
+TEST_F(Replay, RecognizesTheSameAfterConversion) {
     for (const char* name : {"bcm5974.three-finger-click.events", "CyPS2-Cypress-Trackpad.two_finger_tap.events",
                              "CyPS2-Cypress-Trackpad.three_finger_tap.events", "corner-circle.jsonl"}) {
         const std::string target = (kinesta.folder.path() / "converted.jsonl").string();
@@ -177,12 +179,12 @@ TEST_F(ReplayTest, recognizesTheSameAfterConversion) {
         EXPECT_EQ(kinesta.run({"convert", recording(name)}).out, readText(target));
         EXPECT_EQ(kinesta.run({"replay", target, "--json"}).out,
                   kinesta.run({"replay", recording(name), "--json"}).out);
-        // What is Kinesta's own already is not changed by another pass.
+        // Converting twice changes nothing more.
         EXPECT_EQ(kinesta.run({"convert", target}).out, readText(target));
     }
 }
 
-TEST_F(ReplayTest, leavesNoHalfWrittenConversionBehind) {
+TEST_F(Replay, WritesAConversionWholeOrNotAtAll) {
     const std::string cut = kinesta.folder.write("cut.jsonl", recorded("{\"t\":1,\"touches\":[]}\n{\"t\":0"));
     const std::string target = kinesta.folder.write("kept.jsonl", "precious");
     const Ran ran = kinesta.run({"convert", cut, "-o", target});

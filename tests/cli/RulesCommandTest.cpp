@@ -9,14 +9,22 @@ const std::string kTap = rule("0a", R"("name":"Paste","fingerCount":2,"gesture":
                               R"("kind":"keyboardShortcut","keyCode":9,"modifiers":1,"customCueLabel":" Insert ")");
 const std::string kIncomplete = rule("0b", R"("name":"","gesture":"tipTapLeft")", R"("kind":"openURL")");
 
-class RulesCommandTest : public ::testing::Test {
+class RulesCommand : public ::testing::Test {
   protected:
     CommandRunner kinesta;
     std::string defaults() const { return (kinesta.folder.path() / "settings" / "defaults.json").string(); }
+    /// The lists that imports have kept.
+    std::vector<std::string> copies() const {
+        std::vector<std::string> kept;
+        for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(defaults()).parent_path()))
+            if (entry.path().filename().string().starts_with("rules-before-import"))
+                kept.push_back(readText(entry.path()));
+        return kept;
+    }
 };
 
-TEST_F(RulesCommandTest, judgesEveryRuleAsItDecodes) {
-    // Twice the modifiers key: the later one counts, as JSON readers do.
+TEST_F(RulesCommand, ChecksEveryRule) {
+    // The key modifiers is there twice: the later one counts.
     const std::string rules = "[" + kTap + "," + kIncomplete + "," + kTap + "]";
     const Ran ran = kinesta.run({"rules", "check", "-", "--json", "--system", "macos"}, rules);
     const std::string tap =
@@ -45,7 +53,7 @@ TEST_F(RulesCommandTest, judgesEveryRuleAsItDecodes) {
     EXPECT_EQ(kinesta.run({"rules", "check", kinesta.folder.path().string()}).status, 1);
 }
 
-TEST_F(RulesCommandTest, importReplacesAllOrNothingAndCanBeUndone) {
+TEST_F(RulesCommand, ImportsAllOrNothing) {
     const std::string first = kinesta.folder.write("first.json", "[" + kTap + "]");
     ASSERT_EQ(kinesta.run({"rules", "import", first}).status, 0);
     const std::string exported = kinesta.run({"rules", "export", "-"}).out;
@@ -68,9 +76,18 @@ TEST_F(RulesCommandTest, importReplacesAllOrNothingAndCanBeUndone) {
     copy.pop_back();
     ASSERT_EQ(kinesta.run({"rules", "import", copy}).status, 0);
     EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, exported);
+    EXPECT_EQ(copies().size(), 3U) << "imports within one second overwrite each other's copies";
+
+    std::filesystem::remove(defaults() + ".lock");
+    std::filesystem::create_directory(defaults() + ".lock");
+    const Ran unsaved = kinesta.run({"rules", "import", "-"}, "[]");
+    EXPECT_EQ(unsaved.status, 1);
+    EXPECT_EQ(unsaved.err, defaults() + ".lock: Is a directory\nNothing was changed.\n");
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, exported);
+    EXPECT_EQ(copies().size(), 3U);
 }
 
-TEST_F(RulesCommandTest, whatCannotBeReadIsNeitherShownNorExportedButKept) {
+TEST_F(RulesCommand, KeepsUnreadableRulesButDoesNotShowThem) {
     const std::string rules = kinesta.folder.write("rules.json", "[" + kTap + "]");
     const std::string exported = kinesta.folder / "exported.json";
     const std::string settings = std::filesystem::path(defaults()).parent_path();
@@ -91,33 +108,34 @@ TEST_F(RulesCommandTest, whatCannotBeReadIsNeitherShownNorExportedButKept) {
         EXPECT_EQ(kinesta.run({"rules", "list"}).out, "");
 
         ASSERT_EQ(kinesta.run({"rules", "import", rules}).status, 0);
-        std::string copies;
-        for (const auto& entry : std::filesystem::directory_iterator(settings))
-            if (entry.path().filename().string().starts_with("rules-before-import"))
-                copies += readText(entry.path());
-        EXPECT_TRUE(!copies.empty() && stored.find(copies) != std::string::npos) << copies;
+        ASSERT_EQ(copies().size(), 1U);
+        EXPECT_NE(stored.find(copies().front()), std::string::npos) << copies().front();
     }
     writeText(defaults(), R"({"gestureRules.v1":[)" + kTap + "]}");
     const std::string plain = kinesta.run({"rules", "export", "-"}).out;
     writeText(defaults(), "{");
-    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, "") << "nor what stands in for a damaged file";
+    EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, "") << "default rules exported for a damaged file";
     ASSERT_EQ(kinesta.run({"rules", "import", rules}).status, 0);
     EXPECT_EQ(kinesta.run({"rules", "export", "-"}).out, plain) << "a plain list is read";
 }
 
-TEST_F(RulesCommandTest, refusesWhatIsTooLargeAndSaysWhenTheDiskIsFull) {
+TEST_F(RulesCommand, NamesTooLargeFilesAndFullDisks) {
     const std::string huge = kinesta.folder.write("huge.json", "");
     std::filesystem::resize_file(huge, std::uintmax_t{1} << 40U);
     for (const std::string& file : {huge, std::string("/dev/zero")}) {
         const Ran ran = kinesta.run({"rules", "check", file});
         EXPECT_EQ(ran.err, file + ": this is larger than 64 MiB, so it is no rule list\n");
     }
-    const Ran full = kinesta.run({"rules", "export", "/dev/full"});
-    EXPECT_EQ(full.status, 1);
-    EXPECT_NE(full.err.find("/dev/full: the file cannot be written: the disk is full"), std::string::npos) << full.err;
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"rules", "export", "/dev/full"},
+          {"convert", recording("bcm5974.three-finger-click.events"), "-o", "/dev/full"}}) {
+        const Ran full = kinesta.run(command);
+        EXPECT_EQ(full.status, 1);
+        EXPECT_EQ(full.err.rfind("/dev/full: the file cannot be written: the disk is full", 0), 0U) << full.err;
+    }
 }
 
-TEST_F(RulesCommandTest, exportWritesWhatImportReads) {
+TEST_F(RulesCommand, ImportsWhatItExported) {
     const std::string file = (kinesta.folder.path() / "rules.json").string();
     ASSERT_EQ(kinesta.run({"rules", "export", file}).status, 0);
     ASSERT_EQ(kinesta.run({"rules", "import", file}).status, 0);
@@ -125,7 +143,7 @@ TEST_F(RulesCommandTest, exportWritesWhatImportReads) {
     EXPECT_EQ(kinesta.run({"rules", "export", "/nowhere/at/all.json"}).status, 1);
 }
 
-TEST_F(RulesCommandTest, textOfRulesCannotSteerTheTerminal) {
+TEST_F(RulesCommand, PrintsNoControlCharacters) {
     const std::string nasty = rule("0a", R"("name":"\u001b[2J\u009b31m\nred","fingerCount":2,"gesture":"doubleTap")",
                                    R"("kind":"middleClick")");
     const Ran ran = kinesta.run({"rules", "check", "-"}, "[" + nasty + "]");

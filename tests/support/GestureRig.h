@@ -4,9 +4,9 @@
 #include <sstream>
 #include <string>
 
+#include "input/PointerEventBroadcaster.h"
 #include "input/TrackpadContactProviding.h"
 #include "recognition/MultitouchService.h"
-#include "recognition/PointerEventBroadcaster.h"
 #include "support/FakeUserDefaults.h"
 #include "support/PadScript.h"
 #include "support/Text.h"

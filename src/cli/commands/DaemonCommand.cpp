@@ -1,105 +1,76 @@
-#include "cli/commands/DaemonCommand.h"
+#include "cli/commands/Commands.h"
 
-#include <csignal>
-
-#include "app/GestureDispatcher.h"
+#include "app/App.h"
 #include "cli/GestureReport.h"
-#include "cli/LiveRecognition.h"
-#include "cli/LogLines.h"
-#include "cli/StoredSettings.h"
+#include "cli/terminal/LogLines.h"
 #include "cli/terminal/TextTable.h"
-#include "platform/linux/LinuxActions.h"
-#include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/process/SignalListener.h"
-#include "platform/linux/process/SingleInstance.h"
-#include "platform/linux/settings/FileWatcher.h"
 #include "rules/GestureDescription.h"
-#include "rules/RuleStore.h"
-#include "support/RunLoop.h"
-#include "support/SteadyClock.h"
 
 namespace kinesta {
 namespace {
 
 constexpr const char* kChanged = "The settings file was changed";
 
-/// The daemon's parts, in the order in which they depend on each other.
+/// The application with a log for a face.
 class Daemon {
   public:
-    Daemon(const Console& console, const std::filesystem::path& defaults, LogLevel level,
-           const SingleInstance& instance)
+    Daemon(const Console& console, Desktop& desktop, LogLevel level)
         : m_log(console),
           m_level(level),
-          m_signals(m_loop, {SIGTERM, SIGINT, SIGHUP}, [this](int signal) { receive(signal); }),
-          m_settings([this](const std::string& problem) { m_log.write(problem); }, defaults),
-          m_store(m_settings.defaults()),
-          m_actions(
-              m_clock, m_settings.defaults(),
-              [this](const std::string& text) { m_loop.post([this, text] { m_log.write(text); }); },
-              LinuxActions::Output::log),
-          m_executor(m_actions.ports()),
-          m_dispatcher(m_store, m_settings.defaults(), m_executor),
-          m_recognition(m_loop, m_clock, m_settings.defaults()),
-          m_watcher(m_loop, defaults.string(), [this] { reload(kChanged); }) {
-        m_settings.check(m_store);
-        if (!instance.isCertain())
+          m_desktop(desktop),
+          m_app(desktop, [this](const std::string& problem) { m_log.write(problem); }) {
+        m_app.dispatcher().setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {
+            m_log.write(describe(gesture) + "  →  " +
+                        (rule ? ruleInWords(*rule) : "nothing: " + whyNoRule(m_app.store().rules().value(), gesture)));
+        });
+        m_app.onAllRulesDisabled = [this] { tellRules(); };
+        m_app.onToggleConfigurationWindow = [this] {
+            m_log.write("There is no configuration window to show: this is the daemon.");
+        };
+    }
+
+    void run(SingleInstanceClaim claim) {
+        const bool isWatching = m_desktop.watchDefaults([this] { reload(kChanged); });
+        if (claim == SingleInstanceClaim::uncertain)
             m_log.write(
                 "No folder takes a lock file. See to it that no other Kinesta runs: each action would run twice.");
-        m_dispatcher.setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {
-            m_log.write(describe(gesture) + "  →  " + (rule ? ruleInWords(*rule) : whyNone(gesture)));
-        });
-        m_dispatcher.bind(m_recognition.service());
-        m_disableAll = m_actions.notifications().observe(kAppActionRequested, [this](ActionKind kind) {
-            if (kind == ActionKind::disableAllRules) {
-                m_store.disableAllRules();
-                tellRules();
-            } else
-                m_log.write("There is no configuration window to show: this is the daemon.");
-        });
-    }
-
-    ExitStatus run() {
-        m_statusSubscription = m_recognition.service().status().observe([this](const auto&) { tellStatus(); });
-        m_recognition.start();
+        const Subscription status = service().status().observe([this](const auto&) { tellStatus(); });
+        m_app.start();
         tellRules();
-        if (const Outcome possible = m_settings.defaults().checkSaving(); !possible)
+        if (const Outcome possible = m_desktop.checkSaving(); !possible)
             m_log.write("Nothing can be saved; what changes lasts only until Kinesta quits: " +
                         possible.error().message);
-        if (!m_watcher.isWatching())
+        if (!isWatching)
             m_log.write("The settings file cannot be watched: after a change send SIGHUP.");
         reload(kChanged);  // between the reading and the watching
-        m_loop.run();
+        m_desktop.mainLoop().run();
         m_log.write("Stopped.");
-        return ExitStatus::success;
     }
 
-  private:
-    void receive(int signal) {
-        if (signal != SIGHUP)
-            m_loop.quit();
+    void receive(ProgramSignal signal) {
+        if (signal == ProgramSignal::end)
+            m_desktop.mainLoop().quit();
         else if (!reload("Asked to reload"))
             m_log.write("Asked to reload: there is nothing new to be read.");
     }
 
+  private:
     /// Whether there was anything new.
     bool reload(std::string_view reason) {
         // Our own saves wake the watcher too: then nothing has changed.
-        if (!m_settings.defaults().reload())
+        if (!m_desktop.reloadDefaults())
             return false;
         m_log.write(std::string(reason) + ": rules and settings are read again.");
-        m_store.reload();
-        m_settings.check(m_store);
-        const std::string padBefore = m_recognition.pad().state().path;
-        m_recognition.reloadSettings();
-        if (!padBefore.empty() && !m_recognition.pad().state().path.empty() &&
-            padBefore != m_recognition.pad().state().path)
-            tellStatus();  // from one pad to another, the status stays what it is
+        const std::string padBefore = pad().path;
+        m_app.reload();
+        if (!padBefore.empty() && !pad().path.empty() && padBefore != pad().path)
+            tellStatus();  // the status does not change from one pad to another
         tellRules();
         return true;
     }
 
     void tellRules() {
-        const auto& rules = m_store.rules().value();
+        const auto& rules = m_app.store().rules().value();
         std::size_t enabled = 0;
         for (const GestureRule& rule : rules) {
             enabled += rule.isEnabled ? 1 : 0;
@@ -109,17 +80,15 @@ class Daemon {
         m_log.write(std::to_string(enabled) + " of " + std::to_string(rules.size()) + " rules are on.");
     }
 
-    void tellStatus() const {
-        const auto& status = m_recognition.service().status().value();
+    void tellStatus() {
+        const auto& status = service().status().value();
         switch (status.kind) {
             case TrackpadContactProviderStatus::Kind::listening:
-                m_log.write("Trackpad listening: " + printable(m_recognition.pad().state().name) + " (" +
-                            m_recognition.pad().state().path + ")" +
-                            (m_recognition.pad().state().canTellPressure ? "" : ", which cannot tell a Force Click"));
+                m_log.write("Trackpad listening: " + printable(pad().name) + " (" + pad().path + ")" +
+                            (pad().canTellPressure ? "" : ", which cannot tell a Force Click"));
                 break;
             case TrackpadContactProviderStatus::Kind::stopped:
-                m_log.write(m_recognition.service().isGestureEnabled().value() ? "Trackpad stopped"
-                                                                               : "Gesture recognition is off");
+                m_log.write(service().isGestureEnabled().value() ? "Trackpad stopped" : "Gesture recognition is off");
                 break;
             case TrackpadContactProviderStatus::Kind::unavailable:
                 m_log.write(printable(status.message));
@@ -127,34 +96,29 @@ class Daemon {
         }
     }
 
-    std::string whyNone(const DetectedGesture& gesture) const {
-        return "nothing: " + whyNoRule(m_store.rules().value(), gesture);
-    }
+    MultitouchService& service() { return m_app.recognition().service(); }
+    LiveTrackpad::Identity pad() { return m_app.recognition().identity(); }
 
     LogLines m_log;
     LogLevel m_level;
-    RunLoop m_loop;
-    SignalListener m_signals;  // before all that starts a thread
-    SteadyClock m_clock;
-    StoredSettings m_settings;
-    RuleStore m_store;
-    LinuxActions m_actions;
-    ActionExecutor m_executor;
-    GestureDispatcher m_dispatcher;
-    LiveRecognition m_recognition;
-    FileWatcher m_watcher;
-    Subscription m_statusSubscription;
-    Subscription m_disableAll;
+    Desktop& m_desktop;
+    App m_app;
 };
 
 }  // namespace
 
-ExitStatus runDaemon(const Console& console, const std::filesystem::path& defaults, LogLevel level) {
-    surviveBrokenPipes();  // the reader of the log may end
-    const auto instance = SingleInstance::claim(defaults);
-    if (!instance)
-        return console.fail(instance.error().message);
-    return Daemon(console, defaults, level, *instance).run();
+ExitStatus runDaemon(const Console& console, Desktop& desktop, LogLevel level) {
+    desktop.surviveClosedPipes();  // the reader of the log may end
+    const auto claim = desktop.claimSingleInstance();
+    if (!claim)
+        return console.fail(claim.error().message);
+    Daemon* running = nullptr;
+    desktop.catchSignals({ProgramSignal::end, ProgramSignal::reload},
+                         [&running](ProgramSignal signal) { running->receive(signal); });
+    Daemon daemon(console, desktop, level);
+    running = &daemon;
+    daemon.run(*claim);
+    return ExitStatus::success;
 }
 
 }  // namespace kinesta

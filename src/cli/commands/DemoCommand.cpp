@@ -1,18 +1,15 @@
-#include "cli/commands/DemoCommand.h"
+#include "cli/commands/Commands.h"
 
 #include <array>
-#include <csignal>
 #include <memory>
 #include <optional>
 
+#include "app/RuleTransfer.h"
 #include "cli/GestureReport.h"
 #include "cli/PacedPlayer.h"
 #include "cli/RecordingFile.h"
-#include "cli/RuleFile.h"
 #include "cli/terminal/PadScreen.h"
-#include "platform/linux/process/SignalListener.h"
 #include "rules/GestureDescription.h"
-#include "support/SteadyClock.h"
 
 namespace kinesta {
 namespace {
@@ -34,21 +31,21 @@ constexpr std::array kScenes{
 // Time to read what was recognized before the next scene begins.
 constexpr auto kPause = std::chrono::milliseconds(1100);
 
-/// Plays the scenes one after the other on one loop.
+/// Plays the scenes one after the other.
 class DemoPlayer {
   public:
-    DemoPlayer(const Console& console, std::filesystem::path recordings, std::vector<GestureRule> rules)
-        : m_console(console), m_recordings(std::move(recordings)), m_rules(std::move(rules)) {
+    DemoPlayer(const Console& console, Desktop& desktop, std::vector<GestureRule> rules)
+        : m_console(console), m_desktop(desktop), m_rules(std::move(rules)) {
         if (!PadScreen::fits(console))
             return;
-        m_screen.emplace(console);
-        m_stops.emplace(m_loop, std::vector{SIGTSTP}, [this](int) { stopUntilContinued(); });
+        m_screen.emplace(console, desktop);
+        desktop.catchSignals({ProgramSignal::stop}, [this](ProgramSignal) { stopUntilContinued(); });
     }
 
     std::optional<Error> run() {
         playNext();
         if (!m_isOver)
-            m_loop.run();
+            m_desktop.mainLoop().run();
         return m_error;
     }
 
@@ -56,10 +53,10 @@ class DemoPlayer {
 
   private:
     void stopUntilContinued() {
-        const Uptime stopped = m_clock.uptime();
+        const Uptime stopped = m_desktop.clock().uptime();
         m_screen->stopUntilContinued();
         if (m_player)
-            m_player->passOver(m_clock.uptime() - stopped);
+            m_player->passOver(m_desktop.clock().uptime() - stopped);
     }
 
     void playNext() {
@@ -68,11 +65,12 @@ class DemoPlayer {
         m_file.reset();
         if (m_error || m_nextScene == kScenes.size()) {
             m_isOver = true;
-            m_loop.quit();
+            m_desktop.mainLoop().quit();
             return;
         }
         const Scene& scene = kScenes[m_nextScene++];
-        auto file = RecordingFile::open(m_console, (m_recordings / scene.file).string(), "");
+        auto file =
+            RecordingFile::open(m_console, (m_desktop.examplesFolder() / "recordings" / scene.file).string(), "");
         if (!file) {
             m_error = file.error();
             playNext();
@@ -83,14 +81,14 @@ class DemoPlayer {
         m_session.emplace(m_file->reader().header(),
                           [this](ReplaySession::Time, const DetectedGesture& gesture) { tell(gesture); });
         m_player.emplace(
-            m_loop, m_clock, m_file->reader(), *m_session,
+            m_desktop.mainLoop(), m_desktop.clock(), m_file->reader(), *m_session,
             [this](const RecordingEvent& event) {
                 if (const auto* pad = std::get_if<PadEvent>(&event); pad && m_screen)
                     m_screen->show(*pad);
             },
             [this](std::optional<Error> error) {
                 m_error = std::move(error);
-                m_wake = m_loop.after(kPause, [this] { playNext(); });
+                m_wake = m_desktop.mainLoop().after(kPause, [this] { playNext(); });
             });
         m_player->start();
     }
@@ -118,12 +116,9 @@ class DemoPlayer {
     }
 
     const Console& m_console;
-    std::filesystem::path m_recordings;
+    Desktop& m_desktop;
     std::vector<GestureRule> m_rules;
-    RunLoop m_loop;
-    SteadyClock m_clock;
     std::optional<PadScreen> m_screen;
-    std::optional<SignalListener> m_stops;
     std::unique_ptr<RecordingFile> m_file;
     std::optional<ReplaySession> m_session;
     std::optional<PacedPlayer> m_player;
@@ -136,25 +131,26 @@ class DemoPlayer {
 
 }  // namespace
 
-ExitStatus demo(const Console& console, const std::filesystem::path& examples) {
-    auto rules = readRuleFile((examples / "rules.json").string(), console.in);
+ExitStatus demo(const Console& console, Desktop& desktop) {
+    const std::filesystem::path rulesFile = desktop.examplesFolder() / "rules.json";
+    auto rules = readRuleFile(rulesFile.string(), console.in);
     if (!rules)
         return console.fail(rules.error().message);
     std::optional<Error> error;
     std::vector<std::string> recognized;
     {
-        DemoPlayer player(console, examples / "recordings", std::move(*rules));
+        DemoPlayer player(console, desktop, std::move(*rules));
         error = player.run();
         if (PadScreen::fits(console))
             recognized = player.recognized();
     }
     if (error)
         return console.fail(error->message);
-    // The picture is gone with the second screen; what was recognized stays to be read.
+    // The picture is gone with the second screen; the gestures stay readable.
     for (const std::string& line : recognized)
         console.out << "  " << line << '\n';
     console.out << "\nNothing was performed: this was a demonstration with the rules of "
-                << (examples / "rules.json").lexically_normal().string() << ".\n";
+                << rulesFile.lexically_normal().string() << ".\n";
     return ExitStatus::success;
 }
 

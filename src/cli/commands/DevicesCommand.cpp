@@ -1,65 +1,64 @@
-#include "cli/commands/DevicesCommand.h"
+#include "cli/commands/Commands.h"
 
-#include <algorithm>
-
-#include "cli/LiveRecognition.h"
 #include "cli/StoredSettings.h"
 #include "cli/terminal/TextTable.h"
-#include "platform/linux/touchpad/TouchpadListing.h"
 #include "support/Json.h"
 
 namespace kinesta {
 namespace {
 
-Json range(const EvdevAxisRange& axis) { return Json::array({axis.minimum, axis.maximum}); }
+Json range(const std::array<int, 2>& axis) { return Json::array({axis[0], axis[1]}); }
 
-Json asJson(const ListedTouchpad& listed) {
-    Json object{{"name", listed.candidate.name},
-                {"path", listed.candidate.path},
-                {"builtIn", listed.candidate.isBuiltIn},
-                {"chosen", listed.isChosen},
-                {"readable", listed.problem.empty()},
-                {"problem", listed.problem.empty() ? Json(nullptr) : Json(listed.problem)}};
-    if (listed.touchpad) {
-        object.set("x", range(listed.touchpad->x));
-        object.set("y", range(listed.touchpad->y));
-        object.set("slots", listed.touchpad->slotCount);
-        object.set("fingers", listed.fingers > 0 ? Json(listed.fingers) : Json(nullptr));
-        object.set("pressure", listed.canTellPressure);
+Json asJson(const ConnectedTrackpad& trackpad) {
+    Json object{{"name", trackpad.name},
+                {"path", trackpad.path},
+                {"builtIn", trackpad.isBuiltIn},
+                {"chosen", trackpad.isChosen},
+                {"readable", trackpad.problem.empty()},
+                {"problem", trackpad.problem.empty() ? Json(nullptr) : Json(trackpad.problem)}};
+    if (trackpad.axes) {
+        object.set("x", range(trackpad.axes->x));
+        object.set("y", range(trackpad.axes->y));
+        object.set("slots", trackpad.axes->slotCount);
+        object.set("fingers", trackpad.fingers > 0 ? Json(trackpad.fingers) : Json(nullptr));
+        object.set("pressure", trackpad.canTellPressure);
     }
     return object;
 }
 
-}  // namespace
-
-ExitStatus listDevices(const Console& console, const std::filesystem::path& defaults, OutputForm form) {
-    StoredSettings settings(console, defaults);
-    const std::string wanted = settings.defaults().string(kTouchpadSettingKey).value_or("");
-    const auto touchpads = listTouchpads(wanted);
-    if (form == OutputForm::json) {
-        Json array = Json::array();
-        for (const ListedTouchpad& listed : touchpads)
-            array.push_back(asJson(listed));
-        console.out << array.text(2) << '\n';
-        return settings.status();
-    }
-    if (touchpads.empty()) {
+void printForPeople(const Console& console, const ConnectedTrackpads& trackpads) {
+    if (trackpads.all.empty()) {
         console.out << "No trackpad was found.\n";
-        return settings.status();
+        return;
     }
     TextTable table({"", "TOUCHPAD", "DEVICE", "FINGERS", "FORCE CLICK"});
-    for (const ListedTouchpad& listed : touchpads)
-        table.add({listed.isChosen ? "→" : "", listed.candidate.name, listed.candidate.path,
-                   listed.fingers > 0 ? std::to_string(listed.fingers) : "?",
-                   !listed.touchpad         ? "?"
-                   : listed.canTellPressure ? "yes"
-                                            : "impossible: it cannot tell pressure"});
+    for (const ConnectedTrackpad& trackpad : trackpads.all)
+        table.add({trackpad.isChosen ? "→" : "", trackpad.name, trackpad.path,
+                   trackpad.fingers > 0 ? std::to_string(trackpad.fingers) : "?",
+                   !trackpad.axes             ? "?"
+                   : trackpad.canTellPressure ? "yes"
+                                              : "impossible: it cannot tell pressure"});
     table.print(console);
-    if (!wanted.empty() && std::ranges::none_of(touchpads, [](const auto& listed) { return listed.isChosen; }))
-        console.out << '\n' << console.warning(printable(noTouchpadMessage(wanted))) << '\n';
-    for (const ListedTouchpad& listed : touchpads)
-        if (!listed.problem.empty())
-            console.out << '\n' << console.warning(printable(listed.problem)) << '\n';
+    if (trackpads.chosen() == nullptr)
+        console.out << '\n' << console.warning(printable(trackpads.whenNoneIsChosen.why)) << '\n';
+    for (const ConnectedTrackpad& trackpad : trackpads.all)
+        if (!trackpad.problem.empty())
+            console.out << '\n' << console.warning(printable(trackpad.problem)) << '\n';
+}
+
+}  // namespace
+
+ExitStatus listDevices(const Console& console, Desktop& desktop, OutputForm form) {
+    const StoredSettings settings(console, desktop);
+    const ConnectedTrackpads trackpads = desktop.connectedTrackpads();
+    if (form == OutputForm::forPeople) {
+        printForPeople(console, trackpads);
+        return settings.status();
+    }
+    Json array = Json::array();
+    for (const ConnectedTrackpad& trackpad : trackpads.all)
+        array.push_back(asJson(trackpad));
+    console.out << array.text(2) << '\n';
     return settings.status();
 }
 

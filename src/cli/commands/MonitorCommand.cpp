@@ -1,32 +1,31 @@
-#include "cli/commands/MonitorCommand.h"
+#include "cli/commands/Commands.h"
 
 #include <optional>
 
-#include "app/GestureDispatcher.h"
+#include "app/LiveRecognition.h"
 #include "cli/GestureReport.h"
-#include "cli/Interrupts.h"
-#include "cli/LiveRecognition.h"
-#include "cli/LogLines.h"
 #include "cli/StoredSettings.h"
+#include "cli/terminal/LogLines.h"
 #include "cli/terminal/PadScreen.h"
 #include "cli/terminal/TextTable.h"
 #include "rules/GestureDescription.h"
-#include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
-#include "support/SteadyClock.h"
 
 namespace kinesta {
 
-ExitStatus monitor(const Console& console, const std::filesystem::path& defaults) {
-    RunLoop loop;
+ExitStatus monitor(const Console& console, Desktop& desktop) {
     std::optional<PadScreen> screen;
-    const Interrupts interrupts(loop, [&] { screen ? screen->stopUntilContinued() : stopUntilContinued(); });
-    const SteadyClock clock;
-    StoredSettings settings(console, defaults);
+    desktop.catchSignals({ProgramSignal::end, ProgramSignal::stop}, [&](ProgramSignal signal) {
+        if (signal == ProgramSignal::end)
+            desktop.mainLoop().quit();
+        else
+            screen ? screen->stopUntilContinued() : desktop.stopUntilContinued();
+    });
+    StoredSettings settings(console, desktop);
     const RuleStore store(settings.defaults());
     settings.check(store);
     const LogLines log(console);
-    LiveRecognition live(loop, clock, settings.defaults());
+    LiveRecognition live(desktop);
     MultitouchService& service = live.service();
 
     service.onEveryGesture([&](const DetectedGesture& gesture) {
@@ -43,7 +42,7 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
 
     const auto tellStatus = [&](const MultitouchService::Status& status) {
         const bool isListening = status == MultitouchService::Status::listening();
-        const std::string text = printable(isListening ? live.pad().state().name : status.message);
+        const std::string text = printable(isListening ? live.identity().name : status.message);
         if (screen)
             screen->setTitle("Kinesta monitor", text + "   (no action runs; Ctrl-C ends)");
         else if (!text.empty())
@@ -51,13 +50,13 @@ ExitStatus monitor(const Console& console, const std::filesystem::path& defaults
     };
     const Subscription subscription = service.status().observe(tellStatus);
     if (PadScreen::fits(console)) {
-        screen.emplace(console);
-        live.setWatcher([&](const PadEvent& event) { screen->show(event); });
+        screen.emplace(console, desktop);
+        desktop.trackpad().watch([&](const PadEvent& event) { screen->show(event); });
     }
     live.start();
     if (service.status().value() == MultitouchService::Status::stopped() && !service.isGestureEnabled().value())
         tellStatus(MultitouchService::Status::unavailable("Gesture recognition is off"));
-    loop.run();
+    desktop.mainLoop().run();
     return ExitStatus::success;
 }
 

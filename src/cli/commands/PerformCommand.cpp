@@ -1,9 +1,8 @@
-#include "cli/commands/PerformCommand.h"
+#include "cli/commands/Commands.h"
 
-#include "cli/ActionPerformer.h"
+#include "app/RulePerformer.h"
 #include "cli/GestureReport.h"
 #include "cli/StoredSettings.h"
-#include "rules/RuleStore.h"
 
 namespace kinesta {
 namespace {
@@ -22,22 +21,22 @@ const GestureRule* findRule(const std::vector<GestureRule>& rules, const std::st
 
 }  // namespace
 
-ExitStatus perform(const Console& console, const std::filesystem::path& defaults, const std::string& rule) {
-    StoredSettings settings(console, defaults);
+ExitStatus perform(const Console& console, Desktop& desktop, const std::string& rule) {
+    StoredSettings settings(console, desktop);
     const RuleStore store(settings.defaults());
     settings.check(store);
     const GestureRule* found = findRule(store.rules().value(), rule);
     if (found == nullptr)
         return console.fail("No stored rule has the id or the name \"" + rule + "\". See: kinesta rules list");
-    ActionPerformer performer(console, settings.defaults(), defaults);
+    RulePerformer performer(desktop, settings.defaults(), [&] { return settings.disableAllRules(); });
     const auto report = performer.perform(*found, 1);
-    // Programs are started on other threads: now it is known whether they could be.
+    // Programs are started on other threads: only afterwards is it known whether they could be.
     const std::string problem = performer.finish();
-    if (report.outcome == ActionPerformer::Outcome::failed)
+    if (report.outcome == RulePerformer::Outcome::failed)
         return console.fail(report.why);
     if (!problem.empty())
         return console.fail(problem);
-    console.out << (report.outcome == ActionPerformer::Outcome::done ? "Done: " : "Asked for: ") << ruleInWords(*found)
+    console.out << (report.outcome == RulePerformer::Outcome::done ? "Done: " : "Asked for: ") << ruleInWords(*found)
                 << '\n'
                 << report.why << (report.why.empty() ? "" : "\n");
     return settings.status();

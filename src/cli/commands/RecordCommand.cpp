@@ -1,22 +1,19 @@
-#include "cli/commands/RecordCommand.h"
+#include "cli/commands/Commands.h"
 
 #include <algorithm>
 #include <functional>
 
-#include "cli/Interrupts.h"
-#include "cli/LiveRecognition.h"
-#include "cli/OutputFile.h"
+#include "app/OutputFile.h"
 #include "cli/StoredSettings.h"
 #include "cli/terminal/TextTable.h"
 #include "input/recording/RecordingWriter.h"
 #include "recognition/StoredRecognitionSettings.h"
-#include "support/SteadyClock.h"
 
 namespace kinesta {
 
 namespace {
 
-/// What recognition goes by here, except whether it is on: what was recorded is to be recognized.
+/// The settings of recognition, except whether it is on: a replay is meant to recognize something.
 RecordedSettings settingsToRecord(const UserDefaults& defaults) {
     const auto palms = storedCornerPalmRejection(defaults);
     return {.tapWaitingMilliseconds = static_cast<int>(storedTapWaitingInterval(defaults).rawValue()),
@@ -26,30 +23,24 @@ RecordedSettings settingsToRecord(const UserDefaults& defaults) {
 
 }  // namespace
 
-ExitStatus record(const Console& console, const std::filesystem::path& defaults, const std::string& output,
-                  const std::string& device) {
-    RunLoop loop;
-    const Interrupts interrupts(loop);
-    const SteadyClock clock;
-    StoredSettings settings(console, defaults);
-    const std::string wanted = device.empty() ? settings.defaults().string(kTouchpadSettingKey).value_or("") : device;
-    EvdevContactProvider provider(loop, {.device = wanted, .pressure = {}});
+ExitStatus record(const Console& console, Desktop& desktop, const std::string& output, const std::string& device) {
+    MainLoop& loop = desktop.mainLoop();
+    desktop.catchSignals({ProgramSignal::end}, [&loop](ProgramSignal) { loop.quit(); });
+    StoredSettings settings(console, desktop);
+    LiveTrackpad& trackpad = desktop.trackpad();
+    TrackpadContactProviding& contacts = trackpad.contacts();
+    trackpad.choose(device);
     std::function<void(PadEvent)> write;  // set before the loop runs
-    provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
-        loop.post([&write, frame, received = clock.uptime()] {
-            write({frame.timestamp, PadFrame{frame.samples, received}});
-        });
-    });
-    provider.setPointerHandler([&](const PadEvent& event) { write(event); });
-    provider.setStatusHandler([&] {
-        console.err << (provider.status() == TrackpadContactProviderStatus::listening()
-                            ? "Recording " + printable(provider.state().name) + " again."
-                            : printable(provider.status().message) + " Recording goes on when there is one.")
+    trackpad.watch([&write](const PadEvent& event) { write(event); });
+    trackpad.onStatusChange([&] {
+        console.err << (contacts.status() == TrackpadContactProviderStatus::listening()
+                            ? "Recording " + printable(trackpad.identity().name) + " again."
+                            : printable(contacts.status().message) + " Recording goes on when there is one.")
                     << '\n';
     });
-    provider.start();
-    if (provider.status().kind == TrackpadContactProviderStatus::Kind::unavailable)
-        return console.fail(printable(provider.status().message));
+    contacts.start();
+    if (contacts.status().kind == TrackpadContactProviderStatus::Kind::unavailable)
+        return console.fail(printable(contacts.status().message));
 
     std::unique_ptr<OutputFile> file;
     if (output != "-") {
@@ -62,7 +53,7 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
     RecordingWriter writer(stream, RecordingWriter::Flush::everyLine);
     std::size_t events = 0;
     Seconds last = 0;
-    // One whole line at a time reaches the file, so that whatever ends us leaves a valid recording.
+    // The file gets one whole line at a time, so that it is a valid recording however we end.
     write = [&](PadEvent event) {
         last = event.time = std::max(last, event.time);
         if (writer.write(event))
@@ -70,7 +61,7 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
         if (!stream)
             loop.quit();
     };
-    const RecordingHeader header{provider.state().name, settingsToRecord(settings.defaults())};
+    const RecordingHeader header{trackpad.identity().name, settingsToRecord(settings.defaults())};
     Outcome begun = writer.writeHeader(header);
     if (begun && file)
         begun = file->commit();
@@ -79,7 +70,7 @@ ExitStatus record(const Console& console, const std::filesystem::path& defaults,
     if (console.errIsTerminal)
         console.err << "Recording " << printable(header.device) << ". Ctrl-C ends.\n";
     loop.run();
-    provider.stop();
+    contacts.stop();
     if (const Outcome written = file ? file->commit() : success(); !written)
         return console.fail(written.error().message);
     if (!stream)

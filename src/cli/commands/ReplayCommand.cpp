@@ -1,20 +1,18 @@
-#include "cli/commands/ReplayCommand.h"
+#include "cli/commands/Commands.h"
 
+#include <cerrno>
 #include <utility>
 
-#include "cli/ActionPerformer.h"
+#include "app/OutputFile.h"
+#include "app/RulePerformer.h"
 #include "cli/GestureReport.h"
-#include "cli/OutputFile.h"
 #include "cli/PacedPlayer.h"
 #include "cli/RecordingFile.h"
-#include "cli/RuleFile.h"
 #include "cli/StoredSettings.h"
 #include "cli/terminal/ProgressLine.h"
 #include "input/recording/RecordingWriter.h"
-#include "platform/linux/settings/LinuxActionSettings.h"
-#include "rules/RuleStore.h"
 #include "rules/ShellCommandSettings.h"
-#include "support/SteadyClock.h"
+#include "support/SystemError.h"
 
 namespace kinesta {
 namespace {
@@ -24,19 +22,17 @@ struct RulesInForce {
     ShellCommands shellCommands = ShellCommands::forbidden;
 };
 
-Result<RulesInForce> rulesInForce(const Console& console, const std::filesystem::path& defaults,
-                                  const ReplayRequest& request, ExitStatus& status) {
+/// Those of the file that the request names, else the stored ones.
+Result<RulesInForce> rulesInForce(const Console& console, const ReplayRequest& request, StoredSettings* settings) {
     if (!request.rules.empty()) {
         auto rules = readRuleFile(request.rules, console.in);
         if (!rules)
             return rules.error();
         return RulesInForce{std::move(*rules), request.shellCommands};
     }
-    StoredSettings settings(console, defaults);
-    const RuleStore store(settings.defaults());
-    settings.check(store);
-    status = settings.status();
-    return RulesInForce{store.rules().value(), ShellCommandSettings::isEnabled(settings.defaults())
+    const RuleStore store(settings->defaults());
+    settings->check(store);
+    return RulesInForce{store.rules().value(), ShellCommandSettings::isEnabled(settings->defaults())
                                                    ? ShellCommands::allowed
                                                    : ShellCommands::forbidden};
 }
@@ -56,52 +52,45 @@ std::optional<Error> playAtOnce(const Console& console, RecordingFile& file, Rep
     return std::nullopt;
 }
 
-std::optional<Error> playInRealTime(RecordingFile& file, ReplaySession& session) {
-    RunLoop loop;
-    const SteadyClock clock;
+std::optional<Error> playInRealTime(Desktop& desktop, RecordingFile& file, ReplaySession& session) {
     std::optional<Error> error;
     PacedPlayer player(
-        loop, clock, file.reader(), session, [](const RecordingEvent&) {},
+        desktop.mainLoop(), desktop.clock(), file.reader(), session, [](const RecordingEvent&) {},
         [&](std::optional<Error> problem) {
             error = std::move(problem);
-            loop.quit();
+            desktop.mainLoop().quit();
         });
     player.start();
-    loop.run();
+    desktop.mainLoop().run();
     return error;
 }
 
 }  // namespace
 
-ExitStatus replay(const Console& console, const std::filesystem::path& defaults, const ReplayRequest& request) {
+ExitStatus replay(const Console& console, Desktop& desktop, const ReplayRequest& request) {
     if (request.recording == "-" && request.rules == "-")
         return console.fail("The recording and the rules cannot both come from standard input.");
-    ExitStatus status = ExitStatus::success;
-    auto inForce = rulesInForce(console, defaults, request, status);
+    std::optional<StoredSettings> settings;
+    if (request.rules.empty() || request.performing == Performing::performed)
+        settings.emplace(console, desktop);
+    auto inForce = rulesInForce(console, request, settings ? &*settings : nullptr);
     if (!inForce)
         return console.fail(inForce.error().message);
+    ExitStatus status = request.rules.empty() ? settings->status() : ExitStatus::success;
     const auto file = RecordingFile::open(console, request.recording, request.device);
     if (!file)
         return console.fail(file.error().message);
 
-    // What the executor asks is what the rules were chosen by: the switch of the settings, or that of the arguments.
-    InMemoryUserDefaults performed;
-    {
-        StoredSettings settings(console, defaults);
-        for (const std::string_view key : {LinuxActionSettings::kCommandKey, LinuxActionSettings::kInputRoute})
-            if (const auto value = settings.defaults().string(key))
-                performed.setString(key, *value);
-    }
-    performed.setBoolean(ShellCommandSettings::enabledKey, inForce->shellCommands == ShellCommands::allowed);
-    std::optional<ActionPerformer> performer;
+    InMemoryUserDefaults permissions;
+    permissions.setBoolean(ShellCommandSettings::enabledKey, inForce->shellCommands == ShellCommands::allowed);
+    std::optional<RulePerformer> performer;
     if (request.performing == Performing::performed) {
-        performer.emplace(console, performed, defaults);
+        performer.emplace(desktop, permissions, [&] { return settings->disableAllRules(); });
         performer->prepareToPost();
     }
     const auto perform = [&](const GestureRule& rule, const DetectedGesture& gesture) {
-        const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture);
-        const auto report = performer->perform(rule, slide ? slide->steps : 0);
-        if (report.outcome == ActionPerformer::Outcome::failed)
+        const auto report = performer->perform(rule, adjustmentSteps(gesture));
+        if (report.outcome == RulePerformer::Outcome::failed)
             status = console.fail(ruleInWords(rule) + ": " + report.why);
         else if (rule.action.kind == ActionKind::disableAllRules)
             for (GestureRule& each : inForce->rules)
@@ -115,14 +104,14 @@ ExitStatus replay(const Console& console, const std::filesystem::path& defaults,
         console.out << (request.form == OutputForm::json ? gestureAsJson(time, gesture, rule)
                                                          : gestureForPeople(console, time, gesture, rule))
                     << '\n';
-        // Someone who watches, or reads through a pipe as it happens, wants each line when it is true.
+        // A person who watches, and a program that reads along in real time, want each line at once.
         if (request.pace == Pace::realTime || console.outIsTerminal)
             console.out.flush();
         if (performer && rule)
             perform(*rule, gesture);
     });
-    const auto error =
-        request.pace == Pace::realTime ? playInRealTime(**file, session) : playAtOnce(console, **file, session);
+    const auto error = request.pace == Pace::realTime ? playInRealTime(desktop, **file, session)
+                                                      : playAtOnce(console, **file, session);
     if (const std::string problems = performer ? performer->finish() : ""; !problems.empty())
         status = console.fail(problems);
     if (error)
@@ -144,11 +133,19 @@ ExitStatus convert(const Console& console, const std::string& recording, const s
             return console.fail(created.error().message);
         target = std::move(*created);
     }
+    std::ostream& stream = target ? target->stream() : console.out;
+    const auto fail = [&](const Error& refused) {
+        const int reason = errno;
+        if (stream)
+            return console.fail(refused.message);
+        return console.fail(target ? target->commit().error().message
+                                   : "standard output: writing failed: " + systemErrorText(reason));
+    };
     std::size_t events = 0;
+    RecordingWriter writer(stream);
+    if (const Outcome written = writer.writeHeader((*file)->reader().header()); !written)
+        return fail(written.error());
     {
-        RecordingWriter writer(target ? target->stream() : console.out);
-        if (const Outcome written = writer.writeHeader((*file)->reader().header()); !written)
-            return console.fail(written.error().message);
         ProgressLine progress(console, "Converting");
         for (;;) {
             const auto next = (*file)->reader().next();
@@ -157,7 +154,7 @@ ExitStatus convert(const Console& console, const std::string& recording, const s
             if (!*next)
                 break;
             if (const Outcome written = writer.write(**next); !written)
-                return console.fail(written.error().message);
+                return fail(written.error());
             ++events;
             progress.step([&] { return (*file)->progress(); });
         }

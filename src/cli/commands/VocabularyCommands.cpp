@@ -1,4 +1,4 @@
-#include "cli/commands/VocabularyCommands.h"
+#include "cli/commands/Commands.h"
 
 #include "cli/terminal/TextTable.h"
 #include "rules/ActionKind.h"

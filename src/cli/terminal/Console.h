@@ -9,10 +9,10 @@ namespace kinesta {
 /// Exit statuses of every subcommand.
 enum class ExitStatus { success = 0, badInput = 1, badUsage = 2 };
 
-/// Whom a subcommand writes for: people, or programs that read JSON and nothing else.
+/// For whom a subcommand writes: people, or programs that read nothing but JSON.
 enum class OutputForm { forPeople, json };
 
-/// Where a subcommand reads and writes, and what may be done there.
+/// The standard streams of a subcommand and their capabilities.
 struct Console {
     std::istream& in;
     std::ostream& out;
@@ -31,7 +31,7 @@ struct Console {
     std::string warning(std::string_view text) const { return styled("33", text); }
     std::string accent(std::string_view text) const { return styled("36", text); }
 
-    /// Writes one line to the error stream and says that the input was bad.
+    /// Writes one line to the error stream and returns badInput.
     ExitStatus fail(std::string_view message) const {
         out.flush();
         err << message << '\n';

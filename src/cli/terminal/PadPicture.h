@@ -11,20 +11,20 @@
 
 namespace kinesta {
 
-/// A picture of the pad in characters: each contact as a dot with the trail of where it came from, one colour a
-/// finger, drawn with Braille patterns (eight dots a character).
+/// A picture of the pad in characters: each contact as a dot with its trail, one colour a finger, drawn with Braille
+/// patterns (eight dots a character).
 class PadPicture {
   public:
     /// `columns` and `rows` are the size of the pad without its frame, in characters.
     PadPicture(int columns, int rows) : m_columns(columns), m_rows(rows) {}
 
-    /// Takes the contacts of a frame at `time`; trails are as old as their points.
+    /// Takes the contacts of a frame at `time`.
     void show(const TouchSamples& samples, Seconds time);
 
     /// A physical press, shown by a heavy frame.
     void setPressed(bool isPressed) { m_isPressed = isPressed; }
 
-    /// Lifts everything and forgets the trails.
+    /// Removes all contacts and trails.
     void clear();
 
     /// The picture as lines of equal width, frame included, coloured with terminal escapes.

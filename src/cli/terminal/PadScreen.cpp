@@ -22,7 +22,10 @@ bool PadScreen::fits(const Console& console) {
            console.rows >= kPictureRows + kOtherRows;
 }
 
-PadScreen::PadScreen(const Console& console) : m_console(console), m_picture(kPictureColumns, kPictureRows) {}
+PadScreen::PadScreen(const Console& console, Desktop& desktop)
+    : m_console(console), m_desktop(desktop), m_picture(kPictureColumns, kPictureRows) {
+    m_desktop.takeTerminal();
+}
 
 void PadScreen::setTitle(std::string title, std::string detail) {
     m_title = std::move(title);
@@ -34,7 +37,7 @@ void PadScreen::setTitle(std::string title, std::string detail) {
 
 void PadScreen::show(const PadEvent& event) {
     m_now = event.time;
-    // Movements are drawn now and then. What comes and goes is drawn at once: nothing may follow for a long time.
+    // Movements are drawn now and then. Landing and lifting are drawn at once: the next event may be far away.
     bool isToBeDrawn = m_now - m_drawnAt >= kDrawingInterval || m_now < m_drawnAt;
     if (const auto* frame = std::get_if<PadFrame>(&event.content)) {
         isToBeDrawn |= frame->samples.size() != m_contactCount;
@@ -49,17 +52,17 @@ void PadScreen::show(const PadEvent& event) {
 }
 
 void PadScreen::tell(std::string gesture, std::string consequence) {
-    // A slide tells itself many times: one line that stays.
-    if (!m_told.empty() && m_told.front().gesture == gesture)
-        m_told.pop_front();
-    m_told.push_front({std::move(gesture), std::move(consequence)});
-    if (m_told.size() > kRemembered)
-        m_told.pop_back();
+    // A slide reports many steps; it gets one line.
+    if (!m_gestures.empty() && m_gestures.front().gesture == gesture)
+        m_gestures.pop_front();
+    m_gestures.push_front({std::move(gesture), std::move(consequence)});
+    if (m_gestures.size() > kRemembered)
+        m_gestures.pop_back();
     draw();
 }
 
 void PadScreen::stopUntilContinued() {
-    m_terminal.stopUntilContinued();
+    m_desktop.stopUntilContinued();
     draw();
 }
 
@@ -78,14 +81,14 @@ void PadScreen::draw() {
         put(line);
     put("");
     for (std::size_t i = 0; i < kRemembered; ++i) {
-        if (i >= m_told.size()) {
+        if (i >= m_gestures.size()) {
             put(i == 0 ? m_console.dim("Waiting for a gesture…") : "");
             continue;
         }
-        const auto& told = m_told[i];
-        const std::string gesture = fitted(told.gesture, width);
+        const auto& shown = m_gestures[i];
+        const std::string gesture = fitted(shown.gesture, width);
         const std::size_t rest = width - std::min(width, displayWidth(gesture) + 5);
-        const std::string consequence = "  →  " + fitted(told.consequence, rest);
+        const std::string consequence = "  →  " + fitted(shown.consequence, rest);
         put(i == 0 ? m_console.bold(gesture) + m_console.good(consequence) : m_console.dim(gesture + consequence));
     }
     screen += "\x1b[J";

@@ -4,35 +4,38 @@
 #include <optional>
 #include <string>
 
+#include "app/Desktop.h"
 #include "cli/terminal/Console.h"
 #include "cli/terminal/PadPicture.h"
 #include "input/PadEvent.h"
-#include "platform/linux/process/Terminal.h"
 
 namespace kinesta {
 
-/// The whole terminal as a window on the pad: a title, the picture, what was recognized last, and what was before.
-/// Holds the terminal for as long as it lives.
+/// The whole terminal as a window on the pad: a title, the picture, and the last gestures. Takes the terminal while it
+/// lives.
 class PadScreen {
   public:
     /// Whether the terminal is large enough for it.
     static bool fits(const Console& console);
 
-    explicit PadScreen(const Console& console);
+    PadScreen(const Console& console, Desktop& desktop);
+    ~PadScreen() { m_desktop.giveTerminalBack(); }
+    PadScreen(const PadScreen&) = delete;
+    PadScreen& operator=(const PadScreen&) = delete;
 
     void setTitle(std::string title, std::string detail);
-    /// Takes a frame or a press and draws; a mere movement only if the last drawing was more than a moment ago.
+    /// Takes a frame or a press and draws. Draws a mere movement only if the last drawing was more than a moment ago.
     void show(const PadEvent& event);
-    /// Tells a gesture and what comes of it, both as they are shown.
+    /// Shows a gesture and its consequence.
     void tell(std::string gesture, std::string consequence);
-    /// Draws what there is.
+
     void draw();
     /// Stops the program, as Ctrl-Z asks for, with the terminal as it was before; draws again when it goes on.
     void stopUntilContinued();
 
   private:
     const Console& m_console;
-    TerminalTakeover m_terminal;
+    Desktop& m_desktop;
     PadPicture m_picture;
     std::string m_title;
     std::string m_detail;
@@ -40,11 +43,11 @@ class PadScreen {
     Seconds m_drawnAt = -1e300;
     std::size_t m_contactCount = 0;
 
-    struct Told {
+    struct ShownGesture {
         std::string gesture;
         std::string consequence;
     };
-    std::deque<Told> m_told;
+    std::deque<ShownGesture> m_gestures;
 };
 
 }  // namespace kinesta

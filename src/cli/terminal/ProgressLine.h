@@ -8,8 +8,8 @@
 
 namespace kinesta {
 
-/// One line on the error stream that tells how far long work has come; only on a terminal, only once the work has
-/// taken half a second, and gone when it ends.
+/// One line on the error stream with the progress of long work. Shown only on a terminal and only after half a second,
+/// and removed at the end.
 class ProgressLine {
   public:
     ProgressLine(const Console& console, std::string label);
@@ -17,7 +17,7 @@ class ProgressLine {
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
 
-    /// To be called once a step; looks at the clock and asks `progress` (0 to 1, if known) only now and then.
+    /// To be called at each step. Looks at the clock and asks `progress` (0 to 1, if known) only now and then.
     void step(const std::function<std::optional<double>()>& progress);
 
   private:

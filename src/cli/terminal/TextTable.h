@@ -16,7 +16,7 @@ std::size_t displayWidth(std::string_view text);
 std::string fitted(std::string_view text, std::size_t width);
 
 /// A table for people: aligned columns under a headline, cut to the terminal's width at the last column. Control
-/// characters of foreign text are shown as "·", so that no text can steer the terminal.
+/// characters of foreign text are shown as "·", so that they cannot control the terminal.
 class TextTable {
   public:
     explicit TextTable(std::vector<std::string> headline) : m_rows{std::move(headline)} {}

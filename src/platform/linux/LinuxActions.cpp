@@ -33,13 +33,6 @@ namespace {
 /// How long desktops take to notice a new input device, at most.
 constexpr std::chrono::seconds kNoticingDevice{1};
 
-/// There is no overlay without a window system's help; what ran is in the log.
-class NoCue final : public ActionCuePresenting {
-  public:
-    void show(const GestureAction& /*action*/, std::int64_t /*adjustmentSteps*/,
-              const std::optional<std::string>& /*message*/) override {}
-};
-
 }  // namespace
 
 struct LinuxActions::Parts {
@@ -83,22 +76,23 @@ struct LinuxActions::Parts {
     LinuxSystemVersion systemVersion;
     PosixHomeFolders homeFolders;
     InProcessNotifications notifications;
-    NoCue cue;
 };
 
 LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log, Output output)
-    : m_parts(std::make_unique<Parts>(clock, defaults, log, output)) {
-    // The layout is read now, not at the first stroke. Where keys take another way, to ask XWayland is to start it.
+    : m_parts(std::make_unique<Parts>(clock, defaults, log, output)) {}
+
+LinuxActions::~LinuxActions() = default;
+
+void LinuxActions::prepareToPost() {
+    // Where keys take another way, to ask XWayland is to start it.
     if (!m_parts->poster.usesVirtualDevice())
         m_parts->layout.charactersWithoutModifiers();
 }
 
-LinuxActions::~LinuxActions() = default;
-
-ActionPorts LinuxActions::ports() {
+ActionPorts LinuxActions::ports(const UserDefaults& settings, ActionCuePresenting& cue) {
     Parts& p = *m_parts;
-    return {p.clock,     p.defaults, p.systemVersion, p.homeFolders, p.permission, p.events,        p.layout,
-            p.workspace, p.launcher, p.accessibility, p.ownWindows,  p.ownMenus,   p.notifications, p.cue};
+    return {p.clock,     settings,   p.systemVersion, p.homeFolders, p.permission, p.events,        p.layout,
+            p.workspace, p.launcher, p.accessibility, p.ownWindows,  p.ownMenus,   p.notifications, cue};
 }
 
 InProcessNotifications& LinuxActions::notifications() { return m_parts->notifications; }

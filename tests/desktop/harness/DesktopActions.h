@@ -11,6 +11,7 @@
 #include "actions/ActionExecutor.h"
 #include "actions/WindowCloseExecutor.h"
 #include "actions/WindowTilingExecutor.h"
+#include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxActions.h"
 #include "support/InMemoryUserDefaults.h"
 #include "support/SteadyClock.h"
@@ -45,7 +46,9 @@ class DesktopActions {
     };
 
   public:
-    std::optional<ProcessIdentifier> frontmost() { return m_actions.ports().workspace.frontmostApplication(); }
+    DesktopActions() { m_actions.prepareToPost(); }
+
+    std::optional<ProcessIdentifier> frontmost() { return ports().workspace.frontmostApplication(); }
 
     /// Whether the action was carried out; `meanwhile` happens before the window manager is asked.
     bool closes(std::function<void()> meanwhile = nullptr) {
@@ -76,7 +79,7 @@ class DesktopActions {
         events.probePointerLocation(nullptr);
     }
 
-    ActionPorts ports() { return m_actions.ports(); }
+    ActionPorts ports() { return m_actions.ports(m_defaults, m_cue); }
     DesktopSession session() { return m_actions.session(); }
     bool works(DesktopCapability capability) { return session().finding(capability).works; }
     std::string lastMessage() {
@@ -103,8 +106,9 @@ class DesktopActions {
                                const std::lock_guard lock(m_mutex);
                                m_lastMessage = line;
                            }};
+    NoActionCue m_cue;
     GrantedPermission m_permission;
-    InterruptedWorkspace m_workspace{m_actions.ports().workspace};
+    InterruptedWorkspace m_workspace{ports().workspace};
 };
 
 }  // namespace kinesta::testing

@@ -1,28 +1,13 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/DesktopFindings.h"
 #include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/settings/LinuxActionSettings.h"
 
 namespace kinesta {
-
-/// What a session may or may not let us do.
-enum class DesktopCapability { sendInput, keyboardLayout, windows, open, notify };
-
-/// One thing that works or not, in plain words.
-struct DesktopFinding {
-    DesktopCapability capability;
-    /// "Sending keys and clicks"
-    std::string what;
-    bool works = false;
-    /// How it works, or what stands in the way: one or two sentences.
-    std::string why;
-    /// What the person can do about it; empty if nothing need be done.
-    std::string remedy;
-};
 
 /// What kind of session this is and what that means for actions.
 class DesktopSession {

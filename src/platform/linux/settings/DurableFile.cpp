@@ -10,7 +10,7 @@
 #include <chrono>
 #include <climits>
 
-#include "platform/linux/process/SystemError.h"
+#include "support/SystemError.h"
 
 namespace kinesta {
 namespace {

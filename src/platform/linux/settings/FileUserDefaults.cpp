@@ -39,7 +39,8 @@ std::string FileUserDefaults::defaultPath() { return configurationFolder() + "/k
 
 void FileUserDefaults::didChange(std::string_view key) {
     m_unsaved.emplace(key);
-    settle(save(), "Changed settings could not be stored and last only until Kinesta quits");
+    m_lastSaving = save();
+    settle(m_lastSaving, "Changed settings could not be stored and last only until Kinesta quits");
 }
 
 Outcome FileUserDefaults::load() {

@@ -32,6 +32,9 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     /// Whether changes can be stored, as far as that can be known before one is: creates the folder and locks the file.
     Outcome checkSaving() const;
 
+    /// Whether the last change was stored, and why not.
+    const Outcome& lastSaving() const { return m_lastSaving; }
+
     /// Where a person's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is
     /// not set or not absolute.
     static std::string defaultPath();
@@ -52,6 +55,7 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     std::optional<std::string> m_content;          // of the file when it last matched the values
     std::set<std::string, std::less<>> m_unsaved;  // keys changed since the last successful save
     std::string m_lastProblem;
+    Outcome m_lastSaving = success();
 };
 
 }  // namespace kinesta

@@ -10,8 +10,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/linux/process/CurrentDesktop.h"
 #include "platform/linux/process/UserDatabase.h"
-#include "platform/linux/session/CurrentDesktop.h"
 #include "platform/linux/touchpad/DconfDatabase.h"
 
 namespace kinesta {

@@ -1,4 +1,4 @@
-#include "cli/LogLines.h"
+#include "cli/terminal/LogLines.h"
 
 #include <array>
 #include <chrono>

@@ -11,8 +11,8 @@
 
 namespace kinesta {
 
-/// A file that a subcommand writes: what was there under its name stays until all is written. What is no regular
-/// file, such as a pipe or a device, is written to as it goes.
+/// A file that replaces an older one of its name only once it is complete. Pipes, devices and the like are written
+/// directly.
 class OutputFile {
   public:
     static Result<std::unique_ptr<OutputFile>> create(const std::string& file);
@@ -22,13 +22,13 @@ class OutputFile {
 
     std::ostream& stream() { return m_stream; }
 
-    /// Sees to it that all written so far is in the file, and puts the file in its place. More may be written.
+    /// Flushes the content and moves the file to its place. More may be written afterwards.
     Outcome commit();
 
   private:
     OutputFile(std::filesystem::path target, std::filesystem::path written);
 
-    /// Keeps why writing failed, which streams do not tell.
+    /// Remembers why writing failed, which streams do not report.
     class Buffer final : public std::filebuf {
       public:
         /// errno of the first failure; 0 if there was none.
@@ -51,7 +51,7 @@ class OutputFile {
     std::ostream m_stream{&m_buffer};
 };
 
-/// The same for a content that is there already.
+/// Writes a whole file in the same way.
 Outcome writeOutputFile(const std::string& file, std::string_view content);
 
 }  // namespace kinesta

@@ -1,9 +1,9 @@
-#include "cli/OutputFile.h"
+#include "app/OutputFile.h"
 
 #include <cerrno>
 #include <system_error>
 
-#include "platform/linux/process/SystemError.h"
+#include "support/SystemError.h"
 
 namespace kinesta {
 namespace {

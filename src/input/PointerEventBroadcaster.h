@@ -3,7 +3,7 @@
 #include <map>
 
 #include "input/PadEvent.h"
-#include "recognition/PointerEventMonitoring.h"
+#include "input/PointerEventMonitoring.h"
 
 namespace kinesta {
 

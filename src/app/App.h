@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+
+#include "app/GestureDispatcher.h"
+#include "app/LiveRecognition.h"
+
+namespace kinesta {
+
+/// The application without its face: from the trackpad to the actions of the stored rules. The daemon adds a log, the
+/// desktop application a window. Main thread only.
+class App {
+  public:
+    /// `tell` receives every problem with settings, rules and actions, as one sentence. The desktop must outlive
+    /// this.
+    App(Desktop& desktop, Desktop::Tell tell);
+
+    /// Called when an action asks to show or hide the configuration window.
+    std::function<void()> onToggleConfigurationWindow;
+    /// Called when an action has switched all rules off.
+    std::function<void()> onAllRulesDisabled;
+
+    RuleStore& store() { return m_store; }
+    GestureDispatcher& dispatcher() { return m_dispatcher; }
+    LiveRecognition& recognition() { return m_recognition; }
+
+    void start();
+
+    /// Applies rules and settings again after another process has changed them.
+    void reload();
+
+  private:
+    void tellUnreadableRules() const;
+
+    Desktop& m_desktop;
+    Desktop::Tell m_tell;
+    RuleStore m_store;
+    ActionExecutor m_executor;
+    GestureDispatcher m_dispatcher;
+    LiveRecognition m_recognition;
+    Subscription m_requests;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "actions/ActionPorts.h"
+#include "app/DesktopFindings.h"
+#include "app/LiveTrackpad.h"
+#include "app/WindowActionOutcomes.h"
+#include "rules/SystemGestureWarningChecker.h"
+#include "support/MainLoop.h"
+#include "support/Result.h"
+
+namespace kinesta {
+
+/// What the terminal or the system asks of the program: to end, to stop (Ctrl-Z), to read its settings again.
+enum class ProgramSignal { end, stop, reload };
+
+/// Whether it is certain that no other process of this person acts on gestures.
+enum class SingleInstanceClaim { certain, uncertain };
+
+/// Where the output of programs goes that actions start: to nowhere, or to our own if that is a log file or a journal.
+enum class ProgramOutput { nowhere, log };
+
+/// Everything that one machine offers. Its parts are made at their first use. Main thread only.
+class Desktop {
+  public:
+    /// Receives one sentence for the person.
+    using Tell = std::function<void(const std::string&)>;
+
+    virtual ~Desktop() = default;
+
+    // The process and its terminal
+
+    virtual MainLoop& mainLoop() = 0;
+    virtual const Clock& clock() const = 0;
+    /// Calls `handler` on the main thread for each of these signals, which then do nothing else. At most once, and
+    /// before any other part is used.
+    virtual void catchSignals(const std::vector<ProgramSignal>& signals,
+                              std::function<void(ProgramSignal)> handler) = 0;
+    /// Lets writing to a closed pipe fail instead of ending the program.
+    virtual void surviveClosedPipes() = 0;
+    /// The error names the other process that acts on gestures. Holds until the process ends.
+    virtual Result<SingleInstanceClaim> claimSingleInstance() = 0;
+    /// Hides the cursor and shows the terminal's second screen until giveTerminalBack() or the end of the program.
+    virtual void takeTerminal() = 0;
+    virtual void giveTerminalBack() = 0;
+    /// Stops the program as Ctrl-Z does, with the terminal given back meanwhile, and returns when it goes on.
+    virtual void stopUntilContinued() = 0;
+    /// The bundled examples; the folder may be missing.
+    virtual std::filesystem::path examplesFolder() const = 0;
+    /// The running system, as far as it has gestures of its own.
+    virtual GestureSystem gestureSystem() const = 0;
+
+    // The settings
+
+    /// Tells why settings cannot be read or stored. To be set before defaults() is first used.
+    virtual void onSettingsProblem(Tell tell) = 0;
+    virtual UserDefaults& defaults() = 0;
+    /// Whether another process has changed a value, which is then taken over.
+    virtual bool reloadDefaults() = 0;
+    /// Whether changes can be stored, as far as that is known before one is made.
+    virtual Outcome checkSaving() = 0;
+    /// Whether the last change was stored, and why not.
+    virtual Outcome lastSaving() = 0;
+    /// Calls `onChange` when anyone changes the stored settings. False if the system does not offer that.
+    virtual bool watchDefaults(std::function<void()> onChange) = 0;
+    /// How a person changes a setting without a window: the end of a sentence, from "set" on.
+    virtual std::string howToSet(std::string_view key, const std::string& value) const = 0;
+    /// The folder of the settings, made if need be, for files that belong to them.
+    virtual Result<std::filesystem::path> settingsFolder() = 0;
+
+    // The trackpad
+
+    virtual LiveTrackpad& trackpad() = 0;
+    /// All trackpads, each opened for a moment.
+    virtual ConnectedTrackpads connectedTrackpads() = 0;
+
+    // Actions
+
+    /// `tell` receives why something could not be done, also on other threads. To be set before actionPorts() is first
+    /// used.
+    virtual void onActionProblem(Tell tell, ProgramOutput output) = 0;
+    /// Valid until finishActions(). Shell commands are permitted by `settings`.
+    virtual ActionPorts actionPorts(const UserDefaults& settings) = 0;
+    /// Gets ready to post keys, so that the first action does not wait for it.
+    virtual void prepareToPost() = 0;
+    virtual ApplicationNotifications& notifications() = 0;
+    virtual WindowActionOutcomes& windowOutcomes() = 0;
+    /// Waits until the desktop can have noticed a new virtual keyboard, or read its last keys: for a process that posts
+    /// at once, or ends right after. Returns at once where there is none.
+    virtual void letDesktopCatchUp() = 0;
+    /// Waits until everything that was asked for has been handed over. No action can run afterwards.
+    virtual void finishActions() = 0;
+
+    // What works here
+
+    /// One finding for each capability, in the order of the enumeration. May take seconds if services do not answer.
+    virtual std::vector<DesktopFinding> findings() = 0;
+    virtual const HomeFolders& homeFolders() const = 0;
+    /// Why the key with this virtual key code and these event flags cannot be posted.
+    virtual std::optional<Obstacle> obstacleToKey(std::uint16_t keyCode, std::uint64_t flags) = 0;
+    /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names. True for
+    /// keys that name no letter.
+    virtual bool typesLetterOf(std::uint16_t keyCode, const std::string& name) = 0;
+    /// Why the application at this absolute path, which exists, cannot be started.
+    virtual std::optional<Obstacle> obstacleToLaunching(const std::string& application) = 0;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/DesktopFindings.h"
+#include "input/PadEvent.h"
+#include "input/PointerEventMonitoring.h"
+#include "input/TrackpadContactProviding.h"
+
+namespace kinesta {
+
+/// The port to the trackpad that this machine reads: its contacts and its clicks, followed as it comes and goes. Main
+/// thread only, except for the frame handler of contacts().
+class LiveTrackpad {
+  public:
+    struct Identity {
+        std::string name;
+        std::string path;
+        bool canTellPressure = false;
+    };
+
+    virtual ~LiveTrackpad() = default;
+
+    virtual TrackpadContactProviding& contacts() = 0;
+    virtual PointerEventMonitoring& pointerEvents() = 0;
+
+    /// The pad that is read, while contacts() is listening.
+    virtual Identity identity() const = 0;
+
+    /// Reads the pad with this path or name; if empty, the one that the settings name now, else a built-in one, else
+    /// any.
+    virtual void choose(const std::string& wanted) = 0;
+
+    /// Calls `handler` when the status of contacts() has changed by itself. It may start and stop contacts().
+    virtual void onStatusChange(std::function<void()> handler) = 0;
+
+    /// Calls `watcher` on the main thread with every event of the pad, in addition to the frame handler that contacts()
+    /// has now. To be set before contacts() starts.
+    virtual void watch(std::function<void(const PadEvent&)> watcher) = 0;
+};
+
+/// A trackpad of this machine as a person may want to see it.
+struct ConnectedTrackpad {
+    struct Axes {
+        std::array<int, 2> x;
+        std::array<int, 2> y;
+        /// How many contacts have a place of their own in the driver's protocol.
+        int slotCount = 0;
+    };
+
+    std::string name;
+    std::string path;
+    bool isBuiltIn = false;
+    /// Whether it is the one that is read.
+    bool isChosen = false;
+    /// First and last value of each axis; absent if the pad may not be read.
+    std::optional<Axes> axes;
+    bool canTellPressure = false;
+    /// Whether the desktop may have it switched off without a way to find out.
+    bool mayBeOff = false;
+    /// How many fingers it reports at once; 0 if that is not known.
+    int fingers = 0;
+    /// Why it cannot be read and what to do, as a sentence; empty if it can.
+    std::string problem;
+};
+
+struct ConnectedTrackpads {
+    std::vector<ConnectedTrackpad> all;
+    /// Why none of them is chosen, if none is.
+    Obstacle whenNoneIsChosen;
+
+    /// The one that is read, or null.
+    const ConnectedTrackpad* chosen() const {
+        for (const ConnectedTrackpad& trackpad : all)
+            if (trackpad.isChosen)
+                return &trackpad;
+        return nullptr;
+    }
+};
+
+}  // namespace kinesta

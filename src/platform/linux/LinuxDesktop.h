@@ -1,0 +1,95 @@
+#pragma once
+
+#include <optional>
+
+#include "app/Desktop.h"
+#include "platform/linux/LinuxActions.h"
+#include "platform/linux/LinuxTrackpad.h"
+#include "platform/linux/process/PosixHomeFolders.h"
+#include "platform/linux/process/SignalListener.h"
+#include "platform/linux/process/SingleInstance.h"
+#include "platform/linux/process/Terminal.h"
+#include "platform/linux/settings/FileUserDefaults.h"
+#include "platform/linux/settings/FileWatcher.h"
+#include "support/SteadyClock.h"
+
+namespace kinesta {
+
+/// A Linux machine: its touchpad from the kernel, its settings in a file, its session over X, D-Bus and uinput.
+class LinuxDesktop final : public Desktop {
+  public:
+    struct Places {
+        /// The person's settings file.
+        std::filesystem::path settings;
+        /// The bundled examples.
+        std::filesystem::path examples;
+        GestureSystem gestureSystem = GestureSystem::none;
+
+        /// Those of the running session and program.
+        static Places current();
+    };
+
+    /// Main loop and cue must outlive this.
+    LinuxDesktop(MainLoop& mainLoop, ActionCuePresenting& cue, Places places)
+        : m_mainLoop(mainLoop), m_cue(cue), m_places(std::move(places)) {}
+
+    MainLoop& mainLoop() override { return m_mainLoop; }
+    const Clock& clock() const override { return m_clock; }
+    void catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) override;
+    void surviveClosedPipes() override;
+    Result<SingleInstanceClaim> claimSingleInstance() override;
+    void takeTerminal() override { m_terminal.emplace(); }
+    void giveTerminalBack() override { m_terminal.reset(); }
+    void stopUntilContinued() override;
+    std::filesystem::path examplesFolder() const override { return m_places.examples; }
+    GestureSystem gestureSystem() const override { return m_places.gestureSystem; }
+
+    void onSettingsProblem(Tell tell) override { m_onSettingsProblem = std::move(tell); }
+    UserDefaults& defaults() override { return fileDefaults(); }
+    bool reloadDefaults() override { return fileDefaults().reload(); }
+    Outcome checkSaving() override { return fileDefaults().checkSaving(); }
+    Outcome lastSaving() override { return fileDefaults().lastSaving(); }
+    bool watchDefaults(std::function<void()> onChange) override;
+    std::string howToSet(std::string_view key, const std::string& value) const override;
+    Result<std::filesystem::path> settingsFolder() override;
+
+    LiveTrackpad& trackpad() override;
+    ConnectedTrackpads connectedTrackpads() override;
+
+    void onActionProblem(Tell tell, ProgramOutput output) override;
+    ActionPorts actionPorts(const UserDefaults& settings) override { return actions().ports(settings, m_cue); }
+    void prepareToPost() override { actions().prepareToPost(); }
+    ApplicationNotifications& notifications() override { return actions().notifications(); }
+    WindowActionOutcomes& windowOutcomes() override { return actions().windowOutcomes(); }
+    void letDesktopCatchUp() override { actions().letDesktopCatchUp(); }
+    void finishActions() override { m_actions.reset(); }
+
+    std::vector<DesktopFinding> findings() override { return actions().session().findings(); }
+    const HomeFolders& homeFolders() const override { return m_homeFolders; }
+    std::optional<Obstacle> obstacleToKey(std::uint16_t keyCode, std::uint64_t flags) override;
+    bool typesLetterOf(std::uint16_t keyCode, const std::string& name) override;
+    std::optional<Obstacle> obstacleToLaunching(const std::string& application) override;
+
+  private:
+    FileUserDefaults& fileDefaults();
+    LinuxActions& actions();
+
+    MainLoop& m_mainLoop;
+    ActionCuePresenting& m_cue;
+    Places m_places;
+    SteadyClock m_clock;
+    PosixHomeFolders m_homeFolders;
+    Tell m_onSettingsProblem;
+    Tell m_onActionProblem;
+    ProgramOutput m_programOutput = ProgramOutput::nowhere;
+    // Made at their first use. Those that start threads follow the signals, which threads inherit.
+    std::optional<TerminalTakeover> m_terminal;
+    std::optional<SignalListener> m_signals;
+    std::optional<SingleInstance> m_instance;
+    std::optional<FileUserDefaults> m_defaults;
+    std::optional<LinuxActions> m_actions;
+    std::optional<LinuxTrackpad> m_trackpad;
+    std::optional<FileWatcher> m_watcher;
+};
+
+}  // namespace kinesta

@@ -1,0 +1,73 @@
+#include "platform/linux/LinuxTrackpad.h"
+
+#include <utility>
+
+#include "platform/linux/touchpad/TouchpadListing.h"
+
+namespace kinesta {
+namespace {
+
+std::string chosenIn(const UserDefaults& defaults) { return defaults.string(LinuxTrackpad::kSettingKey).value_or(""); }
+
+std::array<int, 2> range(const EvdevAxisRange& axis) { return {axis.minimum, axis.maximum}; }
+
+}  // namespace
+
+LinuxTrackpad::LinuxTrackpad(MainThread& mainThread, const Clock& clock, const UserDefaults& defaults)
+    : m_mainThread(mainThread),
+      m_clock(clock),
+      m_defaults(defaults),
+      m_provider(mainThread, {.device = chosenIn(defaults), .pressure = {}}) {
+    m_provider.setPointerHandler([this](const PadEvent& event) {
+        if (m_watcher)
+            m_watcher(event);
+        m_pointer.deliver(event);
+    });
+}
+
+LiveTrackpad::Identity LinuxTrackpad::identity() const {
+    const auto& state = m_provider.state();
+    return {state.name, state.path, state.canTellPressure};
+}
+
+void LinuxTrackpad::choose(const std::string& wanted) {
+    m_provider.setDevice(wanted.empty() ? chosenIn(m_defaults) : wanted);
+}
+
+void LinuxTrackpad::watch(std::function<void(const PadEvent&)> watcher) {
+    m_watcher = std::move(watcher);
+    // Frames arrive on the provider's thread, and each is posted to the main thread by itself.
+    m_provider.setFrameHandler([this, recognize = m_provider.frameHandler()](const TrackpadContactFrame& frame) {
+        if (recognize)
+            recognize(frame);
+        m_mainThread.post([this, frame, received = m_clock.uptime()] {
+            m_watcher({frame.timestamp, PadFrame{frame.samples, received}});
+        });
+    });
+}
+
+ConnectedTrackpads LinuxTrackpad::connected(const UserDefaults& defaults, const std::string& howToChoose) {
+    const std::string wanted = chosenIn(defaults);
+    ConnectedTrackpads trackpads;
+    for (ListedTouchpad& listed : listTouchpads(wanted)) {
+        ConnectedTrackpad& trackpad = trackpads.all.emplace_back();
+        trackpad.name = std::move(listed.candidate.name);
+        trackpad.path = std::move(listed.candidate.path);
+        trackpad.isBuiltIn = listed.candidate.isBuiltIn;
+        trackpad.isChosen = listed.isChosen;
+        if (listed.touchpad)
+            trackpad.axes = {range(listed.touchpad->x), range(listed.touchpad->y), listed.touchpad->slotCount};
+        trackpad.canTellPressure = listed.canTellPressure;
+        trackpad.mayBeOff = listed.mayBeOff;
+        trackpad.fingers = listed.fingers;
+        trackpad.problem = std::move(listed.problem);
+    }
+    if (trackpads.chosen() == nullptr)
+        trackpads.whenNoneIsChosen = {noTouchpadMessage(wanted),
+                                      trackpads.all.empty()
+                                          ? "Connect one; recognition starts by itself."
+                                          : "Choose one of those that kinesta devices shows: " + howToChoose};
+    return trackpads;
+}
+
+}  // namespace kinesta

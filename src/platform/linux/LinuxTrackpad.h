@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "app/LiveTrackpad.h"
+#include "input/PointerEventBroadcaster.h"
+#include "platform/linux/touchpad/EvdevContactProvider.h"
+#include "support/Clock.h"
+#include "support/UserDefaults.h"
+
+namespace kinesta {
+
+/// The touchpad that the kernel's input devices offer, with its own clicks as pointer events. Main thread only; what it
+/// is given must outlive it.
+class LinuxTrackpad final : public LiveTrackpad {
+  public:
+    /// The setting that names the touchpad to read, by path or name; absent or empty: a built-in one, else any.
+    static constexpr std::string_view kSettingKey = "linux.touchpad.v1";
+
+    LinuxTrackpad(MainThread& mainThread, const Clock& clock, const UserDefaults& defaults);
+
+    TrackpadContactProviding& contacts() override { return m_provider; }
+    PointerEventMonitoring& pointerEvents() override { return m_pointer; }
+    Identity identity() const override;
+    void choose(const std::string& wanted) override;
+    void onStatusChange(std::function<void()> handler) override { m_provider.setStatusHandler(std::move(handler)); }
+    void watch(std::function<void(const PadEvent&)> watcher) override;
+
+    /// All touchpads, each opened for a moment. `howToChoose` says how a person chooses another one.
+    static ConnectedTrackpads connected(const UserDefaults& defaults, const std::string& howToChoose);
+
+  private:
+    MainThread& m_mainThread;
+    const Clock& m_clock;
+    const UserDefaults& m_defaults;
+    PointerEventBroadcaster m_pointer;
+    std::function<void(const PadEvent&)> m_watcher;
+    EvdevContactProvider m_provider;
+};
+
+}  // namespace kinesta
