@@ -7,9 +7,9 @@
 
 #include "cli/CommandLine.h"
 #include "platform/linux/Examples.h"
+#include "platform/linux/process/CurrentDesktop.h"
 #include "platform/linux/process/SystemError.h"
 #include "platform/linux/process/Terminal.h"
-#include "platform/linux/session/CurrentDesktop.h"
 #include "platform/linux/settings/FileUserDefaults.h"
 
 namespace {

@@ -33,8 +33,8 @@ TEST(UinputInputPoster, PostsActionsAsAnyProgramSeesThem) {
                      "KEY_LEFTSHIFT up", "KEY_HOME down", "KEY_HOME up", "BTN_MIDDLE down", "BTN_MIDDLE up",
                      "KEY_VOLUMEDOWN down", "KEY_VOLUMEDOWN up"}));
     EXPECT_EQ(log, Lines{});
-    EXPECT_FALSE(poster.canPost(BTN_LEFT));
-    EXPECT_FALSE(poster.canPost(256));
+    EXPECT_FALSE(poster.modifiersFor(BTN_LEFT));
+    EXPECT_FALSE(poster.modifiersFor(256));
 }
 
 TEST(UinputInputPoster, SaysOnceThatItMayNotAndTriesAgain) {
@@ -44,7 +44,7 @@ TEST(UinputInputPoster, SaysOnceThatItMayNotAndTriesAgain) {
         const AsNobody nobody;
         poster.emplace([&](const std::string& line) { log.push_back(line); });
         EXPECT_FALSE(poster->isAvailable());
-        EXPECT_FALSE(poster->canPost(KEY_A));
+        EXPECT_FALSE(poster->modifiersFor(KEY_A));
         EXPECT_EQ(poster->pointerLocation(), std::nullopt);
     }
     ASSERT_EQ(log.size(), 1U);

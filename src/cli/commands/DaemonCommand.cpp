@@ -58,6 +58,7 @@ class Daemon {
     }
 
     ExitStatus run() {
+        m_actions.prepareToPost();
         m_statusSubscription = m_recognition.service().status().observe([this](const auto&) { tellStatus(); });
         m_recognition.start();
         tellRules();

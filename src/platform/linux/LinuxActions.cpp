@@ -66,7 +66,7 @@ struct LinuxActions::Parts {
     PosixProcessLauncher launcher;
     SessionInputPoster poster;
     PostingEventSynthesizer events;
-    EwmhDesktop desktop;
+    EwmhDesktop desktop{connection};
     WindowTiler tiler{desktop};
     AccessibilityBus programs{bus};
     WindowOutcomes outcomes{desktop, programs};
@@ -87,13 +87,15 @@ struct LinuxActions::Parts {
 };
 
 LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log, Output output)
-    : m_parts(std::make_unique<Parts>(clock, defaults, log, output)) {
-    // The layout is read now, not at the first stroke. Where keys take another way, to ask XWayland is to start it.
+    : m_parts(std::make_unique<Parts>(clock, defaults, log, output)) {}
+
+LinuxActions::~LinuxActions() = default;
+
+void LinuxActions::prepareToPost() {
+    // Where keys take another way, to ask XWayland is to start it.
     if (!m_parts->poster.usesVirtualDevice())
         m_parts->layout.charactersWithoutModifiers();
 }
-
-LinuxActions::~LinuxActions() = default;
 
 ActionPorts LinuxActions::ports() {
     Parts& p = *m_parts;
@@ -122,8 +124,9 @@ void LinuxActions::letDesktopCatchUp() {
 }
 
 DesktopSession LinuxActions::session() {
-    return m_parts->session(
-        DesktopFacts::probe(m_parts->connection, m_parts->desktop, m_parts->bus, UinputDevice::kPath));
+    auto facts = DesktopFacts::probe(m_parts->connection, m_parts->bus, UinputDevice::kPath);
+    m_parts->desktop.addTo(facts);
+    return m_parts->session(facts);
 }
 
 }  // namespace kinesta

@@ -20,9 +20,13 @@ class LinuxActions {
 
     using Output = PosixProcessLauncher::Output;
 
-    /// `output` is that of the programs that are started. Clock and defaults must outlive this.
+    /// Asks nothing of the desktop yet: an action waits only for what it needs. `output` is that of the programs that
+    /// are started. Clock and defaults must outlive this.
     LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log, Output output = Output::nowhere);
     ~LinuxActions();
+
+    /// Makes the virtual device or reads the layout now, so that the first stroke does not wait for it.
+    void prepareToPost();
 
     /// Valid as long as this lives.
     ActionPorts ports();

@@ -41,6 +41,10 @@ TestDesktop::~TestDesktop() {
     m_bus.reset();
 }
 
+void TestDesktop::freezeServer() const { m_server->signal(SIGSTOP); }
+
+void TestDesktop::thawServer() const { m_server->signal(SIGCONT); }
+
 void TestDesktop::startServer() {
     std::array<int, 2> ready{};
     require(pipe2(ready.data(), O_CLOEXEC) == 0, "no pipe");

@@ -52,6 +52,10 @@ class TestDesktop {
     /// Ends the X server, as a crash or a logout would; the connection here is lost with it.
     void stopServer();
 
+    /// Stops the X server from answering, and lets it answer again.
+    void freezeServer() const;
+    void thawServer() const;
+
     /// Starts an X server again, under a name of its own, which DISPLAY then tells.
     void startServer();
 

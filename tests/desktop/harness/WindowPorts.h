@@ -38,7 +38,8 @@ class WindowPorts {
     };
 
   public:
-    EwmhDesktop desktop;
+    X11Connection connection;
+    EwmhDesktop desktop{connection};
     WindowTiler tiler{desktop};
 
     bool closes(std::function<void()> meanwhile = nullptr) {

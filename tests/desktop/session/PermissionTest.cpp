@@ -12,6 +12,7 @@
 #include "platform/linux/process/FileDescriptor.h"
 #include "platform/linux/session/DesktopPermission.h"
 #include "platform/linux/session/DesktopSession.h"
+#include "platform/linux/windows/EwmhDesktop.h"
 
 namespace kinesta::testing {
 namespace {
@@ -98,16 +99,20 @@ TEST_F(Permission, DoesWithoutABusAndTakesUpWithTheNext) {
 TEST(DesktopFacts, AreWhatIsThere) {
     TestDesktop desktop({.hasWindowManager = true, .hasSessionBus = true});
     X11Connection connection;
-    EwmhDesktop windows;
+    EwmhDesktop windows(connection);
     MessageBus bus;
-    const auto probe = [&] { return DesktopFacts::probe(connection, windows, bus, "/dev/null"); };
+    const auto probe = [&] {
+        auto seen = DesktopFacts::probe(connection, bus, "/dev/null");
+        windows.addTo(seen);
+        return seen;
+    };
     DesktopFacts facts = probe();
     EXPECT_TRUE(facts.hasX && facts.hasXTest && facts.hasWindowManager && facts.hasSessionBus && facts.hasXdgOpen);
     EXPECT_FALSE(facts.hasWayland);
     EXPECT_EQ(facts.notifications, BusService::absent);
     EXPECT_EQ(facts.portal, BusService::absent);
     EXPECT_TRUE(facts.mayUseUinput) << "stands for a device that may be opened";
-    EXPECT_FALSE(DesktopFacts::probe(connection, windows, bus, "/nonexistent").mayUseUinput);
+    EXPECT_FALSE(DesktopFacts::probe(connection, bus, "/nonexistent").mayUseUinput);
     {
         const BusServices services;
         facts = probe();

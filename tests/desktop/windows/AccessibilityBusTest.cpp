@@ -75,7 +75,8 @@ TEST_F(AccessibilityBusTest, MakesASheetOfItForWhoeverWouldCloseTheWindow) {
     WindowWatch watch(desktop);
     ClientWindow client(desktop, watch, {100, 100, 300, 200});
     client.set("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(getpid())}).show();
-    EwmhDesktop windows;
+    X11Connection connection;
+    EwmhDesktop windows(connection);
     WindowTiler tiler(windows);
     WindowAccessibility accessibility(windows, tiler, bus);
     const auto sheets = [&] {

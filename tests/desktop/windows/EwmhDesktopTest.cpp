@@ -31,7 +31,8 @@ Seconds timeOf(const std::function<void()>& work) {
 TEST(EwmhDesktop, KnowsTheProcessInFront) {
     TestDesktop desktop({.hasWindowManager = true});
     WindowWatch watch(desktop);
-    EwmhDesktop ewmh;
+    X11Connection server;
+    EwmhDesktop ewmh(server);
     EXPECT_EQ(ewmh.frontmostApplication(), std::nullopt) << "an empty desktop";
     {
         const auto terminal = desktop.run({"xterm"});
@@ -75,7 +76,8 @@ TEST(EwmhDesktop, KnowsTheProcessInFront) {
 
 TEST(EwmhDesktop, KnowsTheMonitorsAndWhatTheyLeaveToWindows) {
     TestDesktop desktop({.hasWindowManager = true});
-    EwmhDesktop ewmh;
+    X11Connection server;
+    EwmhDesktop ewmh(server);
     const auto monitors = [&] {
         const auto snapshot = ewmh.snapshot(kPatience);
         return snapshot ? snapshot->monitors : std::vector<EwmhMonitor>{};
@@ -109,7 +111,7 @@ TEST(EwmhDesktop, LivesThroughWindowsThatVanish) {
     ports.desktop.setTilingRecord(before->id, std::array<std::uint32_t, 1>{1});
     ports.desktop.raise(before->id);
     ports.desktop.flush();
-    EXPECT_EQ(ports.desktop.tilingRecords({&before->id, 1})[0], std::nullopt);
+    EXPECT_EQ(ports.desktop.window(before->id).has_value(), false);
     EXPECT_TRUE(ports.desktop.close(before->id)) << "the window manager was asked";
     watch.pretendActive(before->id);
     EXPECT_EQ(ports.desktop.frontmostApplication(), std::nullopt);
@@ -119,10 +121,12 @@ TEST(EwmhDesktop, LivesThroughWindowsThatVanish) {
 }
 
 TEST(EwmhDesktop, RefusesWithoutAServerAndFindsTheNextOne) {
-    EwmhDesktop ewmh;
+    X11Connection server;
+    EwmhDesktop ewmh(server);
     EXPECT_FALSE(answers(ewmh));
     EXPECT_FALSE(ewmh.close(1));
-    EwmhDesktop nowhere(":54321");
+    X11Connection noConnection(":54321");
+    EwmhDesktop nowhere(noConnection);
     EXPECT_FALSE(answers(nowhere));
     EwmhWindow window;
     for (int i = 0; i < 2; ++i) {
@@ -148,10 +152,10 @@ TEST(EwmhDesktop, IsNotHeldUpByAServerThatHangs) {
     ClientWindow window(desktop, watch, {100, 100, 200, 100});
     window.show();
     ASSERT_TRUE(ports.desktop.activeWindow());
-    ucred server{};
-    socklen_t size = sizeof server;
-    ASSERT_EQ(getsockopt(xcb_get_file_descriptor(desktop.connection()), SOL_SOCKET, SO_PEERCRED, &server, &size), 0);
-    ASSERT_EQ(kill(server.pid, SIGSTOP), 0);
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    ASSERT_EQ(getsockopt(xcb_get_file_descriptor(desktop.connection()), SOL_SOCKET, SO_PEERCRED, &peer, &size), 0);
+    ASSERT_EQ(kill(peer.pid, SIGSTOP), 0);
     // What is in progress when it begins to hang waits once, and all that follows not at all.
     EXPECT_LT(timeOf([&] { EXPECT_FALSE(ports.closes()); }), 2 * EwmhDesktop::kTimeout);
     EXPECT_LT(timeOf([&] {
@@ -162,13 +166,15 @@ TEST(EwmhDesktop, IsNotHeldUpByAServerThatHangs) {
                   }
               }),
               1.0);
-    EwmhDesktop late;
+    X11Connection lateConnection;
+    EwmhDesktop late(lateConnection);
     EXPECT_LT(timeOf([&] { EXPECT_FALSE(answers(late, 0.1)); }), 0.3);
     {
-        EwmhDesktop forgotten;
+        X11Connection forgottenConnection;
+        EwmhDesktop forgotten(forgottenConnection);
         EXPECT_FALSE(answers(forgotten, 0));
     }
-    ASSERT_EQ(kill(server.pid, SIGCONT), 0);
+    ASSERT_EQ(kill(peer.pid, SIGCONT), 0);
     EXPECT_TRUE(eventually([&] { return ports.desktop.activeWindow().has_value(); }));
     EXPECT_TRUE(eventually([&] { return answers(late); }));
     EXPECT_TRUE(ports.closes());

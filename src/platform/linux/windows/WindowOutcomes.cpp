@@ -48,7 +48,7 @@ void WindowOutcomes::begin() {
 Outcome WindowOutcomes::settle(Seconds patience) {
     if (m_requests.empty())
         return Outcome::nothingAsked;
-    const auto deadline = xcbDeadlineIn(patience);
+    const auto deadline = deadlineIn(patience);
     Outcome outcome = outcomeNow();
     while (outcome != Outcome::done && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::sleep_for(kBetweenLooks);

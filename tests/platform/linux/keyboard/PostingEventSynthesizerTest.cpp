@@ -17,8 +17,9 @@ using Calls = std::vector<std::string>;
 class RecordingPoster final : public InputPoster {
   public:
     bool isAvailable() override { return works; }
-    bool canPost(std::uint16_t code) override { return works && code != missingKey; }
-    ModifierSituation modifiers() override { return situation; }
+    std::optional<ModifierSituation> modifiersFor(std::uint16_t code) override {
+        return works && code != missingKey ? std::optional(situation) : std::nullopt;
+    }
     std::optional<DesktopLocation> pointerLocation() override {
         return works ? std::optional(DesktopLocation{3, 4}) : std::nullopt;
     }

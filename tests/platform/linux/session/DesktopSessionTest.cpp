@@ -39,7 +39,7 @@ TEST(DesktopSession, ChoosesTheWayThatReachesEveryWindow) {
     const auto check = [](const char* what, const DesktopFacts& facts, Route wish, Kind kind, Route route, bool sends) {
         const DesktopSession session(facts, wish);
         EXPECT_EQ(session.kind(), kind) << what;
-        EXPECT_EQ(session.inputRoute(), route) << what;
+        EXPECT_EQ(facts.inputRoute(wish), route) << what;
         EXPECT_EQ(session.finding(Capability::sendInput).works, sends) << what;
     };
     check("X11", x11(), Route::automatic, Kind::x11, Route::xServer, true);
@@ -68,7 +68,6 @@ TEST(DesktopSession, SaysWhatToDoAboutAllThatDoesNotWork) {
                                  bit(5), bit(6),           service(7),       service(9)};
         for (const Route wish : {Route::automatic, Route::xServer, Route::uinput}) {
             const DesktopSession session(facts, wish);
-            EXPECT_NE(session.inputRoute(), Route::automatic);
             const auto findings = session.findings();
             ASSERT_EQ(findings.size(), 5U);
             for (std::size_t i = 0; i < findings.size(); ++i) {

@@ -1,4 +1,4 @@
-#include "platform/linux/session/CurrentDesktop.h"
+#include "platform/linux/process/CurrentDesktop.h"
 
 #include <cstdlib>
 
