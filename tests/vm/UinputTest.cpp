@@ -16,13 +16,13 @@ TEST(Uinput, SaysOnceThatItIsNotAllowedAndTriesAgain) {
     asOrdinaryUser([&] {
         poster.emplace([&](const std::string& line) { log.push_back(line); });
         EXPECT_FALSE(poster->isAvailable());
-        EXPECT_FALSE(poster->canPost(KEY_A));
+        EXPECT_FALSE(poster->modifiersFor(KEY_A));
         EXPECT_EQ(poster->pointerLocation(), std::nullopt);
     });
     ASSERT_EQ(log.size(), 1U);
     EXPECT_TRUE(log.front().starts_with("Keys cannot be posted, for /dev/uinput may not be opened; to")) << log.front();
     ASSERT_TRUE(poster->isAvailable()) << "now it is allowed";
-    EXPECT_FALSE(poster->canPost(BTN_LEFT) || poster->canPost(256));
+    EXPECT_FALSE(poster->modifiersFor(BTN_LEFT) || poster->modifiersFor(256));
     const DeviceListener listener;
     const std::array presses{InputTransition{KEY_LEFTSHIFT, KeyTransition::down},
                              InputTransition{KEY_VOLUMEDOWN, KeyTransition::down}};

@@ -59,7 +59,7 @@ struct LinuxActions::Parts {
     PosixProcessLauncher launcher;
     SessionInputPoster poster;
     PostingEventSynthesizer events;
-    EwmhDesktop desktop;
+    EwmhDesktop desktop{connection};
     WindowTiler tiler{desktop};
     AccessibilityBus programs{bus};
     WindowOutcomes outcomes{desktop, programs};
@@ -115,9 +115,12 @@ void LinuxActions::letDesktopCatchUp() {
         std::this_thread::sleep_for(kNoticingDevice);
 }
 
+unsigned LinuxActions::roundTrips() const { return m_parts->connection.roundTrips(); }
+
 DesktopSession LinuxActions::session() {
-    return m_parts->session(
-        DesktopFacts::probe(m_parts->connection, m_parts->desktop, m_parts->bus, UinputDevice::kPath));
+    auto facts = DesktopFacts::probe(m_parts->connection, m_parts->bus, UinputDevice::kPath);
+    m_parts->desktop.addTo(facts);
+    return m_parts->session(facts);
 }
 
 }  // namespace kinesta

@@ -43,6 +43,9 @@ class LinuxActions {
     /// that name no letter.
     bool typesLetterOf(std::uint16_t keyCode, const std::string& name);
 
+    /// How often the X server has been waited for so far.
+    unsigned roundTrips() const;
+
     /// What kind of session this is, and what works in it now. May take seconds if services do not answer.
     DesktopSession session();
 

@@ -80,6 +80,7 @@ class DesktopActions {
     }
 
     ActionPorts ports() { return m_actions.ports(m_defaults, m_cue); }
+    unsigned roundTrips() const { return m_actions.roundTrips(); }
     DesktopSession session() { return m_actions.session(); }
     bool works(DesktopCapability capability) { return session().finding(capability).works; }
     std::string lastMessage() {

@@ -13,15 +13,12 @@ class InputPoster {
   public:
     virtual ~InputPoster() = default;
 
-    /// Whether posting would work now. Cheap enough for every action, and the question to ask before the others: they
-    /// may wait for a display server that this one does not wait for.
+    /// Whether posting would work now. Cheap enough for every action.
     virtual bool isAvailable() = 0;
 
-    /// Whether the key or button (a kernel code) can be posted and means anything to the desktop.
-    virtual bool canPost(std::uint16_t code) = 0;
-
-    /// The modifier keys as they are now.
-    virtual ModifierSituation modifiers() = 0;
+    /// The modifier keys as they are now, for a stroke of this key (a kernel code); nothing if the key cannot be posted
+    /// or means nothing to the desktop.
+    virtual std::optional<ModifierSituation> modifiersFor(std::uint16_t code) = 0;
 
     /// Where the pointer is; nothing if posting does not work.
     virtual std::optional<DesktopLocation> pointerLocation() = 0;

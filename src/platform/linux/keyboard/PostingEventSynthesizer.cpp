@@ -50,10 +50,8 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
         if (!obstacle)
             code = keyForShortcut(keyCode, flags.value_or(0));
         const auto settings = LinuxActionSettings::read(m_defaults);
-        if (code && m_poster.canPost(*code)) {
-            postKey(*code, transition,
-                    flags ? std::optional(modifiersForFlags(*flags, settings.commandKey)) : std::nullopt);
-        } else if (transition == KeyTransition::down) {
+        const auto modifiers = flags ? std::optional(modifiersForFlags(*flags, settings.commandKey)) : std::nullopt;
+        if ((!code || !postKey(*code, transition, modifiers)) && transition == KeyTransition::down) {
             m_log(obstacle ? obstacle->why + " " + obstacle->remedy
                            : "The key with code " + std::to_string(keyCode) +
                                  " is not on this keyboard. Choose another key.");
@@ -82,30 +80,33 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeSystemDefinedEven
     const std::uint16_t code = key == SystemDefinedEvent::kSoundUp ? KEY_VOLUMEUP : KEY_VOLUMEDOWN;
     const auto transition = state == SystemDefinedEvent::kPressed ? KeyTransition::down : KeyTransition::up;
     return std::make_unique<Event>([this, code, transition](auto) {
-        if (m_poster.canPost(code))
-            postKey(code, transition, DesktopModifiers{0});
-        else if (transition == KeyTransition::down)
+        if (!postKey(code, transition, DesktopModifiers{0}) && transition == KeyTransition::down)
             m_log("The volume keys are not on this keyboard layout; choose one that has them.");
     });
 }
 
-void PostingEventSynthesizer::postKey(std::uint16_t code, KeyTransition transition,
+bool PostingEventSynthesizer::postKey(std::uint16_t code, KeyTransition transition,
                                       std::optional<DesktopModifiers> modifiers) {
     if (transition == KeyTransition::up && m_pending && m_pending->code == code) {
         finishPending();
-        return;
+        return true;
     }
+    if (transition == KeyTransition::down)
+        finishPending();  // first: its modifiers must not count as held
+    const auto situation = m_poster.modifiersFor(code);
+    if (!situation)
+        return false;
     if (transition == KeyTransition::up) {
         const InputTransition release{code, transition};
         m_poster.post({&release, 1});
-        return;
+        return true;
     }
-    finishPending();
     KeyStroke stroke{{{code, KeyTransition::down}}, {{code, KeyTransition::up}}};
     if (modifiers)
-        stroke = strokeKey(code, *modifiers, m_poster.modifiers());
+        stroke = strokeKey(code, *modifiers, *situation);
     if (m_poster.post(stroke.down.view()))
         m_pending = Pending{code, stroke.up};
+    return true;
 }
 
 void PostingEventSynthesizer::finishPending() {

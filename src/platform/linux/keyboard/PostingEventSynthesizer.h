@@ -41,7 +41,8 @@ class PostingEventSynthesizer final : public EventSynthesizer {
         InputTransitions up;
     };
 
-    void postKey(std::uint16_t code, KeyTransition transition, std::optional<DesktopModifiers> modifiers);
+    /// False if the key cannot be posted.
+    bool postKey(std::uint16_t code, KeyTransition transition, std::optional<DesktopModifiers> modifiers);
     void finishPending();
 
     InputPoster& m_poster;

@@ -25,16 +25,14 @@ bool UinputInputPoster::isAvailable() {
     return m_device != nullptr;
 }
 
-bool UinputInputPoster::canPost(std::uint16_t code) {
-    return isAvailable() && ((code >= KEY_ESC && code <= kLastKey) || code == BTN_MIDDLE);
-}
-
-ModifierSituation UinputInputPoster::modifiers() {
-    return {{{KEY_LEFTSHIFT, kShiftModifier},
-             {KEY_LEFTCTRL, kControlModifier},
-             {KEY_LEFTALT, kAltModifier},
-             {KEY_LEFTMETA, kSuperModifier}},
-            {}};
+std::optional<ModifierSituation> UinputInputPoster::modifiersFor(std::uint16_t code) {
+    if (code < KEY_ESC || code > kLastKey || !isAvailable())
+        return std::nullopt;
+    return ModifierSituation{{{KEY_LEFTSHIFT, kShiftModifier},
+                              {KEY_LEFTCTRL, kControlModifier},
+                              {KEY_LEFTALT, kAltModifier},
+                              {KEY_LEFTMETA, kSuperModifier}},
+                             {}};
 }
 
 std::optional<DesktopLocation> UinputInputPoster::pointerLocation() {

@@ -21,8 +21,7 @@ class UinputInputPoster final : public InputPoster {
     explicit UinputInputPoster(Log log);
 
     bool isAvailable() override;
-    bool canPost(std::uint16_t code) override;
-    ModifierSituation modifiers() override;
+    std::optional<ModifierSituation> modifiersFor(std::uint16_t code) override;
     std::optional<DesktopLocation> pointerLocation() override;
     bool post(std::span<const InputTransition> transitions) override;
 

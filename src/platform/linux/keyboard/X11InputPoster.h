@@ -13,14 +13,11 @@ class X11InputPoster final : public InputPoster {
     X11InputPoster(X11Connection& connection, X11Keyboard& keyboard);
 
     bool isAvailable() override;
-    bool canPost(std::uint16_t code) override;
-    ModifierSituation modifiers() override { return m_keyboard.modifiers(); }
+    std::optional<ModifierSituation> modifiersFor(std::uint16_t code) override;
     std::optional<DesktopLocation> pointerLocation() override;
     bool post(std::span<const InputTransition> transitions) override;
 
   private:
-    bool canPostInput();
-
     X11Connection& m_connection;
     X11Keyboard& m_keyboard;
 };

@@ -2,9 +2,10 @@
 
 #include <xkbcommon/xkbcommon-x11.h>
 
+#include <utility>
+
 #include "platform/linux/keyboard/XcbXkb.h"
 #include "platform/linux/keyboard/XkbKeys.h"
-#include "platform/linux/x11/XcbWait.h"
 
 namespace kinesta {
 namespace {
@@ -23,52 +24,45 @@ std::vector<KeyboardLayoutCharacters> X11Keyboard::charactersOfGroups() {
     return update() ? kinesta::charactersOfGroups(m_keymap.get()) : std::vector<KeyboardLayoutCharacters>{};
 }
 
-bool X11Keyboard::hasKey(std::uint16_t code) {
+std::optional<ModifierSituation> X11Keyboard::modifiersFor(std::uint16_t code) {
     if (!update())
-        return false;
-    const xkb_keycode_t keycode = code + std::uint32_t{kFirstXkbKeycode};
+        return std::nullopt;
+    const xcb_keycode_t keycode = static_cast<xcb_keycode_t>(code + kFirstXkbKeycode);
     const xkb_keysym_t* symbols = nullptr;
-    return keycode <= 255 && xkb_keymap_key_get_syms_by_level(m_keymap.get(), keycode, 0, 0, &symbols) > 0;
-}
-
-ModifierSituation X11Keyboard::modifiers() {
-    ModifierSituation situation;
-    if (!update())
-        return situation;
-    situation.available = m_modifierKeys;
-    xcb_connection_t* connection = m_connection.open();
-    if (connection == nullptr)
-        return situation;
-    const XcbPointer<xcb_query_keymap_reply_t> keys(
-        xcb_query_keymap_reply(connection, xcb_query_keymap(connection), nullptr));
-    for (std::uint16_t keycode = kFirstXkbKeycode; keys && keycode < 256; ++keycode) {
-        const auto code = static_cast<std::uint16_t>(keycode - kFirstXkbKeycode);
-        const bool isDown = (keys->keys[keycode / 8] >> (keycode % 8) & 1) != 0;
-        if (isDown && m_modifiersByKey[code] != 0)
-            situation.held.push_back({code, m_modifiersByKey[code]});
+    if (code + kFirstXkbKeycode > 255 || xkb_keymap_key_get_syms_by_level(m_keymap.get(), keycode, 0, 0, &symbols) <= 0)
+        return std::nullopt;
+    ModifierSituation situation{m_modifierKeys, {}};
+    for (std::uint16_t each = 0; each + kFirstXkbKeycode < 256; ++each) {
+        const auto bit = static_cast<std::size_t>(each + kFirstXkbKeycode);
+        if (m_keysDown[bit] && m_modifiersByKey[each] != 0)
+            situation.held.push_back({each, m_modifiersByKey[each]});
     }
     return situation;
 }
 
+/// One round trip.
 bool X11Keyboard::update() {
-    xcb_connection_t* connection = m_connection.open();
-    if (connection == nullptr)
+    const auto deadline = deadlineIn(kPatience);
+    if (!m_connection.prepare(deadline))
         return false;
-    if (m_generation != m_connection.generation() && !prepareConnection(connection))
+    xcb_connection_t* connection = m_connection.xcb();
+    if (m_generation != m_connection.generation() && !prepareConnection(deadlineIn(kPatience)))
         return false;
-    // The first question of every action: whoever answers it in time is not asked in vain for the rest.
-    const unsigned question = xcb_xkb_get_state(connection, kCoreKeyboard).sequence;
-    const auto answer = awaitXcbReply(connection, question, xcbDeadlineIn(kPatience));
-    if (!answer)
-        xcb_discard_reply(connection, question);
-    if (!answer || !*answer)
+    const auto stateCookie = xcb_xkb_get_state(connection, kCoreKeyboard);
+    const auto keysCookie = xcb_query_keymap(connection);
+    const auto state = m_connection.reply<xcb_xkb_get_state_reply_t>(stateCookie, deadline);
+    const auto keys = m_connection.reply<xcb_query_keymap_reply_t>(keysCookie, deadline);
+    if (!state || !keys)
         return false;
-    const auto* state = static_cast<const xcb_xkb_get_state_reply_t*>(answer->get());
-    // After the reply: what the server sent before it has arrived with it.
-    if (drainChanges(connection))
+    for (std::size_t keycode = 0; keycode < m_keysDown.size(); ++keycode)
+        m_keysDown[keycode] = (keys->keys[keycode / 8] >> (keycode % 8) & 1) != 0;
+    // After the replies: what the server sent before them has arrived with them.
+    m_connection.takeEvents();
+    // We asked for changes of the keymap alone.
+    if (std::exchange(m_changes, m_connection.eventCount(m_firstXkbEvent)) != m_connection.eventCount(m_firstXkbEvent))
         m_keymap.reset();
     const bool isStale = m_keymap == nullptr;
-    if (isStale && !fetchKeymap(connection))
+    if (isStale && !fetchKeymap(deadlineIn(kPatience)))
         return false;
     if (isStale || state->group != m_group) {
         m_group = state->group;
@@ -79,11 +73,17 @@ bool X11Keyboard::update() {
     return true;
 }
 
-bool X11Keyboard::prepareConnection(xcb_connection_t* connection) {
+bool X11Keyboard::prepareConnection(Deadline deadline) {
     m_keymap.reset();
-    if (xkb_x11_setup_xkb_extension(connection, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
-                                    XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, &m_firstXkbEvent,
-                                    nullptr) == 0)
+    m_changes = 0;
+    xcb_connection_t* connection = m_connection.xcb();
+    bool isPrepared = false;
+    m_connection.runUntil(deadline, [&] {
+        isPrepared = xkb_x11_setup_xkb_extension(connection, XKB_X11_MIN_MAJOR_XKB_VERSION,
+                                                 XKB_X11_MIN_MINOR_XKB_VERSION, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS,
+                                                 nullptr, nullptr, &m_firstXkbEvent, nullptr) != 0;
+    });
+    if (!isPrepared)
         return false;
     constexpr std::uint16_t kEvents = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
     constexpr std::uint16_t kMapParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS |
@@ -95,22 +95,16 @@ bool X11Keyboard::prepareConnection(xcb_connection_t* connection) {
     return true;
 }
 
-bool X11Keyboard::drainChanges(xcb_connection_t* connection) {
-    bool hasChanged = false;
-    while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection)})
-        hasChanged |= (event->response_type & 0x7F) == m_firstXkbEvent;  // we asked for changes alone
-    return hasChanged;
-}
-
-bool X11Keyboard::fetchKeymap(xcb_connection_t* connection) {
-    const std::int32_t device = xkb_x11_get_core_keyboard_device_id(connection);
-    if (device < 0)
-        return false;
-    m_keymap.reset(xkb_x11_keymap_new_from_device(m_context.get(), connection, device, XKB_KEYMAP_COMPILE_NO_FLAGS));
-    if (!m_keymap)
-        return false;
-    ++m_fetches;
-    return true;
+bool X11Keyboard::fetchKeymap(Deadline deadline) {
+    xcb_connection_t* connection = m_connection.xcb();
+    m_connection.runUntil(deadline, [&] {
+        const std::int32_t device = xkb_x11_get_core_keyboard_device_id(connection);
+        if (device >= 0)
+            m_keymap.reset(
+                xkb_x11_keymap_new_from_device(m_context.get(), connection, device, XKB_KEYMAP_COMPILE_NO_FLAGS));
+    });
+    m_fetches += m_keymap ? 1 : 0;
+    return m_keymap != nullptr;
 }
 
 }  // namespace kinesta

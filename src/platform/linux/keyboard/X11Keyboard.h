@@ -3,8 +3,9 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include <array>
+#include <bitset>
 #include <cstdint>
-#include <memory>
+#include <optional>
 #include <vector>
 
 #include "actions/KeyboardLayout.h"
@@ -16,8 +17,7 @@ namespace kinesta {
 
 /// What the X server's keyboard is set to and which of its modifiers are down. Main thread only.
 ///
-/// The keymap is fetched once and again only when the server says that it changed; a question costs one round trip,
-/// in which the server also tells the group in force and what changed before.
+/// Each question costs one round trip. The keymap is fetched again only when the server reports that it changed.
 class X11Keyboard {
   public:
     /// `connection` must outlive this.
@@ -29,24 +29,23 @@ class X11Keyboard {
     /// The same for every group of the keymap.
     std::vector<KeyboardLayoutCharacters> charactersOfGroups();
 
-    /// The modifier keys, and those that are down on any keyboard. Without a server, nothing is there.
-    ModifierSituation modifiers();
-
-    /// Whether the key (a kernel code) means anything in the keymap in force.
-    bool hasKey(std::uint16_t code);
+    /// The modifier keys, and those that are down on any keyboard. Nothing without a server, or if this key (a kernel
+    /// code) means nothing in the keymap in force.
+    std::optional<ModifierSituation> modifiersFor(std::uint16_t code);
 
     /// How often the keymap was fetched.
     int fetches() const { return m_fetches; }
 
   private:
     bool update();
-    bool prepareConnection(xcb_connection_t* connection);
-    bool drainChanges(xcb_connection_t* connection);
-    bool fetchKeymap(xcb_connection_t* connection);
+    bool prepareConnection(Deadline deadline);
+    bool fetchKeymap(Deadline deadline);
 
     X11Connection& m_connection;
     std::uint64_t m_generation = 0;
     std::uint8_t m_firstXkbEvent = 0;
+    std::uint64_t m_changes = 0;  // events so far
+    std::bitset<256> m_keysDown;  // by keycode
     XkbContextPointer m_context;
     XkbKeymapPointer m_keymap;
     std::uint32_t m_group = 0;

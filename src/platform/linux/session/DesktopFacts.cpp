@@ -52,17 +52,15 @@ DesktopFacts DesktopFacts::probeInput(X11Connection& connection, const std::stri
     return facts;
 }
 
-DesktopFacts DesktopFacts::probe(X11Connection& connection, EwmhDesktop& desktop, MessageBus& bus,
-                                 const std::string& uinputPath) {
+LinuxActionSettings::InputRoute DesktopFacts::inputRoute(LinuxActionSettings::InputRoute wish) const {
+    using Route = LinuxActionSettings::InputRoute;
+    if (wish != Route::automatic)
+        return wish;
+    return hasX && hasXTest && !hasWayland ? Route::xServer : Route::uinput;
+}
+
+DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath) {
     DesktopFacts facts = probeInput(connection, uinputPath);
-    if (const auto manager = facts.hasX ? desktop.manager() : std::nullopt) {
-        facts.hasWindowManager = true;
-        facts.windowManager = manager->name;
-        facts.takesI3Commands = manager->takesI3Commands();
-        const auto snapshot = desktop.snapshot();
-        facts.closesWindows = snapshot && snapshot->closesWindows;
-        facts.movesWindows = snapshot && snapshot->movesWindows;
-    }
     facts.hasXdgOpen = isInSearchPath("xdg-open");
     facts.hasSessionBus = bus.open() != nullptr;
     facts.notifications = serviceAt(bus, {"org.freedesktop.Notifications", "/org/freedesktop/Notifications"},

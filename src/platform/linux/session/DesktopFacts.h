@@ -4,7 +4,6 @@
 
 #include "platform/linux/session/MessageBus.h"
 #include "platform/linux/settings/LinuxActionSettings.h"
-#include "platform/linux/windows/EwmhDesktop.h"
 #include "platform/linux/x11/X11Connection.h"
 
 namespace kinesta {
@@ -20,7 +19,7 @@ struct DesktopFacts {
     /// An X server answers; in a Wayland session that is XWayland, which shows the windows of older programs.
     bool hasX = false;
     bool hasXTest = false;
-    /// A window manager on the X server that tells and takes what the desktop standard (EWMH) says.
+    /// A window manager on the X server that follows the desktop standard (EWMH).
     bool hasWindowManager = false;
     /// A Wayland compositor answers.
     bool hasWayland = false;
@@ -38,13 +37,16 @@ struct DesktopFacts {
     /// It does so at a socket of its own, and lays windows out itself.
     bool takesI3Commands = false;
 
+    /// The way that keys and clicks take: the wish, else the X server of a session without Wayland, else uinput, which
+    /// is the only way left without any session. Never automatic.
+    LinuxActionSettings::InputRoute inputRoute(LinuxActionSettings::InputRoute wish) const;
+
     /// Looks at what sending keys and clicks takes, in some milliseconds. The rest stays as it is at first.
     static DesktopFacts probeInput(X11Connection& connection, const std::string& uinputPath);
 
     /// Looks around and asks the services, which are started if they do not run yet: as their first use would do.
-    /// Takes some milliseconds; some seconds for a service that does not answer.
-    static DesktopFacts probe(X11Connection& connection, EwmhDesktop& desktop, MessageBus& bus,
-                              const std::string& uinputPath);
+    /// Takes some milliseconds; some seconds for a service that does not answer. Leaves out the window manager.
+    static DesktopFacts probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath);
 };
 
 }  // namespace kinesta

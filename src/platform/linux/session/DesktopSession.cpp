@@ -21,12 +21,6 @@ DesktopSession::Kind DesktopSession::kind() const {
     return m_facts.hasX ? Kind::x11 : Kind::none;
 }
 
-Route DesktopSession::inputRoute() const {
-    if (m_wish != Route::automatic)
-        return m_wish;
-    return kind() == Kind::x11 && m_facts.hasXTest ? Route::xServer : Route::uinput;
-}
-
 std::vector<DesktopFinding> DesktopSession::findings() const {
     return {sendInput(), keyboardLayout(), windows(), open(), notify()};
 }
@@ -37,7 +31,7 @@ DesktopFinding DesktopSession::finding(DesktopCapability capability) const {
 
 DesktopFinding DesktopSession::sendInput() const {
     DesktopFinding finding{DesktopCapability::sendInput, "Sending keys and clicks", true, "", ""};
-    if (inputRoute() == Route::uinput) {
+    if (m_facts.inputRoute(m_wish) == Route::uinput) {
         finding.works = m_facts.mayUseUinput;
         finding.why = finding.works
                           ? "They go out through a virtual keyboard of the kernel's. Modifier keys that you "

@@ -17,10 +17,6 @@ class DesktopSession {
     DesktopSession(const DesktopFacts& facts, LinuxActionSettings::InputRoute wish);
 
     Kind kind() const;
-    /// The way that keys and clicks take: the person's wish, else the X server of an X11 session, else uinput. Never
-    /// automatic.
-    LinuxActionSettings::InputRoute inputRoute() const;
-
     /// One finding for every capability, in the order of the enumeration.
     std::vector<DesktopFinding> findings() const;
     DesktopFinding finding(DesktopCapability capability) const;

@@ -5,28 +5,26 @@
 #include "platform/linux/session/DesktopFacts.h"
 
 namespace kinesta {
+namespace {
+
+constexpr Seconds kPatience = 0.5;
+
+}  // namespace
 
 SessionInputPoster::SessionInputPoster(X11Connection& connection, X11Keyboard& keyboard, const UserDefaults& defaults,
                                        Log log)
-    : m_connection(connection), m_defaults(defaults), m_log(std::move(log)), m_xServer(connection, keyboard) {
-    poster();
-}
+    : m_connection(connection), m_defaults(defaults), m_log(std::move(log)), m_xServer(connection, keyboard) {}
 
 bool SessionInputPoster::isAvailable() {
     InputPoster& chosen = poster();
     const bool isAvailable = chosen.isAvailable();
-    if (&chosen == &m_xServer && std::exchange(m_hasToldOfServer, !isAvailable) == isAvailable && !isAvailable)
+    if (&chosen == &m_xServer && std::exchange(m_hasLoggedServer, !isAvailable) == isAvailable && !isAvailable)
         m_log("Keys cannot be posted, for no X server answers; see: kinesta doctor");
     return isAvailable;
 }
 
 InputPoster& SessionInputPoster::poster() {
-    using Route = LinuxActionSettings::InputRoute;
-    const Route wish = LinuxActionSettings::read(m_defaults).inputRoute;
-    if (wish == Route::automatic && m_suited == Suited::unknown)
-        m_suited = findOut();
-    // Without any session a virtual device is the only way that there may be.
-    if (wish == Route::automatic ? m_suited == Suited::xServer : wish == Route::xServer) {
+    if (route() == Route::xServer) {
         m_uinput.reset();
         return m_xServer;
     }
@@ -35,14 +33,25 @@ InputPoster& SessionInputPoster::poster() {
     return *m_uinput;
 }
 
-/// A session stays what it was. When an X server ends, there is none until the next one answers: keys that took the
-/// way through the kernel meanwhile would reach whatever has the console.
-SessionInputPoster::Suited SessionInputPoster::findOut() {
-    if (answersWayland())  // asked first: to ask XWayland is to start it
-        return Suited::virtualDevice;
-    if (m_connection.open() == nullptr)
-        return Suited::unknown;
-    return m_connection.canPostInput() ? Suited::xServer : Suited::virtualDevice;
+/// A session stays what it was. When its X server ends, keys that took the way through the kernel would reach the
+/// console instead: they wait for the next server.
+SessionInputPoster::Route SessionInputPoster::route() {
+    const Route wish = LinuxActionSettings::read(m_defaults).inputRoute;
+    if (wish != Route::automatic)
+        return wish;
+    if (m_suited)
+        return *m_suited;
+    DesktopFacts facts;
+    facts.hasWayland = answersWayland();
+    if (!facts.hasWayland) {  // asked first: to ask XWayland is to start it
+        facts.hasX = m_connection.answers(kPatience);
+        if (!facts.hasX && m_connection.isHanging())
+            return Route::xServer;
+        facts.hasXTest = facts.hasX && m_connection.canPostInput();
+    }
+    if (facts.hasWayland || facts.hasX)
+        m_suited = facts.inputRoute(wish);
+    return facts.inputRoute(wish);
 }
 
 }  // namespace kinesta

@@ -8,19 +8,18 @@
 
 namespace kinesta {
 
-/// Posts the way that suits the session, or the one that the settings ask for. What suits is found out anew until there
-/// is a session: whoever starts us may do so before the display server is up. Main thread only.
+/// Posts the way that suits the session, or the one that the settings ask for. The search for what suits is repeated
+/// until there is a session: Kinesta may be started before the display server is up. Main thread only.
 class SessionInputPoster final : public InputPoster {
   public:
-    /// Is told, as one sentence, why nothing could be posted; once for every new reason.
+    /// Receives, as one sentence, why nothing could be posted; once for every new reason.
     using Log = UinputInputPoster::Log;
 
-    /// Connection, keyboard and defaults must outlive this. A virtual device, if that is the way, is made at once.
+    /// Connection, keyboard and defaults must outlive this. Asks nothing of them yet.
     SessionInputPoster(X11Connection& connection, X11Keyboard& keyboard, const UserDefaults& defaults, Log log);
 
     bool isAvailable() override;
-    bool canPost(std::uint16_t code) override { return poster().canPost(code); }
-    ModifierSituation modifiers() override { return poster().modifiers(); }
+    std::optional<ModifierSituation> modifiersFor(std::uint16_t code) override { return poster().modifiersFor(code); }
     std::optional<DesktopLocation> pointerLocation() override { return poster().pointerLocation(); }
     bool post(std::span<const InputTransition> transitions) override { return poster().post(transitions); }
 
@@ -28,18 +27,18 @@ class SessionInputPoster final : public InputPoster {
     bool usesVirtualDevice() { return &poster() != &m_xServer; }
 
   private:
-    enum class Suited { unknown, xServer, virtualDevice };
+    using Route = LinuxActionSettings::InputRoute;
 
     InputPoster& poster();
-    Suited findOut();
+    Route route();
 
     X11Connection& m_connection;
     const UserDefaults& m_defaults;
     Log m_log;
     X11InputPoster m_xServer;
     std::optional<UinputInputPoster> m_uinput;
-    Suited m_suited = Suited::unknown;
-    bool m_hasToldOfServer = false;
+    std::optional<Route> m_suited;
+    bool m_hasLoggedServer = false;
 };
 
 }  // namespace kinesta

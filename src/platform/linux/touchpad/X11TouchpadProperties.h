@@ -1,17 +1,15 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 #include "platform/linux/touchpad/SendEventsMode.h"
-
-struct xcb_connection_t;
+#include "platform/linux/x11/X11Connection.h"
 
 namespace kinesta {
 
-/// What an X server's input drivers have been told to do with a touchpad: by the desktop's settings, by a key of the
-/// keyboard, by a person's script.
+/// What an X server's input drivers are set to do with a touchpad: by the desktop's settings, by a key of the keyboard,
+/// by a person's script. Has a connection of its own: the thread that reads the touchpad sleeps until it is readable.
 class X11TouchpadProperties {
   public:
     /// `display` as in DISPLAY. Without such a display, or once it is gone, everything counts as enabled.
@@ -27,15 +25,14 @@ class X11TouchpadProperties {
     SendEventsMode mode(const std::string& path);
 
   private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const;
-    };
-
+    bool isConnected() const;
+    bool hasNews();
     SendEventsMode presentMode(const std::string& path);
     std::uint32_t atom(const char* name);
     std::string property(std::uint16_t device, std::uint32_t atom);
 
-    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    X11Connection m_connection;
+    std::uint64_t m_changes = 0;
     SendEventsMode m_mode = SendEventsMode::enabled;
     std::uint32_t m_deviceNode = 0;
     std::uint32_t m_deviceEnabled = 0;

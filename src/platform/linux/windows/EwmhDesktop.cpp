@@ -27,20 +27,40 @@ std::optional<ProcessIdentifier> EwmhDesktop::frontmostApplication(Seconds timeo
 }
 
 std::optional<EwmhWindow> EwmhDesktop::activeWindow(Seconds timeout) {
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    const Deadline deadline = deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return std::nullopt;
-    const auto active = activeWindowId(deadline);
-    return active ? EwmhWindowQuery(m_connection, *active).answer(deadline) : std::nullopt;
+    const auto activeCookie =
+        m_connection.requestProperty(m_connection.root(), m_connection.atoms()._NET_ACTIVE_WINDOW, XCB_ATOM_WINDOW);
+    // Asked along with it, the window that was active the last time usually still is.
+    EwmhWindowQuery usual(m_connection, m_lastActive);
+    const auto active = m_connection.items(activeCookie, XCB_ATOM_WINDOW, deadline);
+    const auto window = usual.answer(deadline);
+    if (!active || active->empty() || (*active)[0] == 0)
+        return std::nullopt;
+    if ((*active)[0] == usual.window())
+        return window;
+    m_lastActive = (*active)[0];
+    return EwmhWindowQuery(m_connection, m_lastActive).answer(deadline);
 }
 
-std::optional<EwmhManager> EwmhDesktop::manager(Seconds timeout) {
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
-    return m_connection.prepare(deadline) ? EwmhManager::ask(m_connection, deadline) : std::nullopt;
+void EwmhDesktop::addTo(DesktopFacts& facts) {
+    const Deadline deadline = deadlineIn(kTimeout);
+    if (!facts.hasX || !m_connection.prepare(deadline))
+        return;
+    const auto manager = askManager().answer(deadline);
+    if (!manager)
+        return;
+    const auto desktop = snapshot();
+    facts.hasWindowManager = true;
+    facts.windowManager = manager->name;
+    facts.takesI3Commands = manager->takesI3Commands();
+    facts.closesWindows = desktop && desktop->closesWindows;
+    facts.movesWindows = desktop && desktop->movesWindows;
 }
 
 std::optional<EwmhWindow> EwmhDesktop::window(EwmhWindowId window, Seconds timeout) {
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    const Deadline deadline = deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return std::nullopt;
     auto found = EwmhWindowQuery(m_connection, window).answer(deadline);
@@ -50,12 +70,12 @@ std::optional<EwmhWindow> EwmhDesktop::window(EwmhWindowId window, Seconds timeo
 }
 
 std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    const Deadline deadline = deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return std::nullopt;
-    m_manager = EwmhManager::ask(m_connection, deadline);
+    auto managerQuery = askManager();
     const auto& atoms = m_connection.atoms();
-    const xcb_window_t root = m_connection.session().root();
+    const xcb_window_t root = m_connection.root();
     const auto request = [&](xcb_atom_t property, xcb_atom_t type) {
         return m_connection.requestProperty(root, property, type, 4096);
     };
@@ -65,17 +85,18 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
     const auto desktopCookie = request(atoms._NET_CURRENT_DESKTOP, XCB_ATOM_CARDINAL);
     const auto workAreaCookie = request(atoms._NET_WORKAREA, XCB_ATOM_CARDINAL);
     std::optional<xcb_randr_get_monitors_cookie_t> monitorsCookie;
-    if (m_connection.session().knowsMonitors())
+    if (m_connection.knowsMonitors())
         monitorsCookie = xcb_randr_get_monitors(m_connection.xcb(), root, 1);
     const auto geometryCookie = xcb_get_geometry(m_connection.xcb(), root);
 
     EwmhSnapshot snapshot;
     snapshot.root = root;
-    const auto active = rootItems(activeCookie, XCB_ATOM_WINDOW, deadline).value_or(Items{});
-    const auto stacking = rootItems(stackingCookie, XCB_ATOM_WINDOW, deadline);
-    const auto list = rootItems(listCookie, XCB_ATOM_WINDOW, deadline);
-    const auto desktop = rootItems(desktopCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
-    const auto workArea = rootItems(workAreaCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    m_manager = managerQuery.answer(deadline);
+    const auto active = m_connection.items(activeCookie, XCB_ATOM_WINDOW, deadline).value_or(Items{});
+    const auto stacking = m_connection.items(stackingCookie, XCB_ATOM_WINDOW, deadline);
+    const auto list = m_connection.items(listCookie, XCB_ATOM_WINDOW, deadline);
+    const auto desktop = m_connection.items(desktopCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    const auto workArea = m_connection.items(workAreaCookie, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
     std::vector<WindowRectangle> monitors;
     if (monitorsCookie)
         monitors = ewmhMonitorBounds(m_connection, *monitorsCookie, deadline);
@@ -92,24 +113,27 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
     queries.reserve(ids.size());
     for (const EwmhWindowId id : ids)
         queries.emplace_back(m_connection, id);
+    std::optional<xcb_intern_atom_cookie_t> workAreasCookie;
+    if (monitors.size() > 1)
+        workAreasCookie = requestMonitorWorkAreas(m_connection, snapshot.currentDesktop);
     for (auto& query : queries)
         if (auto window = query.answer(deadline))
-            snapshot.windows.push_back(*window);
+            snapshot.windows.push_back(*std::move(window));
+    std::vector<WindowRectangle> areasByMonitor;
+    if (workAreasCookie)
+        areasByMonitor = ewmhMonitorWorkAreas(m_connection, *workAreasCookie, deadline);
 
     const WindowRectangle screen{0, 0, geometry->width, geometry->height};
     if (monitors.empty())
         monitors.push_back(screen);
-    std::vector<WindowRectangle> toldAreas;
     if (const auto i3 = this->i3()) {
         if (!i3->locate(snapshot.windows, deadline))
-            m_manager.reset();  // who does not answer there does nothing either
-        toldAreas = i3->workAreas(deadline);
-    } else if (monitors.size() > 1) {
-        toldAreas = ewmhMonitorWorkAreas(m_connection, snapshot.currentDesktop, deadline);
+            m_manager.reset();  // if it does not answer there, it does nothing either
+        areasByMonitor = i3->workAreas(deadline);
     }
     snapshot.closesWindows = m_manager && (m_manager->closesWindows || m_manager->takesI3Commands());
     snapshot.movesWindows = m_manager && (m_manager->movesWindows || m_manager->takesI3Commands());
-    // Four numbers for each desktop; a window manager that has only one area tells it once.
+    // Four numbers for each desktop; a window manager with only one area gives it once.
     const std::size_t first = std::size_t{4} * snapshot.currentDesktop;
     std::optional<WindowRectangle> screenWorkArea;
     if (workArea.size() >= first + 4)
@@ -117,16 +141,18 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
     else if (workArea.size() >= 4)
         screenWorkArea = ewmhRectangleAt(workArea, 0);
     snapshot.monitors =
-        ewmhWorkAreas({screen, monitors, screenWorkArea, toldAreas, snapshot.windows, snapshot.currentDesktop});
+        ewmhWorkAreas({screen, monitors, screenWorkArea, areasByMonitor, snapshot.windows, snapshot.currentDesktop});
     // Otherwise windows may be missing.
     return m_connection.isAnswering() ? std::optional(std::move(snapshot)) : std::nullopt;
 }
 
 bool EwmhDesktop::close(EwmhWindowId window, Seconds timeout) {
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    const Deadline deadline = deadlineIn(timeout);
     if (!m_connection.prepare(deadline))
         return false;
-    m_manager = EwmhManager::ask(m_connection, deadline);
+    m_connection.requestServerTime();
+    auto managerQuery = askManager();
+    m_manager = managerQuery.answer(deadline);
     if (const auto i3 = this->i3()) {
         if (!i3->close(window, deadline))
             return false;
@@ -135,8 +161,7 @@ bool EwmhDesktop::close(EwmhWindowId window, Seconds timeout) {
     }
     if (!m_manager || !m_manager->closesWindows)
         return false;
-    const xcb_timestamp_t time = m_connection.serverTime(deadline);
-    xcb_ewmh_request_close_window(m_connection.session().ewmh(), m_connection.session().screenNumber(), window, time,
+    xcb_ewmh_request_close_window(m_connection.ewmh(), m_connection.screenNumber(), window, m_connection.serverTime(),
                                   XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
     flush();
     if (!m_connection.isAnswering())
@@ -145,28 +170,13 @@ bool EwmhDesktop::close(EwmhWindowId window, Seconds timeout) {
     return true;
 }
 
-std::vector<std::optional<Items>> EwmhDesktop::tilingRecords(std::span<const EwmhWindowId> windows, Seconds timeout) {
-    std::vector<std::optional<Items>> records(windows.size());
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
-    if (!m_connection.prepare(deadline))
-        return records;
-    std::vector<xcb_get_property_cookie_t> cookies;
-    cookies.reserve(windows.size());
-    for (const EwmhWindowId window : windows)
-        cookies.push_back(
-            m_connection.requestProperty(window, m_connection.session().tilingRecord(), XCB_ATOM_CARDINAL));
-    for (std::size_t i = 0; i < cookies.size(); ++i)
-        records[i] = rootItems(cookies[i], XCB_ATOM_CARDINAL, deadline);
-    return records;
-}
-
 void EwmhDesktop::setTilingRecord(EwmhWindowId window, std::span<const std::uint32_t> record) {
     if (!m_connection.isAnswering())
         return;
     if (record.empty())
-        xcb_delete_property(m_connection.xcb(), window, m_connection.session().tilingRecord());
+        xcb_delete_property(m_connection.xcb(), window, m_connection.tilingRecord());
     else
-        xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, window, m_connection.session().tilingRecord(),
+        xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, window, m_connection.tilingRecord(),
                             XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(record.size()), record.data());
 }
 
@@ -174,7 +184,7 @@ void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) 
     if (!m_connection.isAnswering())
         return;
     if (const auto i3 = this->i3()) {
-        if (i3->place(window.id, frame, EwmhConnection::deadlineIn(kTimeout)))
+        if (i3->place(window.id, frame, deadlineIn(kTimeout)))
             tell({EwmhRequest::Kind::place, window.id, window.frame, frame});
         return;
     }
@@ -189,8 +199,7 @@ void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) 
     const WindowRectangle place = window.hasStaticGravity ? frame - window.frameInsets : frame + window.shadow;
     const auto gravity = window.hasStaticGravity ? XCB_GRAVITY_STATIC : XCB_GRAVITY_NORTH_WEST;
     xcb_ewmh_request_moveresize_window(
-        m_connection.session().ewmh(), m_connection.session().screenNumber(), window.id, gravity,
-        XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
+        m_connection.ewmh(), m_connection.screenNumber(), window.id, gravity, XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
         static_cast<xcb_ewmh_moveresize_window_opt_flags_t>(keepsSize ? kMove : kMoveAndResize),
         static_cast<std::uint32_t>(place.x), static_cast<std::uint32_t>(place.y),
         static_cast<std::uint32_t>(client.width), static_cast<std::uint32_t>(client.height));
@@ -199,7 +208,7 @@ void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) 
 
 bool EwmhDesktop::returnToLayout(const EwmhWindow& window) {
     const auto i3 = this->i3();
-    if (!i3 || !i3->returnToLayout(window.id, EwmhConnection::deadlineIn(kTimeout)))
+    if (!i3 || !i3->returnToLayout(window.id, deadlineIn(kTimeout)))
         return false;
     tell({EwmhRequest::Kind::layout, window.id});
     return true;
@@ -215,7 +224,7 @@ void EwmhDesktop::zoom(const EwmhWindow& window, bool isFullscreen, bool isHoriz
 }
 
 void EwmhDesktop::setFullscreen(EwmhWindowId window, bool isFullscreen) {
-    xcb_ewmh_request_change_wm_state(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
+    xcb_ewmh_request_change_wm_state(m_connection.ewmh(), m_connection.screenNumber(), window,
                                      isFullscreen ? XCB_EWMH_WM_STATE_ADD : XCB_EWMH_WM_STATE_REMOVE,
                                      m_connection.atoms()._NET_WM_STATE_FULLSCREEN, XCB_ATOM_NONE,
                                      XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
@@ -227,7 +236,7 @@ void EwmhDesktop::setMaximized(EwmhWindowId window, bool isHorizontal, bool isVe
     const auto& atoms = m_connection.atoms();
     const xcb_atom_t vertical = isVertical ? atoms._NET_WM_STATE_MAXIMIZED_VERT : xcb_atom_t{XCB_ATOM_NONE};
     // Both in one message: one step for the window manager, and no flicker.
-    xcb_ewmh_request_change_wm_state(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
+    xcb_ewmh_request_change_wm_state(m_connection.ewmh(), m_connection.screenNumber(), window,
                                      isMaximized ? XCB_EWMH_WM_STATE_ADD : XCB_EWMH_WM_STATE_REMOVE,
                                      isHorizontal ? atoms._NET_WM_STATE_MAXIMIZED_HORZ : vertical,
                                      isHorizontal ? vertical : xcb_atom_t{XCB_ATOM_NONE},
@@ -238,14 +247,14 @@ void EwmhDesktop::raise(EwmhWindowId window) {
     if (!m_connection.isAnswering())
         return;
     // To put it right below another one would be more exact; openbox 3.6 takes that for the bottom.
-    xcb_ewmh_request_restack_window(m_connection.session().ewmh(), m_connection.session().screenNumber(), window,
-                                    XCB_WINDOW_NONE, XCB_STACK_MODE_ABOVE);
+    xcb_ewmh_request_restack_window(m_connection.ewmh(), m_connection.screenNumber(), window, XCB_WINDOW_NONE,
+                                    XCB_STACK_MODE_ABOVE);
 }
 
 void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) {
     if (!m_connection.isAnswering())
         return;
-    const Deadline deadline = EwmhConnection::deadlineIn(timeout);
+    const Deadline deadline = deadlineIn(timeout);
     std::vector<EwmhWindowId> waitingFor;
     for (const auto& window : windows) {
         if (!window.isZoomed())
@@ -271,10 +280,10 @@ void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) 
             std::erase(waitingFor, change.window);
         // Shadows go with maximization and come back a moment after it.
         return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS ||
-               change.atom == m_connection.session().gtkFrameExtents();
+               change.atom == m_connection.gtkFrameExtents();
     };
     while (!watched.empty()) {
-        const Deadline quiet = EwmhConnection::deadlineIn(kQuiet);
+        const Deadline quiet = deadlineIn(kQuiet);
         if (!m_connection.awaitEvent(isStep, waitingFor.empty() ? std::min(quiet, deadline) : deadline))
             break;
     }
@@ -282,16 +291,8 @@ void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) 
         watch(window, XCB_EVENT_MASK_NO_EVENT);
 }
 
-std::optional<Items> EwmhDesktop::rootItems(xcb_get_property_cookie_t cookie, xcb_atom_t type, Deadline deadline) {
-    return EwmhConnection::items(m_connection.reply<xcb_get_property_reply_t>(cookie, deadline).get(), type);
-}
-
-std::optional<EwmhWindowId> EwmhDesktop::activeWindowId(Deadline deadline) {
-    const auto active =
-        rootItems(m_connection.requestProperty(m_connection.session().root(), m_connection.atoms()._NET_ACTIVE_WINDOW,
-                                               XCB_ATOM_WINDOW),
-                  XCB_ATOM_WINDOW, deadline);
-    return active && !active->empty() && (*active)[0] != 0 ? std::optional((*active)[0]) : std::nullopt;
+EwmhManagerQuery EwmhDesktop::askManager() {
+    return {m_connection, m_manager ? m_manager->proof : xcb_window_t{XCB_WINDOW_NONE}};
 }
 
 std::optional<I3Manager> EwmhDesktop::i3() const {

@@ -3,13 +3,13 @@
 #include <functional>
 #include <optional>
 #include <span>
-#include <string>
 #include <vector>
 
+#include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/windows/EwmhManager.h"
 #include "platform/linux/windows/EwmhSnapshot.h"
 #include "platform/linux/windows/I3Manager.h"
-#include "platform/linux/x11/EwmhConnection.h"
+#include "platform/linux/x11/X11Connection.h"
 
 namespace kinesta {
 
@@ -38,15 +38,15 @@ class EwmhDesktop {
   public:
     static constexpr Seconds kTimeout = 0.15;
 
-    /// An empty name means the display in the environment.
-    explicit EwmhDesktop(std::string displayName = {}) : m_connection(std::move(displayName)) {}
+    /// `connection` must outlive this.
+    explicit EwmhDesktop(X11Connection& connection) : m_connection(connection) {}
 
     /// Is told of everything that the window manager is asked for.
     using Observer = std::function<void(const EwmhRequest&)>;
     void setObserver(Observer observer) { m_observer = std::move(observer); }
 
-    /// The window manager, if one runs.
-    std::optional<EwmhManager> manager(Seconds timeout = kTimeout);
+    /// Adds what works with the window manager, if one runs.
+    void addTo(DesktopFacts& facts);
 
     /// The process of the active window; a number below 0, the same for all windows of an X client, where the process
     /// cannot be known. Nothing if no window is active.
@@ -61,10 +61,6 @@ class EwmhDesktop {
 
     /// Asks the window manager to close a window as its close button does. False if nobody could be asked.
     bool close(EwmhWindowId window, Seconds timeout = kTimeout);
-
-    /// What the windows remember for the tiling, one for each; nothing where a window remembers nothing.
-    std::vector<std::optional<std::vector<std::uint32_t>>> tilingRecords(std::span<const EwmhWindowId> windows,
-                                                                         Seconds timeout = kTimeout);
 
     /// The verbs below do nothing unless the question before them was answered. They send without waiting for anything;
     /// only a window manager that is asked at its own socket is waited for until it is done.
@@ -92,21 +88,18 @@ class EwmhDesktop {
     void restore(std::span<const EwmhWindow> windows, Seconds timeout);
 
   private:
-    using Deadline = EwmhConnection::Deadline;
-
-    std::optional<std::vector<std::uint32_t>> rootItems(xcb_get_property_cookie_t cookie, xcb_atom_t type,
-                                                        Deadline deadline);
-    std::optional<EwmhWindowId> activeWindowId(Deadline deadline);
+    EwmhManagerQuery askManager();
     void watch(EwmhWindowId window, std::uint32_t events);
     std::optional<I3Manager> i3() const;
     void setFullscreen(EwmhWindowId window, bool isFullscreen);
     void setMaximized(EwmhWindowId window, bool isHorizontal, bool isVertical, bool isMaximized);
     void tell(const EwmhRequest& request);
 
-    EwmhConnection m_connection;
+    X11Connection& m_connection;
     Observer m_observer;
     /// At the last question.
     std::optional<EwmhManager> m_manager;
+    EwmhWindowId m_lastActive = XCB_WINDOW_NONE;
 };
 
 }  // namespace kinesta

@@ -14,36 +14,52 @@ std::string textOf(const xcb_get_property_reply_t* reply) {
 
 }  // namespace
 
-std::optional<EwmhManager> EwmhManager::ask(EwmhConnection& connection, EwmhConnection::Deadline deadline) {
+EwmhManagerQuery::EwmhManagerQuery(X11Connection& connection, xcb_window_t lastProof)
+    : m_connection(connection),
+      m_check(
+          connection.requestProperty(connection.root(), connection.atoms()._NET_SUPPORTING_WM_CHECK, XCB_ATOM_WINDOW)),
+      m_supported(
+          connection.requestProperty(connection.root(), connection.atoms()._NET_SUPPORTED, XCB_ATOM_ATOM, 4096)),
+      m_socket(connection.requestProperty(connection.root(), connection.i3SocketPath(), XCB_GET_PROPERTY_TYPE_ANY)) {
+    askProof(lastProof);
+}
+
+void EwmhManagerQuery::askProof(xcb_window_t window) {
+    const auto& atoms = m_connection.atoms();
+    m_proofWindow = window;
+    m_proof = m_connection.requestProperty(window, atoms._NET_SUPPORTING_WM_CHECK, XCB_ATOM_WINDOW);
+    m_name = m_connection.requestProperty(window, atoms._NET_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY);
+}
+
+std::optional<EwmhManager> EwmhManagerQuery::answer(Deadline deadline) {
     using Reply = xcb_get_property_reply_t;
-    const auto& atoms = connection.atoms();
-    const xcb_window_t root = connection.session().root();
-    const auto checkCookie = connection.requestProperty(root, atoms._NET_SUPPORTING_WM_CHECK, XCB_ATOM_WINDOW);
-    const auto supportedCookie = connection.requestProperty(root, atoms._NET_SUPPORTED, XCB_ATOM_ATOM, 4096);
-    const auto socketCookie =
-        connection.requestProperty(root, connection.session().i3SocketPath(), XCB_GET_PROPERTY_TYPE_ANY);
-    const auto check = EwmhConnection::items(connection.reply<Reply>(checkCookie, deadline).get(), XCB_ATOM_WINDOW);
-    const auto supported =
-        EwmhConnection::items(connection.reply<Reply>(supportedCookie, deadline).get(), XCB_ATOM_ATOM);
+    const auto check = m_connection.items(m_check, XCB_ATOM_WINDOW, deadline);
+    const auto supported = m_connection.items(m_supported, XCB_ATOM_ATOM, deadline);
     EwmhManager manager;
-    manager.i3Socket = textOf(connection.reply<Reply>(socketCookie, deadline).get());
+    manager.i3Socket = textOf(m_connection.reply<Reply>(m_socket, deadline).get());
+    auto proof = m_connection.reply<Reply>(m_proof, deadline);
+    auto name = m_connection.reply<Reply>(m_name, deadline);
     if (!check || check->empty())
         return std::nullopt;
-    // The property may be left over from one that is gone: its window, then, is gone too.
-    const auto proofCookie = connection.requestProperty((*check)[0], atoms._NET_SUPPORTING_WM_CHECK, XCB_ATOM_WINDOW);
-    const auto nameCookie = connection.requestProperty((*check)[0], atoms._NET_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY);
-    const auto proof = connection.reply<Reply>(proofCookie, deadline);
-    manager.name = textOf(connection.reply<Reply>(nameCookie, deadline).get());
+    if ((*check)[0] != m_proofWindow) {
+        askProof((*check)[0]);
+        proof = m_connection.reply<Reply>(m_proof, deadline);
+        name = m_connection.reply<Reply>(m_name, deadline);
+    }
+    // A window manager that is gone leaves its property behind, but not its window.
     if (!proof)
         return std::nullopt;
+    manager.proof = m_proofWindow;
+    manager.name = textOf(name.get());
     if (supported) {
+        const auto& atoms = m_connection.atoms();
         const auto takes = [&](xcb_atom_t request) {
             return std::find(supported->begin(), supported->end(), request) != supported->end();
         };
         manager.closesWindows = takes(atoms._NET_CLOSE_WINDOW);
         manager.movesWindows = takes(atoms._NET_MOVERESIZE_WINDOW);
     }
-    // So does the part of sway call itself that manages X windows. It puts nothing on the root window.
+    // The part of sway that manages X windows calls itself so. It puts nothing on the root window.
     if (manager.name == "wlroots wm")
         if (const char* sway = std::getenv("SWAYSOCK"))
             manager.i3Socket = sway;

@@ -11,8 +11,8 @@ WindowRectangle ewmhRectangleAt(const std::vector<std::uint32_t>& items, std::si
     return {item(0), item(1), item(2), item(3)};
 }
 
-std::vector<WindowRectangle> ewmhMonitorBounds(EwmhConnection& connection, xcb_randr_get_monitors_cookie_t cookie,
-                                               EwmhConnection::Deadline deadline) {
+std::vector<WindowRectangle> ewmhMonitorBounds(X11Connection& connection, xcb_randr_get_monitors_cookie_t cookie,
+                                               Deadline deadline) {
     std::vector<WindowRectangle> monitors;
     const auto reply = connection.reply<xcb_randr_get_monitors_reply_t>(cookie, deadline);
     if (!reply)
@@ -27,24 +27,21 @@ std::vector<WindowRectangle> ewmhMonitorBounds(EwmhConnection& connection, xcb_r
     return monitors;
 }
 
-std::vector<WindowRectangle> ewmhMonitorWorkAreas(EwmhConnection& connection, std::uint32_t desktop,
-                                                  EwmhConnection::Deadline deadline) {
+xcb_intern_atom_cookie_t requestMonitorWorkAreas(X11Connection& connection, std::uint32_t desktop) {
     const std::string name = "_GTK_WORKAREAS_D" + std::to_string(desktop);
-    const auto atom = connection.reply<xcb_intern_atom_reply_t>(
-        xcb_intern_atom(connection.xcb(), 1, static_cast<std::uint16_t>(name.size()), name.c_str()), deadline);
+    return xcb_intern_atom(connection.xcb(), 1, static_cast<std::uint16_t>(name.size()), name.c_str());
+}
+
+std::vector<WindowRectangle> ewmhMonitorWorkAreas(X11Connection& connection, xcb_intern_atom_cookie_t cookie,
+                                                  Deadline deadline) {
+    const auto atom = connection.reply<xcb_intern_atom_reply_t>(cookie, deadline);
     if (!atom || atom->atom == XCB_ATOM_NONE)
         return {};
-    const auto numbers =
-        EwmhConnection::items(
-            connection
-                .reply<xcb_get_property_reply_t>(
-                    connection.requestProperty(connection.session().root(), atom->atom, XCB_ATOM_CARDINAL), deadline)
-                .get(),
-            XCB_ATOM_CARDINAL)
-            .value_or(std::vector<std::uint32_t>{});
+    const auto numbers = connection.items(connection.requestProperty(connection.root(), atom->atom, XCB_ATOM_CARDINAL),
+                                          XCB_ATOM_CARDINAL, deadline);
     std::vector<WindowRectangle> areas;
-    for (std::size_t first = 0; first + 4 <= numbers.size(); first += 4)
-        areas.push_back(ewmhRectangleAt(numbers, first));
+    for (std::size_t first = 0; numbers && first + 4 <= numbers->size(); first += 4)
+        areas.push_back(ewmhRectangleAt(*numbers, first));
     return areas;
 }
 

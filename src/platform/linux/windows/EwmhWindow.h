@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "actions/Workspace.h"
 #include "platform/linux/windows/WindowRectangle.h"
@@ -74,6 +74,8 @@ struct EwmhWindow {
     /// Its positions are meant as those of the window proper, not of its frame.
     bool hasStaticGravity = false;
     std::optional<EwmhStruts> struts;
+    /// What the property holds in which tiling keeps where the window was; empty if it is not there.
+    std::vector<std::uint32_t> tilingRecord;
 
     bool isOn(std::uint32_t someDesktop) const { return desktop == kAllDesktops || desktop == someDesktop; }
     bool isZoomed() const { return isFullscreen || isMaximizedHorizontally || isMaximizedVertically; }

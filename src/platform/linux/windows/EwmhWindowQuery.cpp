@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace kinesta {
 namespace {
@@ -54,11 +55,11 @@ bool isThisMachine(const xcb_get_property_reply_t* machine) {
 
 }  // namespace
 
-EwmhWindowQuery::EwmhWindowQuery(EwmhConnection& connection, EwmhWindowId window)
+EwmhWindowQuery::EwmhWindowQuery(X11Connection& connection, EwmhWindowId window)
     : m_connection(connection),
       m_window(window),
       m_geometry(xcb_get_geometry(connection.xcb(), window)),
-      m_position(xcb_translate_coordinates(connection.xcb(), window, connection.session().root(), 0, 0)),
+      m_position(xcb_translate_coordinates(connection.xcb(), window, connection.root(), 0, 0)),
       m_pid(connection.requestProperty(window, connection.atoms()._NET_WM_PID, XCB_ATOM_CARDINAL)),
       m_machine(connection.requestProperty(window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_GET_PROPERTY_TYPE_ANY)),
       m_type(connection.requestProperty(window, connection.atoms()._NET_WM_WINDOW_TYPE, XCB_ATOM_ATOM)),
@@ -68,30 +69,32 @@ EwmhWindowQuery::EwmhWindowQuery(EwmhConnection& connection, EwmhWindowId window
       m_hints(xcb_icccm_get_wm_hints(connection.xcb(), window)),
       m_desktop(connection.requestProperty(window, connection.atoms()._NET_WM_DESKTOP, XCB_ATOM_CARDINAL)),
       m_frameExtents(connection.requestProperty(window, connection.atoms()._NET_FRAME_EXTENTS, XCB_ATOM_CARDINAL)),
-      m_shadowExtents(connection.requestProperty(window, connection.session().gtkFrameExtents(), XCB_ATOM_CARDINAL)),
+      m_shadowExtents(connection.requestProperty(window, connection.gtkFrameExtents(), XCB_ATOM_CARDINAL)),
       m_sizeHints(xcb_icccm_get_wm_normal_hints(connection.xcb(), window)),
+      m_tilingRecord(connection.requestProperty(window, connection.tilingRecord(), XCB_ATOM_CARDINAL)),
       m_strutPartial(connection.requestProperty(window, connection.atoms()._NET_WM_STRUT_PARTIAL, XCB_ATOM_CARDINAL)),
       m_strut(connection.requestProperty(window, connection.atoms()._NET_WM_STRUT, XCB_ATOM_CARDINAL)) {}
 
-std::optional<EwmhWindow> EwmhWindowQuery::answer(EwmhConnection::Deadline deadline) {
+std::optional<EwmhWindow> EwmhWindowQuery::answer(Deadline deadline) {
     const auto& atoms = m_connection.atoms();
     const auto geometry = m_connection.reply<xcb_get_geometry_reply_t>(m_geometry, deadline);
     const auto position = m_connection.reply<xcb_translate_coordinates_reply_t>(m_position, deadline);
-    const auto pid = items(m_pid, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    const auto pid = m_connection.items(m_pid, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
     const auto machine = m_connection.reply<xcb_get_property_reply_t>(m_machine, deadline);
-    const auto types = items(m_type, XCB_ATOM_ATOM, deadline).value_or(Items{});
-    const auto states = items(m_states, XCB_ATOM_ATOM, deadline).value_or(Items{});
-    const auto allowedActions = items(m_allowedActions, XCB_ATOM_ATOM, deadline);
-    const auto transientFor = items(m_transientFor, XCB_ATOM_WINDOW, deadline).value_or(Items{});
+    const auto types = m_connection.items(m_type, XCB_ATOM_ATOM, deadline).value_or(Items{});
+    const auto states = m_connection.items(m_states, XCB_ATOM_ATOM, deadline).value_or(Items{});
+    const auto allowedActions = m_connection.items(m_allowedActions, XCB_ATOM_ATOM, deadline);
+    const auto transientFor = m_connection.items(m_transientFor, XCB_ATOM_WINDOW, deadline).value_or(Items{});
     const auto hints = m_connection.reply<xcb_get_property_reply_t>(m_hints, deadline);
-    const auto desktop = items(m_desktop, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
-    const auto extents = insets(items(m_frameExtents, XCB_ATOM_CARDINAL, deadline));
-    const auto shadow = insets(items(m_shadowExtents, XCB_ATOM_CARDINAL, deadline));
+    const auto desktop = m_connection.items(m_desktop, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    const auto extents = insets(m_connection.items(m_frameExtents, XCB_ATOM_CARDINAL, deadline));
+    const auto shadow = insets(m_connection.items(m_shadowExtents, XCB_ATOM_CARDINAL, deadline));
     const auto sizeHints = m_connection.reply<xcb_get_property_reply_t>(m_sizeHints, deadline);
-    const auto strutPartial = items(m_strutPartial, XCB_ATOM_CARDINAL, deadline);
-    // The last answer: it is there only if all are, since a server answers in order.
-    const auto strutReply = m_connection.reply<xcb_get_property_reply_t>(m_strut, deadline);
-    if (!geometry || !position || !strutReply)
+    auto tilingRecord = m_connection.items(m_tilingRecord, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
+    const auto strutPartial = m_connection.items(m_strutPartial, XCB_ATOM_CARDINAL, deadline);
+    const auto strut = m_connection.items(m_strut, XCB_ATOM_CARDINAL, deadline);
+    // A server answers in order: if nothing is overdue after the last answer, none is missing.
+    if (!geometry || !position || !m_connection.isAnswering())
         return std::nullopt;
 
     EwmhWindow window;
@@ -114,13 +117,9 @@ std::optional<EwmhWindow> EwmhWindowQuery::answer(EwmhConnection::Deadline deadl
     window.frame =
         WindowRectangle{position->dst_x, position->dst_y, geometry->width, geometry->height} + window.frameInsets;
     readSizeHints(window, sizeHints.get());
-    window.struts = struts(strutPartial, EwmhConnection::items(strutReply.get(), XCB_ATOM_CARDINAL));
+    window.tilingRecord = std::move(tilingRecord);
+    window.struts = struts(strutPartial, strut);
     return window;
-}
-
-std::optional<Items> EwmhWindowQuery::items(xcb_get_property_cookie_t cookie, xcb_atom_t type,
-                                            EwmhConnection::Deadline deadline) {
-    return EwmhConnection::items(m_connection.reply<xcb_get_property_reply_t>(cookie, deadline).get(), type);
 }
 
 void EwmhWindowQuery::readStates(EwmhWindow& window, const xcb_ewmh_connection_t& atoms, const Items& states) {

@@ -4,22 +4,22 @@
 #include <optional>
 
 #include "platform/linux/windows/EwmhWindow.h"
-#include "platform/linux/x11/EwmhConnection.h"
+#include "platform/linux/x11/X11Connection.h"
 
 namespace kinesta {
 
 /// All that is asked of one window, sent at once, so that many windows cost one round trip.
 class EwmhWindowQuery {
   public:
-    /// Sends the questions. After EwmhConnection::prepare().
-    EwmhWindowQuery(EwmhConnection& connection, EwmhWindowId window);
+    /// Sends the questions. After X11Connection::prepare().
+    EwmhWindowQuery(X11Connection& connection, EwmhWindowId window);
+
+    EwmhWindowId window() const { return m_window; }
 
     /// The answers; nothing if the window is gone or they do not come in time. Exactly once.
-    std::optional<EwmhWindow> answer(EwmhConnection::Deadline deadline);
+    std::optional<EwmhWindow> answer(Deadline deadline);
 
   private:
-    std::optional<std::vector<std::uint32_t>> items(xcb_get_property_cookie_t cookie, xcb_atom_t type,
-                                                    EwmhConnection::Deadline deadline);
     static void readStates(EwmhWindow& window, const xcb_ewmh_connection_t& atoms,
                            const std::vector<std::uint32_t>& states);
     static void readAllowedActions(EwmhWindow& window, const xcb_ewmh_connection_t& atoms,
@@ -28,7 +28,7 @@ class EwmhWindowQuery {
     static void readSizeHints(EwmhWindow& window, const xcb_get_property_reply_t* reply);
     ProcessIdentifier processOf(const std::vector<std::uint32_t>& pid, const xcb_get_property_reply_t* machine) const;
 
-    EwmhConnection& m_connection;
+    X11Connection& m_connection;
     EwmhWindowId m_window;
     xcb_get_geometry_cookie_t m_geometry;
     xcb_translate_coordinates_cookie_t m_position;
@@ -43,6 +43,7 @@ class EwmhWindowQuery {
     xcb_get_property_cookie_t m_frameExtents;
     xcb_get_property_cookie_t m_shadowExtents;
     xcb_get_property_cookie_t m_sizeHints;
+    xcb_get_property_cookie_t m_tilingRecord;
     xcb_get_property_cookie_t m_strutPartial;
     xcb_get_property_cookie_t m_strut;
 };

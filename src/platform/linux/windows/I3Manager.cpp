@@ -5,7 +5,7 @@
 
 namespace kinesta {
 
-bool I3Manager::locate(std::span<EwmhWindow> windows, XcbDeadline deadline) const {
+bool I3Manager::locate(std::span<EwmhWindow> windows, Deadline deadline) const {
     const auto tree = askI3(m_socketPath, I3Question::tree, "", deadline);
     const auto places = tree ? i3Places(*tree) : std::nullopt;
     if (!places)
@@ -26,11 +26,11 @@ bool I3Manager::locate(std::span<EwmhWindow> windows, XcbDeadline deadline) cons
     return true;
 }
 
-std::vector<WindowRectangle> I3Manager::workAreas(XcbDeadline deadline) const {
+std::vector<WindowRectangle> I3Manager::workAreas(Deadline deadline) const {
     return i3WorkAreas(askI3(m_socketPath, I3Question::workspaces, "", deadline).value_or(""));
 }
 
-bool I3Manager::place(EwmhWindowId window, const WindowRectangle& frame, XcbDeadline deadline) const {
+bool I3Manager::place(EwmhWindowId window, const WindowRectangle& frame, Deadline deadline) const {
     const auto pixels = [](int a, int b) { return std::to_string(a) + " px " + std::to_string(b) + " px"; };
     return command(window,
                    "floating enable, resize set " + pixels(frame.width, frame.height) + ", move absolute position " +
@@ -38,13 +38,13 @@ bool I3Manager::place(EwmhWindowId window, const WindowRectangle& frame, XcbDead
                    deadline);
 }
 
-bool I3Manager::returnToLayout(EwmhWindowId window, XcbDeadline deadline) const {
+bool I3Manager::returnToLayout(EwmhWindowId window, Deadline deadline) const {
     return command(window, "floating disable", deadline);
 }
 
-bool I3Manager::close(EwmhWindowId window, XcbDeadline deadline) const { return command(window, "kill", deadline); }
+bool I3Manager::close(EwmhWindowId window, Deadline deadline) const { return command(window, "kill", deadline); }
 
-bool I3Manager::command(EwmhWindowId window, const std::string& words, XcbDeadline deadline) const {
+bool I3Manager::command(EwmhWindowId window, const std::string& words, Deadline deadline) const {
     const auto results =
         askI3(m_socketPath, I3Question::command, "[id=" + std::to_string(window) + "] " + words, deadline);
     return results && i3Succeeded(*results);

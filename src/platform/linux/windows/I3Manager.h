@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/linux/windows/EwmhWindow.h"
-#include "platform/linux/x11/XcbWait.h"
+#include "platform/linux/x11/Deadline.h"
 
 namespace kinesta {
 
@@ -17,20 +17,20 @@ class I3Manager {
     explicit I3Manager(std::string socketPath) : m_socketPath(std::move(socketPath)) {}
 
     /// Sets where the windows are, frames included, which X does not know here. False if nobody answered.
-    bool locate(std::span<EwmhWindow> windows, XcbDeadline deadline) const;
+    bool locate(std::span<EwmhWindow> windows, Deadline deadline) const;
 
     /// What bars leave of each monitor.
-    std::vector<WindowRectangle> workAreas(XcbDeadline deadline) const;
+    std::vector<WindowRectangle> workAreas(Deadline deadline) const;
 
     // Each whether it was done.
     /// Takes a window out of the layout and puts its frame there.
-    bool place(EwmhWindowId window, const WindowRectangle& frame, XcbDeadline deadline) const;
+    bool place(EwmhWindowId window, const WindowRectangle& frame, Deadline deadline) const;
     /// Gives a window a place in the layout again.
-    bool returnToLayout(EwmhWindowId window, XcbDeadline deadline) const;
-    bool close(EwmhWindowId window, XcbDeadline deadline) const;
+    bool returnToLayout(EwmhWindowId window, Deadline deadline) const;
+    bool close(EwmhWindowId window, Deadline deadline) const;
 
   private:
-    bool command(EwmhWindowId window, const std::string& words, XcbDeadline deadline) const;
+    bool command(EwmhWindowId window, const std::string& words, Deadline deadline) const;
 
     std::string m_socketPath;
 };

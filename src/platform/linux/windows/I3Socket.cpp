@@ -4,7 +4,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
@@ -20,13 +19,7 @@ constexpr std::size_t kHeaderSize = kMagic.size() + 2 * sizeof(std::uint32_t);
 /// Thousands of windows take less.
 constexpr std::uint32_t kLongestAnswer = 16U << 20U;
 
-bool awaitReady(int socket, short events, XcbDeadline deadline) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now()).count();
-    pollfd ready{socket, events, 0};
-    return poll(&ready, 1, static_cast<int>(std::clamp<std::int64_t>(left, 0, 60'000))) > 0;
-}
-
-bool sendAll(int socket, std::string_view text, XcbDeadline deadline) {
+bool sendAll(int socket, std::string_view text, Deadline deadline) {
     while (!text.empty()) {
         const ssize_t sent = send(socket, text.data(), text.size(), MSG_NOSIGNAL);
         if (sent > 0)
@@ -37,7 +30,7 @@ bool sendAll(int socket, std::string_view text, XcbDeadline deadline) {
     return true;
 }
 
-bool receiveAll(int socket, char* to, std::size_t length, XcbDeadline deadline) {
+bool receiveAll(int socket, char* to, std::size_t length, Deadline deadline) {
     while (length > 0) {
         const ssize_t received = recv(socket, to, length, 0);
         if (received == 0)
@@ -62,7 +55,7 @@ std::string header(I3Question question, const std::string& payload) {
 }  // namespace
 
 std::optional<std::string> askI3(const std::string& socketPath, I3Question question, const std::string& payload,
-                                 XcbDeadline deadline) {
+                                 Deadline deadline) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     if (socketPath.empty() || socketPath.size() >= sizeof address.sun_path)

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/x11/XcbWait.h"
+#include "platform/linux/x11/Deadline.h"
 
 namespace kinesta {
 
@@ -14,6 +14,6 @@ enum class I3Question { command = 0, workspaces = 1, tree = 4 };
 /// listen there or does not answer in time. Each question makes a connection of its own, which takes microseconds:
 /// there is none to be lost when the window manager starts anew.
 std::optional<std::string> askI3(const std::string& socketPath, I3Question question, const std::string& payload,
-                                 XcbDeadline deadline);
+                                 Deadline deadline);
 
 }  // namespace kinesta

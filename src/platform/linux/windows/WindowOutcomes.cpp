@@ -52,7 +52,7 @@ void WindowOutcomes::begin() {
 Outcome WindowOutcomes::settle(Seconds patience) {
     if (m_requests.empty())
         return Outcome::nothingAsked;
-    const auto deadline = xcbDeadlineIn(patience);
+    const auto deadline = deadlineIn(patience);
     Outcome outcome = outcomeNow();
     while (outcome != Outcome::done && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::sleep_for(kBetweenLooks);
@@ -89,7 +89,7 @@ std::string WindowOutcomes::obstacle(Kind kind) {
         return "The active window cannot be closed.";
     if (kind != Kind::close && !canTile(WindowTilingMenuCommand::left, *desktop))
         return "The active window cannot be tiled.";
-    if (kind == Kind::untile && !m_desktop.tilingRecords({&active->id, 1}, kPatienceForReasons)[0])
+    if (kind == Kind::untile && active->tilingRecord.empty())
         return "The window has no previous size: it was not tiled.";
     return "The desktop took too long to answer. Try again.";
 }

@@ -1,7 +1,6 @@
 #include "platform/linux/windows/WindowTiler.h"
 
 #include <algorithm>
-#include <chrono>
 
 #include "platform/linux/windows/TilingGeometry.h"
 #include "platform/linux/windows/TilingPlan.h"
@@ -14,11 +13,6 @@ using Command = WindowTilingMenuCommand;
 
 /// Which part of the time that is left the window manager gets to end maximization; the rest is for what follows.
 constexpr double kShareOfRestoring = 0.6;
-
-Seconds timeLeft(EwmhConnection::Deadline deadline) {
-    const std::chrono::duration<double> left = deadline - std::chrono::steady_clock::now();
-    return std::max(0.0, left.count());
-}
 
 bool isActive(ProcessIdentifier application, const EwmhSnapshot& desktop) {
     const EwmhWindow* active = desktop.window(desktop.activeWindow);
@@ -33,7 +27,7 @@ bool WindowTiler::canPerform(Command command, ProcessIdentifier application, Sec
 }
 
 bool WindowTiler::perform(Command command, ProcessIdentifier application, Seconds timeout) {
-    const auto deadline = EwmhConnection::deadlineIn(timeout);
+    const auto deadline = deadlineIn(timeout);
     const auto desktop = m_desktop.snapshot(timeout);
     if (!desktop || !isActive(application, *desktop) || !canTile(command, *desktop))
         return false;
@@ -43,10 +37,6 @@ bool WindowTiler::perform(Command command, ProcessIdentifier application, Second
     const auto participants = restored(tilingParticipants(command, *desktop), deadline);
     if (participants.empty() || participants[0].before.id != desktop->activeWindow)
         return false;
-    std::vector<EwmhWindowId> ids;
-    for (const auto& each : participants)
-        ids.push_back(each.restored.id);
-    const auto records = m_desktop.tilingRecords(ids, timeLeft(deadline));
 
     const WindowRectangle area = desktop->monitorOf(participants[0].before.frame).workArea;
     auto places = tilingPlaces(command, area, participants.size());
@@ -55,7 +45,7 @@ bool WindowTiler::perform(Command command, ProcessIdentifier application, Second
     for (std::size_t i = 0; i < places.size(); ++i) {
         const EwmhWindow& window = participants[i].restored;
         const WindowRectangle frame = fitted(places[i], window.frameInsets, window.limits, area);
-        auto record = records[i] ? TilingRecord::decoded(*records[i]) : std::nullopt;
+        auto record = TilingRecord::decoded(window.tilingRecord);
         if (!record || !record->describes(window))
             record = TilingRecord::of(participants[i].before, window);
         record->tiledFrame = frame;
@@ -69,16 +59,15 @@ bool WindowTiler::perform(Command command, ProcessIdentifier application, Second
     return true;
 }
 
-bool WindowTiler::untile(const EwmhSnapshot& desktop, EwmhConnection::Deadline deadline) {
-    const EwmhWindowId id = desktop.activeWindow;
-    const auto numbers = m_desktop.tilingRecords({&id, 1}, timeLeft(deadline))[0];
-    const auto record = numbers ? TilingRecord::decoded(*numbers) : std::nullopt;
+bool WindowTiler::untile(const EwmhSnapshot& desktop, Deadline deadline) {
+    const EwmhWindow& active = *desktop.window(desktop.activeWindow);
+    const auto record = TilingRecord::decoded(active.tilingRecord);
     if (!record)
         return true;
-    const auto windows = restored({*desktop.window(id)}, deadline);
+    const auto windows = restored({active}, deadline);
     if (windows.empty())
         return false;
-    m_desktop.setTilingRecord(id, {});
+    m_desktop.setTilingRecord(active.id, {});
     if (record->wasInLayout && m_desktop.returnToLayout(windows[0].restored)) {
         m_desktop.flush();
         return true;
@@ -95,8 +84,7 @@ bool WindowTiler::untile(const EwmhSnapshot& desktop, EwmhConnection::Deadline d
     return true;
 }
 
-std::vector<WindowTiler::Participant> WindowTiler::restored(const std::vector<EwmhWindow>& windows,
-                                                            EwmhConnection::Deadline deadline) {
+std::vector<WindowTiler::Participant> WindowTiler::restored(const std::vector<EwmhWindow>& windows, Deadline deadline) {
     m_desktop.restore(windows, timeLeft(deadline) * kShareOfRestoring);
     std::vector<Participant> participants;
     for (const auto& window : windows) {

@@ -27,8 +27,8 @@ class WindowTiler {
         EwmhWindow restored;
     };
 
-    bool untile(const EwmhSnapshot& desktop, EwmhConnection::Deadline deadline);
-    std::vector<Participant> restored(const std::vector<EwmhWindow>& windows, EwmhConnection::Deadline deadline);
+    bool untile(const EwmhSnapshot& desktop, Deadline deadline);
+    std::vector<Participant> restored(const std::vector<EwmhWindow>& windows, Deadline deadline);
 
     EwmhDesktop& m_desktop;
 };

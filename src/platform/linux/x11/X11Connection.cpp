@@ -1,29 +1,41 @@
 #include "platform/linux/x11/X11Connection.h"
 
 #include <poll.h>
+#include <xcb/randr.h>
+#include <xcb/xcbext.h>
 #include <xcb/xtest.h>
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/x11/X11Connect.h"
-#include "platform/linux/x11/XcbWait.h"
+#include "platform/linux/x11/X11Socket.h"
 
 namespace kinesta {
 namespace {
 
-bool hasTestExtension(xcb_connection_t* connection) {
-    const auto* extension = xcb_get_extension_data(connection, &xcb_test_id);
-    if (extension == nullptr || extension->present == 0)
-        return false;
-    return XcbPointer<xcb_test_get_version_reply_t>(
-               xcb_test_get_version_reply(connection, xcb_test_get_version(connection, 2, 2), nullptr)) != nullptr;
+/// A busy machine may need this long for the dozen messages of a new connection, whatever the first question needs.
+constexpr Seconds kConnecting = 0.25;
+constexpr Seconds kBeforeNextAttempt = 1;
+constexpr Seconds kAnswersStay = 0.05;
+constexpr Seconds kAtTheEnd = 0.5;
+
+using AtomReply = xcb_intern_atom_reply_t;
+
+xcb_intern_atom_cookie_t internAtom(xcb_connection_t* connection, std::string_view name) {
+    return xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
 }
 
-// XCB learns of the server's end only when it reads or writes, which would be at the first key lost.
-bool isAlive(xcb_connection_t* connection) {
-    pollfd socket{xcb_get_file_descriptor(connection), 0, 0};
-    return xcb_connection_has_error(connection) == 0 && poll(&socket, 1, 0) == 0;
+xcb_atom_t atomOf(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie) {
+    const XcbPointer<AtomReply> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+/// A request of an extension that the server lacks would end the connection.
+bool hasExtension(xcb_connection_t* connection, xcb_extension_t& extension) {
+    const auto* data = xcb_get_extension_data(connection, &extension);
+    return data != nullptr && data->present != 0;
 }
 
 }  // namespace
@@ -31,45 +43,204 @@ bool isAlive(xcb_connection_t* connection) {
 X11Connection::X11Connection(std::string displayName) : m_displayName(std::move(displayName)) { surviveBrokenPipes(); }
 
 X11Connection::~X11Connection() {
-    // Requests are read in order, so an answer to the last says that none is left to be lost with the connection.
-    if (m_connection != nullptr)
-        answers(0.5);
-    close();
+    // A server drops what it has not read when its client is gone. It reads in order: its answer to the last request
+    // means that it has read all.
+    if (xcb() != nullptr && xcb_connection_has_error(xcb()) == 0)
+        reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(xcb()), deadlineIn(kAtTheEnd));
+    disconnect();
 }
 
-xcb_connection_t* X11Connection::open() {
-    if (m_connection != nullptr && isAlive(m_connection))
-        return m_connection;
-    close();
-    int screenNumber = 0;
-    m_connection = connectToXServer(m_displayName, &screenNumber);
-    if (xcb_connection_has_error(m_connection) != 0) {
-        close();
-        return nullptr;
+bool X11Connection::prepare(Deadline deadline) {
+    pollfd socket{xcb() != nullptr ? xcb_get_file_descriptor(xcb()) : -1, POLLOUT, 0};
+    poll(&socket, 1, 0);
+    // XCB notices the end of the server only when it reads or writes: the first key would be lost.
+    const bool hasEnded = (socket.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0;
+    if (xcb() != nullptr && (hasEnded || xcb_connection_has_error(xcb()) != 0))
+        disconnect();
+    if (xcb() == nullptr)
+        return connect(deadline);
+    // Writable means here that at least three quarters of the buffer are free: requests never wait for room.
+    if (socket.revents == 0)
+        return false;
+    if (m_overdue) {
+        void* late = nullptr;
+        xcb_generic_error_t* error = nullptr;
+        if (xcb_poll_for_reply(xcb(), *m_overdue, &late, &error) == 0)
+            return false;
+        std::free(late);
+        std::free(error);
+        m_overdue.reset();
     }
-    auto screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
-    for (; screenNumber > 0 && screens.rem > 1; --screenNumber)
-        xcb_screen_next(&screens);
-    m_root = screens.data->root;
-    m_canPostInput = hasTestExtension(m_connection);
-    ++m_generation;
-    return m_connection;
+    takeEvents();
+    return xcb_connection_has_error(xcb()) == 0 || prepare(deadline);
 }
 
 bool X11Connection::answers(Seconds patience) {
-    xcb_connection_t* connection = open();
-    if (connection == nullptr)
+    const auto deadline = deadlineIn(patience);
+    // A server that hung gets its chance again here, once for each action.
+    if (m_overdue)
+        awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline);
+    if (!prepare(deadline))
         return false;
-    const unsigned question = xcb_get_input_focus(connection).sequence;
-    const auto answer = awaitXcbReply(connection, question, xcbDeadlineIn(patience));
-    if (!answer)
-        xcb_discard_reply(connection, question);
-    return answer && *answer;
+    return std::chrono::steady_clock::now() < m_lastAnswer + std::chrono::duration<Seconds>(kAnswersStay) ||
+           reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(xcb()), deadline) != nullptr;
 }
 
-void X11Connection::close() {
-    if (m_connection != nullptr)
-        xcb_disconnect(std::exchange(m_connection, nullptr));
+bool X11Connection::isAnswering() const {
+    return xcb() != nullptr && !m_overdue && xcb_connection_has_error(xcb()) == 0;
+}
+
+bool X11Connection::connect(Deadline deadline) {
+    if (std::chrono::steady_clock::now() < m_nextAttempt)
+        return false;
+    deadline = std::max(deadline, deadlineIn(kConnecting));
+    const X11Socket server = X11Socket::connect(m_displayName, deadline);
+    m_isHanging = server.isHanging;
+    if (server.socket) {
+        SocketDeadline limit(server.socket.number(), deadline);
+        m_ewmh.connection = server.authorize();
+        if (!setUp(server.screen))
+            disconnect();
+        m_isHanging = limit.hasPassed();
+    }
+    if (m_isHanging) {
+        disconnect();
+        m_nextAttempt = deadlineIn(kBeforeNextAttempt);
+    }
+    return xcb() != nullptr;
+}
+
+/// Asks all that is asked once. Waits as long as it takes.
+bool X11Connection::setUp(int screenNumber) {
+    xcb_connection_t* connection = xcb();
+    if (xcb_connection_has_error(connection) != 0)
+        return false;
+    for (xcb_extension_t* extension : {&xcb_test_id, &xcb_randr_id})
+        xcb_prefetch_extension_data(connection, extension);
+    const auto gtkFrameExtents = internAtom(connection, "_GTK_FRAME_EXTENTS");
+    const auto tilingRecord = internAtom(connection, "_KINESTA_TILING_RECORD");
+    const auto i3SocketPath = internAtom(connection, "I3_SOCKET_PATH");
+    auto* ewmhCookies = xcb_ewmh_init_atoms(connection, &m_ewmh);
+    if (xcb_ewmh_init_atoms_replies(&m_ewmh, ewmhCookies, nullptr) == 0) {
+        // The library has freed these already.
+        m_ewmh.screens = nullptr;
+        m_ewmh._NET_WM_CM_Sn = nullptr;
+        return false;
+    }
+    m_gtkFrameExtents = atomOf(connection, gtkFrameExtents);
+    m_tilingRecord = atomOf(connection, tilingRecord);
+    m_i3SocketPath = atomOf(connection, i3SocketPath);
+    m_screenNumber = std::clamp(screenNumber, 0, m_ewmh.nb_screens - 1);
+    m_canPostInput = m_knowsMonitors = false;
+    if (hasExtension(connection, xcb_test_id))
+        m_canPostInput = XcbPointer<xcb_test_get_version_reply_t>(xcb_test_get_version_reply(
+                             connection, xcb_test_get_version(connection, 2, 2), nullptr)) != nullptr;
+    if (hasExtension(connection, xcb_randr_id)) {
+        const XcbPointer<xcb_randr_query_version_reply_t> version(
+            xcb_randr_query_version_reply(connection, xcb_randr_query_version(connection, 1, 5), nullptr));
+        m_knowsMonitors = version && (version->major_version > 1 || version->minor_version >= 5);
+    }
+    m_ownWindow = xcb_generate_id(connection);
+    const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, m_ownWindow, root(), -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
+    xcb_flush(connection);
+    ++m_generation;
+    return xcb_connection_has_error(connection) == 0;
+}
+
+void X11Connection::disconnect() {
+    m_overdue.reset();
+    m_lastAnswer = {};
+    m_bytesWritten = 0;
+    m_eventCounts = {};
+    if (xcb() == nullptr)
+        return;
+    xcb_ewmh_connection_wipe(&m_ewmh);
+    xcb_disconnect(m_ewmh.connection);
+    m_ewmh = {};
+}
+
+void* X11Connection::awaitReply(unsigned sequence, Deadline deadline) {
+    void* reply = nullptr;
+    xcb_generic_error_t* error = nullptr;
+    xcb_flush(xcb());
+    if (const auto written = xcb_total_written(xcb()); std::exchange(m_bytesWritten, written) != written)
+        ++m_roundTrips;
+    while (xcb_poll_for_reply(xcb(), sequence, &reply, &error) == 0) {
+        if (!awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline)) {
+            if (m_overdue)
+                xcb_discard_reply(xcb(), sequence);
+            else
+                m_overdue = sequence;
+            return nullptr;
+        }
+    }
+    std::free(error);
+    if (xcb_connection_has_error(xcb()) == 0)
+        m_lastAnswer = std::chrono::steady_clock::now();
+    return reply;
+}
+
+xcb_get_property_cookie_t X11Connection::requestProperty(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
+                                                         std::uint32_t maximumItems) {
+    return xcb_get_property(xcb(), 0, window, property, type, 0, maximumItems);
+}
+
+std::optional<std::vector<std::uint32_t>> X11Connection::items(xcb_get_property_cookie_t cookie, xcb_atom_t type,
+                                                               Deadline deadline) {
+    const auto property = reply<xcb_get_property_reply_t>(cookie, deadline);
+    if (!property || property->type != type || property->format != 32)
+        return std::nullopt;
+    const auto* first = static_cast<const std::uint32_t*>(xcb_get_property_value(property.get()));
+    return std::vector<std::uint32_t>(first, first + property->value_len);
+}
+
+void X11Connection::runUntil(Deadline deadline, const std::function<void()>& work) {
+    const SocketDeadline limit(xcb_get_file_descriptor(xcb()), deadline);
+    work();
+}
+
+XcbPointer<xcb_generic_event_t> X11Connection::nextEvent() {
+    XcbPointer<xcb_generic_event_t> event(xcb_poll_for_event(xcb()));
+    if (!event)
+        return event;
+    ++m_eventCounts[event->response_type & 0x7FU];
+    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(*event);
+    if ((event->response_type & 0x7F) == XCB_PROPERTY_NOTIFY && change.window == m_ownWindow)
+        m_serverTime = change.time;
+    return event;
+}
+
+void X11Connection::takeEvents() {
+    while (nextEvent()) {
+    }
+}
+
+bool X11Connection::awaitEvent(const std::function<bool(const xcb_generic_event_t&)>& isAwaited, Deadline deadline) {
+    xcb_flush(xcb());
+    do {
+        while (const auto event = nextEvent())
+            if (isAwaited(*event))
+                return true;
+    } while (xcb_connection_has_error(xcb()) == 0 && awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline));
+    return false;
+}
+
+void X11Connection::requestServerTime() {
+    m_serverTime = XCB_CURRENT_TIME;
+    // Nothing is appended to a property: the server notifies us, with its time.
+    xcb_change_property(xcb(), XCB_PROP_MODE_APPEND, m_ownWindow, m_tilingRecord, XCB_ATOM_CARDINAL, 32, 0, nullptr);
+}
+
+xcb_timestamp_t X11Connection::serverTime() {
+    takeEvents();
+    return m_serverTime;
+}
+
+void X11Connection::flush() {
+    if (xcb() != nullptr)
+        xcb_flush(xcb());
 }
 
 }  // namespace kinesta

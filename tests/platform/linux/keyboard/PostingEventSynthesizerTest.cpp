@@ -15,9 +15,11 @@ constexpr auto kUp = KeyTransition::up;
 
 struct PostingEventSynthesizerTest : ::testing::Test, InputPoster {
     bool isAvailable() override { return works; }
-    bool canPost(std::uint16_t code) override { return works && code != KEY_102ND; }
-    ModifierSituation modifiers() override {
-        return {{{KEY_LEFTSHIFT, kShiftModifier}, {KEY_LEFTCTRL, kControlModifier}}, {{KEY_LEFTSHIFT, kShiftModifier}}};
+    std::optional<ModifierSituation> modifiersFor(std::uint16_t code) override {
+        if (!works || code == KEY_102ND)
+            return std::nullopt;
+        return ModifierSituation{{{KEY_LEFTSHIFT, kShiftModifier}, {KEY_LEFTCTRL, kControlModifier}},
+                                 {{KEY_LEFTSHIFT, kShiftModifier}}};
     }
     std::optional<DesktopLocation> pointerLocation() override { return std::nullopt; }
     bool post(std::span<const InputTransition> transitions) override {
