@@ -31,9 +31,6 @@ ARROWS = CORE | {
 # includes no higher one.
 FLOORS = [{"process", "x11"}, {"settings", "touchpad"}, {"keyboard"}, {"session"}, {"launching", "windows"}]
 
-# The session still asks the window manager itself.
-ABOVE_ITS_FLOOR = {("session/DesktopFacts.h", "windows")}
-
 # What a core module may include in angle brackets beyond the standard library.
 LIBRARIES = {"support": ("nlohmann/",), "rules": ("nlohmann/",), "input": ("nlohmann/", "yaml.h")}
 
@@ -70,7 +67,7 @@ def judge_platform_include(name, quoted):
     own, other = floor(name), floor(quoted)
     if own is None or other is None:
         return f'"{quoted}": this folder or that of the file has no floor in platform/linux'
-    if other > own and (name.removeprefix("platform/linux/"), quoted.split("/")[2]) not in ABOVE_ITS_FLOOR:
+    if other > own:
         return f'"{quoted}" is on a higher floor'
     return None
 
