@@ -124,10 +124,11 @@ TEST_F(ActionExecutorTest, PressesAVolumeKeyOncePerStepUpToABound) {
     const GestureAction volume = action(ActionKind::adjustVolume);
     EXPECT_EQ(calls(volume, 0), "");
     constexpr std::int64_t kBound = ActionExecutor::kMaximumVolumePresses;
-    for (const std::int64_t steps : {std::int64_t{3}, std::int64_t{-2}, kBound, kBound + 1, INT64_MAX, INT64_MIN}) {
+    for (const auto& [steps, presses] : std::initializer_list<std::pair<std::int64_t, std::int64_t>>{
+             {3, 3}, {-2, 2}, {kBound, kBound}, {kBound + 1, kBound}, {INT64_MAX, kBound}, {INT64_MIN, kBound}}) {
         const std::string key = steps > 0 ? "post - system 8 " : "post - system 8 10";
         Calls expected;
-        for (std::int64_t i = 0; i != steps && i != -steps && i < kBound; ++i)
+        for (std::int64_t i = 0; i < presses; ++i)
             expected.insert(expected.end(), {key + "a00 -1", key + "b00 -1"});
         EXPECT_EQ(effects(volume, steps), joined(expected));
     }
