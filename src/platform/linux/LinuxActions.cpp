@@ -84,7 +84,7 @@ LinuxActions::LinuxActions(const Clock& clock, const UserDefaults& defaults, con
 LinuxActions::~LinuxActions() = default;
 
 void LinuxActions::prepareToPost() {
-    // Where keys take another way, to ask XWayland is to start it.
+    // Through the virtual device no layout is needed yet, and asking XWayland for it would start XWayland.
     if (!m_parts->poster.usesVirtualDevice())
         m_parts->layout.charactersWithoutModifiers();
 }

@@ -12,7 +12,7 @@
 
 namespace kinesta {
 
-/// Everything that actions need of a Linux desktop, put together for the session that we are in. Main thread only.
+/// Everything that actions need from a Linux desktop, assembled for the current session. Main thread only.
 class LinuxActions {
   public:
     /// Receives one sentence that says why something could not be done. Also called on other threads.
@@ -20,30 +20,30 @@ class LinuxActions {
 
     using Output = PosixProcessLauncher::Output;
 
-    /// Asks nothing of the desktop yet: an action waits only for what it needs. `output` is that of the programs that
-    /// are started. Clock and defaults must outlive this.
+    /// Does not contact the desktop yet: an action waits only for what it needs. `output` is where the output of
+    /// started programs goes. Clock and defaults must outlive this.
     LinuxActions(const Clock& clock, const UserDefaults& defaults, const Log& log, Output output = Output::nowhere);
     ~LinuxActions();
 
     /// Makes the virtual device or reads the layout now, so that the first stroke does not wait for it.
     void prepareToPost();
 
-    /// Valid as long as this lives. Shell commands are permitted by `settings`.
+    /// Valid as long as this lives. `settings` decide whether shell commands may run.
     ActionPorts ports(const UserDefaults& settings, ActionCuePresenting& cue);
     InProcessNotifications& notifications();
 
-    /// Waits until the desktop can have noticed a new virtual keyboard, or read its last keys. Returns at once where
-    /// there is none.
+    /// Waits long enough for the desktop to notice a new virtual keyboard, or to read its last keys. Returns at once if
+    /// there is no virtual keyboard.
     void letDesktopCatchUp();
 
     WindowOutcomes& windowOutcomes();
 
-    /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names. It does not
-    /// if no layout of the keyboard has that letter, or has another one in its place on a US keyboard. True for keys
-    /// that name no letter.
+    /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names. False if no
+    /// layout of the keyboard types that letter with the key that is posted. True for keys that name no letter, and if
+    /// no layout is known.
     bool typesLetterOf(std::uint16_t keyCode, const std::string& name);
 
-    /// How often the X server has been waited for so far.
+    /// How often we have waited for the X server so far.
     unsigned roundTrips() const;
 
     /// What kind of session this is, and what works in it now. May take seconds if services do not answer.

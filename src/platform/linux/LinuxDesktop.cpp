@@ -14,7 +14,7 @@
 namespace kinesta {
 namespace {
 
-/// share/kinesta/examples beside the folder of the running program, in an installation as in a build tree.
+/// share/kinesta/examples beside the folder of the running program, both in an installation and in a build tree.
 std::filesystem::path examplesOfThisProgram() {
     std::error_code ignored;
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", ignored);

@@ -15,7 +15,8 @@
 
 namespace kinesta {
 
-/// A Linux machine: its touchpad from the kernel, its settings in a file, its session over X, D-Bus and uinput.
+/// A Linux machine: it reads the touchpad from the kernel and settings from a file, and reaches the session through X,
+/// D-Bus and uinput.
 class LinuxDesktop final : public Desktop {
   public:
     struct Places {
@@ -25,7 +26,7 @@ class LinuxDesktop final : public Desktop {
         std::filesystem::path examples;
         GestureSystem gestureSystem = GestureSystem::none;
 
-        /// Those of the running session and program.
+        /// The places of the running session and program.
         static Places current();
     };
 
@@ -82,7 +83,7 @@ class LinuxDesktop final : public Desktop {
     Tell m_onSettingsProblem;
     Tell m_onActionProblem;
     ProgramOutput m_programOutput = ProgramOutput::nowhere;
-    // Made at their first use. Those that start threads follow the signals, which threads inherit.
+    // Created at first use. Members that start threads come after the signals, because threads inherit the signal mask.
     std::optional<TerminalTakeover> m_terminal;
     std::optional<SignalListener> m_signals;
     std::optional<SingleInstance> m_instance;

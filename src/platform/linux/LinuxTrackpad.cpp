@@ -36,7 +36,7 @@ void LinuxTrackpad::choose(const std::string& wanted) {
 
 void LinuxTrackpad::watch(std::function<void(const PadEvent&)> watcher) {
     m_watcher = std::move(watcher);
-    // Frames arrive on the provider's thread, and each is posted to the main thread by itself.
+    // Frames arrive on the provider's thread; each one is posted to the main thread.
     m_provider.setFrameHandler([this, recognize = m_provider.frameHandler()](const TrackpadContactFrame& frame) {
         if (recognize)
             recognize(frame);

@@ -12,11 +12,12 @@
 
 namespace kinesta {
 
-/// The touchpad that the kernel's input devices offer, with its own clicks as pointer events. Main thread only; what it
-/// is given must outlive it.
+/// The touchpad among the kernel's input devices, with its own clicks as pointer events. Main thread only. The
+/// constructor's arguments must outlive this.
 class LinuxTrackpad final : public LiveTrackpad {
   public:
-    /// The setting that names the touchpad to read, by path or name; absent or empty: a built-in one, else any.
+    /// The setting that names the touchpad to read, by path or name. If it is absent or empty, a built-in touchpad is
+    /// used, else any.
     static constexpr std::string_view kSettingKey = "linux.touchpad.v1";
 
     LinuxTrackpad(MainThread& mainThread, const Clock& clock, const UserDefaults& defaults);

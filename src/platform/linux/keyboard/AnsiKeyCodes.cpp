@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::uint16_t kNone = KEY_RESERVED;
 
-// By virtual key code, eight a row. 127, the power key, is left out: no gesture shall switch the machine off.
+// Indexed by virtual key code, eight in a row. 127, the power key, is left out: no gesture should switch the machine
+// off.
 constexpr std::array<std::uint16_t, 128> kKeys{
     // clang-format off
     /*   0 */ KEY_A, KEY_S, KEY_D, KEY_F, KEY_H, KEY_G, KEY_Z, KEY_X,

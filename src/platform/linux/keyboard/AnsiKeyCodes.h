@@ -5,8 +5,8 @@
 
 namespace kinesta {
 
-/// The kernel's code (KEY_…) of the key that sits where the key with this ANSI virtual key code sits; nothing for a
-/// code without a key on keyboards here, such as 63, the fn key.
+/// The kernel's code (KEY_…) for the key in the position of this ANSI virtual key code; nothing for a code that
+/// keyboards here have no key for, such as 63, the fn key.
 std::optional<std::uint16_t> evdevKeyCode(std::uint16_t ansiKeyCode);
 
 }  // namespace kinesta

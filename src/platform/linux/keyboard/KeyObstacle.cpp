@@ -6,7 +6,7 @@
 namespace kinesta {
 namespace {
 
-/// Arrows under ⌃fn, ⌃⇧fn or ⌃⌥⇧fn. The letters among the tiling commands have no meaning together with fn anyway.
+/// Arrows with ⌃fn, ⌃⇧fn or ⌃⌥⇧fn. Tiling commands on letters need no check, because letters have no meaning with fn.
 bool isTiling(std::uint16_t ansiKeyCode, std::uint64_t flags) {
     constexpr std::uint16_t kFirstArrow = 123;
     constexpr std::uint16_t kLastArrow = 126;

@@ -13,7 +13,7 @@ constexpr std::uint64_t kOptionFlag = 0x080000;
 constexpr std::uint64_t kCommandFlag = 0x100000;
 constexpr std::uint64_t kFunctionFlag = 0x800000;
 
-// What fn turns a key into. Keyboards report some keys with fn in them already: these stay as they are.
+// What fn turns a key into. Keys that keyboards already report with fn applied stay as they are.
 std::optional<std::uint16_t> withFunction(std::uint16_t code) {
     switch (code) {
         case KEY_LEFT:
@@ -62,8 +62,8 @@ DesktopModifiers modifiersForFlags(std::uint64_t flags, LinuxActionSettings::Com
         modifiers |= kControlModifier;
     if ((flags & kOptionFlag) != 0)
         modifiers |= kAltModifier;
-    // A shortcut with both ⌘ and ⌃ means two keys. As one it would be another shortcut: to lock the screen, ⌃⌘Q, would
-    // be to quit the program.
+    // A shortcut with both ⌘ and ⌃ needs two keys. With one it would be another shortcut: ⌃⌘Q, which locks the screen,
+    // would quit the program.
     const bool isSuper = commandKey == LinuxActionSettings::CommandKey::super || (flags & kControlFlag) != 0;
     if ((flags & kCommandFlag) != 0)
         modifiers |= isSuper ? kSuperModifier : kControlModifier;

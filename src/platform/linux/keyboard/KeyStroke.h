@@ -16,10 +16,10 @@ inline constexpr DesktopModifiers kShiftModifier = 1;
 inline constexpr DesktopModifiers kControlModifier = 2;
 inline constexpr DesktopModifiers kAltModifier = 4;
 inline constexpr DesktopModifiers kSuperModifier = 8;
-/// Any other that changes what a key means while it is held, such as AltGr.
+/// Any other modifier that changes what a key means while it is held, such as AltGr.
 inline constexpr DesktopModifiers kOtherModifier = 16;
 
-/// A key or button (the kernel's KEY_… and BTN_… codes) that goes down or up.
+/// A key or button (kernel code KEY_… or BTN_…) that goes down or up.
 struct InputTransition {
     std::uint16_t code;
     KeyTransition transition;
@@ -35,32 +35,32 @@ struct ModifierKey {
     DesktopModifiers modifiers;
 };
 
-/// What must be known of a keyboard to press a shortcut on it.
+/// What must be known about a keyboard to press a shortcut on it.
 struct ModifierSituation {
     /// The keys that give shift, control, alt and super, one modifier each.
     InlineVector<ModifierKey, 4> available;
-    /// The modifier keys that are down now. Keys that lock, such as Caps Lock, are not among them: to release one and
-    /// to press it again would turn the lock over.
+    /// The modifier keys that are down now. Keys that lock, such as Caps Lock, are left out: releasing one and pressing
+    /// it again would toggle the lock.
     InlineVector<ModifierKey, 8> held;
 };
 
-/// A stroke of one key under exactly the wanted modifiers: everything that goes with its going down, then everything
-/// that goes with its coming up.
+/// A stroke of one key with exactly the wanted modifiers: what to send when it goes down, then what to send when it
+/// comes up.
 struct KeyStroke {
     InputTransitions down;
     InputTransitions up;
 };
 
-/// The key that a shortcut's virtual key code means here: with fn an arrow is Home, End, Page Up or Page Down, Delete
-/// deletes forward and Return is the keypad's Enter. Nothing if no key here does it: fn has no meaning with letters,
-/// and to press the bare letter instead would type into the person's text.
+/// The key that a shortcut's virtual key code means here. With fn an arrow is Home, End, Page Up or Page Down, Delete
+/// deletes forward and Return is the keypad's Enter. Nothing if no key here does that: fn has no meaning with letters,
+/// and posting the bare letter would type into the person's text.
 std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint64_t flags);
 
-/// The modifiers here that event flags (the masks of ShortcutKey::eventFlags()) ask for. ⌘ is Super where
-/// ⌃ is wanted as well. Flags without a counterpart are passed over.
+/// The modifiers for event flags (the masks of ShortcutKey::eventFlags()). ⌘ becomes `commandKey`, or Super if ⌃ is
+/// wanted too. Flags without a counterpart are ignored.
 DesktopModifiers modifiersForFlags(std::uint64_t flags, LinuxActionSettings::CommandKey commandKey);
 
-/// How to strike a key so that exactly the `wanted` modifiers are in force while it is down, and every modifier key is
+/// How to strike a key so that exactly the `wanted` modifiers apply while it is down, and every modifier key is
 /// afterwards as it was before. A wanted modifier that the keyboard has no key for is left out.
 KeyStroke strokeKey(std::uint16_t code, DesktopModifiers wanted, const ModifierSituation& situation);
 

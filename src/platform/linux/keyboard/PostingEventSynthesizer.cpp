@@ -61,8 +61,8 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
 
 std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeCenterButtonEvent(EventSource*, KeyTransition transition,
                                                                                  DesktopLocation) {
-    // Where the pointer is, not at the location: that is where the pointer was a moment ago, and a pointer that the
-    // person moves must not be set back.
+    // Clicks where the pointer is now. The location is where it was a moment ago, and a pointer that the person is
+    // moving must not jump back.
     return std::make_unique<Event>([this, transition](auto) {
         const InputTransition click{BTN_MIDDLE, transition};
         m_poster.post({&click, 1});
@@ -92,7 +92,7 @@ bool PostingEventSynthesizer::postKey(std::uint16_t code, KeyTransition transiti
         return true;
     }
     if (transition == KeyTransition::down)
-        finishPending();  // first: its modifiers must not count as held
+        finishPending();  // first, so that its modifiers do not count as held
     const auto situation = m_poster.modifiersFor(code);
     if (!situation)
         return false;

@@ -12,15 +12,15 @@ namespace kinesta {
 
 /// Turns the events of actions into keys and buttons of this desktop. Main thread only.
 ///
-/// A key that goes down with flags set gets exactly the modifiers of the flags, and its coming up puts back every
-/// modifier key that the person held. The fn key itself (63) is not posted: no desktop here knows it, and what it
-/// turns another key into is in that key's flags.
+/// A key that goes down with flags gets exactly the modifiers of the flags. When it comes up, every modifier key that
+/// the person held is restored. The fn key itself (63) is not posted: no desktop here knows it, and its effect on
+/// another key is in that key's flags.
 class PostingEventSynthesizer final : public EventSynthesizer {
   public:
-    /// Is told, as one sentence, why an event was dropped.
+    /// Receives one sentence when an event is dropped.
     using Log = std::function<void(const std::string&)>;
 
-    /// The poster and the defaults must outlive this, and this the events that it makes.
+    /// The poster and the defaults must outlive this, and this must outlive the events that it makes.
     PostingEventSynthesizer(InputPoster& poster, const UserDefaults& defaults, Log log);
     ~PostingEventSynthesizer() override;
 
@@ -35,7 +35,7 @@ class PostingEventSynthesizer final : public EventSynthesizer {
   private:
     class Event;
 
-    /// A key that went down, and what is still to be sent for it.
+    /// A key that went down, and what must still be sent for it.
     struct Pending {
         std::uint16_t code;
         InputTransitions up;

@@ -14,7 +14,7 @@
 namespace kinesta {
 namespace {
 
-constexpr int kLastKey = 255;  // beyond are buttons and keys that X11 cannot have
+constexpr int kLastKey = 255;  // above it are buttons, and keys that X11 cannot have
 
 Error creationError(int error) {
     if (error == EACCES || error == EPERM || error == ENOENT || error == ENODEV)
@@ -31,10 +31,10 @@ bool declare(int device) {
         isDone = ioctl(device, UI_SET_KEYBIT, key) == 0;
     for (const int button : {BTN_LEFT, BTN_RIGHT, BTN_MIDDLE})
         isDone = isDone && ioctl(device, UI_SET_KEYBIT, button) == 0;
-    // Never moved: without axes a desktop would take the buttons for those of no pointer.
+    // Never moved, but without axes a desktop would not take the device for a pointer.
     for (const int axis : {REL_X, REL_Y})
         isDone = isDone && ioctl(device, UI_SET_RELBIT, axis) == 0;
-    // Neither USB nor Bluetooth, or a touchpad that is off while a mouse is connected would go off because of us.
+    // Not USB or Bluetooth: a touchpad that turns off while a mouse is connected would turn off because of this device.
     uinput_setup setup{};
     setup.id.bustype = BUS_VIRTUAL;
     std::strncpy(setup.name, UinputDevice::kName, sizeof setup.name - 1);
@@ -60,7 +60,7 @@ Result<std::unique_ptr<UinputDevice>> UinputDevice::create() {
 
 UinputDevice::UinputDevice(FileDescriptor descriptor) : m_descriptor(std::move(descriptor)) {}
 
-UinputDevice::~UinputDevice() = default;  // with the descriptor goes the device, and every key that is down comes up
+UinputDevice::~UinputDevice() = default;  // closing removes the device, which releases all keys
 
 void UinputDevice::post(std::uint16_t key, bool isDown) { m_report.push_back(eventOf(EV_KEY, key, isDown ? 1 : 0)); }
 

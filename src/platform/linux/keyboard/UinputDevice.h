@@ -12,23 +12,22 @@ struct input_event;
 
 namespace kinesta {
 
-/// A keyboard and mouse of the kernel's that Kinesta itself plays on: the way to post keys where the display system has
-/// none. The device is there from creation to destruction; desktops take up to a second to notice a new one, and what
-/// is posted before is lost.
+/// A virtual keyboard and mouse in the kernel, for posting keys where the display system offers no way to. The device
+/// exists as long as this object. Desktops take up to a second to notice a new device and miss what is posted before
+/// that.
 class UinputDevice {
   public:
-    /// What the device is called in the kernel.
     static constexpr const char* kPath = "/dev/uinput";
     static constexpr const char* kName = "Kinesta virtual keyboard and mouse";
 
-    /// Makes the device. The error tells what is missing and the command that mends it.
+    /// Makes the device. The error says what is missing and gives the command that fixes it.
     static Result<std::unique_ptr<UinputDevice>> create();
     ~UinputDevice();
     UinputDevice(const UinputDevice&) = delete;
     UinputDevice& operator=(const UinputDevice&) = delete;
 
     /// Adds a key or button to the next report: KEY_… from 1 to 255, BTN_LEFT, BTN_RIGHT or BTN_MIDDLE. The kernel
-    /// drops what does not change the key's state.
+    /// ignores it if the key is in that state already.
     void post(std::uint16_t key, bool isDown);
 
     /// Sends the report.

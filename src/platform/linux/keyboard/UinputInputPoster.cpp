@@ -16,7 +16,7 @@ UinputInputPoster::UinputInputPoster(Log log) : m_log(std::move(log)) { isAvaila
 bool UinputInputPoster::isAvailable() {
     if (m_device)
         return true;
-    // Tried again at each question: the person may just have been allowed to.
+    // Try again at each call: the person may just have received permission.
     auto device = UinputDevice::create();
     if (device)
         m_device = std::move(*device);
@@ -36,7 +36,7 @@ std::optional<ModifierSituation> UinputInputPoster::modifiersFor(std::uint16_t c
 }
 
 std::optional<DesktopLocation> UinputInputPoster::pointerLocation() {
-    // A button of the device clicks where the pointer is, wherever that may be.
+    // Any location will do: the device clicks where the pointer is.
     return isAvailable() ? std::optional(DesktopLocation{}) : std::nullopt;
 }
 
@@ -45,7 +45,7 @@ bool UinputInputPoster::post(std::span<const InputTransition> transitions) {
         return false;
     for (const InputTransition& step : transitions) {
         m_device->post(step.code, step.transition == KeyTransition::down);
-        // A report each: what is in one report counts as simultaneous, so a key might come before its modifier.
+        // One report for each: changes in one report count as simultaneous, so a key might come before its modifier.
         if (const Outcome sent = m_device->sync(); !sent) {
             tell(sent.error().message);
             m_device.reset();

@@ -9,15 +9,15 @@
 
 namespace kinesta {
 
-/// Posts through a virtual device of the kernel's. Where the pointer is cannot be known that way. Modifiers that the
-/// person holds on another keyboard count as part of a shortcut: to know them takes the right to read every key typed,
-/// and a desktop takes a key for held until it is up on all keyboards, so that ours could not let go of it.
+/// Posts through a virtual device in the kernel, which cannot know where the pointer is. Modifiers that the person
+/// holds on another keyboard count as part of a shortcut. Seeing them would need the right to read every key typed, and
+/// a desktop treats a key as held until it is up on all keyboards, so we could not release it.
 class UinputInputPoster final : public InputPoster {
   public:
-    /// Is told, as one sentence, why nothing could be posted; once for every new reason.
+    /// Receives one sentence when nothing could be posted, once for each new reason.
     using Log = std::function<void(const std::string&)>;
 
-    /// Makes the device at once: a desktop takes a moment to notice a new one, and keys sent before that are lost.
+    /// Makes the device at once: a desktop takes a moment to notice a new one and misses keys sent before that.
     explicit UinputInputPoster(Log log);
 
     bool isAvailable() override;

@@ -52,9 +52,9 @@ bool X11InputPoster::post(std::span<const InputTransition> transitions) {
             continue;
         }
         const auto keycode = static_cast<std::uint8_t>(step.code + kFirstXkbKeycode);
-        // The server keeps the keys of its posting device apart from those of real keyboards. A modifier that we
-        // pressed again for the person, who then let go of it on their keyboard, stays down on the posting device for
-        // good, and its next press there would be dropped. Letting go first has no effect if it was up.
+        // The server tracks the keys of its posting device apart from those of real keyboards. If we press a modifier
+        // again for the person, who then releases it on their keyboard, it stays down on the posting device and its
+        // next press there is ignored. Releasing a key first prevents that, and has no effect if it is up.
         if (isDown)
             fake(connection, root, XCB_KEY_RELEASE, keycode);
         fake(connection, root, isDown ? XCB_KEY_PRESS : XCB_KEY_RELEASE, keycode);

@@ -6,10 +6,10 @@
 
 namespace kinesta {
 
-/// Posts through the X server's own means for tests (XTest).
+/// Posts through XTest, the X server's extension for test programs.
 class X11InputPoster final : public InputPoster {
   public:
-    /// Both must outlive this; the keyboard is that of the connection.
+    /// Both must outlive this. `keyboard` must use the same connection.
     X11InputPoster(X11Connection& connection, X11Keyboard& keyboard);
 
     bool isAvailable() override;

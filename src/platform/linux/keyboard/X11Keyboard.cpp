@@ -56,9 +56,9 @@ bool X11Keyboard::update() {
         return false;
     for (std::size_t keycode = 0; keycode < m_keysDown.size(); ++keycode)
         m_keysDown[keycode] = (keys->keys[keycode / 8] >> (keycode % 8) & 1) != 0;
-    // After the replies: what the server sent before them has arrived with them.
+    // After the replies: every event that the server sent before them has arrived.
     m_connection.takeEvents();
-    // We asked for changes of the keymap alone.
+    // We selected no XKB events other than keymap changes.
     if (std::exchange(m_changes, m_connection.eventCount(m_firstXkbEvent)) != m_connection.eventCount(m_firstXkbEvent))
         m_keymap.reset();
     const bool isStale = m_keymap == nullptr;

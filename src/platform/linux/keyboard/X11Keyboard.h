@@ -15,22 +15,22 @@
 
 namespace kinesta {
 
-/// What the X server's keyboard is set to and which of its modifiers are down. Main thread only.
+/// The layout of the X server's keyboard, and which of its modifiers are down. Main thread only.
 ///
-/// Each question costs one round trip. The keymap is fetched again only when the server reports that it changed.
+/// Each query costs one round trip. The keymap is fetched again only when the server reports that it changed.
 class X11Keyboard {
   public:
     /// `connection` must outlive this.
     explicit X11Keyboard(X11Connection& connection);
 
-    /// What every key types in the group in force; nothing without a server that knows XKB.
+    /// What every key types in the current group; null without a server that has XKB.
     const KeyboardLayoutCharacters* characters();
 
     /// The same for every group of the keymap.
     std::vector<KeyboardLayoutCharacters> charactersOfGroups();
 
     /// The modifier keys, and those that are down on any keyboard. Nothing without a server, or if this key (a kernel
-    /// code) means nothing in the keymap in force.
+    /// code) means nothing in the current keymap.
     std::optional<ModifierSituation> modifiersFor(std::uint16_t code);
 
     /// How often the keymap was fetched.

@@ -2,10 +2,10 @@
 
 #include <xcb/xcb.h>
 
-// The header names structure members with a word that C++ has taken.
+// The header uses a C++ keyword as the name of structure members.
 #ifdef __clang__
 #pragma clang diagnostic push
-#pragma clang diagnostic ignored "-Wkeyword-macro"  // that is the point
+#pragma clang diagnostic ignored "-Wkeyword-macro"  // the keyword is renamed on purpose
 #endif
 #define explicit explicit_  // NOLINT(bugprone-macro-parentheses,clang-diagnostic-keyword-macro)
 #include <xcb/xkb.h>

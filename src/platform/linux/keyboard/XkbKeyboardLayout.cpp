@@ -15,7 +15,7 @@ std::vector<KeyboardLayoutCharacters> charactersOfSystem(const std::string& path
     const XkbContextPointer context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     if (!context)
         return {};
-    xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);  // without a layout keys stay where they are
+    xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);  // if this fails, keys keep their places
     const XkbKeymapPointer keymap(xkb_keymap_new_from_names(context.get(), &rules, XKB_KEYMAP_COMPILE_NO_FLAGS));
     return keymap ? charactersOfGroups(keymap.get()) : std::vector<KeyboardLayoutCharacters>{};
 }
@@ -38,7 +38,7 @@ std::vector<KeyboardLayoutCharacters> XkbKeyboardLayout::charactersOfLayouts() {
 }
 
 const std::vector<KeyboardLayoutCharacters>& XkbKeyboardLayout::systemLayouts() {
-    if (m_systemCharacters.empty())  // read once: it changes when the machine is set up anew
+    if (m_systemCharacters.empty())  // read once: it changes only when the system is set up again
         m_systemCharacters = charactersOfSystem(m_systemKeyboardFile);
     return m_systemCharacters;
 }

@@ -9,9 +9,9 @@
 
 namespace kinesta {
 
-/// The layout of the X server, which in a Wayland session with XWayland is that of the session too. Without an X server
-/// the layout that the system is set up with, which is a guess: Wayland tells the layout only to the window that has
-/// the keyboard.
+/// The layout of the X server. In a Wayland session with XWayland that is also the session's layout. Without an X
+/// server, the layout that the system is set up with, which is a guess: Wayland gives the layout only to the window
+/// with the keyboard focus.
 class XkbKeyboardLayout final : public KeyboardLayout {
   public:
     static constexpr const char* kSystemKeyboardFile = "/etc/default/keyboard";
@@ -21,7 +21,7 @@ class XkbKeyboardLayout final : public KeyboardLayout {
 
     std::optional<KeyboardLayoutCharacters> charactersWithoutModifiers() override;
 
-    /// What every key types in each of the layouts that the person can switch between.
+    /// What every key types in each layout that the person can switch to.
     std::vector<KeyboardLayoutCharacters> charactersOfLayouts();
 
   private:

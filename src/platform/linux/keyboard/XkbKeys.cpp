@@ -51,7 +51,7 @@ KeyboardLayoutCharacters charactersOfGroup(xkb_keymap* keymap, std::uint32_t gro
         if (!code)
             continue;
         std::array<char, 16> text{};
-        // Keysyms that are no characters, dead keys among them, give an empty text.
+        // Keysyms that are not characters, such as dead keys, give an empty text.
         xkb_keysym_to_utf8(xkb_state_key_get_one_sym(state.get(), *code + std::uint32_t{kFirstXkbKeycode}), text.data(),
                            text.size());
         characters[ansi] = text.data();
@@ -71,8 +71,8 @@ std::array<DesktopModifiers, 256> modifiersByKey(xkb_keymap* keymap, std::uint32
     const XkbStatePointer state = stateInGroup(keymap, group);
     if (!state)
         return result;
-    // What a key does is asked of the keymap itself by pressing and releasing it, so that keys that people have
-    // swapped, such as Caps Lock and Ctrl, are what they are now.
+    // Press and release each key in the keymap's state to see what it does: keys that people have swapped, such as Caps
+    // Lock and Ctrl, then count as what they are now.
     for (std::uint16_t code = 0; code + kFirstXkbKeycode < 256; ++code) {
         const xkb_keycode_t keycode = code + std::uint32_t{kFirstXkbKeycode};
         xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);

@@ -10,17 +10,18 @@
 
 namespace kinesta {
 
-/// What every key types in a group of a keymap (its layouts are counted from 0; one that a key does not have is
-/// brought into its range as the keymap says).
+/// What every key types in a group of a keymap, counted from 0. For a key without that group, the keymap says which of
+/// its groups counts.
 KeyboardLayoutCharacters charactersOfGroup(xkb_keymap* keymap, std::uint32_t group);
 
-/// The same for all of its groups.
+/// The same for all groups of the keymap.
 std::vector<KeyboardLayoutCharacters> charactersOfGroups(xkb_keymap* keymap);
 
-/// The keymap's modifier keys in a group, by kernel code; 0 for every key that is none, that locks or that latches.
+/// The modifiers that each key gives in a group, by kernel code; 0 for a key that gives none, locks or latches.
 std::array<DesktopModifiers, 256> modifiersByKey(xkb_keymap* keymap, std::uint32_t group);
 
-/// Of these keys, one for shift, control, alt and super each: the left one if it is one, else the first that is.
+/// Picks one key for shift, control, alt and super each: the left one if it gives that modifier, else the first that
+/// does.
 InlineVector<ModifierKey, 4> chosenModifierKeys(const std::array<DesktopModifiers, 256>& modifiersByKey);
 
 }  // namespace kinesta

@@ -16,7 +16,7 @@ using XkbContextPointer = std::unique_ptr<xkb_context, XkbUnref>;
 using XkbKeymapPointer = std::unique_ptr<xkb_keymap, XkbUnref>;
 using XkbStatePointer = std::unique_ptr<xkb_state, XkbUnref>;
 
-/// Keymaps count the kernel's key codes from here.
+/// The keycode in a keymap is the kernel's key code plus this.
 inline constexpr std::uint16_t kFirstXkbKeycode = 8;
 
 }  // namespace kinesta

@@ -6,8 +6,8 @@
 
 namespace kinesta {
 
-/// The desktop's service that opens addresses and files for programs. Main thread only. True means that the request
-/// was sent.
+/// The desktop's service that opens addresses and files. Main thread only. Functions return whether the request was
+/// sent.
 class DesktopPortal {
   public:
     /// `bus` must outlive this.

@@ -65,7 +65,7 @@ DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, con
     facts.hasSessionBus = bus.open() != nullptr;
     facts.notifications = serviceAt(bus, {"org.freedesktop.Notifications", "/org/freedesktop/Notifications"},
                                     "org.freedesktop.Notifications", "GetServerInformation");
-    // A portal may be there without the part that opens things; then it knows no such properties.
+    // A portal may lack the part that opens things; it then has no such properties.
     if (!facts.hasXdgOpen)
         facts.portal = serviceAt(bus, {"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop"},
                                  "org.freedesktop.DBus.Properties", "GetAll", "org.freedesktop.portal.OpenURI");

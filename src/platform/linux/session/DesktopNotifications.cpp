@@ -14,7 +14,7 @@ void DesktopNotifications::show(const std::string& summary, const std::string& b
     sd_bus* bus = m_bus.open();
     if (bus == nullptr)
         return;
-    if (m_generation != m_bus.generation()) {  // whoever is behind the new connection knows nothing of ours
+    if (m_generation != m_bus.generation()) {  // identifiers from the old connection are not valid
         m_generation = m_bus.generation();
         m_shown = 0;
         m_unanswered.reset();
@@ -26,12 +26,12 @@ void DesktopNotifications::show(const std::string& summary, const std::string& b
     sd_bus_message_new_method_call(bus, &made, "org.freedesktop.Notifications", "/org/freedesktop/Notifications",
                                    "org.freedesktop.Notifications", "Notify");
     const BusMessagePointer message(made);
-    // Desktops differ in whether the body is markup. What is no valid markup they all show as it is.
+    // Desktops differ in whether the body is markup. All of them show text that is not valid markup as it is.
     if (!message || sd_bus_message_append(message.get(), "susssasa{sv}i", "Kinesta", m_shown, "kinesta",
                                           summary.c_str(), body.c_str(), 0, 0, kUntilDismissed) < 0)
         return;
-    // Without a timeout: a desktop that hangs will show it once it comes round, and the bus answers for one that is
-    // gone. After a timeout there would be one more to show.
+    // No timeout: a desktop that hangs shows the notification once it recovers, and the bus answers for one that has
+    // ended. Sending again after a timeout would show two.
     sd_bus_slot* slot = nullptr;
     if (sd_bus_call_async(bus, &slot, message.get(), &handleAnswer, this, kNoTimeout) < 0)
         return;

@@ -14,8 +14,8 @@ class DesktopNotifications {
     DesktopNotifications(const DesktopNotifications&) = delete;
     DesktopNotifications& operator=(const DesktopNotifications&) = delete;
 
-    /// Shows a notification in place of the one before. Does not wait for it. While the desktop has not answered for
-    /// the one before, nothing is sent: it could not be told which one to replace.
+    /// Shows a notification in place of the one before, without waiting for the desktop. Sends nothing while the
+    /// desktop has not answered for the one before: only that answer says which notification to replace.
     void show(const std::string& summary, const std::string& body);
 
   private:

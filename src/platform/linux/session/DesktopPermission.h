@@ -9,11 +9,11 @@
 
 namespace kinesta {
 
-/// There is permission where posting works. Where it does not, the prompt is a notification that says how to mend it.
+/// Permission is granted while posting works. If it does not, the prompt is a notification that says how to fix it.
 /// Main thread only.
 class DesktopPermission final : public AccessibilityPermission {
   public:
-    /// Says what stands in the way and the command that mends it, as it is now.
+    /// Returns what prevents posting now and the command that fixes it.
     using Remedy = std::function<std::string()>;
 
     /// The poster and the notifications must outlive this.

@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// What kind of session this is and what that means for actions.
+/// What kind of session this is, and what works in it.
 class DesktopSession {
   public:
     enum class Kind { none, x11, wayland, waylandWithX };

@@ -4,8 +4,8 @@
 
 namespace kinesta {
 
-/// The generation whose features exist here: Kinesta tiles windows itself on Linux desktops, so it is the first that
-/// has the tiling commands.
+/// The system version whose features exist here. Kinesta tiles windows itself on Linux desktops, so this is the first
+/// version with the tiling commands.
 class LinuxSystemVersion final : public SystemVersion {
   public:
     int majorVersion() const override { return 15; }

@@ -27,11 +27,10 @@ struct BusObject {
 
 /// Our connection to a message bus: the session's, or the one at an address. Main thread only.
 ///
-/// Nothing here waits for other programs. Messages go out at once; answers are read at the next use, since nobody waits
-/// for them.
+/// Only ask() waits for other programs. Other messages go out at once, and answers to them are read at the next use.
 class MessageBus {
   public:
-    /// How long the bus itself, which only passes messages on, may hold us up.
+    /// How long to wait for the bus itself, which only passes messages on.
     static constexpr std::chrono::milliseconds kPatience{200};
 
     MessageBus() = default;
@@ -39,24 +38,25 @@ class MessageBus {
     MessageBus(const MessageBus&) = delete;
     MessageBus& operator=(const MessageBus&) = delete;
 
-    /// The connection, with every answer that has come handled; made (again) if there is none; null without a bus.
+    /// The connection, after handling all answers that have arrived. Connects (again) if there is no connection; null
+    /// without a bus.
     sd_bus* open();
 
-    /// Sends what is still to be sent; whether all of it went out.
+    /// Sends all queued messages. Returns whether all of them went out.
     bool flush();
 
     /// Whether a program offers this service, or would be started for it. Waits for the bus's answer.
     bool offers(const std::string& service);
 
-    /// Whether a program that does not run yet is started to answer.
+    /// Whether to start a program that does not run yet.
     enum class Starting { never, ifNeeded };
 
-    /// Calls a method without arguments, or with one text, of another program; null if it does not answer well within
-    /// `timeout` seconds. Waits for the answer.
+    /// Calls a method of another program without arguments, or with one text, and waits for the answer. Null for an
+    /// error, or if no answer comes within `timeout` seconds.
     BusMessagePointer ask(const BusObject& object, const char* interface, const char* method, Seconds timeout,
                           const char* argument = nullptr, Starting starting = Starting::never);
 
-    /// Counts the connections made: whoever keeps something that another program gave compares it.
+    /// The number of connections made so far. What other programs gave us is valid only while this stays the same.
     std::uint64_t generation() const { return m_generation; }
 
   private:

@@ -33,8 +33,8 @@ InputPoster& SessionInputPoster::poster() {
     return *m_uinput;
 }
 
-/// A session stays what it was. When its X server ends, keys that took the way through the kernel would reach the
-/// console instead: they wait for the next server.
+/// The route that suits a session is kept after its X server ends: keys posted through the kernel would reach the
+/// console, so they wait for the next server instead.
 SessionInputPoster::Route SessionInputPoster::route() {
     const Route wish = LinuxActionSettings::read(m_defaults).inputRoute;
     if (wish != Route::automatic)
@@ -43,7 +43,7 @@ SessionInputPoster::Route SessionInputPoster::route() {
         return *m_suited;
     DesktopFacts facts;
     facts.hasWayland = answersWayland();
-    if (!facts.hasWayland) {  // asked first: to ask XWayland is to start it
+    if (!facts.hasWayland) {  // checked first, because asking XWayland starts it
         facts.hasX = m_connection.answers(kPatience);
         if (!facts.hasX && m_connection.isHanging())
             return Route::xServer;

@@ -8,14 +8,14 @@
 
 namespace kinesta {
 
-/// Posts the way that suits the session, or the one that the settings ask for. The search for what suits is repeated
-/// until there is a session: Kinesta may be started before the display server is up. Main thread only.
+/// Posts in the way that suits the session, or that the settings ask for. Looks for a session again until there is one:
+/// Kinesta may start before the display server is up. Main thread only.
 class SessionInputPoster final : public InputPoster {
   public:
-    /// Receives, as one sentence, why nothing could be posted; once for every new reason.
+    /// Receives one sentence when nothing could be posted, once for each new reason.
     using Log = UinputInputPoster::Log;
 
-    /// Connection, keyboard and defaults must outlive this. Asks nothing of them yet.
+    /// Connection, keyboard and defaults must outlive this. Does not use them yet.
     SessionInputPoster(X11Connection& connection, X11Keyboard& keyboard, const UserDefaults& defaults, Log log);
 
     bool isAvailable() override;
@@ -23,7 +23,7 @@ class SessionInputPoster final : public InputPoster {
     std::optional<DesktopLocation> pointerLocation() override { return poster().pointerLocation(); }
     bool post(std::span<const InputTransition> transitions) override { return poster().post(transitions); }
 
-    /// Whether keys take the way through the kernel, which the desktop takes a moment to notice.
+    /// Whether keys go through a virtual device in the kernel, which the desktop takes a moment to notice.
     bool usesVirtualDevice() { return &poster() != &m_xServer; }
 
   private:

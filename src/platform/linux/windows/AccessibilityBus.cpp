@@ -20,7 +20,7 @@ constexpr std::uint64_t kShowing = 1U << 25U;
 
 }  // namespace
 
-/// One look at one program, until a deadline.
+/// One search through a program's elements, until a deadline.
 class AccessibilityBus::Walk {
   public:
     Walk(MessageBus& bus, Clock::time_point deadline) : m_bus(bus), m_deadline(deadline) {}
@@ -37,7 +37,7 @@ class AccessibilityBus::Walk {
   private:
     Seconds timeLeft() const { return FloatingSeconds(m_deadline - Clock::now()).count(); }
 
-    /// Level by level, as a dialog lies near the top of what it covers.
+    /// Searches level by level, because a dialog lies near the top of the tree.
     bool hasDialogBelow(const BusObject& window) {
         std::deque<std::pair<BusObject, int>> waiting{{window, 0}};
         for (int looked = 0; !waiting.empty() && timeLeft() > 0; waiting.pop_front()) {

@@ -8,21 +8,21 @@
 
 namespace kinesta {
 
-/// What programs tell of their windows on the accessibility bus (AT-SPI) and no window manager knows: dialogs that they
-/// draw inside a window. Main thread only.
+/// Finds dialogs that programs draw inside a window, which no window manager knows of, through the accessibility bus
+/// (AT-SPI). Main thread only.
 class AccessibilityBus {
   public:
-    /// As much as is looked at in one window: elements that show, and levels below the window.
+    /// How much of one window is searched: elements, and levels below the window.
     static constexpr int kMostElements = 200;
     static constexpr int kMostLevels = 8;
-    /// Any press of a close button waits this long, in seconds, for a program that does not answer.
+    /// How long pressing a close button waits, in seconds, for a program that does not answer.
     static constexpr Seconds kTimeout = 0.15;
 
-    /// The session's bus, which knows where the accessibility bus is.
+    /// `session` gives the address of the accessibility bus and must outlive this.
     explicit AccessibilityBus(MessageBus& session) : m_session(session) {}
 
-    /// Whether the active window of this program has a modal dialog inside. Not where nobody tells: the bus is not
-    /// started for it. At most `timeout` seconds.
+    /// Whether the active window of this program has a modal dialog inside. False if no accessibility bus runs: this
+    /// does not start it. Waits at most `timeout` seconds.
     bool hasDialogInside(ProcessIdentifier process, Seconds timeout = kTimeout);
 
   private:
@@ -31,7 +31,7 @@ class AccessibilityBus {
     bool open(Seconds timeout);
 
     MessageBus& m_session;
-    std::uint64_t m_generation = 0;  // of the session's bus that told of m_bus
+    std::uint64_t m_generation = 0;  // of the session bus, when it gave the address of m_bus
     std::unique_ptr<MessageBus> m_bus;
 };
 

@@ -12,11 +12,11 @@ namespace {
 
 using Items = std::vector<std::uint32_t>;
 
-/// More windows than anyone has; keeps what we send small enough that sending never waits.
+/// More windows than anyone has. The limit keeps our requests small enough that sending never blocks.
 constexpr std::size_t kMostWindows = 200;
 
-/// A window manager ends maximization in several steps and does not say which is the last: so long without a step,
-/// in seconds, and it was.
+/// A window manager ends maximization in several steps and does not say which is the last. After this long without a
+/// step, in seconds, it counts as finished.
 constexpr Seconds kQuiet = 0.02;
 
 }  // namespace
@@ -32,7 +32,7 @@ std::optional<EwmhWindow> EwmhDesktop::activeWindow(Seconds timeout) {
         return std::nullopt;
     const auto activeCookie =
         m_connection.requestProperty(m_connection.root(), m_connection.atoms()._NET_ACTIVE_WINDOW, XCB_ATOM_WINDOW);
-    // Asked along with it, the window that was active the last time usually still is.
+    // Query the window that was active last in the same round trip: it usually still is.
     EwmhWindowQuery usual(m_connection, m_lastActive);
     const auto active = m_connection.items(activeCookie, XCB_ATOM_WINDOW, deadline);
     const auto window = usual.answer(deadline);
@@ -128,12 +128,12 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
         monitors.push_back(screen);
     if (const auto i3 = this->i3()) {
         if (!i3->locate(snapshot.windows, deadline))
-            m_manager.reset();  // if it does not answer there, it does nothing either
+            m_manager.reset();  // if it does not answer there, it cannot act either
         areasByMonitor = i3->workAreas(deadline);
     }
     snapshot.closesWindows = m_manager && (m_manager->closesWindows || m_manager->takesI3Commands());
     snapshot.movesWindows = m_manager && (m_manager->movesWindows || m_manager->takesI3Commands());
-    // Four numbers for each desktop; a window manager with only one area gives it once.
+    // Four numbers for each desktop. Some window managers give one area for all desktops.
     const std::size_t first = std::size_t{4} * snapshot.currentDesktop;
     std::optional<WindowRectangle> screenWorkArea;
     if (workArea.size() >= first + 4)
@@ -142,7 +142,7 @@ std::optional<EwmhSnapshot> EwmhDesktop::snapshot(Seconds timeout) {
         screenWorkArea = ewmhRectangleAt(workArea, 0);
     snapshot.monitors =
         ewmhWorkAreas({screen, monitors, screenWorkArea, areasByMonitor, snapshot.windows, snapshot.currentDesktop});
-    // Otherwise windows may be missing.
+    // Without all answers, windows may be missing.
     return m_connection.isAnswering() ? std::optional(std::move(snapshot)) : std::nullopt;
 }
 
@@ -192,10 +192,11 @@ void EwmhDesktop::place(const EwmhWindow& window, const WindowRectangle& frame) 
     constexpr auto kMoveAndResize = kMove | XCB_EWMH_MOVERESIZE_WINDOW_WIDTH | XCB_EWMH_MOVERESIZE_WINDOW_HEIGHT;
     const bool keepsSize = frame.size() == window.frame.size();
     const WindowSize client = (frame - window.frameInsets).size();
-    // With static gravity the place is that of the window proper, otherwise that of the outer corner, shadows included;
-    // the size is always that of the window proper. Openbox 3.6 keeps places in the window's own gravity: after a move
-    // in another one it puts the window off by its title bar at the end of the next maximization. Static gravity for
-    // all would put windows off by a border that they were made with and no longer have.
+    // With static gravity the position is that of the window proper, otherwise that of the outer corner including
+    // shadows. The size is always that of the window proper.
+    // Use the window's own gravity: openbox 3.6 stores positions in it, and after a move with another gravity the
+    // window is off by its title bar at the end of the next maximization. Static gravity for all windows would put them
+    // off by a border that they were created with and no longer have.
     const WindowRectangle place = window.hasStaticGravity ? frame - window.frameInsets : frame + window.shadow;
     const auto gravity = window.hasStaticGravity ? XCB_GRAVITY_STATIC : XCB_GRAVITY_NORTH_WEST;
     xcb_ewmh_request_moveresize_window(
@@ -246,7 +247,7 @@ void EwmhDesktop::setMaximized(EwmhWindowId window, bool isHorizontal, bool isVe
 void EwmhDesktop::raise(EwmhWindowId window) {
     if (!m_connection.isAnswering())
         return;
-    // To put it right below another one would be more exact; openbox 3.6 takes that for the bottom.
+    // Placing it right below another window would be more exact, but openbox 3.6 then puts it at the bottom.
     xcb_ewmh_request_restack_window(m_connection.ewmh(), m_connection.screenNumber(), window, XCB_WINDOW_NONE,
                                     XCB_STACK_MODE_ABOVE);
 }
@@ -278,7 +279,7 @@ void EwmhDesktop::restore(std::span<const EwmhWindow> windows, Seconds timeout) 
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (change.atom == atoms._NET_WM_STATE)
             std::erase(waitingFor, change.window);
-        // Shadows go with maximization and come back a moment after it.
+        // Shadows vanish with maximization and return a moment after it ends.
         return change.atom == atoms._NET_WM_STATE || change.atom == atoms._NET_FRAME_EXTENTS ||
                change.atom == m_connection.gtkFrameExtents();
     };

@@ -13,27 +13,28 @@
 
 namespace kinesta {
 
-/// Something that the window manager was asked for.
+/// A request to the window manager.
 struct EwmhRequest {
     enum class Kind {
         close,
-        /// To put it at `frame`.
+        /// Put the window at `frame`.
         place,
-        /// To maximize it or to make it fullscreen.
+        /// Maximize it or make it fullscreen.
         zoom,
-        /// To give it a place in the layout.
+        /// Give it a place in the layout.
         layout,
     };
     Kind kind;
     EwmhWindowId window;
-    /// Where its frame was, and where it is to be.
+    /// Where the window's frame was, and where it should go.
     WindowRectangle before{};
     WindowRectangle frame{};
 };
 
-/// What EWMH (the agreement between window managers and programs on X11) tells of windows and lets us do with them.
-/// Every question costs one or a few round trips to the server and at most its timeout, in seconds; nothing is kept
-/// in between. Windows may vanish and the server may go at any moment: then there is no answer. Main thread only.
+/// Reads and controls windows through EWMH, the standard that window managers and programs on X11 share.
+///
+/// Each query takes one or a few round trips to the server and at most its timeout, in seconds. Answers are not cached.
+/// Windows may vanish and the server may end at any moment; queries then return nothing. Main thread only.
 class EwmhDesktop {
   public:
     static constexpr Seconds kTimeout = 0.15;
@@ -41,37 +42,37 @@ class EwmhDesktop {
     /// `connection` must outlive this.
     explicit EwmhDesktop(X11Connection& connection) : m_connection(connection) {}
 
-    /// Is told of everything that the window manager is asked for.
+    /// Called with every request to the window manager.
     using Observer = std::function<void(const EwmhRequest&)>;
     void setObserver(Observer observer) { m_observer = std::move(observer); }
 
-    /// Adds what works with the window manager, if one runs.
+    /// Adds what the window manager can do, if one runs.
     void addTo(DesktopFacts& facts);
 
-    /// The process of the active window; a number below 0, the same for all windows of an X client, where the process
-    /// cannot be known. Nothing if no window is active.
+    /// The process of the active window. If the process is unknown, a negative number that is the same for all windows
+    /// of an X client. Nothing if no window is active.
     std::optional<ProcessIdentifier> frontmostApplication(Seconds timeout = kTimeout);
 
-    /// The window that has the person's attention.
+    /// The window that has the keyboard focus, according to the window manager.
     std::optional<EwmhWindow> activeWindow(Seconds timeout = kTimeout);
 
     std::optional<EwmhWindow> window(EwmhWindowId window, Seconds timeout = kTimeout);
 
     std::optional<EwmhSnapshot> snapshot(Seconds timeout = kTimeout);
 
-    /// Asks the window manager to close a window as its close button does. False if nobody could be asked.
+    /// Asks the window manager to close a window as its close button does. False if the request could not be made.
     bool close(EwmhWindowId window, Seconds timeout = kTimeout);
 
-    /// The verbs below do nothing unless the question before them was answered. They send without waiting for anything;
-    /// only a window manager that is asked at its own socket is waited for until it is done.
+    /// The functions below do nothing unless the server answered the query before them. They send their requests
+    /// without waiting. Only a window manager with a socket of its own is waited for until it has finished.
 
-    /// Makes a window remember something for as long as it lives; an empty record makes it forget.
+    /// Stores a record with a window for as long as the window lives; an empty record removes it.
     void setTilingRecord(EwmhWindowId window, std::span<const std::uint32_t> record);
 
-    /// Moves a window so that its frame is at `frame`, and resizes it if the frame has another size now.
+    /// Moves a window so that its frame is at `frame`, and resizes it if its frame has another size.
     void place(const EwmhWindow& window, const WindowRectangle& frame);
 
-    /// Gives a window a place in the layout of a tiling window manager again. False if there is none.
+    /// Puts a window back into the layout of a tiling window manager. False if that was not done.
     bool returnToLayout(const EwmhWindow& window);
 
     /// Makes a window fullscreen, or maximizes it.
@@ -80,11 +81,11 @@ class EwmhDesktop {
     /// Puts a window above all others of its kind, without making it active.
     void raise(EwmhWindowId window);
 
-    /// Hands over what was sent.
+    /// Sends the requests so far.
     void flush() { m_connection.flush(); }
 
-    /// Ends fullscreen and maximization of windows and waits until the window manager is done with it, at most the
-    /// timeout.
+    /// Ends fullscreen and maximization of windows and waits until the window manager has finished, at most `timeout`
+    /// seconds.
     void restore(std::span<const EwmhWindow> windows, Seconds timeout);
 
   private:
@@ -97,7 +98,7 @@ class EwmhDesktop {
 
     X11Connection& m_connection;
     Observer m_observer;
-    /// At the last question.
+    /// From the last query.
     std::optional<EwmhManager> m_manager;
     EwmhWindowId m_lastActive = XCB_WINDOW_NONE;
 };

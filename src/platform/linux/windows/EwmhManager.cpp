@@ -46,7 +46,7 @@ std::optional<EwmhManager> EwmhManagerQuery::answer(Deadline deadline) {
         proof = m_connection.reply<Reply>(m_proof, deadline);
         name = m_connection.reply<Reply>(m_name, deadline);
     }
-    // A window manager that is gone leaves its property behind, but not its window.
+    // After a window manager ends, its property remains but its window does not.
     if (!proof)
         return std::nullopt;
     manager.proof = m_proofWindow;
@@ -59,7 +59,7 @@ std::optional<EwmhManager> EwmhManagerQuery::answer(Deadline deadline) {
         manager.closesWindows = takes(atoms._NET_CLOSE_WINDOW);
         manager.movesWindows = takes(atoms._NET_MOVERESIZE_WINDOW);
     }
-    // The part of sway that manages X windows calls itself so. It puts nothing on the root window.
+    // This is the name of sway's part that manages X windows. It puts no socket path on the root window.
     if (manager.name == "wlroots wm")
         if (const char* sway = std::getenv("SWAYSOCK"))
             manager.i3Socket = sway;

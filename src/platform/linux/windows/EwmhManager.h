@@ -7,31 +7,31 @@
 
 namespace kinesta {
 
-/// The window manager that runs, as far as it tells of itself.
+/// The running window manager, as it describes itself.
 struct EwmhManager {
-    /// As it calls itself; may be empty.
+    /// The name that it gives itself; may be empty.
     std::string name;
-    /// Whether it says that it takes such requests, or does not say which it takes.
+    /// Whether it supports these requests. True if it publishes no list of what it supports.
     bool closesWindows = true;
     bool movesWindows = true;
-    /// Where it takes i3's commands; empty if it does not. It is then to be asked there: i3 says that it moves windows
-    /// and leaves those in its layout alone, and sway takes nothing of the kind from X clients.
+    /// The socket where it takes i3's commands; empty if it takes none. If set, requests must go there: i3 claims to
+    /// move windows but leaves those in its layout alone, and sway takes no such requests from X clients.
     std::string i3Socket;
 
     bool takesI3Commands() const { return !i3Socket.empty(); }
 
-    /// The window by which it shows that it runs.
+    /// The window whose existence proves that it runs.
     xcb_window_t proof = XCB_WINDOW_NONE;
 };
 
-/// What is asked of the window manager, sent at once.
+/// The queries to the window manager, sent together.
 class EwmhManagerQuery {
   public:
-    /// Sends the questions, also to the window that was the proof the last time: it usually still is. After
+    /// Sends the queries, also to the window that was the last proof: it usually still is. Call after
     /// X11Connection::prepare().
     EwmhManagerQuery(X11Connection& connection, xcb_window_t lastProof);
 
-    /// Nothing if no window manager runs that follows the desktop standard, or no answer came in time. Exactly once.
+    /// Nothing if no window manager that follows EWMH runs, or if no answer came in time. Call exactly once.
     std::optional<EwmhManager> answer(Deadline deadline);
 
   private:

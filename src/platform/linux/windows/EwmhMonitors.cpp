@@ -6,7 +6,7 @@
 namespace kinesta {
 
 WindowRectangle ewmhRectangleAt(const std::vector<std::uint32_t>& items, std::size_t first) {
-    // No screen is larger, and nothing computed from such numbers overflows.
+    // No screen is larger, and the limit keeps later arithmetic from overflowing.
     const auto item = [&](std::size_t i) { return static_cast<int>(std::min<std::uint32_t>(items[first + i], 32767)); };
     return {item(0), item(1), item(2), item(3)};
 }
@@ -20,7 +20,7 @@ std::vector<WindowRectangle> ewmhMonitorBounds(X11Connection& connection, xcb_ra
     for (auto each = xcb_randr_get_monitors_monitors_iterator(reply.get()); each.rem > 0;
          xcb_randr_monitor_info_next(&each)) {
         const WindowRectangle bounds{each.data->x, each.data->y, each.data->width, each.data->height};
-        // Mirrored monitors show the same and are one.
+        // Mirrored monitors count as one.
         if (!bounds.isEmpty() && std::find(monitors.begin(), monitors.end(), bounds) == monitors.end())
             monitors.push_back(bounds);
     }

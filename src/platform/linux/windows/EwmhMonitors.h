@@ -10,17 +10,18 @@
 
 namespace kinesta {
 
-/// The four numbers of a property from `first` on.
+/// The rectangle in the four items of a property from `first` on.
 WindowRectangle ewmhRectangleAt(const std::vector<std::uint32_t>& items, std::size_t first);
 
-/// Where the monitors are, from an answer that is on its way.
+/// The bounds of the monitors, from the answer to a request already sent.
 std::vector<WindowRectangle> ewmhMonitorBounds(X11Connection& connection, xcb_randr_get_monitors_cookie_t cookie,
                                                Deadline deadline);
 
-/// Asks for the name of the property of ewmhMonitorWorkAreas().
+/// Requests the atom of the property that ewmhMonitorWorkAreas() reads.
 xcb_intern_atom_cookie_t requestMonitorWorkAreas(X11Connection& connection, std::uint32_t desktop);
 
-/// What is left of each monitor, if the window manager says so. GNOME's does: its panel is no window with struts.
+/// The work area of each monitor, if the window manager publishes them. GNOME does, and its panel is not a window with
+/// struts.
 std::vector<WindowRectangle> ewmhMonitorWorkAreas(X11Connection& connection, xcb_intern_atom_cookie_t cookie,
                                                   Deadline deadline);
 

@@ -21,12 +21,12 @@ const EwmhMonitor& EwmhSnapshot::monitorOf(const WindowRectangle& rectangle) con
 std::vector<EwmhWindowId> EwmhSnapshot::modalDialogsOf(const EwmhWindow& owner) const {
     const auto belongsToOwner = [&](const EwmhWindow& dialog) {
         const EwmhWindow* link = &dialog;
-        // No chain is longer than there are windows; a longer one runs in a circle.
+        // A chain that is longer than the number of windows is a cycle.
         for (std::size_t i = 0; i < windows.size() && link != nullptr; ++i) {
             if (link->transientFor == owner.id)
                 return true;
-            // Without an owner, or owned by the root or by the leader of its group (which is how Qt says it), a
-            // dialog is one of all windows of the group.
+            // A dialog belongs to all windows of its group if it has no owner, or if its owner is the root window or
+            // the group leader (as Qt sets it).
             const bool isOfGroup =
                 link->transientFor == 0 || link->transientFor == root || link->transientFor == link->group;
             if (isOfGroup)

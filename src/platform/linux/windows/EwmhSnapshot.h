@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// A monitor, and the part of it that docks and panels leave to windows.
+/// A monitor, and the part of it that docks and panels leave for windows.
 struct EwmhMonitor {
     WindowRectangle bounds;
     WindowRectangle workArea;
@@ -21,22 +21,22 @@ struct EwmhSnapshot {
     /// 0 if no window is active.
     EwmhWindowId activeWindow = 0;
     std::uint32_t currentDesktop = 0;
-    /// Whether a window manager runs that does it for others.
+    /// Whether the window manager does this for other programs. False if none runs.
     bool closesWindows = true;
     bool movesWindows = true;
-    /// All windows that are managed, on every desktop, the lowest first.
+    /// All managed windows on every desktop, lowest first.
     std::vector<EwmhWindow> windows;
     /// At least one.
     std::vector<EwmhMonitor> monitors;
 
-    /// Null if it is not there.
+    /// Null if there is no such window.
     const EwmhWindow* window(EwmhWindowId id) const;
 
     /// The monitor that shows the most of a rectangle; the first if none does.
     const EwmhMonitor& monitorOf(const WindowRectangle& rectangle) const;
 
-    /// The modal dialogs that must be answered before `owner` can be used, those of its whole group and those of its
-    /// dialogs among them; the lowest first.
+    /// The modal dialogs that must be answered before `owner` can be used, including those of its group and of its
+    /// dialogs; lowest first.
     std::vector<EwmhWindowId> modalDialogsOf(const EwmhWindow& owner) const;
 };
 

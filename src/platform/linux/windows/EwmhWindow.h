@@ -10,15 +10,15 @@
 
 namespace kinesta {
 
-/// The X server's number of a window; 0 is none.
+/// The X server's identifier of a window; 0 means none.
 using EwmhWindowId = std::uint32_t;
 
-/// What a window is for. `other` is everything that is neither worked in nor answered: docks, desktops, panels,
+/// What a window is for. `other` is everything that a person neither works in nor answers: docks, desktops, panels,
 /// palettes, menus, splash screens, notifications.
 enum class EwmhWindowType { normal, dialog, other };
 
-/// Room along one edge of the whole screen that a dock keeps for itself, in pixels. `from` and `to` are where along
-/// the edge it begins and ends, both included.
+/// Space along one edge of the whole screen that a dock reserves, in pixels. It runs along the edge from `from` to
+/// `to`, both included.
 struct EwmhStrut {
     int width = 0;
     int from = 0;
@@ -36,12 +36,12 @@ struct EwmhStruts {
     friend bool operator==(const EwmhStruts&, const EwmhStruts&) = default;
 };
 
-/// What the window manager, the server and the window itself say of a window at one moment.
+/// A window at one moment, as the window manager, the server and the window itself describe it.
 struct EwmhWindow {
     static constexpr std::uint32_t kAllDesktops = 0xFFFFFFFF;
 
     EwmhWindowId id = 0;
-    /// The process that shows it; a number below 0 for its X client where the process cannot be known.
+    /// The process that shows it. A negative number for its X client if the process is unknown.
     ProcessIdentifier process = 0;
     EwmhWindowType type = EwmhWindowType::normal;
 
@@ -51,30 +51,30 @@ struct EwmhWindow {
     bool isMaximizedHorizontally = false;
     bool isMaximizedVertically = false;
     bool skipsTaskbar = false;
-    /// It has a place in the layout of a tiling window manager.
+    /// Whether it has a place in the layout of a tiling window manager.
     bool isInLayout = false;
 
     bool mayClose = true;
     bool mayMove = true;
     bool mayResize = true;
 
-    /// The window that this one belongs to, 0 if it names none; the root window stands for its whole group.
+    /// The window that this one belongs to, 0 if it names none. The root window means its whole group.
     EwmhWindowId transientFor = 0;
     /// The leader of its group of windows, 0 if it is in none.
     EwmhWindowId group = 0;
     std::uint32_t desktop = kAllDesktops;
 
-    /// What a person sees of it, title bar and borders included, shadows not.
+    /// What a person sees of it: with title bar and borders, without shadows.
     WindowRectangle frame;
-    /// What lies between `frame` and the window proper.
+    /// The distance between `frame` and the window proper.
     WindowInsets frameInsets;
-    /// What the window keeps around `frame` for shadows that it draws itself.
+    /// The margin around `frame` for shadows that the window draws itself.
     WindowInsets shadow;
     WindowSizeLimits limits;
-    /// Its positions are meant as those of the window proper, not of its frame.
+    /// Whether positions in requests mean the window proper instead of its frame.
     bool hasStaticGravity = false;
     std::optional<EwmhStruts> struts;
-    /// What the property holds in which tiling keeps where the window was; empty if it is not there.
+    /// The encoded TilingRecord stored with the window; empty if there is none.
     std::vector<std::uint32_t> tilingRecord;
 
     bool isOn(std::uint32_t someDesktop) const { return desktop == kAllDesktops || desktop == someDesktop; }

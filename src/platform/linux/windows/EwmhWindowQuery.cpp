@@ -17,7 +17,7 @@ bool contains(const Items& items, xcb_atom_t atom) {
     return std::find(items.begin(), items.end(), atom) != items.end();
 }
 
-/// What clients put there is checked: no screen is this large, and nothing computed from such numbers overflows.
+/// Limits the numbers that clients set: no screen is this large, and later arithmetic cannot overflow.
 int length(std::uint32_t value) { return static_cast<int>(std::min<std::uint32_t>(value, 32767)); }
 int length(std::int32_t value) { return std::clamp(value, 0, 32767); }
 
@@ -43,7 +43,7 @@ std::optional<EwmhStruts> struts(const std::optional<Items>& partial, const std:
 }
 
 bool isThisMachine(const xcb_get_property_reply_t* machine) {
-    // Who does not say runs here: remote clients that tell their process also tell their machine.
+    // A client without this property runs here: remote clients that set their process also set their machine.
     if (machine == nullptr || machine->format != 8 || machine->value_len == 0)
         return true;
     std::array<char, 256> name{};
@@ -93,7 +93,7 @@ std::optional<EwmhWindow> EwmhWindowQuery::answer(Deadline deadline) {
     auto tilingRecord = m_connection.items(m_tilingRecord, XCB_ATOM_CARDINAL, deadline).value_or(Items{});
     const auto strutPartial = m_connection.items(m_strutPartial, XCB_ATOM_CARDINAL, deadline);
     const auto strut = m_connection.items(m_strut, XCB_ATOM_CARDINAL, deadline);
-    // A server answers in order: if nothing is overdue after the last answer, none is missing.
+    // The server answers in order, so if nothing is overdue after the last answer, none is missing.
     if (!geometry || !position || !m_connection.isAnswering())
         return std::nullopt;
 
@@ -133,14 +133,14 @@ void EwmhWindowQuery::readStates(EwmhWindow& window, const xcb_ewmh_connection_t
 
 void EwmhWindowQuery::readAllowedActions(EwmhWindow& window, const xcb_ewmh_connection_t& atoms, const Items& actions) {
     window.mayClose = contains(actions, atoms._NET_WM_ACTION_CLOSE);
-    // Window managers take these away while a window is maximized or fullscreen, which we end before we tile it.
+    // Window managers remove these while a window is maximized or fullscreen. Tiling ends both first.
     window.mayMove = window.isZoomed() || contains(actions, atoms._NET_WM_ACTION_MOVE);
     window.mayResize = window.isZoomed() || contains(actions, atoms._NET_WM_ACTION_RESIZE);
 }
 
 EwmhWindowType EwmhWindowQuery::typeAmong(const Items& types, bool isTransient) const {
     const auto& atoms = m_connection.atoms();
-    // The first that is known counts: desktops put types of their own before it.
+    // The first known type counts: desktops put their own types before it.
     for (const std::uint32_t type : types) {
         if (type == atoms._NET_WM_WINDOW_TYPE_NORMAL)
             return EwmhWindowType::normal;
@@ -185,7 +185,7 @@ void EwmhWindowQuery::readSizeHints(EwmhWindow& window, const xcb_get_property_r
 ProcessIdentifier EwmhWindowQuery::processOf(const Items& pid, const xcb_get_property_reply_t* machine) const {
     if (!pid.empty() && pid[0] > 0 && isThisMachine(machine))
         return pid[0];
-    // The bits of a window's number that its client did not choose are the client's own for as long as it lives.
+    // The bits that the client did not choose identify the client for as long as it lives.
     const std::uint32_t chosenByClient = xcb_get_setup(m_connection.xcb())->resource_id_mask;
     return -static_cast<ProcessIdentifier>(m_window & ~chosenByClient);
 }

@@ -8,15 +8,15 @@
 
 namespace kinesta {
 
-/// All that is asked of one window, sent at once, so that many windows cost one round trip.
+/// All queries about one window, sent together, so that many windows cost one round trip.
 class EwmhWindowQuery {
   public:
-    /// Sends the questions. After X11Connection::prepare().
+    /// Sends the queries. Call after X11Connection::prepare().
     EwmhWindowQuery(X11Connection& connection, EwmhWindowId window);
 
     EwmhWindowId window() const { return m_window; }
 
-    /// The answers; nothing if the window is gone or they do not come in time. Exactly once.
+    /// The answers; nothing if the window is gone or they do not come in time. Call exactly once.
     std::optional<EwmhWindow> answer(Deadline deadline);
 
   private:

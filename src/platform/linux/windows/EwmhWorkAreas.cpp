@@ -5,7 +5,7 @@
 namespace kinesta {
 namespace {
 
-/// What a dock keeps, as rectangles of the screen; empty ones for the edges that it leaves alone.
+/// The space that a dock reserves, as rectangles on the screen; empty for edges that it leaves alone.
 struct KeptEdges {
     WindowRectangle left;
     WindowRectangle right;
@@ -23,7 +23,7 @@ KeptEdges keptEdges(const EwmhStruts& struts, const WindowRectangle& screen) {
     };
 }
 
-// Each moves one edge of `area` inward to `limit`, if it is not there already.
+// Each function moves one edge of `area` inward to `limit`, unless it is already that far in.
 void cutLeft(WindowRectangle& area, int limit) {
     const int right = area.right();
     area.x = std::max(area.x, limit);
@@ -45,8 +45,8 @@ std::vector<const EwmhWindow*> docks(const EwmhWorkAreaSources& sources) {
     return found;
 }
 
-/// Struts are told from the edges of the whole screen, so that one of a dock on an inner edge seems to take all of the
-/// monitors beside it: only the monitors that show the dock give it room.
+/// Struts are measured from the edges of the whole screen, so a dock on an inner edge seems to cover all of the
+/// monitors beside it. Only the monitors that show the dock lose space to it.
 bool showsDock(const WindowRectangle& monitor, const EwmhWindow& dock, const EwmhWorkAreaSources& sources) {
     const bool isOnAnyMonitor =
         std::any_of(sources.monitors.begin(), sources.monitors.end(),
@@ -75,8 +75,8 @@ WindowRectangle withoutDocks(const WindowRectangle& monitor, const EwmhWorkAreaS
     return area;
 }
 
-/// Cuts what the window manager keeps at the edges of the screen without a dock to show for it (its own margins, a
-/// panel of its own) off the monitors at those edges.
+/// Also cuts off what the window manager reserves at the screen's edges without a dock there (its own margins or
+/// panel). Affects only the monitors at those edges.
 WindowRectangle withoutMargins(WindowRectangle area, const WindowRectangle& monitor,
                                const EwmhWorkAreaSources& sources) {
     const WindowRectangle& screen = sources.screen;
@@ -109,7 +109,7 @@ WindowRectangle workArea(const WindowRectangle& monitor, const EwmhWorkAreaSourc
     if (!told.isEmpty())
         return told;
     const bool hasScreenWorkArea = sources.screenWorkArea && sources.screenWorkArea->intersects(monitor);
-    // For the only monitor the window manager's word is the last one: it also knows which docks hide themselves.
+    // With a single monitor, the area from the window manager is best: it also accounts for docks that hide themselves.
     if (hasScreenWorkArea && sources.monitors.size() == 1)
         return monitor.intersection(*sources.screenWorkArea);
     const WindowRectangle area = withoutDocks(monitor, sources);

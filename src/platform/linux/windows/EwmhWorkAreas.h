@@ -7,22 +7,22 @@
 
 namespace kinesta {
 
-/// What is known of the room that docks keep for themselves on the current desktop.
+/// What is known about the space that docks reserve on the current desktop.
 struct EwmhWorkAreaSources {
-    /// The whole screen, which holds all monitors.
+    /// The whole screen, which contains all monitors.
     WindowRectangle screen;
     /// At least one.
     std::vector<WindowRectangle> monitors;
-    /// What the window manager leaves of the whole screen (_NET_WORKAREA), if it says so.
+    /// The work area of the whole screen (_NET_WORKAREA), if the window manager publishes it.
     std::optional<WindowRectangle> screenWorkArea;
-    /// What the desktop leaves of each monitor, in its own order, if it says so.
+    /// The work area of each monitor, in any order, if the desktop publishes them.
     std::vector<WindowRectangle> monitorWorkAreas;
-    /// The windows of all desktops, docks among them.
+    /// The windows of all desktops, including docks.
     const std::vector<EwmhWindow>& windows;
     std::uint32_t currentDesktop = 0;
 };
 
-/// The monitors with what is left of each for windows. Never empty areas: what cannot be true is left out of account.
+/// The monitors with their work areas. An area is never empty: values that would make it empty are ignored.
 std::vector<EwmhMonitor> ewmhWorkAreas(const EwmhWorkAreaSources& sources);
 
 }  // namespace kinesta

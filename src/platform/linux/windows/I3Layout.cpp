@@ -9,7 +9,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-/// The member, or null: what is not there or of another kind is passed over, whatever the answer holds.
+/// The member, or null if there is none. Malformed parts of an answer are skipped this way.
 const Json& member(const Json& object, const char* name) {
     static const Json null;
     const auto found = object.is_object() ? object.find(name) : object.end();
@@ -17,7 +17,7 @@ const Json& member(const Json& object, const char* name) {
 }
 
 int number(const Json& value) {
-    // No screen is larger, and nothing computed from such numbers overflows.
+    // No screen is larger, and the limit keeps later arithmetic from overflowing.
     return value.is_number() ? static_cast<int>(std::clamp(value.get<double>(), -32767.0, 32767.0)) : 0;
 }
 
@@ -31,7 +31,7 @@ I3Place place(const Json& node, bool floats) {
     const WindowRectangle inside = rectangle(member(node, "window_rect"));
     const int titleHeight = rectangle(member(node, "deco_rect")).height;
     const WindowRectangle client{frame.x + inside.x, frame.y + inside.y, inside.width, inside.height};
-    // i3 counts the title bar to the rectangle of a window, sway does not.
+    // i3 includes the title bar in a window's rectangle, sway does not.
     if (inside.y < titleHeight) {
         frame.y -= titleHeight;
         frame.height += titleHeight;
@@ -52,7 +52,7 @@ std::optional<std::map<EwmhWindowId, I3Place>> i3Places(const std::string& tree)
         nodes.pop_back();
         if (const Json& window = member(*node, "window"); window.is_number_unsigned())
             places[window.get<EwmhWindowId>()] = place(*node, floats);
-        // i3 floats a frame that holds the window, sway the window itself.
+        // In i3 the floating node is a container of the window, in sway it is the window itself.
         for (const auto& [name, isFloating] : {std::pair{"nodes", floats}, std::pair{"floating_nodes", true}})
             if (const Json& children = member(*node, name); children.is_array())
                 for (const Json& child : children)

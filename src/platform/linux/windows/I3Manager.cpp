@@ -20,7 +20,7 @@ bool I3Manager::locate(std::span<EwmhWindow> windows, Deadline deadline) const {
                               place.client.y - place.frame.y, place.frame.bottom() - place.client.bottom()};
         window.shadow = {};
         window.isInLayout = !place.floats;
-        // Sway says of windows in its layout that they are maximized.
+        // Sway reports windows in its layout as maximized.
         window.isMaximizedHorizontally = window.isMaximizedVertically = false;
     }
     return true;

@@ -10,22 +10,22 @@
 
 namespace kinesta {
 
-/// What i3 and sway tell and do that goes beyond the desktop standard, or that they do not take the standard way. Every
-/// call waits for the answer, at most until its deadline.
+/// What i3 and sway offer beyond EWMH, and what they do not take through EWMH. Every call waits for the answer, at most
+/// until its deadline.
 class I3Manager {
   public:
     explicit I3Manager(std::string socketPath) : m_socketPath(std::move(socketPath)) {}
 
-    /// Sets where the windows are, frames included, which X does not know here. False if nobody answered.
+    /// Sets the positions of windows and their frames, which X does not know here. False if no answer came.
     bool locate(std::span<EwmhWindow> windows, Deadline deadline) const;
 
-    /// What bars leave of each monitor.
+    /// The work area of each monitor, without bars.
     std::vector<WindowRectangle> workAreas(Deadline deadline) const;
 
-    // Each whether it was done.
-    /// Takes a window out of the layout and puts its frame there.
+    // The functions below return whether the request was carried out.
+    /// Takes a window out of the layout and puts its frame at `frame`.
     bool place(EwmhWindowId window, const WindowRectangle& frame, Deadline deadline) const;
-    /// Gives a window a place in the layout again.
+    /// Puts a window back into the layout.
     bool returnToLayout(EwmhWindowId window, Deadline deadline) const;
     bool close(EwmhWindowId window, Deadline deadline) const;
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view kMagic = "i3-ipc";
 constexpr std::size_t kHeaderSize = kMagic.size() + 2 * sizeof(std::uint32_t);
-/// Thousands of windows take less.
+/// In bytes. Thousands of windows take less.
 constexpr std::uint32_t kLongestAnswer = 16U << 20U;
 
 bool sendAll(int socket, std::string_view text, Deadline deadline) {

@@ -7,12 +7,12 @@
 
 namespace kinesta {
 
-/// The questions of the protocol that i3 and sway speak.
+/// Message types of the protocol that i3 and sway speak.
 enum class I3Question { command = 0, workspaces = 1, tree = 4 };
 
-/// Asks the window manager at a socket one question and returns its answer, which is JSON; nothing if it does not
-/// listen there or does not answer in time. Each question makes a connection of its own, which takes microseconds:
-/// there is none to be lost when the window manager starts anew.
+/// Sends the window manager at a socket one question and returns its answer, which is JSON; nothing if it does not
+/// listen there or does not answer in time. Each question opens its own connection, which takes microseconds: no
+/// connection can be lost when the window manager restarts.
 std::optional<std::string> askI3(const std::string& socketPath, I3Question question, const std::string& payload,
                                  Deadline deadline);
 

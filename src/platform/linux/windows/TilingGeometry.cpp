@@ -21,7 +21,7 @@ WindowRectangle bottomHalf(const WindowRectangle& area) {
     return {area.x, area.y + top, area.width, area.height - top};
 }
 
-/// The half for the active window and the half for the rest, and whether the rest is split side by side.
+/// The half for the active window, the half for the others, and whether the others are side by side.
 struct Halves {
     WindowRectangle first;
     WindowRectangle rest;

@@ -9,22 +9,22 @@
 
 namespace kinesta {
 
-/// How many windows a command arranges when there are enough: 1, 2 or 3.
+/// How many windows a command arranges if there are enough: 1, 2 or 3.
 std::size_t tilingWindowCount(WindowTilingMenuCommand command);
 
 /// Where a command puts `windowCount` windows in `area`, the active window first. Places meet without gap or overlap;
-/// of an odd size, the right or lower part gets the pixel more. With fewer windows than the command arranges, those
-/// that are there take what a two-window command, or half the area for a lone one, would give them; windows beyond
-/// what it arranges get no place. None at all for `center` and `untile`, whose places depend on the window.
+/// if a size is odd, the right or lower part gets the extra pixel. If there are fewer windows than the command
+/// arranges, they get the places of a two-window command, or half the area for a single window. Windows beyond the
+/// number that it arranges get no place. Empty for `center` and `untile`, whose places depend on the window.
 std::vector<WindowRectangle> tilingPlaces(WindowTilingMenuCommand command, const WindowRectangle& area,
                                           std::size_t windowCount);
 
-/// A rectangle of `size` in the middle of `area`, cut down to what the area holds.
+/// A rectangle of `size` in the middle of `area`, cut to the size of `area`.
 WindowRectangle centered(WindowSize size, const WindowRectangle& area);
 
-/// The frame of a window that is given `place`: a size that it accepts, at most the place's where its limits allow
-/// that, and moved so that even a window too large for the place leaves `area` as little as it can, its upper left
-/// corner never. `frame` is what its frame adds.
+/// The frame of a window that is given `place`, in a size that the window accepts: no larger than the place if its
+/// limits allow that. A window that is too large is moved so that it leaves `area` as little as possible, and never at
+/// the upper left corner. `frame` is what its frame adds.
 WindowRectangle fitted(const WindowRectangle& place, const WindowInsets& frame, const WindowSizeLimits& limits,
                        const WindowRectangle& area);
 

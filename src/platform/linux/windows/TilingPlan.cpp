@@ -14,7 +14,7 @@ bool isOrdinary(const EwmhWindow& window, const EwmhSnapshot& desktop) {
 
 bool isResizable(const EwmhWindow& window) { return window.mayResize && !window.limits.isFixed(); }
 
-/// A widget on the desktop that calls itself a window would not want to be tiled because another window is.
+/// Excludes desktop widgets that claim to be ordinary windows: tiling another window should not move them.
 bool mayJoin(const EwmhWindow& window, const EwmhSnapshot& desktop) {
     return isOrdinary(window, desktop) && isResizable(window) && !window.skipsTaskbar;
 }

@@ -12,9 +12,9 @@ constexpr std::uint32_t kMaximizedHorizontally = 2;
 constexpr std::uint32_t kMaximizedVertically = 4;
 constexpr std::uint32_t kInLayout = 8;
 
-/// How far off a window manager may put a window, in pixels.
+/// How far from the requested position a window manager may put a window, in pixels.
 constexpr int kTolerance = 8;
-/// What X allows of coordinates and sizes.
+/// The limit of coordinates and sizes in X.
 constexpr int kGreatest = 32767;
 
 void append(std::vector<std::uint32_t>& numbers, const WindowRectangle& rectangle) {

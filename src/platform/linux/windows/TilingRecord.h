@@ -10,28 +10,29 @@
 
 namespace kinesta {
 
-/// What a window looked like before it was tiled, and where tiling put it. Kept with the window itself, so that it is
-/// gone when the window is, and still there when we start again.
+/// What a window looked like before it was tiled, and where tiling put it. Stored with the window itself, so that it
+/// goes away with the window and is still there when Kinesta restarts.
 struct TilingRecord {
-    /// The frame that it had, or would have had if it had not been maximized or fullscreen.
+    /// The frame that it had, or would have had without maximization and fullscreen.
     WindowRectangle previousFrame{};
     bool wasFullscreen = false;
     bool wasMaximizedHorizontally = false;
     bool wasMaximizedVertically = false;
     WindowRectangle tiledFrame{};
-    /// It had a place in the layout of a tiling window manager, and takes one again.
+    /// Whether it had a place in the layout of a tiling window manager, to which it returns.
     bool wasInLayout = false;
 
-    /// The record of a window that is tiled now: `before` in the state that it was in, `restored` without it.
+    /// The record for a window that is being tiled. `before` is the window in its earlier state, `restored` the window
+    /// after it stopped being maximized or fullscreen.
     static TilingRecord of(const EwmhWindow& before, const EwmhWindow& restored);
 
     /// Whether the window is still where tiling put it. False once a person has moved or resized it.
     bool describes(const EwmhWindow& window) const;
 
-    /// The numbers that a window property holds.
+    /// The items of the window property.
     std::vector<std::uint32_t> encoded() const;
 
-    /// Nothing if the numbers are none that encoded() makes: any program can write there.
+    /// Nothing if encoded() cannot have made these numbers: any program can write to the property.
     static std::optional<TilingRecord> decoded(std::span<const std::uint32_t> numbers);
 
     friend bool operator==(const TilingRecord&, const TilingRecord&) = default;

@@ -17,7 +17,7 @@ const char* roleOf(const EwmhWindow& window) {
     return window.type == EwmhWindowType::other ? "AXUnknown" : "AXWindow";
 }
 
-/// What all elements have in common: their timeout, and refusing what they do not know.
+/// The common part of all elements: they have a timeout, and fail for every attribute and action that they lack.
 class WindowAccessibilityElement : public AccessibilityElement {
   public:
     explicit WindowAccessibilityElement(Seconds timeout) : m_timeout(timeout) {}
@@ -96,7 +96,7 @@ class WindowElement : public WindowAccessibilityElement {
     AccessibilityValue children() {
         const auto snapshot = m_desktop.snapshot(timeout());
         const EwmhWindow* window = snapshot ? snapshot->window(m_window) : nullptr;
-        // To fail would say that there is no dialog, when there may be one.
+        // Not a failure, which would mean that there is no dialog: there may be one.
         if (window == nullptr)
             return OtherAccessibilityValue{};
         AccessibilityList dialogs;

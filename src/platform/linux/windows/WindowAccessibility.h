@@ -15,13 +15,13 @@ namespace kinesta {
 ///     menu bar      AXChildren (one item for each tiling command)
 ///     menu item     AXIdentifier, AXEnabled; AXPress
 ///
-/// An ordinary window or dialog has the role "AXWindow", a modal dialog "AXSheet", and what a desktop is furnished
-/// with "AXUnknown". Every attribute is asked for anew when it is read; other attributes fail. An element has the
-/// messaging timeout of the one that it was read from until it gets its own. Pressing does nothing, and says so, once
-/// the person has gone to another window: what the front window's own button or menu would have done would surprise.
+/// An ordinary window or dialog has the role "AXWindow", a modal dialog "AXSheet", and a dock, panel or the like
+/// "AXUnknown". Each read of an attribute asks the desktop again; other attributes fail. An element has the messaging
+/// timeout of the element that it was read from until it gets its own. Pressing does nothing and fails once another
+/// window is active: the person has left the window and would not expect it to close or move.
 class WindowAccessibility : public AccessibilityElements {
   public:
-    /// How long a request waits when nobody said otherwise, in seconds.
+    /// How long a request waits if no timeout was set, in seconds.
     static constexpr Seconds kDefaultTimeout = 0.5;
 
     WindowAccessibility(EwmhDesktop& desktop, WindowTiler& tiler, AccessibilityBus& programs)

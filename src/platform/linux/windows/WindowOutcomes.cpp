@@ -14,7 +14,8 @@ using Outcome = WindowOutcomes::Outcome;
 
 constexpr std::chrono::milliseconds kBetweenLooks{5};
 
-/// How long to ask why nothing was done, in seconds: longer than actions wait, which this must not fail with.
+/// How long to look for the reason why nothing was done, in seconds. Longer than actions wait, because a server that
+/// was too slow for the action must not fail this too.
 constexpr Seconds kPatienceForReasons = 2;
 
 Outcome outcomeOf(const EwmhRequest& request, const EwmhWindow* window) {
@@ -43,7 +44,7 @@ Outcome outcomeOf(const EwmhRequest& request, const EwmhWindow* window) {
 void WindowOutcomes::begin() {
     m_requests.clear();
     m_desktop.setObserver([this](const EwmhRequest& request) {
-        // What is asked last of a window is what is to be.
+        // The last request for a window replaces earlier ones.
         std::erase_if(m_requests, [&](const EwmhRequest& each) { return each.window == request.window; });
         m_requests.push_back(request);
     });

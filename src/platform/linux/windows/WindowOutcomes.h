@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// Watches what the window manager makes of each request.
+/// Checks what the window manager has done about each request.
 class WindowOutcomes final : public WindowActionOutcomes {
   public:
     WindowOutcomes(EwmhDesktop& desktop, AccessibilityBus& programs) : m_desktop(desktop), m_programs(programs) {}

@@ -28,7 +28,7 @@ class TilingMenu : public OwnMenu {
   public:
     explicit TilingMenu(WindowTiler& tiler) : m_tiler(tiler) {}
 
-    void update() override {}  // Items ask for their state when they are asked.
+    void update() override {}  // Items read their state on demand.
 
     std::vector<std::unique_ptr<OwnMenuItem>> items() override {
         std::vector<std::unique_ptr<OwnMenuItem>> items;

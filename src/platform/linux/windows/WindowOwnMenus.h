@@ -5,8 +5,8 @@
 
 namespace kinesta {
 
-/// The menu bar of this process as far as actions look into it: the tiling commands, which work on our own window as
-/// on any other.
+/// The menu bar of this process, as far as actions use it: the tiling commands, which work on our own window as on any
+/// other.
 class WindowOwnMenus : public OwnMenus {
   public:
     explicit WindowOwnMenus(WindowTiler& tiler) : m_tiler(tiler) {}

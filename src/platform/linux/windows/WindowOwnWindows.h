@@ -5,8 +5,8 @@
 
 namespace kinesta {
 
-/// The windows of this process, as the desktop sees them: whatever shows them, the close button asks them in the same
-/// way, with all that they ask the person first.
+/// The windows of this process, as the desktop sees them. They are closed as by their close button, so that they can
+/// still ask the person first.
 class WindowOwnWindows : public OwnWindows {
   public:
     explicit WindowOwnWindows(EwmhDesktop& desktop) : m_desktop(desktop) {}

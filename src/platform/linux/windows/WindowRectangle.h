@@ -12,7 +12,8 @@ struct WindowSize {
     friend bool operator==(const WindowSize&, const WindowSize&) = default;
 };
 
-/// A rectangle on the desktop: pixels from its upper left corner, y growing downward. Empty without width or height.
+/// A rectangle on the desktop, in pixels from the upper left corner of the desktop, y growing downward. Empty if its
+/// width or height is 0 or less.
 struct WindowRectangle {
     int x = 0;
     int y = 0;
@@ -24,7 +25,7 @@ struct WindowRectangle {
     bool isEmpty() const { return width <= 0 || height <= 0; }
     WindowSize size() const { return {width, height}; }
 
-    /// What lies in both; empty if they only touch.
+    /// The common part; empty if they only touch.
     WindowRectangle intersection(const WindowRectangle& other) const {
         const int left = std::max(x, other.x);
         const int top = std::max(y, other.y);
@@ -37,7 +38,8 @@ struct WindowRectangle {
     friend bool operator==(const WindowRectangle&, const WindowRectangle&) = default;
 };
 
-/// What lies between a rectangle and one inside it, in pixels for each side; below 0 where the other sticks out.
+/// The distance between a rectangle and one inside it, in pixels for each side; negative where the inner one sticks
+/// out.
 struct WindowInsets {
     int left = 0;
     int right = 0;

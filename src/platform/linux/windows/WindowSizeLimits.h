@@ -9,7 +9,7 @@ namespace kinesta {
 
 /// Which sizes a window accepts, without its frame.
 struct WindowSizeLimits {
-    /// Width by height, as a ratio.
+    /// Width divided by height.
     struct AspectRange {
         double minimum = 0;
         double maximum = std::numeric_limits<double>::infinity();

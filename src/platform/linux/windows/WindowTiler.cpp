@@ -11,7 +11,8 @@ namespace {
 
 using Command = WindowTilingMenuCommand;
 
-/// Which part of the time that is left the window manager gets to end maximization; the rest is for what follows.
+/// The share of the remaining time in which the window manager may end maximization. The rest is for the steps after
+/// that.
 constexpr double kShareOfRestoring = 0.6;
 
 bool isActive(ProcessIdentifier application, const EwmhSnapshot& desktop) {
@@ -52,7 +53,7 @@ bool WindowTiler::perform(Command command, ProcessIdentifier application, Second
         m_desktop.setTilingRecord(window.id, record->encoded());
         m_desktop.place(window, frame);
     }
-    // Something that took no part may lie between them.
+    // Other windows may lie between them.
     for (std::size_t i = places.size(); places.size() > 1 && i-- > 0;)
         m_desktop.raise(participants[i].restored.id);
     m_desktop.flush();

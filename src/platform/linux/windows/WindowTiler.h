@@ -6,22 +6,22 @@
 
 namespace kinesta {
 
-/// Tiles the active window, with the next ones where a command arranges several, by asking the window manager.
-/// Nothing is kept here: each window remembers itself where it was before. Main thread only.
+/// Tiles the active window, and the next ones if a command arranges several, by asking the window manager. Keeps no
+/// state: each window stores its own earlier position. Main thread only.
 class WindowTiler {
   public:
     explicit WindowTiler(EwmhDesktop& desktop) : m_desktop(desktop) {}
 
-    /// Whether a command can do something with the active window, and that is of this application. Waits at most
+    /// Whether the active window belongs to `application` and the command can do something with it. Waits at most
     /// `timeout` seconds.
     bool canPerform(WindowTilingMenuCommand command, ProcessIdentifier application, Seconds timeout);
 
-    /// Performs a command if canPerform(); whether the window manager was asked. Waits at most `timeout` seconds, and
-    /// not for the windows to have moved.
+    /// Performs a command if canPerform(). Returns whether the window manager was asked, or the window had nothing to
+    /// undo. Waits at most `timeout` seconds, but not for the windows to move.
     bool perform(WindowTilingMenuCommand command, ProcessIdentifier application, Seconds timeout);
 
   private:
-    /// A window before anything was done to it, and after it stopped being maximized or fullscreen.
+    /// A window before any change, and after it stopped being maximized or fullscreen.
     struct Participant {
         EwmhWindow before;
         EwmhWindow restored;

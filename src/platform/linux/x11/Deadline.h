@@ -6,13 +6,13 @@
 
 namespace kinesta {
 
-/// Until when a server or a program may answer.
+/// The time until which a server or a program may answer.
 using Deadline = std::chrono::steady_clock::time_point;
 
 /// `timeout` seconds from now.
 Deadline deadlineIn(Seconds timeout);
 
-/// The seconds that are left, at least 0.
+/// The seconds left, at least 0.
 Seconds timeLeft(Deadline deadline);
 
 /// Waits until poll(2) reports one of `events`, or an error, for a descriptor; false at the deadline.

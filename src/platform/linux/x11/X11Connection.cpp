@@ -15,7 +15,8 @@
 namespace kinesta {
 namespace {
 
-/// A busy machine may need this long for the dozen messages of a new connection, whatever the first question needs.
+/// A busy machine may need this long for the dozen messages of a new connection, even if the deadline of the first
+/// query is shorter.
 constexpr Seconds kConnecting = 0.25;
 constexpr Seconds kBeforeNextAttempt = 1;
 constexpr Seconds kAnswersStay = 0.05;
@@ -32,7 +33,7 @@ xcb_atom_t atomOf(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie)
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-/// A request of an extension that the server lacks would end the connection.
+/// Sending a request of an extension that the server lacks would end the connection.
 bool hasExtension(xcb_connection_t* connection, xcb_extension_t& extension) {
     const auto* data = xcb_get_extension_data(connection, &extension);
     return data != nullptr && data->present != 0;
@@ -43,8 +44,8 @@ bool hasExtension(xcb_connection_t* connection, xcb_extension_t& extension) {
 X11Connection::X11Connection(std::string displayName) : m_displayName(std::move(displayName)) { surviveBrokenPipes(); }
 
 X11Connection::~X11Connection() {
-    // A server drops what it has not read when its client is gone. It reads in order: its answer to the last request
-    // means that it has read all.
+    // When a client disconnects, the server drops what it has not read. It reads in order, so its answer to the last
+    // request means that it has read everything.
     if (xcb() != nullptr && xcb_connection_has_error(xcb()) == 0)
         reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(xcb()), deadlineIn(kAtTheEnd));
     disconnect();
@@ -53,13 +54,14 @@ X11Connection::~X11Connection() {
 bool X11Connection::prepare(Deadline deadline) {
     pollfd socket{xcb() != nullptr ? xcb_get_file_descriptor(xcb()) : -1, POLLOUT, 0};
     poll(&socket, 1, 0);
-    // XCB notices the end of the server only when it reads or writes: the first key would be lost.
+    // XCB notices that the server has ended only when it reads or writes. Without this check the first key would be
+    // lost.
     const bool hasEnded = (socket.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0;
     if (xcb() != nullptr && (hasEnded || xcb_connection_has_error(xcb()) != 0))
         disconnect();
     if (xcb() == nullptr)
         return connect(deadline);
-    // Writable means here that at least three quarters of the buffer are free: requests never wait for room.
+    // Writable means here that at least three quarters of the buffer are free, so requests never wait for space.
     if (socket.revents == 0)
         return false;
     if (m_overdue) {
@@ -77,7 +79,7 @@ bool X11Connection::prepare(Deadline deadline) {
 
 bool X11Connection::answers(Seconds patience) {
     const auto deadline = deadlineIn(patience);
-    // A server that hung gets its chance again here, once for each action.
+    // Give a server that hung another chance, once for each action.
     if (m_overdue)
         awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline);
     if (!prepare(deadline))
@@ -110,7 +112,7 @@ bool X11Connection::connect(Deadline deadline) {
     return xcb() != nullptr;
 }
 
-/// Asks all that is asked once. Waits as long as it takes.
+/// Sends the queries that each connection needs once. Has no time limit of its own.
 bool X11Connection::setUp(int screenNumber) {
     xcb_connection_t* connection = xcb();
     if (xcb_connection_has_error(connection) != 0)
@@ -229,7 +231,7 @@ bool X11Connection::awaitEvent(const std::function<bool(const xcb_generic_event_
 
 void X11Connection::requestServerTime() {
     m_serverTime = XCB_CURRENT_TIME;
-    // Nothing is appended to a property: the server notifies us, with its time.
+    // Appending nothing to a property makes the server send an event with its time.
     xcb_change_property(xcb(), XCB_PROP_MODE_APPEND, m_ownWindow, m_tilingRecord, XCB_ATOM_CARDINAL, 32, 0, nullptr);
 }
 

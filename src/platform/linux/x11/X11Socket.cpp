@@ -29,7 +29,7 @@ struct Free {
     void operator()(Xauth* entry) const { XauDisposeAuth(entry); }
 };
 
-/// Null unless connected. `isHanging` becomes true if somebody listens there and does not accept in time.
+/// Empty unless connected. `isHanging` becomes true if a server listens there but does not accept in time.
 FileDescriptor connected(const sockaddr* address, socklen_t length, Deadline deadline, bool& isHanging) {
     FileDescriptor socket(::socket(address->sa_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (!socket || ::connect(socket.number(), address, length) == 0)
@@ -54,7 +54,8 @@ FileDescriptor connectedHere(const std::string& path, Deadline deadline, bool& i
     address.sun_family = AF_UNIX;
     if (path.size() + 1 >= sizeof address.sun_path)
         return {};
-    // Linux names the socket twice: without a file, whose name begins with a zero byte, and with one.
+    // On Linux the server listens on two sockets: one without a file, whose name begins with a zero byte, and one with
+    // a file.
     for (const std::size_t start : {std::size_t{1}, std::size_t{0}}) {
         std::memset(address.sun_path, 0, sizeof address.sun_path);
         std::memcpy(address.sun_path + start, path.data(), path.size());
@@ -78,7 +79,7 @@ FileDescriptor connectedThere(const std::string& host, int display, Deadline dea
     return {};
 }
 
-/// How ~/.Xauthority names the server at the other end: by its address, or by this machine's name if it runs here.
+/// How ~/.Xauthority names the server: by its address, or by this machine's name if it runs here.
 struct ServerAddress {
     std::uint16_t family = FamilyLocal;
     std::string bytes;

@@ -9,7 +9,7 @@ struct XcbFree {
     void operator()(void* memory) const { std::free(memory); }
 };
 
-/// Holds a reply, an error or an event that XCB gave away.
+/// Owns a reply, an error or an event from XCB.
 template <typename T>
 using XcbPointer = std::unique_ptr<T, XcbFree>;
 
