@@ -1,4 +1,4 @@
-# One target a module; a module links, and so can include, only what is named here.
+# One target per module. A module links, and so can include, only what src/CMakeLists.txt names.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -12,13 +12,13 @@ add_library(kinesta_options INTERFACE)
 target_compile_options(kinesta_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
     -Woverloaded-virtual -Wcast-qual -Wformat=2
-    # A recording gives the same gestures on every machine, also where products and sums could be fused.
+    # A recording must give the same gestures on every machine, so products and sums are not fused.
     -ffp-contract=off
     # GCC 12 takes `"literal" + std::string()` for a copy onto itself when it inlines it (its bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(kinesta_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(KINESTA_SANITIZE)
-    # What the sanitizers insert makes gcc doubt initializations that it otherwise understands.
+    # With the sanitizers' code gcc warns of uninitialized variables that are initialized.
     target_compile_options(kinesta_options INTERFACE -Wno-uninitialized
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_compile_options(kinesta_options INTERFACE
@@ -26,12 +26,13 @@ if(KINESTA_SANITIZE)
     target_link_options(kinesta_options INTERFACE -fsanitize=${KINESTA_SANITIZE})
 endif()
 
-# What most files include takes longer to read than they do: it is read once. Each file still includes what it uses;
-# scripts/tidy compiles them without.
+# The headers that most files include take longer to compile than the files, so they are precompiled. Each file still
+# includes what it uses; scripts/tidy compiles without precompiled headers.
 string(TOUPPER "${CMAKE_BUILD_TYPE}" build_type)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND ("${CMAKE_CXX_FLAGS} ${CMAKE_CXX_FLAGS_${build_type}}" MATCHES "-O[23sf]"
                                              OR KINESTA_SANITIZE STREQUAL "thread"))
-    # GCC 12 forgets that what it inlines from a precompiled header is the system's, and warns of std::string's insides.
+    # When GCC 12 inlines code from a precompiled header, it forgets that this is a system header and warns about
+    # std::string.
     set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()
 set(KINESTA_COMMON_HEADERS
@@ -58,8 +59,8 @@ function(kinesta_module name)
     endif()
 endfunction()
 
-# kinesta_test(NAME LIBRARIES libs... [TIMEOUT seconds] [SERIAL]): the GoogleTest program of tests/NAME, each
-# test known to CTest. Tests that name the same lock run one after the other.
+# kinesta_test(NAME LIBRARIES libs... [TIMEOUT seconds] [SERIAL]): the GoogleTest program of tests/NAME, with each test
+# known to CTest. SERIAL tests run while no other test runs.
 function(kinesta_test name)
     cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "LIBRARIES" ${ARGN})
     if(NOT ARG_TIMEOUT)

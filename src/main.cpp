@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
                                                  (errno != 0 ? ": " + systemErrorText(errno) : std::string()) + "."));
         return static_cast<int>(status);
     } catch (const std::exception& error) {
-        // Only failures without a remedy arrive here, above all that of memory.
+        // Only failures that cannot be handled arrive here, mainly lack of memory.
         std::cerr << "Kinesta had to give up: " << error.what() << '\n';
         return static_cast<int>(ExitStatus::badInput);
     }

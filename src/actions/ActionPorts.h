@@ -17,7 +17,7 @@
 
 namespace kinesta {
 
-/// Everything that actions need of the machine. The referents must outlive every user of the struct.
+/// Everything that actions need from the machine. The referents must outlive every user of the struct.
 struct ActionPorts {
     const Clock& clock;
     const UserDefaults& defaults;

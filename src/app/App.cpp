@@ -7,10 +7,10 @@
 namespace kinesta {
 namespace {
 
-/// The settings, once their problems and those of actions reach `tell`.
+/// Makes `tell` receive the problems of settings and actions, then returns the settings.
 UserDefaults& defaultsThatTell(Desktop& desktop, const Desktop::Tell& tell) {
     desktop.onSettingsProblem(tell);
-    // Actions fail on other threads too.
+    // Actions may fail on other threads.
     desktop.onActionProblem(
         [&desktop, tell](const std::string& problem) { desktop.mainLoop().post([tell, problem] { tell(problem); }); },
         ProgramOutput::log);

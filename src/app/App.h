@@ -7,8 +7,8 @@
 
 namespace kinesta {
 
-/// The application without its face: from the trackpad to the actions of the stored rules. The daemon adds a log, the
-/// desktop application a window. Main thread only.
+/// The application without a user interface: from the trackpad to the actions of the stored rules. The daemon adds a
+/// log, the desktop application a window. Main thread only.
 class App {
   public:
     /// `tell` receives every problem with settings, rules and actions, as one sentence. The desktop must outlive

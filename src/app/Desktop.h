@@ -18,19 +18,20 @@
 
 namespace kinesta {
 
-/// What the terminal or the system asks of the program: to end, to stop (Ctrl-Z), to read its settings again.
+/// A request of the terminal or the system: to end, to stop (Ctrl-Z), to read the settings again.
 enum class ProgramSignal { end, stop, reload };
 
-/// Whether it is certain that no other process of this person acts on gestures.
+/// Whether it is certain that no other process of this user acts on gestures.
 enum class SingleInstanceClaim { certain, uncertain };
 
-/// Where the output of programs goes that actions start: to nowhere, or to our own if that is a log file or a journal.
+/// Where the output of the programs that actions start goes: nowhere, or to our own output if that is a log file or a
+/// journal.
 enum class ProgramOutput { nowhere, log };
 
-/// Everything that one machine offers. Its parts are made at their first use. Main thread only.
+/// The port to everything that one machine offers. Its parts are made at their first use. Main thread only.
 class Desktop {
   public:
-    /// Receives one sentence for the person.
+    /// Receives one sentence for the user.
     using Tell = std::function<void(const std::string&)>;
 
     virtual ~Desktop() = default;
@@ -39,52 +40,52 @@ class Desktop {
 
     virtual MainLoop& mainLoop() = 0;
     virtual const Clock& clock() const = 0;
-    /// Calls `handler` on the main thread for each of these signals, which then do nothing else. At most once, and
-    /// before any other part is used.
+    /// Calls `handler` on the main thread for each of these signals, which then have no other effect. Call it at most
+    /// once, and before any other part is used.
     virtual void catchSignals(const std::vector<ProgramSignal>& signals,
                               std::function<void(ProgramSignal)> handler) = 0;
     /// Lets writing to a closed pipe fail instead of ending the program.
     virtual void surviveClosedPipes() = 0;
-    /// The error names the other process that acts on gestures. Holds until the process ends.
+    /// Makes this the one process that acts on gestures, until it ends. The error names the process that already does.
     virtual Result<SingleInstanceClaim> claimSingleInstance() = 0;
     /// Hides the cursor and shows the terminal's second screen until giveTerminalBack() or the end of the program.
     virtual void takeTerminal() = 0;
     virtual void giveTerminalBack() = 0;
-    /// Stops the program as Ctrl-Z does, with the terminal given back meanwhile, and returns when it goes on.
+    /// Stops the program as Ctrl-Z does, with the terminal restored meanwhile, and returns when the program continues.
     virtual void stopUntilContinued() = 0;
     /// The bundled examples; the folder may be missing.
     virtual std::filesystem::path examplesFolder() const = 0;
-    /// The running system, as far as it has gestures of its own.
+    /// The running system, for warnings about its own gestures.
     virtual GestureSystem gestureSystem() const = 0;
 
     // The settings
 
-    /// Tells why settings cannot be read or stored. To be set before defaults() is first used.
+    /// `tell` receives why settings cannot be read or stored. Must be called before defaults() is first used.
     virtual void onSettingsProblem(Tell tell) = 0;
     virtual UserDefaults& defaults() = 0;
-    /// Whether another process has changed a value, which is then taken over.
+    /// Reads the stored settings again. Returns whether another process has changed a value.
     virtual bool reloadDefaults() = 0;
-    /// Whether changes can be stored, as far as that is known before one is made.
+    /// Whether changes can be stored, as far as that can be known before one is made.
     virtual Outcome checkSaving() = 0;
     /// Whether the last change was stored, and why not.
     virtual Outcome lastSaving() = 0;
     /// Calls `onChange` when anyone changes the stored settings. False if the system does not offer that.
     virtual bool watchDefaults(std::function<void()> onChange) = 0;
-    /// How a person changes a setting without a window: the end of a sentence, from "set" on.
+    /// How the user changes a setting without a window: the end of a sentence, starting with "set".
     virtual std::string howToSet(std::string_view key, const std::string& value) const = 0;
-    /// The folder of the settings, made if need be, for files that belong to them.
+    /// The folder of the settings, for files that belong to them. Created if it is missing.
     virtual Result<std::filesystem::path> settingsFolder() = 0;
 
     // The trackpad
 
     virtual LiveTrackpad& trackpad() = 0;
-    /// All trackpads, each opened for a moment.
+    /// All trackpads. Opens each for a moment.
     virtual ConnectedTrackpads connectedTrackpads() = 0;
 
     // Actions
 
-    /// `tell` receives why something could not be done, also on other threads. To be set before actionPorts() is first
-    /// used.
+    /// `tell` receives why something could not be done, also on other threads. Must be called before actionPorts() is
+    /// first used.
     virtual void onActionProblem(Tell tell, ProgramOutput output) = 0;
     /// Valid until finishActions(). Shell commands are permitted by `settings`.
     virtual ActionPorts actionPorts(const UserDefaults& settings) = 0;
@@ -92,10 +93,10 @@ class Desktop {
     virtual void prepareToPost() = 0;
     virtual ApplicationNotifications& notifications() = 0;
     virtual WindowActionOutcomes& windowOutcomes() = 0;
-    /// Waits until the desktop can have noticed a new virtual keyboard, or read its last keys: for a process that posts
-    /// at once, or ends right after. Returns at once where there is none.
+    /// Gives the desktop time to notice a new virtual keyboard or to read its last keys: for a process that posts right
+    /// after its start or ends right after posting. Returns at once if there is no virtual keyboard.
     virtual void letDesktopCatchUp() = 0;
-    /// Waits until everything that was asked for has been handed over. No action can run afterwards.
+    /// Waits until every request has been handed over. No action can run afterwards.
     virtual void finishActions() = 0;
 
     // What works here
@@ -105,10 +106,10 @@ class Desktop {
     virtual const HomeFolders& homeFolders() const = 0;
     /// Why the key with this virtual key code and these event flags cannot be posted.
     virtual std::optional<Obstacle> obstacleToKey(std::uint16_t keyCode, std::uint64_t flags) = 0;
-    /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names. True for
-    /// keys that name no letter.
+    /// Whether a shortcut with the key of this code and name reaches programs as the letter in its name. True if the
+    /// name is not a letter.
     virtual bool typesLetterOf(std::uint16_t keyCode, const std::string& name) = 0;
-    /// Why the application at this absolute path, which exists, cannot be started.
+    /// Why the application at this absolute path cannot be started. The path must exist.
     virtual std::optional<Obstacle> obstacleToLaunching(const std::string& application) = 0;
 };
 

@@ -10,18 +10,18 @@ struct Obstacle {
     std::string remedy;
 };
 
-/// What a session may or may not let us do.
+/// Something that a session may or may not let us do.
 enum class DesktopCapability { sendInput, keyboardLayout, windows, open, notify };
 
-/// One thing that works or not, in plain words.
+/// Whether one capability works, in plain words.
 struct DesktopFinding {
     DesktopCapability capability;
     /// "Sending keys and clicks"
     std::string what;
     bool works = false;
-    /// How it works, or what stands in the way: one or two sentences.
+    /// How it works, or what prevents it: one or two sentences.
     std::string why;
-    /// What the person can do about it; empty if nothing need be done.
+    /// What the user can do about it; empty if nothing needs to be done.
     std::string remedy;
 };
 

@@ -5,8 +5,8 @@
 
 namespace kinesta {
 
-/// Recognition on the trackpad of a desktop. Follows the pad as it comes and goes. Main thread only; the desktop must
-/// outlive it.
+/// Recognition on the trackpad of a desktop. Follows the pad as it is connected and disconnected. Main thread only; the
+/// desktop must outlive it.
 class LiveRecognition {
   public:
     explicit LiveRecognition(Desktop& desktop);

@@ -13,8 +13,8 @@
 
 namespace kinesta {
 
-/// The port to the trackpad that this machine reads: its contacts and its clicks, followed as it comes and goes. Main
-/// thread only, except for the frame handler of contacts().
+/// The port to the trackpad that is read: its contacts and clicks. Follows the pad as it is connected and disconnected.
+/// Main thread only, except for the frame handler of contacts().
 class LiveTrackpad {
   public:
     struct Identity {
@@ -39,16 +39,16 @@ class LiveTrackpad {
     virtual void onStatusChange(std::function<void()> handler) = 0;
 
     /// Calls `watcher` on the main thread with every event of the pad, in addition to the frame handler that contacts()
-    /// has now. To be set before contacts() starts.
+    /// has now. Must be called before contacts() starts.
     virtual void watch(std::function<void(const PadEvent&)> watcher) = 0;
 };
 
-/// A trackpad of this machine as a person may want to see it.
+/// A trackpad of this machine, described for the user.
 struct ConnectedTrackpad {
     struct Axes {
         std::array<int, 2> x;
         std::array<int, 2> y;
-        /// How many contacts have a place of their own in the driver's protocol.
+        /// How many contacts the driver's protocol tells apart.
         int slotCount = 0;
     };
 
@@ -60,7 +60,7 @@ struct ConnectedTrackpad {
     /// First and last value of each axis; absent if the pad may not be read.
     std::optional<Axes> axes;
     bool canTellPressure = false;
-    /// Whether the desktop may have it switched off without a way to find out.
+    /// Whether the desktop may have switched it off without a way for us to find out.
     bool mayBeOff = false;
     /// How many fingers it reports at once; 0 if that is not known.
     int fingers = 0;

@@ -10,7 +10,7 @@
 namespace kinesta {
 namespace {
 
-/// How long a window manager and a program may take to do what was asked, in seconds.
+/// How long a window manager and a program may take to carry out a request, in seconds.
 constexpr Seconds kPatience = 1;
 
 bool needsPosting(ActionKind kind) {
@@ -18,7 +18,7 @@ bool needsPosting(ActionKind kind) {
            kind == ActionKind::adjustVolume;
 }
 
-/// What an action does to windows, if it is one of those.
+/// What an action does to windows; nothing if it is no window action.
 std::optional<WindowActionOutcomes::Kind> windowKind(const GestureAction& action) {
     using Kind = WindowActionOutcomes::Kind;
     if (action.kind == ActionKind::closeWindow)

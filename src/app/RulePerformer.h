@@ -17,7 +17,7 @@ std::int64_t adjustmentSteps(const DetectedGesture& gesture);
 /// Runs the action of a rule, with its cue.
 void performRule(ActionExecutor& executor, const GestureRule& rule, std::int64_t steps);
 
-/// Performs rules and finds out what came of it: for programs that answer a person. Main thread only.
+/// Performs rules and finds out the result, for commands that report it to the user. Main thread only.
 class RulePerformer {
   public:
     enum class Outcome {
@@ -28,7 +28,7 @@ class RulePerformer {
     };
     struct Report {
         Outcome outcome = Outcome::failed;
-        /// Why it failed, or what is still open: sentences, or empty.
+        /// Why it failed, or what is still uncertain: sentences, or empty.
         std::string why;
     };
 
@@ -39,12 +39,12 @@ class RulePerformer {
     RulePerformer(const RulePerformer&) = delete;
     RulePerformer& operator=(const RulePerformer&) = delete;
 
-    /// Waits until the desktop can have noticed our virtual keyboard, where there is one.
+    /// Gives the desktop time to notice our virtual keyboard, if there is one.
     void prepareToPost();
 
     Report perform(const GestureRule& rule, std::int64_t steps);
 
-    /// Waits until everything was handed over, and returns what went wrong meanwhile. No rule can be performed
+    /// Waits until every request has been handed over, and returns what went wrong meanwhile. No rule can be performed
     /// afterwards.
     std::string finish();
 

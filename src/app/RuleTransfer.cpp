@@ -37,7 +37,7 @@ std::size_t enabledOf(const std::vector<GestureRule>& rules) {
     return static_cast<std::size_t>(std::ranges::count_if(rules, [](const auto& rule) { return rule.isEnabled; }));
 }
 
-// A copy must never overwrite an earlier one, which may be the only one of a list that a person wants back.
+// A copy must never overwrite an earlier one: that may be the user's only copy of a list.
 std::filesystem::path freshCopyPath(const std::filesystem::path& folder, const Clock& clock) {
     const auto now = static_cast<std::time_t>(clock.wallClock());
     std::array<char, 32> stamp{};
@@ -71,7 +71,7 @@ Result<std::vector<GestureRule>> readRuleFile(const std::string& file, std::istr
     auto rules = decodeRules(*content);
     if (rules)
         return rules;
-    // "line 14: what is wrong" becomes "FILE:14: what is wrong", the form that editors and people know.
+    // "line 14: what is wrong" becomes "FILE:14: what is wrong", the usual form, which editors can follow.
     constexpr std::string_view kLine = "line ";
     const std::string& message = rules.error().message;
     return message.starts_with(kLine) ? Error{name + ":" + message.substr(kLine.size())} : Error{name + ": " + message};
@@ -104,7 +104,7 @@ Result<ImportedRules> importRules(Desktop& desktop, RuleStore& store, std::vecto
         return written.error();
 
     const std::size_t enabledInFile = enabledOf(rules);
-    desktop.onSettingsProblem({});  // it would say that the change lasts for a while; here it is undone
+    desktop.onSettingsProblem({});  // it would announce a temporary change, but the change is undone here
     store.replaceRules(std::move(rules));
     if (const Outcome saved = desktop.lastSaving(); !saved) {
         std::error_code ignored;

@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// One thing that rules may need: whether it works here, and if not what to do.
+/// Whether one thing that rules may need works here, and if not, what to do.
 struct SystemFinding {
     std::string what;
     bool works = false;

@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// The port that finds out what came of an action on windows. Main thread only.
+/// The port that finds out what an action did to windows. Main thread only.
 class WindowActionOutcomes {
   public:
     enum class Outcome {
@@ -14,7 +14,7 @@ class WindowActionOutcomes {
         nothingAsked,
         /// It was asked, and left the window as it was.
         ignored,
-        /// It was asked and the result is open: the window may be asking the person before it closes, or it went
+        /// It was asked, but the result is uncertain: the window may ask the user before it closes, or it moved
         /// elsewhere than requested.
         asked,
         done,
@@ -29,7 +29,7 @@ class WindowActionOutcomes {
     /// The outcome of all requests since begin(). Waits for it at most `patience` seconds.
     virtual Outcome settle(Seconds patience) = 0;
 
-    /// Why nothing was asked for, as one sentence, judged by the present state of the desktop.
+    /// Why nothing was requested, as one sentence, judged by the current state of the desktop.
     virtual std::string obstacle(Kind kind) = 0;
 };
 

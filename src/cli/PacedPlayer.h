@@ -10,7 +10,7 @@
 namespace kinesta {
 
 /// Plays one recording at the pace at which it was made. The session's virtual time follows real time, so it recognizes
-/// the same, at the same times, as without waiting.
+/// the same gestures at the same times as a replay without waiting.
 class PacedPlayer {
   public:
     /// Calls `onEvent` with each event after its delivery, and `onEnd` once, with the reader's error if there was one.
@@ -20,7 +20,7 @@ class PacedPlayer {
 
     void start();
 
-    /// Leaves out this much time, in which the program was stopped.
+    /// Skips this much time, during which the program was stopped.
     void passOver(Seconds time) { m_realStart += time; }
 
   private:

@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// The person's settings as a subcommand uses them: problems go to the error stream and into the exit status.
+/// The user's settings for a subcommand. Problems go to the error stream and set the exit status.
 class StoredSettings {
   public:
     StoredSettings(const Console& console, Desktop& desktop) : m_console(console), m_desktop(desktop) {
@@ -27,7 +27,7 @@ class StoredSettings {
             m_status = m_console.fail(*problem);
     }
 
-    /// Whether all rules are off now, and stored so.
+    /// Switches all rules off and stores that. Returns whether it succeeded.
     bool disableAllRules() {
         RuleStore store(defaults());
         check(store);
@@ -36,7 +36,7 @@ class StoredSettings {
         return m_status == ExitStatus::success;
     }
 
-    /// badInput once a problem was reported.
+    /// badInput if a problem has been reported.
     ExitStatus status() const { return m_status; }
 
   private:

@@ -68,7 +68,7 @@ void appendIndented(std::string& out, std::string_view text) {
 
 std::string encodeRules(std::span<const GestureRule> rules, RuleListLayout layout) {
     const bool isIndented = layout == RuleListLayout::indented;
-    // Rule by rule, so that a long list never stands in memory as a tree.
+    // Rule by rule, so that a long list is never in memory as a whole tree.
     std::string out = "[";
     for (const GestureRule& rule : rules) {
         if (&rule != rules.data())

@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// One value of a JSON text. The consumer may move `text` away.
+/// One value of a JSON text. The consumer may move from `text`.
 struct JsonValue {
     enum class Type { null, boolean, integer, otherNumber, text, list, object };
 

@@ -55,16 +55,16 @@ class RuleStore {
     bool canEnableAllRules() const;
     RuleEnablementResult enableAllRules();
     void disableAllRules();
-    /// Replaces the whole list, as an import does; enabled rules that are not ready are switched off. The caller keeps
-    /// what was stored before.
+    /// Replaces the whole list, as an import does; enabled rules that are not ready are switched off. The caller must
+    /// keep a copy of the previous list if it is needed.
     void replaceRules(std::vector<GestureRule> rules);
     std::optional<Binding> binding(const Uuid& id);
-    /// Reads the stored list again, after another process changed it; publishes only a list that differs. A removed
-    /// list is the default one; one that does not decode leaves the present list as it is.
+    /// Reads the stored list again, after another process changed it; publishes only a list that differs. If the stored
+    /// list was removed, the default list applies; if it does not decode, the current list stays.
     void reload();
 
-    /// Why the stored list was not taken over when it was last read, with the place; empty if it was. Such a list stays
-    /// stored until the next change, which moves it to the key `setAsideKey` with a number behind.
+    /// Why the stored list could not be used when it was last read, with the position; empty if it could. Such a list
+    /// stays stored until the next change, which moves it to the key `setAsideKey` plus a number.
     const std::string& problem() const { return m_problem; }
 
     /// The list with every enabled shell-command rule that was not acknowledged switched off.

@@ -41,7 +41,7 @@ Warning warningOnMacOS(const GestureRule& rule) {
     return std::nullopt;
 }
 
-/// What a desktop calls itself and its settings.
+/// The names of a desktop and its settings.
 struct DesktopWords {
     std::string name;
     std::string whereTappingIsSet;
@@ -50,7 +50,7 @@ struct DesktopWords {
     SystemGestureWarning fourFingerSwipe;
 };
 
-// Edge slides meet swipes up and down only. On X11 the desktops follow no swipes.
+// Edge slides collide only with vertical swipes. On X11 these desktops have no swipe gestures.
 const DesktopWords& gnome() {
     static const DesktopWords words{
         "GNOME",
@@ -100,7 +100,7 @@ Warning warningOnLinux(const GestureRule& rule, const DesktopWords& desktop) {
         return std::nullopt;
     const std::string title = isTwo ? "May also click the right button" : "May also click the middle button";
     const std::string fingers = isTwo ? "two-finger" : "three-finger";
-    // Unless the two are exchanged, which desktops allow as well.
+    // The usual assignment; desktops can also swap the two.
     const std::string button = isTwo ? "a right click" : "a middle click, which pastes in many apps";
     if (isTap(rule.gesture))
         return SystemGestureWarning{title, "While tap-to-click is on, " + desktop.name + " can take a " + fingers +

@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// Systems and desktops whose own use of the trackpad is known. `none` stands for all others.
+/// Systems and desktops whose own trackpad gestures are known. `none` stands for all others.
 enum class GestureSystem { none, macOS, gnome, kde };
 
 template <>

@@ -10,7 +10,7 @@
 namespace kinesta {
 
 /// A list that stays in place up to `Capacity` elements and moves to the heap beyond that: the usual few contacts need
-/// no allocation, and no number of them overflows it.
+/// no allocation, and there is no limit to their number.
 template <typename T, std::size_t Capacity>
 class InlineVector {
     static_assert(std::is_trivially_copyable_v<T>);

@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// The system's reason for a failure (errno), in words for a person.
+/// The system's description of an error number (errno).
 inline std::string systemErrorText(int reason) {
     const std::string text = std::generic_category().message(reason);
     return reason == ENOSPC ? "the disk is full (" + text + ")" : text;

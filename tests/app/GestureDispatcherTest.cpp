@@ -14,7 +14,7 @@ GestureRule named(const std::string& name, GestureRule rule) {
     return rule;
 }
 
-/// A dispatcher on a fake desktop. The log has every gesture with its rule's name, then the calls to the desktop.
+/// A dispatcher on a fake desktop. The log holds every gesture with its rule's name, then the calls to the desktop.
 struct GestureDispatching : ::testing::Test {
     GestureDispatching() {
         dispatcher.setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {

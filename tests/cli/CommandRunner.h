@@ -18,7 +18,7 @@ struct Ran {
     std::string err;
 };
 
-/// Runs subcommands as main() does, with settings and files in a folder of their own.
+/// Runs subcommands as main() does, with settings and files in a temporary folder.
 class CommandRunner {
   public:
     TemporaryFolder folder;

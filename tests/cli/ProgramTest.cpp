@@ -16,7 +16,7 @@ using Clock = std::chrono::steady_clock;
 
 const std::string kKinesta = "'" KINESTA_PROGRAM "' ";
 
-/// A command of the shell on a terminal of its own, ended if the test ends first.
+/// A shell command on its own terminal, killed if the test ends first.
 class Program {
   public:
     explicit Program(const std::string& command) {
@@ -35,7 +35,7 @@ class Program {
         ::close(m_terminal);
     }
 
-    /// Reads until `text` appears, the output ends, or the time is up; whether it appeared.
+    /// Reads until `text` appears, the output ends, or the time is up. Returns whether it appeared.
     bool waitFor(const std::string& text) {
         const auto end = Clock::now() + std::chrono::seconds(20);
         while (output.find(text) == std::string::npos) {

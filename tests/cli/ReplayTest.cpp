@@ -47,7 +47,7 @@ class Replay : public ::testing::Test {
 
 TEST_F(Replay, DeliversATapWhenItsWaitIsOver) {
     EXPECT_EQ(gesturesOf(taps(3, {{"1.0", "1.1"}})), line("1.35", "singleTap", 3));
-    // The lift that comes exactly when the wait ends is seen first, one nanosecond later it is not.
+    // A lift exactly at the end of the wait still counts; one nanosecond later it does not.
     EXPECT_EQ(gesturesOf(taps(2, {{"0.9", "1"}, {"1.2", "1.25"}})), line("1.5", "doubleTap", 2));
     EXPECT_EQ(gesturesOf(taps(2, {{"0.9", "1"}, {"1.2", "1.250000001"}})),
               line("1.25", "singleTap", 2) + line("1.500000001", "singleTap", 2));
@@ -63,7 +63,7 @@ TEST_F(Replay, AppliesTheSettingsOfHeaderAndStream) {
     EXPECT_EQ(withHeader(R"("tapWaitingInterval.v1":400)"), line("1.5", "singleTap", 2));
     EXPECT_EQ(withHeader(R"("gesturesEnabled":false)"), "");
 
-    // Off in the middle of a wait: the tap is gone; on again: the next one counts.
+    // Switching recognition off drops a waiting tap; after switching it on again, the next tap counts.
     EXPECT_EQ(gesturesOf(tap + R"({"t":1.2,"settings":{"gesturesEnabled":false}})" + "\n" + taps(2, {{"2.0", "2.1"}}) +
                          R"({"t":3,"settings":{"gesturesEnabled":true}})" + "\n" + taps(2, {{"4.0", "4.1"}})),
               line("4.35", "singleTap", 2));
@@ -138,7 +138,7 @@ TEST_F(Replay, SelectsTheFirstRuleThatMayRun) {
     EXPECT_NE(kinesta.run({"replay", tap, "--rules", rules, "--allow-shell-commands", "--json"})
                   .out.find(R"("rule":"00000000-0000-4000-8000-000000000001","action":"shellCommand")"),
               std::string::npos);
-    // Without a rule file the stored rules count: at first the one that every installation starts with.
+    // Without a rule file the stored rules count: at first the default rule of a new installation.
     EXPECT_NE(kinesta.run({"replay", tap, "--json"}).out.find(R"("action":"middleClick")"), std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(kinesta.folder.path() / "settings" / "defaults.json"));
 }

@@ -13,7 +13,7 @@ class RulesCommand : public ::testing::Test {
   protected:
     CommandRunner kinesta;
     std::string defaults() const { return (kinesta.folder.path() / "settings" / "defaults.json").string(); }
-    /// The lists that imports have kept.
+    /// The copies of previous lists that imports have kept.
     std::vector<std::string> copies() const {
         std::vector<std::string> kept;
         for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(defaults()).parent_path()))

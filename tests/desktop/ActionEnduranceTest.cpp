@@ -17,7 +17,7 @@ namespace {
 using Events = std::vector<std::string>;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kIsInstrumented = true;  // which slows everything down and keeps freed memory
+constexpr bool kIsInstrumented = true;  // the sanitizer is slow and holds on to freed memory
 #else
 constexpr bool kIsInstrumented = false;
 #endif
@@ -71,7 +71,7 @@ TEST_F(ActionEndurance, DoesNotWaitForAServerThatHangs) {
 }
 
 TEST_F(ActionEndurance, KeepsNothingOverTenThousandActions) {
-    constexpr std::ptrdiff_t kOfOurOwn = 2;  // made at the first launch
+    constexpr std::ptrdiff_t kOfOurOwn = 2;  // opened at the first launch
     const auto descriptors = [] {
         return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
                              std::filesystem::directory_iterator());
@@ -91,7 +91,7 @@ TEST_F(ActionEndurance, KeepsNothingOverTenThousandActions) {
             actions.run(ActionKind::closeWindow);
             if (i % 2 == 0)
                 actions.run(ActionKind::launchApplication);
-            // Children that live at the same time have a place each in our lists, which stays.
+            // Our lists do not shrink below the most children that ran at once, so let these end.
             if (i % 50 == 0) {
                 ASSERT_TRUE(eventually([&] { return descriptors() <= base + kOfOurOwn; })) << "a child's is left";
             }

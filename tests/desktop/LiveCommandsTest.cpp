@@ -29,7 +29,7 @@ const Json kCopy = shortcut(8, 1);
 const Json kTileLeft = shortcut(123, 20);
 const Json kMiddleClick = action("middleClick");
 
-/// The subcommands that meet the desktop and the pad. The settings name a pad that is not there, as on a machine
+/// The subcommands that use the desktop and the pad. The settings name a pad that does not exist, as on a machine
 /// without one.
 struct LiveCommands : ::testing::Test {
     explicit LiveCommands(bool hasWindowManager = false)
@@ -41,7 +41,7 @@ struct LiveCommands : ::testing::Test {
         FileUserDefaults settings(kinesta.folder.path() / "settings" / "defaults.json", [](const std::string&) {});
         change(settings);
     }
-    /// One rule a name, for a tap with three fingers.
+    /// One rule for each name, bound to a three-finger tap.
     static std::string rules(const std::vector<std::pair<std::string, Json>>& actions) {
         Json rules = Json::array();
         for (const auto& [name, action] : actions)
@@ -101,7 +101,7 @@ TEST_F(LiveCommands, PerformsTheActionOfOneRule) {
         EXPECT_NE(refused(name).find(why), std::string::npos) << name;
     set([](UserDefaults& settings) { settings.setBoolean("shellCommandActionsEnabled.v1", true); });
     set([](UserDefaults& settings) { settings.setString("linux.inputRoute.v1", "uinput"); });
-    performed("Shell");  // which needs no keys
+    performed("Shell");  // needs no keys
     EXPECT_TRUE(eventually([&] { return std::filesystem::exists(file); }));
     EXPECT_EQ(performed("Off"), "Done: Disable every rule  (Off)\n");
     EXPECT_NE(kinesta.run({"rules", "list"}).out.find("6  off "), std::string::npos);
@@ -257,7 +257,7 @@ struct DaemonOnADesktop : LiveCommands {
     }
     std::unique_ptr<ChildProcess> start() const { return desktop.start({KINESTA_PROGRAM, "daemon", "--verbose"}); }
 
-    /// Waits until it says so.
+    /// Waits for a line that contains `text`.
     static ::testing::AssertionResult says(ChildProcess& daemon, const std::string& text) {
         std::string said;
         while (const auto line = daemon.readLine()) {

@@ -17,7 +17,7 @@ namespace kinesta::vm {
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
-constexpr bool kIsInstrumented = true;  // the program too, which then keeps freed memory
+constexpr bool kIsInstrumented = true;  // the program too: its sanitizer holds on to freed memory
 #else
 constexpr bool kIsInstrumented = false;
 #endif
@@ -33,17 +33,17 @@ constexpr const char* kRules = R"([
    "action":{"kind":"keyboardShortcut","keyCode":9,"modifiers":1,"value":""}}
 ])";
 
-/// Gestures take their time, here as on a real pad.
+/// Gestures take as long here as on a real pad.
 void rest(int milliseconds) { std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds)); }
 
-/// Whether the program ends well.
+/// Whether the command succeeds.
 bool kinesta(const std::string& words) { return std::system(("kinesta " + words).c_str()) == 0; }
 
 /// The program in a process of its own.
 struct ProgramRun : testing::ChildProcess {
     explicit ProgramRun(std::vector<std::string> command) : ChildProcess(std::move(command)) {}
 
-    /// Reads on until a line has `text` in it.
+    /// Reads lines until one contains `text`.
     bool says(const std::string& text, std::chrono::milliseconds patience = std::chrono::seconds(10)) {
         while (const auto line = readLine(patience))
             if (line->find(text) != std::string::npos)
@@ -51,7 +51,7 @@ struct ProgramRun : testing::ChildProcess {
         return false;
     }
 
-    /// Ends it with a signal; its exit status, or the signal that killed it.
+    /// Ends it with a signal. Returns its exit status, or the signal that killed it.
     int end(int number) {
         siginfo_t information{};
         signal(number);

@@ -30,13 +30,13 @@ class PadReading {
     /// Frames read "t 1@0.25,0.50 2@…" without the time, or "t" for an empty one; clicks "down" and "up"; stages
     /// "stage 2"; changes of the status "listening" or the message.
     Lines take(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(5));
-    /// Takes lines until one is `last`; whether it came. `taken` counts them.
+    /// Takes lines until one is `last`. Returns whether it came. `taken` counts the lines.
     bool takeUntil(const std::string& last, std::size_t* taken = nullptr);
 
     /// Times of the frames and clicks of the last take(), seconds.
     const std::vector<double>& times() const { return m_takenTimes; }
 
-    /// The driver's thread takes it for every frame.
+    /// The driver's thread locks it for every frame: a test that holds it delays the reader.
     std::mutex frameGate;
 
   private:

@@ -20,7 +20,7 @@ long numberAfter(const std::string& label, const std::filesystem::path& file) {
 
 }  // namespace
 
-// Not inlined: the compiler would complain about the half of the pair that it sees.
+// Not inlined: if only one of a pair were, the compiler would warn about a mismatch.
 [[gnu::noinline]] void* operator new(std::size_t size) {
     ++allocations;
     if (void* memory = std::malloc(size))

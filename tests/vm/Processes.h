@@ -9,8 +9,8 @@
 
 namespace kinesta::vm {
 
-/// Does `work` without root's rights in the calling thread and those that it starts. The raw system call, because the
-/// C library's changes all threads.
+/// Runs `work` without root's rights in the calling thread and those that it starts. Uses the raw system call, because
+/// the C library's function changes all threads.
 template <typename Work>
 void asOrdinaryUser(Work work) {
     syscall(SYS_setresuid, 65534, 65534, 0);

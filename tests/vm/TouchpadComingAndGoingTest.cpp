@@ -21,7 +21,7 @@ namespace {
 
 constexpr const char* kNone = "No built-in trackpad was found.";
 
-/// What touch() makes of a pad.
+/// The lines for one touch() of a pad.
 Lines touchOf(int trackingId) { return {"t " + std::to_string(trackingId) + "@0.50,0.50", "t"}; }
 
 TEST(TouchpadComingAndGoing, FollowsThePadThroughUnplugging) {
@@ -132,7 +132,7 @@ TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
     pad.touch(3);
     EXPECT_EQ(reading.take(2), touchOf(3));
 
-    // Off with a mouse only: the list says what the reader does.
+    // Off only while a mouse is connected: the list agrees with the reader.
     folder.write("dconf/user", dconfSample("disabled-on-external-mouse"));
     EXPECT_EQ(listTouchpads().front().problem, "");
     auto mouse = connectMouse();

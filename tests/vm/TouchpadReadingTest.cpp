@@ -45,8 +45,8 @@ TEST(TouchpadReading, BeginsWithTheFingersOnThePad) {
     pad.up(0).key(BTN_LEFT, true).report();
     PadReading reading;
     EXPECT_EQ(reading.take(1), (Lines{"t 2@0.70,0.60"}));
-    pad.down(0, 3, 300, 200).report();  // in the place that slot 0 has already
-    pad.key(BTN_LEFT, false).report();  // of a press that was not seen
+    pad.down(0, 3, 300, 200).report();  // the coordinates that slot 0 has already
+    pad.key(BTN_LEFT, false).report();  // the press was not seen
     pad.up(0).up(1).report();
     EXPECT_EQ(reading.take(4, kMoment), (Lines{"t 3@0.30,0.60 2@0.70,0.60", "t 3@0.30,0.60 2@0.70,0.60", "t"}));
 }

@@ -13,7 +13,7 @@
 namespace kinesta::vm {
 namespace {
 
-/// A system with udev and Kinesta's rules. udev knows only devices that are made after it started.
+/// A system with udev and Kinesta's rules. udev knows only devices that are created after its start.
 struct Udev : ::testing::Test {
     Udev() {
         EXPECT_TRUE(testing::eventually([] { return std::filesystem::exists("/run/udev/control"); }));
@@ -24,7 +24,7 @@ struct Udev : ::testing::Test {
         std::filesystem::remove_all("/run/udev");
     }
 
-    /// Adds a rule and applies it to the input devices that are there.
+    /// Adds a rule and applies it to the connected input devices.
     static void addRule(const std::string& file, const std::string& rule) {
         std::filesystem::create_directories("/run/udev/rules.d");
         writeText("/run/udev/rules.d/" + file, rule + "\n");
@@ -40,7 +40,7 @@ struct Udev : ::testing::Test {
 };
 
 TEST_F(Udev, RulesOpenTouchpadsAndUinputAndNothingElse) {
-    // What has the tag here has it when 73-seat-late.rules opens it for the person at the seat.
+    // A device that has the tag here still has it when 73-seat-late.rules opens it for the user at the seat.
     addRule("72-zz-probe.rules", "TAG==\"uaccess\", ENV{IS_OPEN}=\"1\"");
     const VirtualTouchpad pad;
     const auto keyboard = UinputDevice::create();

@@ -19,12 +19,12 @@ struct PadShape {
     std::string name = "Virtual Touchpad";
     int bus = BUS_I2C;
     int slots = 5;
-    int fingers = 5;             // that it reports by a key, 2 to 5
+    int fingers = 5;             // the most for which it has a key, 2 to 5
     int maximumPressure = 0;     // 0: no pressure
     int pressureResolution = 0;  // units a gram; 0: pressure is no force
 };
 
-/// A touchpad that the kernel makes for uinput, 1000 by 500 units, present from construction to destruction.
+/// A touchpad made through uinput, 1000 by 500 units, connected from construction to destruction.
 class VirtualTouchpad {
   public:
     explicit VirtualTouchpad(const PadShape& shape = {});

@@ -37,9 +37,9 @@ ExitStatus monitor(const Console& console, Desktop& desktop);
 ExitStatus perform(const Console& console, Desktop& desktop, const std::string& rule);
 
 /// `kinesta record`: writes what the pad reports to a file, or to the output for "-", until Ctrl-C. The file is a valid
-/// recording at every moment; an older one is replaced when recording begins. `device` names the pad by path or name;
-/// empty for the one that the settings name. The settings of recognition go into the header, so that a replay
-/// recognizes what was recognized here.
+/// recording at any time; it replaces an older one when recording begins. `device` names the pad by path or name; empty
+/// for the one that the settings name. The settings of recognition go into the header, so that a replay recognizes the
+/// same gestures.
 ExitStatus record(const Console& console, Desktop& desktop, const std::string& output, const std::string& device);
 
 enum class Pace { asFastAsPossible, realTime };
@@ -60,7 +60,7 @@ struct ReplayRequest {
     Performing performing = Performing::onlyShown;
 };
 
-/// `kinesta replay`: what a recording is recognized as, and which rules would take it.
+/// `kinesta replay`: the gestures in a recording, and the rules that would run for them.
 ExitStatus replay(const Console& console, Desktop& desktop, const ReplayRequest& request);
 
 /// `kinesta convert`: rewrites a recording of any known format as Kinesta's own, to a file or to the output for "-".
@@ -77,7 +77,7 @@ ExitStatus listRules(const Console& console, Desktop& desktop, GestureSystem sys
 ExitStatus exportRules(const Console& console, Desktop& desktop, const std::string& file);
 
 /// `kinesta rules import FILE`: replaces the stored rules by those of a file, if all of it is valid, and keeps a copy
-/// of the list that was there.
+/// of the previous list.
 ExitStatus importRules(const Console& console, Desktop& desktop, const std::string& file);
 
 /// `kinesta gestures`: every gesture that a rule can be bound to.

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kChanged = "The settings file was changed";
 
-/// The application with a log for a face.
+/// The application with a log as its user interface.
 class Daemon {
   public:
     Daemon(const Console& console, Desktop& desktop, LogLevel level)
@@ -42,7 +42,7 @@ class Daemon {
                         possible.error().message);
         if (!isWatching)
             m_log.write("The settings file cannot be watched: after a change send SIGHUP.");
-        reload(kChanged);  // between the reading and the watching
+        reload(kChanged);  // for changes between the first reading and the start of watching
         m_desktop.mainLoop().run();
         m_log.write("Stopped.");
     }
@@ -55,16 +55,16 @@ class Daemon {
     }
 
   private:
-    /// Whether there was anything new.
+    /// Returns whether there was anything new.
     bool reload(std::string_view reason) {
-        // Our own saves wake the watcher too: then nothing has changed.
+        // Our own saves trigger the watcher too, and change nothing.
         if (!m_desktop.reloadDefaults())
             return false;
         m_log.write(std::string(reason) + ": rules and settings are read again.");
         const std::string padBefore = pad().path;
         m_app.reload();
         if (!padBefore.empty() && !pad().path.empty() && padBefore != pad().path)
-            tellStatus();  // the status does not change from one pad to another
+            tellStatus();  // the status stays the same from one pad to another
         tellRules();
         return true;
     }
@@ -108,7 +108,7 @@ class Daemon {
 }  // namespace
 
 ExitStatus runDaemon(const Console& console, Desktop& desktop, LogLevel level) {
-    desktop.surviveClosedPipes();  // the reader of the log may end
+    desktop.surviveClosedPipes();  // the reader of the log may end first
     const auto claim = desktop.claimSingleInstance();
     if (!claim)
         return console.fail(claim.error().message);

@@ -146,7 +146,7 @@ ExitStatus demo(const Console& console, Desktop& desktop) {
     }
     if (error)
         return console.fail(error->message);
-    // The picture is gone with the second screen; the gestures stay readable.
+    // The picture disappears with the second screen, so print the gestures again.
     for (const std::string& line : recognized)
         console.out << "  " << line << '\n';
     console.out << "\nNothing was performed: this was a demonstration with the rules of "

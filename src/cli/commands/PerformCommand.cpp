@@ -30,7 +30,7 @@ ExitStatus perform(const Console& console, Desktop& desktop, const std::string& 
         return console.fail("No stored rule has the id or the name \"" + rule + "\". See: kinesta rules list");
     RulePerformer performer(desktop, settings.defaults(), [&] { return settings.disableAllRules(); });
     const auto report = performer.perform(*found, 1);
-    // Programs are started on other threads: only afterwards is it known whether they could be.
+    // Another thread starts programs, so a failure to start one is known only after finish().
     const std::string problem = performer.finish();
     if (report.outcome == RulePerformer::Outcome::failed)
         return console.fail(report.why);

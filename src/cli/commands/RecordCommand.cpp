@@ -13,7 +13,7 @@ namespace kinesta {
 
 namespace {
 
-/// The settings of recognition, except whether it is on: a replay is meant to recognize something.
+/// The settings of recognition, except whether it is on: a replay must always recognize gestures.
 RecordedSettings settingsToRecord(const UserDefaults& defaults) {
     const auto palms = storedCornerPalmRejection(defaults);
     return {.tapWaitingMilliseconds = static_cast<int>(storedTapWaitingInterval(defaults).rawValue()),
@@ -53,7 +53,7 @@ ExitStatus record(const Console& console, Desktop& desktop, const std::string& o
     RecordingWriter writer(stream, RecordingWriter::Flush::everyLine);
     std::size_t events = 0;
     Seconds last = 0;
-    // The file gets one whole line at a time, so that it is a valid recording however we end.
+    // The file gets one whole line at a time, so that it is a valid recording even if the program is killed.
     write = [&](PadEvent event) {
         last = event.time = std::max(last, event.time);
         if (writer.write(event))

@@ -22,7 +22,7 @@ struct RulesInForce {
     ShellCommands shellCommands = ShellCommands::forbidden;
 };
 
-/// Those of the file that the request names, else the stored ones.
+/// The rules of the file that the request names, else the stored ones.
 Result<RulesInForce> rulesInForce(const Console& console, const ReplayRequest& request, StoredSettings* settings) {
     if (!request.rules.empty()) {
         auto rules = readRuleFile(request.rules, console.in);
@@ -104,7 +104,7 @@ ExitStatus replay(const Console& console, Desktop& desktop, const ReplayRequest&
         console.out << (request.form == OutputForm::json ? gestureAsJson(time, gesture, rule)
                                                          : gestureForPeople(console, time, gesture, rule))
                     << '\n';
-        // A person who watches, and a program that reads along in real time, want each line at once.
+        // People at a terminal and programs that read along in real time need each line at once.
         if (request.pace == Pace::realTime || console.outIsTerminal)
             console.out.flush();
         if (performer && rule)

@@ -93,7 +93,7 @@ ExitStatus exportRules(const Console& console, Desktop& desktop, const std::stri
     StoredSettings settings(console, desktop);
     const RuleStore store(settings.defaults());
     settings.check(store);
-    // The default rules, which replace unreadable ones, must not pass for a copy of them.
+    // If the stored rules are unreadable, the store holds the default rules. Do not export those instead.
     if (settings.status() != ExitStatus::success)
         return settings.status();
     if (file == "-") {

@@ -9,7 +9,7 @@ namespace kinesta {
 /// Exit statuses of every subcommand.
 enum class ExitStatus { success = 0, badInput = 1, badUsage = 2 };
 
-/// For whom a subcommand writes: people, or programs that read nothing but JSON.
+/// Whether a subcommand writes for people, or JSON for programs.
 enum class OutputForm { forPeople, json };
 
 /// The standard streams of a subcommand and their capabilities.

@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// Writes lines with the time of day before them, each at once.
+/// Writes log lines that start with the time of day. Flushes after each.
 class LogLines {
   public:
     explicit LogLines(const Console& console) : m_console(console) {}

@@ -9,7 +9,7 @@ namespace {
 constexpr Seconds kTrailDuration = 1.5;
 constexpr Seconds kBrightDuration = 0.35;
 constexpr std::size_t kLongestTrail = 4096;
-// Colours of the 256-colour palette that stay apart on light and on dark backgrounds.
+// Colours of the 256-colour palette that are easy to tell apart on light and dark backgrounds.
 constexpr std::array<int, 6> kFingerColours{39, 208, 70, 170, 178, 203};
 
 // The dots of a Braille character: bit of the dot in column x (0, 1) and row y (0 to 3, downward).
@@ -35,7 +35,8 @@ std::string repeated(std::string_view text, int count) {
     return result;
 }
 
-// The dot row or column of a normalized coordinate; a driver may report places beyond the pad, or none.
+// The dot row or column of a normalized coordinate; a driver may report positions outside the pad, or values that are
+// not finite.
 int dotAt(double coordinate, int dots) {
     if (!std::isfinite(coordinate))
         return 0;
@@ -97,7 +98,7 @@ std::vector<std::string> PadPicture::lines(Seconds now) const {
         cell.finger = static_cast<std::size_t>(found - m_fingers.begin());
     }
 
-    // Strings of equal shape, so that a press changes the frame's weight and nothing moves.
+    // Both frames have the same size, so that nothing moves at a press.
     const std::string_view horizontal = m_isPressed ? "━" : "─";
     const std::string_view vertical = m_isPressed ? "┃" : "│";
     std::vector<std::string> result;

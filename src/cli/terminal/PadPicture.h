@@ -11,8 +11,8 @@
 
 namespace kinesta {
 
-/// A picture of the pad in characters: each contact as a dot with its trail, one colour a finger, drawn with Braille
-/// patterns (eight dots a character).
+/// A picture of the pad in characters: each contact as a dot with its trail, one colour per finger, drawn with Braille
+/// patterns (eight dots per character).
 class PadPicture {
   public:
     /// `columns` and `rows` are the size of the pad without its frame, in characters.
@@ -21,7 +21,7 @@ class PadPicture {
     /// Takes the contacts of a frame at `time`.
     void show(const TouchSamples& samples, Seconds time);
 
-    /// A physical press, shown by a heavy frame.
+    /// Shows a physical press as a heavy frame.
     void setPressed(bool isPressed) { m_isPressed = isPressed; }
 
     /// Removes all contacts and trails.
@@ -43,7 +43,7 @@ class PadPicture {
     int m_rows;
     bool m_isPressed = false;
     TouchSamples m_contacts;
-    std::vector<ContactId> m_fingers;  // the contacts on the pad, each at the place that gives it its colour
+    std::vector<ContactId> m_fingers;  // the contacts on the pad; the index decides the colour
     std::deque<TrailPoint> m_trail;
 };
 

@@ -37,7 +37,7 @@ void PadScreen::setTitle(std::string title, std::string detail) {
 
 void PadScreen::show(const PadEvent& event) {
     m_now = event.time;
-    // Movements are drawn now and then. Landing and lifting are drawn at once: the next event may be far away.
+    // Movements are drawn at a limited rate. Landing and lifting are drawn at once: the next event may come much later.
     bool isToBeDrawn = m_now - m_drawnAt >= kDrawingInterval || m_now < m_drawnAt;
     if (const auto* frame = std::get_if<PadFrame>(&event.content)) {
         isToBeDrawn |= frame->samples.size() != m_contactCount;

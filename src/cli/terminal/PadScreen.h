@@ -11,8 +11,8 @@
 
 namespace kinesta {
 
-/// The whole terminal as a window on the pad: a title, the picture, and the last gestures. Takes the terminal while it
-/// lives.
+/// A view of the pad that fills the terminal: a title, the picture, and the last gestures. Holds the terminal until it
+/// is destroyed.
 class PadScreen {
   public:
     /// Whether the terminal is large enough for it.
@@ -24,13 +24,13 @@ class PadScreen {
     PadScreen& operator=(const PadScreen&) = delete;
 
     void setTitle(std::string title, std::string detail);
-    /// Takes a frame or a press and draws. Draws a mere movement only if the last drawing was more than a moment ago.
+    /// Takes a frame or a press and draws. Movements are drawn at a limited rate.
     void show(const PadEvent& event);
-    /// Shows a gesture and its consequence.
+    /// Shows a gesture and what it leads to.
     void tell(std::string gesture, std::string consequence);
 
     void draw();
-    /// Stops the program, as Ctrl-Z asks for, with the terminal as it was before; draws again when it goes on.
+    /// Restores the terminal and stops the program, as Ctrl-Z asks for. Draws again when the program continues.
     void stopUntilContinued();
 
   private:

@@ -17,7 +17,7 @@ class ProgressLine {
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
 
-    /// To be called at each step. Looks at the clock and asks `progress` (0 to 1, if known) only now and then.
+    /// Call it at each step: most calls neither read the clock nor call `progress` (0 to 1, if known).
     void step(const std::function<std::optional<double>()>& progress);
 
   private:

@@ -13,7 +13,7 @@ struct CodePoint {
     std::size_t length;
 };
 
-// Malformed bytes count as one character each: what is shown then is up to the terminal.
+// Malformed bytes count as one character each: the terminal decides how to show them.
 CodePoint codePointAt(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<std::uint32_t>(static_cast<unsigned char>(text[i])); };
     const std::uint32_t first = byte(0);

@@ -9,14 +9,14 @@
 
 namespace kinesta {
 
-/// Number of terminal columns that a text takes: its characters but combining ones, wide ones twice.
+/// Number of terminal columns that a text takes: 0 for a combining character, 2 for a wide one, 1 for any other.
 std::size_t displayWidth(std::string_view text);
 
-/// `text` fit into `width` columns, ending in "…" where it was cut.
+/// `text` cut to `width` columns, with "…" at the end if anything was cut.
 std::string fitted(std::string_view text, std::size_t width);
 
 /// A table for people: aligned columns under a headline, cut to the terminal's width at the last column. Control
-/// characters of foreign text are shown as "·", so that they cannot control the terminal.
+/// characters are shown as "·", so that text from elsewhere cannot control the terminal.
 class TextTable {
   public:
     explicit TextTable(std::vector<std::string> headline) : m_rows{std::move(headline)} {}
@@ -28,7 +28,7 @@ class TextTable {
     std::vector<std::vector<std::string>> m_rows;
 };
 
-/// Text of foreign origin with every control character replaced by "·".
+/// Text from elsewhere with every control character replaced by "·".
 std::string printable(std::string_view text);
 
 }  // namespace kinesta

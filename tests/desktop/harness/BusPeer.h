@@ -17,14 +17,14 @@ class BusPeer {
     BusPeer(const BusPeer&) = delete;
     BusPeer& operator=(const BusPeer&) = delete;
 
-    /// Stays on the bus and answers no more.
+    /// Stays on the bus, but no longer answers.
     void hang();
 
   protected:
     BusPeer();
     ~BusPeer();
 
-    /// Begins to answer on m_bus.
+    /// Starts to answer on m_bus.
     void serve();
 
     sd_bus* m_bus = nullptr;
@@ -43,9 +43,9 @@ class BusServices : public BusPeer {
     explicit BusServices(Manner manner = Manner::answering);
     ~BusServices() { hang(); }
 
-    /// What was asked so far: "notify REPLACES -> ID: SUMMARY | BODY", "url ADDRESS", "file PATH".
+    /// The requests so far: "notify REPLACES -> ID: SUMMARY | BODY", "url ADDRESS", "file PATH".
     std::vector<std::string> requests();
-    /// Waits until that many requests came; whether they did.
+    /// Waits for that many requests. Returns whether they came.
     bool waitForRequests(std::size_t count);
 
   private:

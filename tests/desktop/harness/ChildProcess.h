@@ -13,8 +13,8 @@ namespace kinesta::testing {
 /// A program that a test runs. It ends when this object does, or with the test program if that dies.
 class ChildProcess {
   public:
-    /// How long anything on the desktop may take before a test gives up: far beyond what it takes, also when the
-    /// machine is busy and sanitizers slow it down.
+    /// How long a test waits for anything on the desktop: much longer than it takes, even on a busy machine with
+    /// sanitizers.
     static constexpr std::chrono::milliseconds kPatience{20000};
 
     /// Runs `command`, its program searched in PATH. Its output is read through readLine().
@@ -25,13 +25,13 @@ class ChildProcess {
 
     pid_t pid() const { return m_pid; }
 
-    /// The next line of its output without the line break; nothing at its end or when patience runs out.
+    /// The next line of its output without the line break; nothing at the end of the output or at the timeout.
     std::optional<std::string> readLine(std::chrono::milliseconds patience = kPatience);
 
     /// Whether it ended by itself within the time.
     bool waitForEnd(std::chrono::milliseconds patience = kPatience);
 
-    /// Sends a signal to it, if it still runs.
+    /// Sends it a signal, if it still runs.
     void signal(int number);
 
   private:
@@ -41,10 +41,10 @@ class ChildProcess {
     std::string m_buffer;
 };
 
-/// Waits until `descriptor` has something to read; whether it has.
+/// Waits until `descriptor` has something to read. Returns whether it has.
 bool waitForInput(int descriptor, std::chrono::milliseconds patience = ChildProcess::kPatience);
 
-/// Waits until `condition` holds; whether it does.
+/// Waits until `condition` holds. Returns whether it does.
 bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds patience = ChildProcess::kPatience);
 
 }  // namespace kinesta::testing

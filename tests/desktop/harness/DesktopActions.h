@@ -18,9 +18,9 @@
 
 namespace kinesta::testing {
 
-/// All that lies between the decision for an action and the desktop.
+/// Everything between the decision to run an action and the desktop.
 class DesktopActions {
-    /// Runs something between the look at the desktop and what follows from it.
+    /// Runs `meanwhile` between the look at the desktop and the action that follows from it.
     struct InterruptedWorkspace final : Workspace {
         explicit InterruptedWorkspace(Workspace& workspace) : real(workspace) {}
         void openURL(const std::string& url) override { real.openURL(url); }
@@ -39,7 +39,7 @@ class DesktopActions {
         std::function<void()> meanwhile;
     };
 
-    /// On a busy machine the server may answer too late for the real one.
+    /// The real one may deny permission when the server of a busy machine answers late.
     struct GrantedPermission final : AccessibilityPermission {
         bool isTrusted() override { return true; }
         bool prompt() override { return true; }

@@ -9,11 +9,11 @@
 
 namespace kinesta::testing {
 
-/// A program that writes down the arguments it was started with, byte for byte, and where.
+/// A program that records its arguments, byte for byte, and its working directory.
 class LaunchedProgram {
   public:
     explicit LaunchedProgram(const TemporaryFolder& folder, const std::string& name = "a program")
-        // The file with the arguments appears whole, by its renaming.
+        // The file with the arguments is renamed into place when it is complete.
         : m_path(folder.write(name,
                               "#!/bin/sh\npwd > \"$0.folder\"\nfor a; do printf '%s\\0' \"$a\"; done > \"$0.new\"\n"
                               "mv \"$0.new\" \"$0.arguments\"\n")) {

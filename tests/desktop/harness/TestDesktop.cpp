@@ -30,7 +30,7 @@ TestDesktop::TestDesktop(const Options& options) {
     if (!options.hasWindowManager)
         return;
     m_windowManager = start({"openbox", "--sm-disable"});
-    // Openbox does not look at what comes while it starts, so it is asked until it answers.
+    // Openbox ignores requests while it starts, so ask until it answers.
     const xcb_window_t probe = xcb_generate_id(m_connection);
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, probe, root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, 0, nullptr);
@@ -52,7 +52,7 @@ std::unique_ptr<ChildProcess> TestDesktop::start(std::vector<std::string> comman
 }
 
 void TestDesktop::startServer() {
-    // The server picks the number and prints it once it is ready, so two test programs never meet.
+    // The server picks the number and prints it once it is ready, so two test programs never share a server.
     m_server = start({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset"});
     m_display = ":" + lineOf(*m_server, "Xvfb does not start");
     setenv("DISPLAY", m_display.c_str(), 1);
@@ -69,7 +69,7 @@ void TestDesktop::stopServer() {
 }
 
 void TestDesktop::startSessionBus() {
-    // It can start the accessibility bus and nothing else that is installed.
+    // The bus can start the accessibility bus and none of the other installed services.
     const fs::path folder = folderOf("XDG_RUNTIME_DIR") / "dbus";
     if (fs::create_directory(folder)) {
         fs::create_symlink("/usr/share/dbus-1/services/org.a11y.Bus.service", folder / "org.a11y.Bus.service");

@@ -13,12 +13,11 @@
 
 namespace kinesta::testing {
 
-/// The folder that a variable of the environment names.
+/// The folder that an environment variable names.
 std::filesystem::path folderOf(const char* variable);
 
-/// A desktop of a test's own: an X server without a screen, and on request a window manager and a session bus, which
-/// the environment then names. One at a time. Windows are seen here as the server knows them, apart from the code
-/// under test.
+/// A desktop for one test: an X server without a screen, and on request a window manager and a session bus. The
+/// environment then names them. One at a time. Reads windows straight from the server, without the code under test.
 class TestDesktop {
   public:
     struct Options {
@@ -32,7 +31,7 @@ class TestDesktop {
     TestDesktop& operator=(const TestDesktop&) = delete;
     ~TestDesktop();
 
-    /// Runs a program to its end, or beside the test.
+    /// run() waits until the program ends, start() does not.
     void run(std::vector<std::string> command) const;
     std::unique_ptr<ChildProcess> start(std::vector<std::string> command) const;
 
@@ -42,7 +41,7 @@ class TestDesktop {
     ChildProcess& sessionBus() { return *m_bus; }
     ChildProcess& windowManager() { return *m_windowManager; }
 
-    /// The parts of the desktop come and go. A server that is started again has another number.
+    /// Starts and stops parts of the desktop. A server that is started again has another number.
     void startServer();
     void stopServer();
     void startSessionBus();
@@ -56,7 +55,7 @@ class TestDesktop {
     xcb_connection_t* connection() const { return m_connection; }
     xcb_window_t root() const;
     xcb_atom_t atom(const std::string& name) const;
-    /// A property of 32-bit items, and whether it has a certain atom.
+    /// The items of a 32-bit property, and whether _NET_WM_STATE has a certain atom.
     std::vector<std::uint32_t> property(xcb_window_t window, const std::string& name) const;
     bool hasState(xcb_window_t window, const std::string& state) const;
 
@@ -69,16 +68,16 @@ class TestDesktop {
 
     /// Sends a message to the window manager.
     void request(xcb_window_t window, const std::string& message, const std::vector<std::uint32_t>& numbers = {}) const;
-    /// Each waits until it is so.
+    /// Each waits until the request has been carried out.
     void activate(xcb_window_t window) const;
     void addState(xcb_window_t window, const std::string& state, const std::string& second = {}) const;
     void minimize(xcb_window_t window) const;
     /// Names a window as the active one although the window manager did not activate it.
     void pretendActive(xcb_window_t window) const;
-    /// Returns once the window manager has done what it was asked for before.
+    /// Returns once the window manager has carried out all earlier requests.
     void letWindowManagerCatchUp(xcb_window_t window) const;
 
-    /// What a window occupies with its frame, and without.
+    /// The place of a window with its frame, and without it.
     WindowRectangle frame(xcb_window_t window) const;
     WindowRectangle client(xcb_window_t window) const;
 

@@ -72,7 +72,7 @@ void TestDesktop::addState(xcb_window_t window, const std::string& state, const 
     constexpr std::uint32_t kAdd = 1;
     const auto before = frame(window);
     request(window, "_NET_WM_STATE", {kAdd, atom(state), second.empty() ? 0 : atom(second), 2});
-    // The frame follows the state.
+    // The frame changes after the state.
     EXPECT_TRUE(eventually([&] { return hasState(window, state) && !(frame(window) == before); })) << state;
 }
 
@@ -83,7 +83,7 @@ void TestDesktop::minimize(xcb_window_t window) const {
 }
 
 void TestDesktop::pretendActive(xcb_window_t window) const {
-    // As often as openbox, which may still be busy, names another.
+    // Repeated, because openbox may still be busy and name another window.
     EXPECT_TRUE(eventually([&] {
         if (active() == window)
             return true;

@@ -16,7 +16,7 @@ using Event = XcbPointer<xcb_generic_event_t>;
 
 std::uint8_t typeOf(const xcb_generic_event_t& event) { return event.response_type & 0x7F; }
 
-/// The name of the key's symbol by the keymap of the moment.
+/// The name of the key's symbol in the current keymap.
 std::string symbolOf(xcb_connection_t* connection, const xcb_key_press_event_t& event) {
     xkb_x11_setup_xkb_extension(connection, 1, 0, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr,
                                 nullptr);
@@ -93,7 +93,7 @@ TestWindow& TestWindow::setGroup(xcb_window_t leader) {
 
 TestWindow& TestWindow::setSizes(WindowSize minimum, WindowSize maximum) {
     xcb_size_hints_t hints{};
-    xcb_icccm_size_hints_set_position(&hints, 1, 0, 0);  // where it was made
+    xcb_icccm_size_hints_set_position(&hints, 1, 0, 0);  // where it was created
     xcb_icccm_size_hints_set_min_size(&hints, minimum.width, minimum.height);
     xcb_icccm_size_hints_set_max_size(&hints, maximum.width, maximum.height);
     xcb_icccm_set_wm_normal_hints(m_connection.get(), m_window, &hints);
@@ -136,7 +136,7 @@ std::string TestWindow::next() {
 }
 
 std::vector<std::string> TestWindow::events() {
-    send();  // its answer comes after all that was sent to this client before
+    send();  // the answer comes after everything that the server has sent to this client
     std::vector<std::string> texts;
     while (const Event event{xcb_poll_for_event(m_connection.get())})
         if (auto text = describe(*event); !text.empty())
@@ -173,7 +173,7 @@ std::string TestWindow::describe(const xcb_generic_event_t& event) const {
     }
     if (typeOf(event) < XCB_KEY_PRESS || typeOf(event) > XCB_BUTTON_RELEASE)
         return {};
-    const auto& input = reinterpret_cast<const xcb_key_press_event_t&>(event);  // buttons have the same shape
+    const auto& input = reinterpret_cast<const xcb_key_press_event_t&>(event);  // button events have the same layout
     std::string text = typeOf(event) % 2 == XCB_KEY_PRESS % 2 ? "press " : "release ";
     unsigned bit = 1;
     for (const char* modifier : {"Shift+", "Lock+", "Control+", "Mod1+", "Mod2+", "Mod3+", "Mod4+", "Mod5+"}) {

@@ -10,7 +10,7 @@
 
 namespace kinesta::testing {
 
-/// A window of an X client of the test's own: it has the properties that a test sets, and notes what comes to it.
+/// A window of the test's own X client. It has the properties that a test sets, and records the events that it gets.
 /// Windows with the same connection belong to one client.
 class TestWindow {
   public:
@@ -41,20 +41,20 @@ class TestWindow {
     TestWindow& setMachine(const std::string& name);
     TestWindow& setGroup(xcb_window_t leader);
     TestWindow& setSizes(WindowSize minimum, WindowSize maximum);
-    /// The positions that it asks for are those of the window without its frame, as Qt's are.
+    /// The positions that it requests are those of the window without its frame, as with Qt.
     TestWindow& setStaticGravity();
-    /// Returns once the server has what was set.
+    /// Returns once the server has the properties.
     void send() const;
 
-    /// Shows it and waits until it is managed and, unless it takes no focus, has the keyboard.
+    /// Shows it and waits until it is managed and, unless it takes no focus, has the keyboard focus.
     TestWindow& show(bool takesFocus = true);
 
     /// The next event as text: "close", or "press" or "release" of a key or button with the modifiers in force before
     /// it, as in "press Control+c" or "release Button2". Empty if none comes in time.
     std::string next();
-    /// All that came until now.
+    /// All events that have arrived.
     std::vector<std::string> events();
-    /// What came once the window manager has done what it was asked for.
+    /// The same, after the window manager has carried out all earlier requests.
     std::vector<std::string> eventsAfterWindowManager();
     /// Waits for the press of the key with this X keycode.
     bool waitForKey(std::uint8_t keycode);

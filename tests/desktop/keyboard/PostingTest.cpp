@@ -22,7 +22,7 @@ constexpr std::uint64_t kShift = 0x020000;
 constexpr std::uint64_t kCommand = 0x100000;
 const Events kCopy{"press Control_L", "press Control+c", "release Control+c", "release Control+Control_L"};
 
-/// Posts as actions do, on a desktop with a window that has the keyboard.
+/// Posts as actions do, on a desktop with a window that has the keyboard focus.
 struct Posting : ::testing::Test {
     Posting() { window.show(); }
 
@@ -31,8 +31,8 @@ struct Posting : ::testing::Test {
         return window.events();
     }
 
-    /// Presses or releases a key (an evdev code) of the keyboard that a person types on. The server keeps its keys
-    /// apart from those of the device through which programs post.
+    /// Presses or releases a key (an evdev code) of the user's keyboard. The server tracks its keys separately from
+    /// those of the device through which programs post.
     void type(std::uint16_t key, bool isDown) {
         constexpr std::uint8_t kKeyboardOfXvfb = 7;
         xcb_connection_t* server = desktop.connection();
@@ -97,29 +97,29 @@ TEST_F(Posting, FollowsTheLayoutFromOneStrokeToTheNext) {
     EXPECT_EQ(codeOf("ф"), 0);
     EXPECT_EQ(codeOf("a"), -1);
     desktop.run({"setxkbmap", "-option", "grp:menu_toggle"});
-    press(KEY_COMPOSE);  // the second of the two
+    press(KEY_COMPOSE);  // switches to the second layout
     release(KEY_COMPOSE);
     EXPECT_EQ(codeOf("a"), 0);
     EXPECT_EQ(codeOf("ö"), 41);
-    press(KEY_COMPOSE);  // nothing but the group changes now
+    press(KEY_COMPOSE);  // now only the group changes
     release(KEY_COMPOSE);
     EXPECT_EQ(codeOf("ф"), 0);
 }
 
 TEST_F(Posting, LeavesHeldModifiersAsTheyWere) {
-    // One that is not wanted is released for the stroke.
+    // A held modifier that the shortcut lacks is released for the stroke.
     press(KEY_RIGHTSHIFT);
     EXPECT_EQ(window.events(), Events{"press Shift_R"});
     EXPECT_EQ(seenAfter(8, kCommand), (Events{"release Shift+Shift_R", "press Control_L", "press Control+c",
                                               "release Control+c", "release Control+Control_L", "press Shift_R"}));
     EXPECT_TRUE(isDown(KEY_RIGHTSHIFT));
-    // One that is wanted stays, until the person releases it.
+    // A held modifier of the shortcut stays down until the user releases it.
     EXPECT_EQ(seenAfter(0, kShift), (Events{"press Shift+A", "release Shift+A"}));
     release(KEY_RIGHTSHIFT);
     EXPECT_EQ(window.events(), Events{"release Shift+Shift_R"});
     EXPECT_FALSE(isDown(KEY_RIGHTSHIFT));
     EXPECT_EQ(seenAfter(0, 0), (Events{"press a", "release a"}));
-    // The server's posting device takes this key to be down since it was put back.
+    // After a stroke this key counts as down on the server's posting device. That must not affect the next stroke.
     press(KEY_LEFTCTRL);
     actions.stroke(0, 0);
     release(KEY_LEFTCTRL);
@@ -166,8 +166,8 @@ TEST_F(Posting, LosesNothingWhenItEnds) {
                 const InputTransition step{KEY_A, transition};
                 EXPECT_TRUE(poster.post({&step, 1}));
             }
-        // A server that finds a connection closed drops what it has not read of it. Nothing shows when the closing
-        // begins, so it gets a moment.
+        // The server drops unread requests when a connection is closed. Nothing shows when closing begins, so the
+        // server stays stopped for a moment.
         thawing = std::async(std::launch::async, [&] {
             std::this_thread::sleep_for(std::chrono::milliseconds(100));
             desktop.server().signal(SIGCONT);

@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 using Words = std::vector<std::string>;
 
 struct Launching : ::testing::Test {
-    /// What a shell prints that is launched with this text.
+    /// The output of a launched shell that runs this text.
     std::string outputOf(const std::string& text) {
         const auto file = folder.path() / "output";
         launcher.launch("/bin/sh", {"-c", "(" + text + ") > '" + file.string() + ".new' 2>&1; mv '" + file.string() +
@@ -67,7 +67,7 @@ TEST_F(Launching, GivesProgramsAFreshStart) {
     EXPECT_EQ(outputOf("exec ls /proc/self/fd"), "0\n1\n2\n3\n") << "3 is the folder that ls reads";
     EXPECT_EQ(outputOf("readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2"), "/dev/null\n/dev/null\n/dev/null\n");
     EXPECT_EQ(outputOf("grep SigBlk /proc/self/status"), "SigBlk:\t0000000000000000\n");
-    constexpr std::uint64_t kOwnedByTheLibrary = 0x180000000;  // the C library ignores its two in all it starts
+    constexpr std::uint64_t kOwnedByTheLibrary = 0x180000000;  // the C library's own two signals, always ignored
     const std::uint64_t ignored = std::stoull(outputOf("sed -n 's/SigIgn:.//p' /proc/self/status"), nullptr, 16);
     EXPECT_EQ(ignored & ~kOwnedByTheLibrary, 0U);
     EXPECT_EQ(outputOf("test $(cut -d' ' -f6 /proc/$$/stat) = $$ && echo own session"), "own session\n");
@@ -78,7 +78,7 @@ TEST_F(Launching, GivesProgramsAFreshStart) {
 
 TEST_F(Launching, ReapsItsOwnChildrenAndNoOthers) {
     while (waitpid(-1, nullptr, 0) > 0) {
-        // An earlier test launched it, and its launcher is gone.
+        // Reap the children of earlier tests, whose launchers are gone.
     }
     const auto descriptors = openDescriptors();
     const pid_t other = fork();
@@ -109,7 +109,7 @@ TEST_F(Launching, ReportsWhatCannotBeStartedAndDoesNotWait) {
     auto line = complaint.get_future();
     ASSERT_EQ(line.wait_for(ChildProcess::kPatience), std::future_status::ready);
     EXPECT_EQ(line.get(), missing + " could not be started: No such file or directory.");
-    // It does not wait for one that runs on.
+    // It does not wait for a program that keeps running.
     const std::string fifo = folder.path() / "fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     launcher.launch("/bin/sh", {"-c", "read line < '" + fifo + "'"});
@@ -127,7 +127,7 @@ TEST_F(Launching, LetsProgramsSurviveUsAndWriteIntoTheLog) {
     ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
     const LaunchedProgram result(folder);
     const std::string command = "echo out; echo err >&2; read line < '" + fifo + "'; '" + result.path() + "' $line";
-    // Each from a process of its own, which ends at once.
+    // Each is launched from its own process, which ends at once.
     for (const auto& [output, text] : {std::pair{pipe[1], holding.c_str()}, {log.number(), command.c_str()}}) {
         const pid_t us = fork();
         if (us == 0) {
@@ -162,7 +162,7 @@ TEST_F(Launching, RunsShellCommandsWithZshOrElseTheLoginShell) {
     withoutZsh.launch("/bin/zsh", arguments);
     EXPECT_EQ(login.waitForArguments(), arguments);
 
-    // With the real one of the person who runs this.
+    // With the real login shell of the user who runs this test.
     PosixProcessLauncher real({folder.path() / "missing", {}, {}});
     real.launch("/bin/zsh", {"-lc", "'" + login.path() + "' done"});
     EXPECT_EQ(login.waitForArguments(), Words{"done"});

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 using Words = std::vector<std::string>;
 
 struct Opening : ::testing::Test {
-    /// Makes a program what the desktop opens files of a kind with.
+    /// Makes a program the desktop's default for a MIME type.
     void handle(const std::string& kind, const LaunchedProgram& program) {
         const fs::path applications = folderOf("XDG_DATA_HOME") / "applications";
         fs::create_directories(applications);

@@ -38,7 +38,7 @@ TEST(RoundTrips, AreFewForEachAction) {
     window.show();
     DesktopActions actions;
     const auto trips = [&](const std::function<void()>& work) {
-        work();  // the first one also reads the keymap
+        work();  // the first call also reads the keymap
         const unsigned before = actions.roundTrips();
         work();
         return actions.roundTrips() - before;

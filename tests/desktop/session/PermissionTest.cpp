@@ -33,7 +33,7 @@ TEST_F(Permission, ShowsOneNotificationWhileNothingCanBePosted) {
         EXPECT_TRUE(prompts());
         ASSERT_TRUE(services.waitForRequests(1));
         EXPECT_EQ(services.requests().size(), 1U) << "none while there was permission";
-        // Before and after the answers to the earlier ones.
+        // Prompts both before and after the earlier ones are answered.
         ASSERT_TRUE(eventually([&] { return prompts() && services.requests().size() >= 3; }));
         const Requests requests = services.requests();
         EXPECT_TRUE(requests.front().starts_with("notify 0 -> 1: Kinesta may not send keys and clicks | "))
@@ -95,7 +95,7 @@ TEST(DesktopFacts, AreWhatIsThere) {
     desktop.stopWindowManager();
     EXPECT_FALSE(actions.works(windows)) << "though it left its mark on the root window";
 
-    // A compositor counts if it listens on the socket; an old session may have left the name.
+    // A compositor counts only if it listens on the socket: the file may be left from an old session.
     using Kind = DesktopSession::Kind;
     setenv("WAYLAND_DISPLAY", "wayland-7", 1);
     EXPECT_EQ(actions.session().kind(), Kind::x11);

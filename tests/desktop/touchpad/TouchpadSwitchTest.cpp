@@ -33,7 +33,7 @@ TEST(DconfDatabase, IsReadAndNothingIsMadeOfWhatIsNone) {
         EXPECT_EQ(dconfString(sample, other), std::nullopt) << other;
     for (std::size_t size = 0; size + 1 < sample.size(); ++size)
         EXPECT_EQ(dconfString(sample.substr(0, size), kKey), std::nullopt) << size;
-    // Whatever bytes are wrong, it ends and stays within its bounds.
+    // With any damaged byte, reading ends and stays within the data.
     for (std::size_t i = 0; i < sample.size(); ++i) {
         for (const int wrong : {0x00, 0x01, 0x7f, 0xff}) {
             std::string damaged = sample;
@@ -65,10 +65,10 @@ TEST(TouchpadSwitching, FollowsGnomesStoredSetting) {
     EXPECT_EQ(nothing.mode("/dev/input/event0"), SendEventsMode::enabled);
 }
 
-/// Sets a property of the X server's test pointer, which poses as a touchpad.
+/// Sets a property of the X server's test pointer, which plays the part of a touchpad.
 void set(const kinesta::testing::TestDesktop& desktop, const char* name, const std::string& bytes) {
     constexpr std::uint16_t kTestPointer = 4;
-    const std::string padded = bytes + std::string(3, '\0');  // whole words are read
+    const std::string padded = bytes + std::string(3, '\0');  // the library reads whole words
     const auto cookie = xcb_input_xi_change_property_checked(desktop.connection(), kTestPointer, XCB_PROP_MODE_REPLACE,
                                                              8, desktop.atom(name), XCB_ATOM_INTEGER,
                                                              static_cast<std::uint32_t>(bytes.size()), padded.data());
@@ -94,7 +94,7 @@ TEST(TouchpadSwitchingOnX11, FollowsTheDriversProperties) {
     check(kLibinput, on, SendEventsMode::enabled);
     check(kLibinput, std::string("\0\1", 2), SendEventsMode::disabledWithExternalMouse);
     check("Synaptics Off", "\1", SendEventsMode::disabled);
-    check("Synaptics Off", "\2", SendEventsMode::disabledWithExternalMouse);  // that is tapping alone
+    check("Synaptics Off", "\2", SendEventsMode::disabledWithExternalMouse);  // 2: only tapping is off
     check(kLibinput, on, SendEventsMode::enabled);
     set(desktop, kLibinput, off);
     check("Device Node", std::string("/dev/input/event5\0", 18), SendEventsMode::disabled);

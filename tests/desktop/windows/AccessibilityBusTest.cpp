@@ -16,7 +16,7 @@ constexpr std::uint64_t kActive = 1U << 1U;
 constexpr std::uint64_t kModal = 1U << 16U;
 constexpr std::uint64_t kShowing = 1U << 25U;
 
-/// A window in which `levels` boxes lie in each other, with an element of this state in the innermost.
+/// A window with `levels` nested boxes and an element with this state in the innermost.
 Tree windowWith(std::uint64_t state, int levels = 2, std::uint64_t stateOfWindow = kActive | kShowing) {
     Tree tree{{"root", {0, {"other", "window"}}},
               {"other", {kShowing, {"elsewhere"}}},

@@ -26,7 +26,7 @@ TEST(EwmhWorkAreas, AreWhatDocksLeaveOfEachMonitor) {
     EwmhWindow elsewhere = kBottomOfLeft;
     elsewhere.desktop = 1;
     const auto topOfRight = dock({640, 0, 640, 25}, {.top = {25, 640, 1279}});
-    // On an inner edge: counted from the screen's edge, it covers all of the left monitor.
+    // A dock on an inner edge: measured from the edge of the screen, it covers all of the left monitor.
     const auto leftOfRight = dock({640, 0, 40, 600}, {.left = {680, 0, 599}});
     const auto acrossTheTop = dock({0, 0, 1280, 20}, {.top = {20, 0, 1279}});
     const auto slidesIn = dock({0, -40, 640, 30}, {.top = {2, 0, 639}});

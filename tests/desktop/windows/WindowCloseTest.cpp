@@ -79,14 +79,14 @@ TEST_F(WindowClosing, WaitsForTheAnswerToAModalDialog) {
 
 TEST_F(WindowClosing, LeavesSpecialWindowsAlone) {
     TestWindow window(desktop, {100, 100, 300, 200});
-    window.setProcess(getpid()).show();  // windows of our own follow the same rules
+    window.setProcess(getpid()).show();  // our own windows follow the same rules
     EXPECT_TRUE(actions.closes());
     EXPECT_EQ(window.next(), "close");
     for (const char* type : {"DESKTOP", "DOCK", "TOOLBAR", "MENU", "UTILITY", "SPLASH"}) {
         for (const pid_t process : {getppid(), getpid()}) {
             ASSERT_TRUE(eventually([&] { return desktop.active() == window.id(); }));
             TestWindow other(desktop, {500, 100, 200, 100});
-            // The first type is unknown here and says nothing.
+            // The first type is unknown to Kinesta and must be ignored.
             other.setAtoms("_NET_WM_WINDOW_TYPE",
                            {"_KDE_NET_WM_WINDOW_TYPE_OVERRIDE", std::string("_NET_WM_WINDOW_TYPE_") + type});
             other.setProcess(process).show(false);
@@ -98,7 +98,7 @@ TEST_F(WindowClosing, LeavesSpecialWindowsAlone) {
     ASSERT_TRUE(eventually([&] { return desktop.active() == window.id(); }));
     TestWindow stubborn(desktop, {500, 300, 200, 100});
     stubborn.show();
-    desktop.letWindowManagerCatchUp(window.id());  // openbox writes the allowed actions too
+    desktop.letWindowManagerCatchUp(window.id());  // openbox also sets the allowed actions
     for (const Words& allowed : {Words{"_NET_WM_ACTION_MOVE"}, {}}) {
         stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", allowed).send();
         EXPECT_FALSE(actions.closes());

@@ -20,7 +20,7 @@ struct WindowTiling : ::testing::Test {
     TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
     DesktopActions actions;
 
-    /// Waits until a window's frame is there, each edge within `tolerance` pixels.
+    /// Waits until a window's frame is at this place, each edge within `tolerance` pixels.
     ::testing::AssertionResult isAt(xcb_window_t window, const WindowRectangle& expected, int tolerance = 0) {
         const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
         WindowRectangle frame;
@@ -32,7 +32,7 @@ struct WindowTiling : ::testing::Test {
         if (!eventually(isThere, std::chrono::seconds(5)))
             return ::testing::AssertionFailure()
                    << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
-        desktop.letWindowManagerCatchUp(window);  // what is in the frame follows it
+        desktop.letWindowManagerCatchUp(window);  // the window in the frame moves after it
         return ::testing::AssertionSuccess();
     }
 };
@@ -110,7 +110,7 @@ TEST_F(WindowTiling, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
     desktop.activate(onLeft.id());
     EXPECT_TRUE(actions.tiles(Command::bottom));
     EXPECT_TRUE(isAt(onLeft.id(), {0, 387, 640, 388})) << "above the panel";
-    // Some desktops list what each monitor leaves to windows.
+    // Some desktops publish the work area of each monitor.
     const std::vector<std::uint32_t> areas{0, 40, 640, 700, 640, 0, 640, 800};
     xcb_change_property(desktop.connection(), XCB_PROP_MODE_REPLACE, desktop.root(), desktop.atom("_GTK_WORKAREAS_D0"),
                         XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(areas.size()), areas.data());
@@ -163,7 +163,7 @@ TEST_F(WindowTiling, EndsMaximizedAndFullscreenAndReturnsToThem) {
 
 TEST_F(WindowTiling, RemembersThePlaceThatThePersonChose) {
     TestWindow window(desktop, {200, 150, 400, 300});
-    window.setProcess(getpid()).show();  // one of our own is tiled like any other
+    window.setProcess(getpid()).show();  // our own windows are tiled like any other
     EXPECT_TRUE(actions.tiles(Command::left));
     EXPECT_TRUE(isAt(window.id(), {0, 0, 640, 800}));
     constexpr std::uint32_t kStaticWithAll = 10 | 0xF << 8;
@@ -174,7 +174,7 @@ TEST_F(WindowTiling, RemembersThePlaceThatThePersonChose) {
     EXPECT_TRUE(isAt(window.id(), {640, 0, 640, 800}));
     EXPECT_TRUE(actions.tiles(Command::untile));
     EXPECT_TRUE(isAt(window.id(), chosen));
-    // A record of a monitor that is gone, or of nonsense, does not move the window out of sight.
+    // A record of a monitor that is gone, or an invalid one, does not move the window off the screen.
     for (const std::vector<std::uint32_t>& record :
          {std::vector<std::uint32_t>{3000, 100, 500, 400, 0, 0, 640, 800, 0}, {1, 2, 3}}) {
         window.set("_KINESTA_TILING_RECORD", XCB_ATOM_CARDINAL, record).send();
@@ -196,7 +196,7 @@ TEST_F(WindowTiling, KeepsWindowsWithSizeLimitsOnTheScreen) {
     EXPECT_FALSE(actions.tiles(Command::fill));
     EXPECT_TRUE(actions.tiles(Command::center));
     EXPECT_TRUE(isAt(fixed.id(), {(1280 - size.width) / 2, (800 - size.height) / 2, size.width, size.height}));
-    // Its shadows are a part of the window.
+    // The window includes its shadows.
     TestWindow shadowed(desktop, {50, 50, 300, 200});
     shadowed.set("_MOTIF_WM_HINTS", desktop.atom("_MOTIF_WM_HINTS"), {2, 0, 0, 0, 0});
     shadowed.set("_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL, {10, 12, 8, 14}).show();

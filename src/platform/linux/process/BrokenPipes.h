@@ -2,8 +2,8 @@
 
 namespace kinesta {
 
-/// Lets a write to a closed pipe end the program without a message, even if the parent process ignored SIGPIPE. For
-/// the start of a program.
+/// Lets a write to a closed pipe end the program without a message, even if the parent process ignored SIGPIPE. Call it
+/// at the start of a program.
 void endQuietlyOnClosedPipe();
 
 /// Makes a write to a closed pipe or socket fail instead. For programs that outlive the reader of their log, and for

@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// Whether the session is one of this desktop, or of one built upon it: "GNOME", "KDE".
+/// Whether the session runs this desktop ("GNOME", "KDE") or one that is based on it.
 bool isCurrentDesktop(const std::string& name);
 
 }  // namespace kinesta

@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// Whether PATH leads to a program of this name.
+/// Whether a folder in PATH has a program with this name.
 bool isInSearchPath(const std::string& name);
 
 }  // namespace kinesta

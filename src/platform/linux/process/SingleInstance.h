@@ -8,8 +8,8 @@
 
 namespace kinesta {
 
-/// Held by the one process that acts on a person's gestures: two would perform each action twice. The system releases
-/// it when the process ends, even by a crash.
+/// Held by the one process that acts on a user's gestures: two processes would perform each action twice. The system
+/// releases it when the process ends, even by a crash.
 class SingleInstance {
   public:
     /// Locks a file in the first of these folders where that is possible: XDG_RUNTIME_DIR, the folder of `settings`,

@@ -32,7 +32,7 @@ void take() {
 }
 
 void giveBack() {
-    // A second time would move the cursor to where it was at the first.
+    // Only once: the second time would move the cursor back to its position at the first.
     if (isTaken != 0)
         writeAll(kGiveBack);
     isTaken = 0;

@@ -14,9 +14,9 @@ struct TerminalSize {
 };
 TerminalSize terminalSize(StandardStream stream);
 
-/// Hides the cursor and shows the terminal's second screen while it lives. Restores both at the end of the program too,
-/// whether it returns or gets SIGINT, SIGTERM, SIGHUP or SIGQUIT, which then have their usual effect. At most one at a
-/// time.
+/// Hides the cursor and shows the terminal's second screen until it is destroyed. Restores both at the end of the
+/// program too, whether it returns or gets SIGINT, SIGTERM, SIGHUP or SIGQUIT, which then have their usual effect. At
+/// most one at a time.
 class TerminalTakeover {
   public:
     TerminalTakeover();
@@ -24,7 +24,7 @@ class TerminalTakeover {
     TerminalTakeover(const TerminalTakeover&) = delete;
     TerminalTakeover& operator=(const TerminalTakeover&) = delete;
 
-    /// As stopUntilContinued() below, with the terminal restored meanwhile.
+    /// Like stopUntilContinued() below, but restores the terminal meanwhile.
     void stopUntilContinued();
 };
 

@@ -22,7 +22,7 @@ bool isShell(const std::string& path) {
            access(path.c_str(), X_OK) == 0;
 }
 
-/// `ask` is one of the getpw…_r functions with all but its buffer given.
+/// `ask` is one of the getpw…_r functions with every argument bound except the buffer.
 template <typename Ask>
 std::optional<UserRecord> recordFrom(Ask ask) {
     std::vector<char> buffer(1024);

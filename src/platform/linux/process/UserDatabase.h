@@ -13,7 +13,7 @@ struct UserRecord {
 
 std::optional<UserRecord> userWithName(const std::string& name);
 
-/// HOME if that is an absolute path, as in shells; else by the user database. Empty if neither names one.
+/// HOME if that is an absolute path, as in shells; else the folder from the user database. Empty if neither has one.
 std::string ownHomeFolder();
 
 /// Where settings are kept: XDG_CONFIG_HOME if that is an absolute path, else ".config" in the home folder.

@@ -25,7 +25,7 @@ struct Encoder {
     std::string operator()(const auto& value) const { return text(value); }
 };
 
-/// Nothing for data that is no text.
+/// Nothing if the member "data" is not text.
 std::optional<StoredValue> decodeObject(const json& object) {
     const auto member = object.begin();
     if (object.size() != 1 || member.key() != kData)
@@ -55,7 +55,7 @@ std::optional<StoredValue> decodeValue(const json& value) {
 }
 
 Result<json> parse(std::string_view content) {
-    // The parser stops at one and ignores the rest. A crash of the system can leave a file full of them.
+    // The parser stops at a zero byte and ignores the rest. A crash of the system can leave a file full of zero bytes.
     if (content.find('\0') != std::string_view::npos)
         return Error{"it holds zero bytes"};
     bool isTooDeep = false;

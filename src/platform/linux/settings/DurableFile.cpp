@@ -128,10 +128,10 @@ Result<FileDescriptor> DurableFile::lock() const {
     FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!file)
         return failure(path, errno);
-    // Others hold the lock for milliseconds. A process that was stopped while it did must not block this one.
+    // Others hold the lock for milliseconds. A process that was stopped while holding it must not block this one.
     const auto deadline = Clock::now() + kLongestWait;
-    // The process that waits for the file holds the folder's lock meanwhile: a process that saves again and again has
-    // to queue too. Folders of some network file systems cannot be locked; then there is no queue.
+    // While waiting for the file's lock, this process holds the folder's lock. A process that saves again and again
+    // then has to queue too. Folders of some network file systems cannot be locked; then there is no queue.
     const FileDescriptor turn(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     static_cast<void>(waitForLock(turn, deadline));
     const int reason = waitForLock(file, deadline);
@@ -143,8 +143,8 @@ Result<FileDescriptor> DurableFile::lock() const {
 }
 
 Outcome DurableFile::replace(std::string_view content) const {
-    // One name is enough, because only the holder of the lock writes. A file of that name is left from a killed
-    // process.
+    // One name is enough, because only the holder of the lock writes. If the file already exists, a killed process has
+    // left it.
     const std::string temporary = m_path + ".tmp";
     ::unlink(temporary.c_str());
     const FileDescriptor file(

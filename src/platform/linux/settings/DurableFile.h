@@ -24,8 +24,8 @@ class DurableFile {
     Result<std::optional<std::string>> read() const;
 
     /// Waits until no other process holds the lock, at most two seconds, and keeps it until the result is destroyed.
-    /// Creates the folder, readable by its owner only. The lock is a file of its own, as the file itself is another one
-    /// after each save.
+    /// Creates the folder, readable by its owner only. The lock is a separate file, because each save replaces the file
+    /// itself.
     Result<FileDescriptor> lock() const;
 
     /// Replaces the content and waits until it is on the disk. After an error the old content is still there and the

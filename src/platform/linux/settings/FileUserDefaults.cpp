@@ -90,7 +90,7 @@ Outcome FileUserDefaults::mergeLocked(const DurableFile& file) {
     return success();
 }
 
-/// Replaces the values by those of `content`, if there is any, and keeps the unsaved changes. The error is what is
+/// Replaces the values by those of `content`, if there is any, and keeps the unsaved changes. The error says what is
 /// damaged.
 Outcome FileUserDefaults::merge(const std::optional<std::string>& content) {
     // Compares the whole content: two quick saves can have the same time stamp and inode number.

@@ -15,11 +15,12 @@ namespace kinesta {
 /// stored meanwhile, then stores its own key. Main thread only.
 ///
 /// A damaged file is renamed before anything is stored. A file that cannot be read stays as it is: this process keeps
-/// its changes and stores them with the first later one that succeeds. A missing file (another process may have renamed
-/// it) is created with all values of this process.
+/// its changes and stores them with the next change that can be stored. A missing file (another process may have
+/// renamed it) is created with all values of this process.
 class FileUserDefaults final : public InMemoryUserDefaults {
   public:
-    /// Gets one sentence for the user. The same problem is not reported again until storing or reading has succeeded.
+    /// Receives one sentence for the user. The same problem is not reported again until storing or reading has
+    /// succeeded.
     using ProblemHandler = std::function<void(const std::string&)>;
 
     /// Loads the file at `path`; it need not exist, nor its folder.
@@ -35,8 +36,8 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     /// Whether the last change was stored, and why not.
     const Outcome& lastSaving() const { return m_lastSaving; }
 
-    /// Where a person's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is
-    /// not set or not absolute.
+    /// Where the user's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is not
+    /// set or not absolute.
     static std::string defaultPath();
 
   protected:

@@ -20,7 +20,7 @@ class FileWatcher {
     FileWatcher(const FileWatcher&) = delete;
     FileWatcher& operator=(const FileWatcher&) = delete;
 
-    /// False where the system does not let the folders be watched.
+    /// False if the system cannot watch the folders.
     bool isWatching() const { return m_isWatching; }
 
   private:

@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// The settings of actions that only Linux has. A missing or unknown value counts as the first case.
+/// Settings of actions that exist only on Linux. A missing or unknown value counts as the first case.
 struct LinuxActionSettings {
     /// The key for ⌘: Ctrl, with which Copy and New Tab work in Linux applications, or Super.
     enum class CommandKey { control, super };

@@ -40,7 +40,7 @@ class Database {
         return std::string(value.substr(0, value.size() - kStringType.size()));
     }
 
-    /// Whether the keys' parts, from this item up to the root, make `key`.
+    /// Whether the parts of the key, from this item up to the root, make `key`.
     bool hasKey(std::uint32_t item, std::string_view key) const {
         while (item < itemCount()) {
             const std::string_view entry = m_items.substr(item * kItemSize, kItemSize);

@@ -14,7 +14,7 @@
 namespace kinesta {
 
 struct EvdevContactProvider::Run {
-    /// Posts `task` to the main thread; it will not run once `run` is over.
+    /// Posts `task` to the main thread. It does not run if `run` has ended by then.
     static void post(MainThread& mainThread, const std::weak_ptr<Run>& run, std::function<void()> task) {
         mainThread.post([run, task = std::move(task)] {
             if (const auto alive = run.lock())
@@ -22,9 +22,9 @@ struct EvdevContactProvider::Run {
         });
     }
 
-    /// Ends the thread's reading when it is written to.
+    /// A write to it ends the thread's reading.
     FileDescriptor ending{eventfd(0, EFD_CLOEXEC)};
-    /// Whether frames of another pad will follow, to which the fingers on this one must not count.
+    /// Whether frames of another pad follow: then the fingers on this one must lift first.
     std::atomic<bool> isPadChanging = false;
     std::future<void> hasEnded;
     std::thread thread;  // owns the reader
@@ -70,8 +70,8 @@ void EvdevContactProvider::start() {
         reader->run(current.ending.number());
         if (current.isPadChanging)
             reader->liftAll();
-        ended.set_value();  // then the run may be gone
-        // Closing an input device takes the kernel some 50 ms, for which stop() need not wait.
+        ended.set_value();  // from here on the run may be destroyed
+        // Closing an input device takes the kernel about 50 ms. stop() does not wait for that.
         reader.reset();
     });
 }

@@ -28,17 +28,18 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     FrameHandler frameHandler() const override { return m_frameHandler.handler(); }
     void setFrameHandler(FrameHandler handler) override { m_frameHandler.setHandler(std::move(handler)); }
 
-    /// What receives button presses and releases (PadButton) and changes of the pressure stage
-    /// (PadPressure) with their uptimes, on the main thread. The left and the right button are not distinguished.
-    /// A frame that came with a press has been delivered before.
+    /// `handler` receives button presses and releases (PadButton) and changes of the pressure stage (PadPressure) with
+    /// their uptimes, on the main thread. The left and the right button are not distinguished. A frame that came with a
+    /// press has been delivered before.
     void setPointerHandler(PointerHandler handler) { m_pointerHandler = std::move(handler); }
 
-    /// What is called, on the main thread, when status() has changed by itself: the touchpad came, went, became
-    /// readable, or was switched off or on. May start or stop the provider, but not destroy it.
+    /// `handler` is called on the main thread when status() has changed by itself: the touchpad was connected or
+    /// disconnected, became readable, or was switched off or on. It may start or stop the provider, but not destroy it.
     void setStatusHandler(std::function<void()> handler) { m_statusHandler = std::move(handler); }
 
-    /// The touchpad to read, by path or name, empty for a built-in one, or any if there is none. Taken over at once,
-    /// with an empty frame for fingers on the one before; the status handler is called if the provider is running.
+    /// The touchpad to read, by path or name, empty for a built-in one, or any if there is none. Takes effect at once:
+    /// if the provider is running, fingers on the previous touchpad lift with an empty frame and the status handler is
+    /// called.
     void setDevice(std::string device);
 
     TrackpadContactProviderStatus status() const override { return m_state.status; }
@@ -48,7 +49,7 @@ class EvdevContactProvider final : public TrackpadContactProviding {
 
     void start() override;
 
-    /// Returns within milliseconds, when no handler runs any more. Must not be called from the frame handler.
+    /// Returns within milliseconds. No handler runs afterwards. Must not be called from the frame handler.
     void stop() override;
 
   private:

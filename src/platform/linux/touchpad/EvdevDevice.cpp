@@ -89,7 +89,7 @@ EvdevDevice::EvdevDevice(FileDescriptor descriptor, std::unique_ptr<libevdev, Li
 EvdevDevice::~EvdevDevice() = default;
 
 int EvdevDevice::fingers() const {
-    // Reports without slots list as many contacts as they like.
+    // A report without slots can list any number of contacts.
     if (m_touchpad.slotCount == 0 && libevdev_has_event_code(m_device.get(), EV_ABS, ABS_MT_POSITION_X))
         return 0;
     int fingers = std::max(m_touchpad.slotCount, 1);
@@ -105,7 +105,8 @@ void EvdevDevice::tellPresentState(const Sink& sink) {
     for (int slot = 0; slot < m_touchpad.slotCount; ++slot) {
         const auto slotIndex = static_cast<unsigned>(slot);
         process(time, EV_ABS, ABS_MT_SLOT, slot, sink);
-        // Of an empty slot too: the kernel will not repeat a place that the slot's next finger shares with its last.
+        // Empty slots too: the kernel does not repeat a coordinate that is the same for a slot's next finger as for its
+        // last.
         for (const unsigned axis : {evdev::kAbsMtPositionX, evdev::kAbsMtPositionY, evdev::kAbsMtTrackingId})
             process(time, EV_ABS, axis, libevdev_get_slot_value(m_device.get(), slotIndex, axis), sink);
     }

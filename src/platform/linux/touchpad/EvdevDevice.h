@@ -18,7 +18,7 @@ struct libevdev;
 namespace kinesta {
 
 /// An open touchpad: its events become contact frames, clicks and pressure stages. Never grabbed, so that the desktop
-/// goes on reading it. Used by one thread at a time.
+/// keeps reading it. Used by one thread at a time.
 class EvdevDevice {
   public:
     using Sink = std::function<void(const PadEvent&)>;
@@ -40,12 +40,12 @@ class EvdevDevice {
     int fingers() const;
 
     /// Reports all pending events, without waiting for more. The first call reports the fingers that rest on the pad
-    /// already, but no held button: that press was not for Kinesta. After a loss of events (the reader was too slow)
-    /// the contacts are synchronized with the device: lifted ones lift, new ones land. Times are the kernel's, on the
-    /// monotonic clock, and never decrease. `gone` when the device no longer exists.
+    /// already, but no held button: that press was not meant for Kinesta. After a loss of events (the reader was too
+    /// slow) the contacts are synchronized with the device: lifted ones lift, new ones land. Times are the kernel's, on
+    /// the monotonic clock, and never decrease. `gone` when the device no longer exists.
     ReadOutcome read(const Sink& sink);
 
-    /// Lifts all fingers: reports an empty frame if the last one had fingers. For a pad that is gone or given up.
+    /// Lifts all fingers: reports an empty frame if the last one had fingers. For a pad that is gone or no longer read.
     void liftAll(const Sink& sink);
 
   private:

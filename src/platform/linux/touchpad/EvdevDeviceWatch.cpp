@@ -40,7 +40,7 @@ EvdevDeviceWatch::EvdevDeviceWatch(std::string devicesDirectory)
 EvdevDeviceWatch::~EvdevDeviceWatch() = default;
 
 bool EvdevDeviceWatch::takeChanges() {
-    // Drain both: the rest would be reported again at once.
+    // Drain both: what is left would be reported again at once.
     const bool isDirectoryChanged = drainDirectories();
     if (drainUdev() || isDirectoryChanged) {
         itimerspec current{};

@@ -11,7 +11,7 @@ struct udev_monitor;
 namespace kinesta {
 
 /// Reports when input devices come and go, become readable or unreadable (a udev rule was applied, another session came
-/// to the front), or when udev changes their properties. Works without udev too. Costs nothing meanwhile.
+/// to the front), or when udev changes their properties. Works without udev too. Does not poll.
 class EvdevDeviceWatch {
   public:
     explicit EvdevDeviceWatch(std::string devicesDirectory = "/dev");

@@ -69,7 +69,7 @@ EvdevReader::State EvdevReader::look() {
         leaveDevice();
         return unavailable(std::move(why));
     }
-    // An open device stays readable without permission, but then another person uses the pad.
+    // An open device stays readable after the permission is withdrawn, but then another user has the pad.
     if (m_device && (chosen->inputName != m_inputName || access(chosen->path.c_str(), R_OK) != 0))
         leaveDevice();
     if (!m_device) {

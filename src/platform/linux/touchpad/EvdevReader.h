@@ -33,7 +33,7 @@ class EvdevReader {
         friend bool operator==(const State&, const State&) = default;
     };
 
-    /// `sink` gets what happens on the touchpad, `onChange` every new state; both on the thread of run().
+    /// `sink` receives every event of the touchpad, `onChange` every new state; both on the thread of run().
     EvdevReader(Settings settings, EvdevDevice::Sink sink, std::function<void(const State&)> onChange);
 
     /// Looks for the touchpad and opens it. Before run(), on any thread; `onChange` is not called.

@@ -2,7 +2,7 @@
 
 namespace kinesta {
 
-/// What desktops let a person choose for a touchpad.
+/// What desktops let the user choose for a touchpad.
 enum class SendEventsMode { enabled, disabled, disabledWithExternalMouse };
 
 }  // namespace kinesta

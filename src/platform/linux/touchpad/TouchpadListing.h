@@ -17,7 +17,7 @@ struct ListedTouchpad {
     /// Axis ranges and slots; absent if the pad may not be read.
     std::optional<EvdevTouchpad> touchpad;
     bool canTellPressure = false;
-    /// Whether the desktop may have switched it off without a way to find out.
+    /// Whether the desktop may have switched it off without a way for us to find out.
     bool mayBeOff = false;
     /// How many fingers it reports at once; 0 if that is not known.
     int fingers = 0;

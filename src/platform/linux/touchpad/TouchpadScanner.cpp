@@ -66,7 +66,7 @@ std::vector<TouchpadCandidate> TouchpadScanner::scan() const {
     for (const std::string& eventName : eventNames()) {
         const std::string path = m_inputDirectory + '/' + eventName;
         const std::string device = m_classDirectory + '/' + eventName + "/device";
-        std::error_code ignored;  // a device may vanish at any moment; then it is just not listed
+        std::error_code ignored;  // a device may vanish at any time; then it is not listed
         if (!std::filesystem::exists(path, ignored) || !isTouchpad(device) ||
             m_property(eventName, "LIBINPUT_IGNORE_DEVICE") == "1")
             continue;

@@ -26,7 +26,7 @@ std::string variable(const char* name) {
 
 TouchpadSwitch::Desktop TouchpadSwitch::Desktop::current() {
     Desktop desktop;
-    // The X server inside a Wayland session knows no touchpads.
+    // The X server inside a Wayland session has no touchpads.
     const bool isWayland = !variable("WAYLAND_DISPLAY").empty();
     if (!isWayland)
         desktop.display = variable("DISPLAY");
@@ -74,7 +74,7 @@ bool TouchpadSwitch::drainDirectory() {
 }
 
 SendEventsMode TouchpadSwitch::mode(const std::string& path) {
-    // The server may have come back since, or be another person's.
+    // The server may be back by now, or belong to another user.
     if (m_x11 && m_x11->fileDescriptor() < 0)
         connect();
     const SendEventsMode driver = m_x11 ? m_x11->mode(path) : SendEventsMode::enabled;

@@ -10,8 +10,8 @@
 
 namespace kinesta {
 
-/// Whether the desktop has switched the touchpad off, where that can be known: from the input drivers' properties on
-/// X11, whatever the desktop; from the stored settings on GNOME. Elsewhere every touchpad counts as on.
+/// Whether the desktop has switched the touchpad off, where that can be known: on X11 from the properties of the input
+/// drivers, on GNOME from the stored settings. Elsewhere every touchpad counts as on.
 class TouchpadSwitch {
   public:
     struct Desktop {
@@ -19,10 +19,10 @@ class TouchpadSwitch {
         std::string display;
         /// Where GNOME keeps its settings ("~/.config/dconf"), if this is GNOME.
         std::string dconfDirectory;
-        /// Whether it may have a switch that nothing tells of: any other on Wayland.
+        /// Whether the desktop may have a switch whose state we cannot read: any other desktop on Wayland.
         bool isSilent = false;
 
-        /// What the environment tells.
+        /// The desktop that the environment variables describe.
         static Desktop current();
     };
 
@@ -31,14 +31,14 @@ class TouchpadSwitch {
     /// Becomes readable when takeChanges() has something to do.
     int fileDescriptor() const { return m_all.number(); }
 
-    /// Whether mode() may have another answer than before.
+    /// Whether mode() may return something else than before.
     bool takeChanges();
 
-    /// What has been chosen for the touchpad at this device node.
+    /// The user's choice for the touchpad at this device node.
     SendEventsMode mode(const std::string& path);
 
-    /// Why the touchpad at this device node is off now, as a sentence; empty if it is on. `devices` tells whether there
-    /// is an external mouse.
+    /// Why the touchpad at this device node is off now, as a sentence; empty if it is on. Looks for an external mouse
+    /// among `devices`.
     std::string whyOff(const std::string& path, const TouchpadScanner& devices);
 
   private:

@@ -8,7 +8,7 @@
 namespace kinesta {
 namespace {
 
-/// What the thread that reads the touchpad waits for the server, in seconds.
+/// How long the thread that reads the touchpad waits for the server, in seconds.
 constexpr Seconds kPatience = 0.5;
 
 }  // namespace
@@ -63,7 +63,7 @@ SendEventsMode X11TouchpadProperties::mode(const std::string& path) {
         return SendEventsMode::enabled;
     do {
         m_mode = presentMode(path);
-        // What changed meanwhile was read along with the answers and makes nothing readable any more.
+        // Events that arrived with the answers are already read and no longer make the descriptor readable.
         m_connection.takeEvents();
     } while (hasNews());
     return m_mode;
@@ -71,7 +71,7 @@ SendEventsMode X11TouchpadProperties::mode(const std::string& path) {
 
 SendEventsMode X11TouchpadProperties::presentMode(const std::string& path) {
     if (!m_connection.prepare(deadlineIn(kPatience)))
-        return m_mode;  // of a server that hangs: as it was
+        return m_mode;  // the server hangs: as before
     const auto devices = m_connection.reply<xcb_input_xi_query_device_reply_t>(
         xcb_input_xi_query_device(m_connection.xcb(), XCB_INPUT_DEVICE_ALL), deadlineIn(kPatience));
     if (!devices)

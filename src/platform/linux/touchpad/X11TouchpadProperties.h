@@ -8,8 +8,8 @@
 
 namespace kinesta {
 
-/// What an X server's input drivers are set to do with a touchpad: by the desktop's settings, by a key of the keyboard,
-/// by a person's script. Has a connection of its own: the thread that reads the touchpad sleeps until it is readable.
+/// Whether an X server's input drivers have a touchpad switched off, by the desktop's settings, a key or a script. Has
+/// its own connection: the thread that reads the touchpad sleeps until this is readable.
 class X11TouchpadProperties {
   public:
     /// `display` as in DISPLAY. Without such a display, or once it is gone, everything counts as enabled.
@@ -18,7 +18,7 @@ class X11TouchpadProperties {
     /// Becomes readable when takeChanges() has something to do; -1 without a display.
     int fileDescriptor() const;
 
-    /// Whether a device has changed since.
+    /// Whether a device has changed since the last call.
     bool takeChanges();
 
     /// The mode of the device that the server reads from this node ("/dev/input/event5").

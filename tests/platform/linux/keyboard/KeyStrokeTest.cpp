@@ -65,7 +65,7 @@ TEST(KeyStroke, ReadsModifiersFromFlags) {
 }
 
 TEST(KeyStroke, PutsExactlyTheWantedModifiersInForceAndEveryKeyBack) {
-    ModifierSituation many;  // more than anyone has fingers
+    ModifierSituation many;  // more than the fingers of two hands
     std::string released, pressed;
     for (std::uint16_t code = 1; code <= 17; ++code) {
         many.held.push_back({code, kShiftModifier});

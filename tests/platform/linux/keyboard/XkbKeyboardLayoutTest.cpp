@@ -7,7 +7,7 @@
 namespace kinesta {
 namespace {
 
-/// What the keys type by this file of the system's set-up, without an X server.
+/// What the keys type according to the system's keyboard file with this content, without an X server.
 std::optional<KeyboardLayoutCharacters> charactersBy(const std::string& content) {
     const TemporaryFolder folder;
     X11Connection nowhere("no such display");

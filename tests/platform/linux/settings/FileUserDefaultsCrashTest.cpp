@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Runs `work` in a child process and kills it at its `stop`-th stop: each system call stops it twice, before it takes
-/// effect and after. Whether the child got so far; otherwise it has completed the work.
+/// effect and after. Returns whether the child got that far; if not, it has completed the work.
 bool killedAtStop(int stop, const std::function<void()>& work) {
     const pid_t child = ::fork();
     if (child == 0) {

@@ -31,7 +31,7 @@ struct FileUserDefaultsTest : ::testing::Test {
                 names.insert(entry.path().filename());
         return names;
     }
-    /// Whether exactly one problem was reported since the last time, with `part` in it.
+    /// Whether exactly one problem was reported since the last call, and contains `part`.
     bool onlyProblem(std::string_view part) {
         const auto reported = std::exchange(problems, {});
         return reported.size() == 1 && reported[0].find(part) != std::string::npos;
@@ -44,7 +44,7 @@ struct FileUserDefaultsTest : ::testing::Test {
     std::vector<std::string> problems;
 };
 
-/// Limits the size of files as a full disk does: a part is written, then no more.
+/// Limits the size of files. Like a full disk, this cuts a write short.
 struct FullDisk {
     FullDisk() {
         ::getrlimit(RLIMIT_FSIZE, &before);
@@ -59,7 +59,7 @@ struct FullDisk {
     sighandler_t handler = ::signal(SIGXFSZ, SIG_IGN);
 };
 
-/// Makes this process an ordinary user, for whom permissions hold, and the owner of some files.
+/// Makes this process an ordinary user, who needs permissions, and the owner of some files.
 struct OrdinaryUser {
     explicit OrdinaryUser(const Names& owned) {
         for (const auto& file : owned)

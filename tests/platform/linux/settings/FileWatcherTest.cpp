@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 struct FileWatching : ::testing::Test {
     FileWatching() { fs::create_directories(folder / "config"); }
 
-    /// Whether the watcher reports in time that the file has become this, and has its folder.
+    /// Whether the watcher reports this content in time and the folder exists.
     bool sees(const std::string& expected) {
         bool isLate = false;
         const DelayedTask late = loop.after(std::chrono::seconds(20), [&] {

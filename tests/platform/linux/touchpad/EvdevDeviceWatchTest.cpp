@@ -44,7 +44,7 @@ TEST_F(EvdevDeviceWatching, ReportsEveryChangeOfADeviceNode) {
 
 TEST_F(EvdevDeviceWatching, OutlivesTheFolder) {
     for (int round = 0; round < 3; ++round) {
-        // Quickly, so that the watch reads of the first folder's end when the second exists already.
+        // At once, so that the second folder already exists when the watch reads that the first was removed.
         std::filesystem::create_directory(devices / "input");
         std::filesystem::remove(devices / "input");
         std::filesystem::create_directory(devices / "input");

@@ -40,7 +40,7 @@ TEST(TouchpadSelection, TakesTheNamedElseABuiltInElseTheFirst) {
         }
 }
 
-/// A /dev/input and a /sys/class/input to be filled.
+/// Empty folders for /dev/input and /sys/class/input, which a test fills.
 struct TouchpadScanning : ::testing::Test {
     /// As sysfs shows it; at first an I2C pad with finger tools and BTN_LEFT.
     struct Device {
@@ -92,7 +92,7 @@ TEST_F(TouchpadScanning, DistinguishesTouchpadsFromOtherDevices) {
     add(4, {.axes = "3"});                                                                          // no multitouch
     add(5, {.axes = "1"});
     add(6, {});
-    std::filesystem::remove(folder / "dev/event6");  // withheld from this container
+    std::filesystem::remove(folder / "dev/event6");  // hidden from this container
     add(7, {.keys = "", .axes = "", .properties = "", .bus = ""});
     add(8, {.keys = "no number"});
     EXPECT_EQ(scan(), (std::set<int>{10, 14}));

@@ -18,7 +18,7 @@ namespace {
 using Command = WindowTilingMenuCommand;
 using Places = std::vector<WindowRectangle>;
 
-// Odd both ways: the right and the lower part get the pixel more.
+// Odd width and height: the right and the lower part get the extra pixel.
 constexpr WindowRectangle kArea{10, 20, 1001, 701};
 constexpr WindowRectangle kLeft{10, 20, 500, 701};
 constexpr WindowRectangle kRight{510, 20, 501, 701};
