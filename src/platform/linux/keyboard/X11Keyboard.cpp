@@ -27,7 +27,7 @@ std::vector<KeyboardLayoutCharacters> X11Keyboard::charactersOfGroups() {
 std::optional<ModifierSituation> X11Keyboard::modifiersFor(std::uint16_t code) {
     if (!update())
         return std::nullopt;
-    const xcb_keycode_t keycode = static_cast<xcb_keycode_t>(code + kFirstXkbKeycode);
+    const auto keycode = static_cast<xcb_keycode_t>(code + kFirstXkbKeycode);
     const xkb_keysym_t* symbols = nullptr;
     if (code + kFirstXkbKeycode > 255 || xkb_keymap_key_get_syms_by_level(m_keymap.get(), keycode, 0, 0, &symbols) <= 0)
         return std::nullopt;

@@ -1,5 +1,7 @@
 #include "platform/linux/session/DesktopSession.h"
 
+#include <utility>
+
 #include "platform/linux/touchpad/DeviceAccess.h"
 
 namespace kinesta {
@@ -13,7 +15,7 @@ constexpr const char* kUseX11 =
 
 }  // namespace
 
-DesktopSession::DesktopSession(const DesktopFacts& facts, Route wish) : m_facts(facts), m_wish(wish) {}
+DesktopSession::DesktopSession(DesktopFacts facts, Route wish) : m_facts(std::move(facts)), m_wish(wish) {}
 
 DesktopSession::Kind DesktopSession::kind() const {
     if (m_facts.hasWayland)

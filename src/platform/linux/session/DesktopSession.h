@@ -14,7 +14,7 @@ class DesktopSession {
   public:
     enum class Kind { none, x11, wayland, waylandWithX };
 
-    DesktopSession(const DesktopFacts& facts, LinuxActionSettings::InputRoute wish);
+    DesktopSession(DesktopFacts facts, LinuxActionSettings::InputRoute wish);
 
     Kind kind() const;
     /// One finding for every capability, in the order of the enumeration.
