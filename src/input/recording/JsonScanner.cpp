@@ -107,21 +107,27 @@ std::optional<JsonNumber> JsonScanner::number() {
     }
     const char* const first = m_text.data() + begin;
     const char* const last = m_text.data() + m_at;
+    // Up to here every whole number is a double, and above it every double is whole: there a fraction as written counts
+    // as no whole number.
+    constexpr std::int64_t kExact = 9007199254740992;
+    JsonNumber number;
+    if (isWhole) {
+        std::int64_t integer = 0;
+        if (std::from_chars(first, last, integer).ec == std::errc())
+            number.integer = integer;
+        if (*first != '-' && number.integer && integer <= kExact) {  // "-0" is no integer's double
+            number.value = static_cast<double>(integer);
+            return number;
+        }
+    }
     const auto value = parsedNumber({first, last});
     if (!value) {
         fail("a number is out of range");
         return std::nullopt;
     }
-    JsonNumber number;
     number.value = *value;
-    // Above 2⁵³ every double is whole, so a fraction as written counts as no whole number.
-    constexpr double kExact = 9007199254740992.0;
-    if (isWhole) {
-        if (std::int64_t integer = 0; std::from_chars(first, last, integer).ec == std::errc())
-            number.integer = integer;
-    } else if (number.value == std::trunc(number.value) && std::abs(number.value) <= kExact) {
+    if (!isWhole && number.value == std::trunc(number.value) && std::abs(number.value) <= static_cast<double>(kExact))
         number.integer = static_cast<std::int64_t>(number.value);
-    }
     return number;
 }
 
