@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
+#include <xcb/xtest.h>
 
 #include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 
 #include "desktop/harness/DesktopActions.h"
@@ -30,23 +32,40 @@ struct ActionEndurance : ::testing::Test {
 TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
     TestWindow window(desktop, TestWindow::kWholeScreen);
     window.show();
-    constexpr std::uint8_t kC = 54;
+    constexpr std::uint8_t kC = 54, kD = 40;
+    const auto timed = [&](const std::function<void()>& send, std::uint8_t keycode) {
+        const auto began = std::chrono::steady_clock::now();
+        send();
+        EXPECT_TRUE(window.waitForKey(keycode));
+        const auto end = std::chrono::steady_clock::now();
+        window.events();
+        return std::chrono::duration<double, std::milli>(end - began).count();
+    };
+    const auto bareKey = [this] {
+        for (const auto type : {std::uint8_t{XCB_KEY_PRESS}, std::uint8_t{XCB_KEY_RELEASE}})
+            xcb_test_fake_input(desktop.connection(), type, kD, XCB_CURRENT_TIME, desktop.root(), 0, 0, 0);
+        xcb_flush(desktop.connection());
+    };
+    // A round in which even a bare key was late says nothing about the worst case: the machine was busy.
+    bool isFast = false;
+    bool wasQuiet = false;
     double bestMedian = 1e9;
-    for (int round = 0; round < 10 && bestMedian > 1; ++round) {  // other programs may keep the machine busy
+    for (int round = 0; round < 10 && !isFast; ++round) {
         std::vector<double> times;
+        double worstOfBareKeys = 0;
         for (int i = 0; i < 1000; ++i) {
-            const auto began = std::chrono::steady_clock::now();
-            actions.run(ActionKind::keyboardShortcut);
-            ASSERT_TRUE(window.waitForKey(kC));
-            times.push_back(
-                std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - began).count());
+            times.push_back(timed([this] { actions.run(ActionKind::keyboardShortcut); }, kC));
+            worstOfBareKeys = std::max(worstOfBareKeys, timed(bareKey, kD));
         }
         std::ranges::sort(times);
         std::cout << "from the decision to the client: median " << times[500] << " ms, worst " << times.back()
-                  << " ms of 1000\n";
+                  << " ms of 1000; a bare key: worst " << worstOfBareKeys << " ms\n";
+        isFast = times[500] <= 1 && times.back() <= 5;
+        wasQuiet |= worstOfBareKeys <= 1;
         bestMedian = std::min(bestMedian, times[500]);
     }
     EXPECT_TRUE(kIsInstrumented || bestMedian <= 1) << bestMedian;
+    EXPECT_TRUE(kIsInstrumented || isFast || !wasQuiet);
 }
 
 TEST_F(ActionEndurance, DoesNotWaitForAServerThatHangs) {

@@ -216,7 +216,7 @@ TEST_F(FileUserDefaultsTest, SavesThroughSymbolicLinks) {
 }
 
 TEST_F(FileUserDefaultsTest, ProcessesThatWriteAtOnceLoseNothing) {
-    constexpr int kWriters = 3, kWrites = 15;
+    constexpr int kWriters = 3, kWrites = 40;
     std::vector<pid_t> writers;
     for (int writer = 0; writer < kWriters; ++writer) {
         writers.push_back(::fork());
