@@ -22,17 +22,17 @@ struct RulesInForce {
     ShellCommands shellCommands = ShellCommands::forbidden;
 };
 
-/// The rules of the file that the request names, else the stored ones.
-Result<RulesInForce> rulesInForce(const Console& console, const ReplayRequest& request, StoredSettings* settings) {
-    if (!request.rules.empty()) {
-        auto rules = readRuleFile(request.rules, console.in);
-        if (!rules)
-            return rules.error();
-        return RulesInForce{std::move(*rules), request.shellCommands};
-    }
-    const RuleStore store(settings->defaults());
-    settings->check(store);
-    return RulesInForce{store.rules().value(), ShellCommandSettings::isEnabled(settings->defaults())
+Result<RulesInForce> rulesOfFile(const Console& console, const ReplayRequest& request) {
+    auto rules = readRuleFile(request.rules, console.in);
+    if (!rules)
+        return rules.error();
+    return RulesInForce{std::move(*rules), request.shellCommands};
+}
+
+RulesInForce storedRules(StoredSettings& settings) {
+    const RuleStore store(settings.defaults());
+    settings.check(store);
+    return RulesInForce{store.rules().value(), ShellCommandSettings::isEnabled(settings.defaults())
                                                    ? ShellCommands::allowed
                                                    : ShellCommands::forbidden};
 }
@@ -73,10 +73,10 @@ ExitStatus replay(const Console& console, Desktop& desktop, const ReplayRequest&
     std::optional<StoredSettings> settings;
     if (request.rules.empty() || request.performing == Performing::performed)
         settings.emplace(console, desktop);
-    auto inForce = rulesInForce(console, request, settings ? &*settings : nullptr);
+    auto inForce = request.rules.empty() ? storedRules(settings.value()) : rulesOfFile(console, request);
     if (!inForce)
         return console.fail(inForce.error().message);
-    ExitStatus status = request.rules.empty() ? settings->status() : ExitStatus::success;
+    ExitStatus status = request.rules.empty() ? settings.value().status() : ExitStatus::success;
     const auto file = RecordingFile::open(console, request.recording, request.device);
     if (!file)
         return console.fail(file.error().message);

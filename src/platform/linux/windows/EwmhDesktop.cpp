@@ -35,7 +35,7 @@ std::optional<EwmhWindow> EwmhDesktop::activeWindow(Seconds timeout) {
     // Query the window that was active last in the same round trip: it usually still is.
     EwmhWindowQuery usual(m_connection, m_lastActive);
     const auto active = m_connection.items(activeCookie, XCB_ATOM_WINDOW, deadline);
-    const auto window = usual.answer(deadline);
+    auto window = usual.answer(deadline);
     if (!active || active->empty() || (*active)[0] == 0)
         return std::nullopt;
     if ((*active)[0] == usual.window())

@@ -11,7 +11,7 @@ namespace {
 class DesktopOwnWindow : public OwnWindow {
   public:
     DesktopOwnWindow(EwmhDesktop& desktop, EwmhSnapshot snapshot, EwmhWindow window)
-        : m_desktop(desktop), m_snapshot(std::move(snapshot)), m_window(window) {}
+        : m_desktop(desktop), m_snapshot(std::move(snapshot)), m_window(std::move(window)) {}
 
     bool isPanel() override { return m_window.isModal || m_window.type == EwmhWindowType::other; }
     bool isMiniaturized() override { return m_window.isHidden; }
