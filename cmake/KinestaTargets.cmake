@@ -59,6 +59,25 @@ function(kinesta_module name)
     endif()
 endfunction()
 
+# kinesta_qt_module(NAME [PUBLIC libs...] [PRIVATE libs...]): the same for a module that uses Qt.
+function(kinesta_qt_module name)
+    cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+        ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
+    string(REPLACE "/" "_" target kinesta_${name})
+    add_library(${target} STATIC ${sources})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    # Text becomes a QString by name only, and Qt's macros for signals do not take these words from everybody.
+    target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
+    target_link_libraries(${target} PUBLIC kinesta_options Threads::Threads Qt6::Widgets ${ARG_PUBLIC}
+        PRIVATE ${ARG_PRIVATE})
+    if(name STREQUAL "platform/qt")
+        target_precompile_headers(${target} PRIVATE <QtWidgets> ${KINESTA_COMMON_HEADERS})
+    else()
+        target_precompile_headers(${target} REUSE_FROM kinesta_platform_qt)
+    endif()
+endfunction()
+
 # kinesta_test(NAME LIBRARIES libs... [TIMEOUT seconds] [SERIAL]): the GoogleTest program of tests/NAME, with each test
 # known to CTest. SERIAL tests run while no other test runs.
 function(kinesta_test name)

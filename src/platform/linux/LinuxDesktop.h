@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "app/Desktop.h"
+#include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxActions.h"
 #include "platform/linux/LinuxTrackpad.h"
 #include "platform/linux/process/PosixHomeFolders.h"
@@ -30,9 +31,12 @@ class LinuxDesktop final : public Desktop {
         static Places current();
     };
 
-    /// Main loop and cue must outlive this.
-    LinuxDesktop(MainLoop& mainLoop, ActionCuePresenting& cue, Places places)
-        : m_mainLoop(mainLoop), m_cue(cue), m_places(std::move(places)) {}
+    /// The main loop must outlive this.
+    LinuxDesktop(MainLoop& mainLoop, Places places) : m_mainLoop(mainLoop), m_places(std::move(places)) {}
+
+    /// Shows the cue of each action. Without it, none is shown. Must be called before actionPorts(); `cue` must outlive
+    /// every action.
+    void setCue(ActionCuePresenting& cue) { m_cue = &cue; }
 
     MainLoop& mainLoop() override { return m_mainLoop; }
     const Clock& clock() const override { return m_clock; }
@@ -58,7 +62,7 @@ class LinuxDesktop final : public Desktop {
     ConnectedTrackpads connectedTrackpads() override;
 
     void onActionProblem(Tell tell, ProgramOutput output) override;
-    ActionPorts actionPorts(const UserDefaults& settings) override { return actions().ports(settings, m_cue); }
+    ActionPorts actionPorts(const UserDefaults& settings) override { return actions().ports(settings, *m_cue); }
     void prepareToPost() override { actions().prepareToPost(); }
     ApplicationNotifications& notifications() override { return actions().notifications(); }
     WindowActionOutcomes& windowOutcomes() override { return actions().windowOutcomes(); }
@@ -76,7 +80,8 @@ class LinuxDesktop final : public Desktop {
     LinuxActions& actions();
 
     MainLoop& m_mainLoop;
-    ActionCuePresenting& m_cue;
+    NoActionCue m_noCue;
+    ActionCuePresenting* m_cue = &m_noCue;
     Places m_places;
     SteadyClock m_clock;
     PosixHomeFolders m_homeFolders;
