@@ -11,6 +11,8 @@ enum class ApplicationEvent {
     /// Any window of the application is about to close or has been hidden by the system.
     windowWillClose,
     windowDidBecomeKey,
+    /// The configuration window was shown, hidden, miniaturized or brought back.
+    windowDidChangeVisibility,
     didBecomeActive,
     /// The machine has woken from sleep.
     didWake,

@@ -9,8 +9,6 @@ class ConfigurationWindow {
 
     /// Whether it has been made.
     virtual bool exists() const = 0;
-    /// Makes and shows it.
-    virtual void open() = 0;
     /// False while it is closed or hidden; a miniaturized window may be either.
     virtual bool isVisible() const = 0;
     virtual bool isMiniaturized() const = 0;
@@ -20,6 +18,8 @@ class ConfigurationWindow {
     virtual void makeKeyAndOrderFront() = 0;
     /// Hides it without asking anything.
     virtual void orderOut() = 0;
+    /// Closes it as its close button does.
+    virtual void performClose() = 0;
 };
 
 }  // namespace kinesta

@@ -1,11 +1,13 @@
 #include "support/Picture.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
-#include <optional>
-#include <string>
+#include <utility>
+
+#include "support/Text.h"
 
 namespace kinesta {
 namespace {
@@ -49,25 +51,11 @@ class PathReader {
         while (length < m_text.size() &&
                (std::isdigit(static_cast<unsigned char>(m_text[length])) != 0 || (m_text[length] == '.' && !hasPoint)))
             hasPoint = m_text[length++] == '.' || hasPoint;
-        if (length == 0)
-            std::abort();
-        // Not strtod, which expects the decimal point of the locale.
-        double value = 0;
-        double scale = 0;
-        for (const char digit : m_text.substr(m_text.starts_with('-') ? 1 : 0, length)) {
-            if (digit == '.') {
-                scale = 1;
-            } else if (std::isdigit(static_cast<unsigned char>(digit)) != 0) {
-                value = value * 10 + (digit - '0');
-                scale *= 10;
-            } else {
-                break;
-            }
-        }
-        value /= scale > 1 ? scale : 1;
-        const bool isNegative = m_text.starts_with('-');
+        const auto value = parsedNumber(m_text.substr(0, length));
         m_text.remove_prefix(length);
-        return isNegative ? -value : value;
+        if (!value)
+            std::abort();
+        return *value;
     }
 
     Point point(bool isRelative) {
