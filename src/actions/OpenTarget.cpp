@@ -103,7 +103,8 @@ std::string webHost(std::string_view text) {
     if (const auto at = text.rfind('@'); at != std::string_view::npos)
         text.remove_prefix(at + 1);
     // The colons of an IPv6 address stand in brackets.
-    if (const auto port = text.rfind(':'); port != std::string_view::npos && text.find(']', port) == text.npos)
+    if (const auto port = text.rfind(':');
+        port != std::string_view::npos && text.find(']', port) == std::string_view::npos)
         text = text.substr(0, port);
     return std::string(text);
 }
