@@ -7,7 +7,7 @@
 namespace kinesta {
 
 JsonBundleInformation::JsonBundleInformation(const std::filesystem::path& file) {
-    constexpr qint64 kMostBytes = 64 * 1024;
+    constexpr qint64 kMostBytes = qint64{64} * 1024;
     QFile input(QString::fromStdString(file.string()));
     if (!input.open(QIODevice::ReadOnly))
         return;

@@ -44,7 +44,7 @@ void SecureDownload::Later::operator()(QNetworkReply* reply) const {
 
 SecureDownload::SecureDownload(QNetworkAccessManager& network, const std::string& url, Limits limits, Handlers handlers)
     : m_limits(limits), m_handlers(std::move(handlers)), m_reply(network.get(requestFor(url, limits.silence))) {
-    m_reply->setReadBufferSize(256 * 1024);
+    m_reply->setReadBufferSize(qint64{256} * 1024);
     QObject::connect(m_reply.get(), &QNetworkReply::readyRead, m_reply.get(), [this] { read(); });
     QObject::connect(m_reply.get(), &QNetworkReply::finished, m_reply.get(), [this] {
         if (m_reply->error() == QNetworkReply::OperationCanceledError)
