@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #include <iostream>
@@ -255,7 +256,11 @@ struct DaemonOnADesktop : LiveCommands {
         std::filesystem::create_directory_symlink(kinesta.folder.path() / "settings",
                                                   folderOf("XDG_CONFIG_HOME") / "kinesta");
     }
-    std::unique_ptr<ChildProcess> start() const { return desktop.start({KINESTA_PROGRAM, "daemon", "--verbose"}); }
+    std::unique_ptr<ChildProcess> start(const Events& options = {}) const {
+        Events command{KINESTA_PROGRAM, "daemon", "--verbose"};
+        command.insert(command.end(), options.begin(), options.end());
+        return desktop.start(command);
+    }
 
     /// Waits for a line that contains `text`.
     static ::testing::AssertionResult says(ChildProcess& daemon, const std::string& text) {
@@ -308,6 +313,54 @@ TEST_F(DaemonOnADesktop, RunsOnceAtATimeAndWithoutAHome) {
                                          "TMPDIR=" + kinesta.folder.path().string(), KINESTA_PROGRAM, "daemon"});
     EXPECT_TRUE(says(*homeless, "1 of 1 rules are on."));
     EXPECT_TRUE(says(*homeless, "  Nothing can be saved; what changes lasts only until Kinesta quits: /proc/nowhere"));
+}
+
+TEST_F(DaemonOnADesktop, ReadsAStreamInPlaceOfTheTrackpad) {
+    const std::string pad = kinesta.folder / "pad";
+    ASSERT_EQ(::mkfifo(pad.c_str(), 0600), 0);
+    const auto listen = [&] {
+        auto daemon = start({"--trackpad", pad});
+        EXPECT_TRUE(says(*daemon, "Trackpad listening: pad (" + pad + ")"));
+        return daemon;
+    };
+    const auto tap = [](int milliseconds, const std::string& contacts) {
+        return "{\"t\":" + std::to_string(milliseconds) + "e-3,\"touches\":[" + contacts +
+               "]}\n{\"t\":" + std::to_string(milliseconds + 50) + "e-3,\"touches\":[]}\n";
+    };
+    const std::string header = "{\"kinesta\":\"recording\",\"version\":1}\n";
+    const std::string two = "[1,0.4,0.5],[2,0.5,0.5]";
+    const std::string three = two + ",[3,0.6,0.5]";
+    {
+        const auto daemon = listen();
+        std::ofstream writer(pad);
+        const std::string text = header + tap(5000, three);
+        writer << text.substr(0, 60) << std::flush;
+        writer << text.substr(60) << std::flush;
+        EXPECT_TRUE(says(*daemon, "3-finger single tap")) << "while the stream is silent";
+        set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", false); });
+        EXPECT_TRUE(says(*daemon, "Gesture recognition is off"));
+        writer << tap(6000, three);
+        for (int i = 0; i < 4000; ++i)  // more than a pipe holds
+            writer << "{\"t\":6.05,\"touches\":[]}\n";
+        writer << std::flush;
+        set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", true); });
+        EXPECT_TRUE(says(*daemon, "Trackpad listening: pad"));
+        EXPECT_TRUE(says(*daemon, "rules are on."));
+        writer << tap(7000, two) << "no event\n" << std::flush;
+        EXPECT_NE(daemon->readLine().value_or("").find("2-finger single tap"), std::string::npos);
+        EXPECT_TRUE(says(*daemon, "The trackpad recording cannot be read: " + pad + ":4008: "));
+    }
+    {
+        const auto daemon = listen();
+        std::ofstream(pad) << header << tap(0, two);
+        EXPECT_TRUE(says(*daemon, "2-finger single tap")) << "though the end came before";
+        EXPECT_TRUE(says(*daemon, "The trackpad recording " + pad + " has ended."));
+    }
+    const auto daemon = listen();
+    daemon->signal(SIGTERM);
+    EXPECT_TRUE(daemon->waitForEnd()) << "while nobody has written";
+    const auto without = start({"--trackpad", pad + "-missing"});
+    EXPECT_TRUE(says(*without, "The trackpad recording " + pad + "-missing cannot be opened: No such file"));
 }
 
 TEST_F(DaemonOnADesktop, StartsAtOnceAndStaysSmall) {

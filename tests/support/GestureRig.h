@@ -7,6 +7,7 @@
 #include "input/PointerEventBroadcaster.h"
 #include "input/TrackpadContactProviding.h"
 #include "recognition/MultitouchService.h"
+#include "support/ArrivalClock.h"
 #include "support/FakeUserDefaults.h"
 #include "support/PadScript.h"
 #include "support/Text.h"
@@ -51,7 +52,8 @@ struct GestureRig {
     FakeContactProvider provider;
     PointerEventBroadcaster pointer;
     VirtualMainThread mainThread;
-    VirtualClock clock{mainThread};
+    VirtualClock virtualClock{mainThread};
+    ArrivalClock clock{virtualClock};
     /// Each with its time, joined by "; ": "0.37 singleTap of 2", "0.5 edgeSlide of 2 left -1",
     /// "2.1 anchorDraw topLeft lineUp".
     std::string gestures;
