@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "rules/GestureDescription.h"
 #include "support/GestureRig.h"
 
 namespace kinesta::testing {
@@ -10,65 +9,51 @@ namespace {
 
 using Source = RecordedPad::Source;
 
-/// Recognition on a recorded pad, from 1000 s in virtual time.
-struct Player {
-    explicit Player(Source source) : pad(mainThread, clock, source, {.begin = [] {}, .taken = [this] { ++taken; }}) {
-        pad.setWatcher([this](const PadEvent& event) { add(numberText(event.time)); });
+/// Recognition on a recorded pad. Lists the time stamps of events with the times of their delivery, too.
+struct Player : GestureRig {
+    explicit Player(Source source)
+        : pad(mainThread, virtualClock, source, {.begin = [] {}, .taken = [this] { ++taken; }}) {
+        pad.setWatcher([this](const PadEvent& event) { add(event.time); });
         pad.setStatusHandler([this] { add(pad.status().message); });
-        service.onEveryGesture([this](const DetectedGesture& gesture) { add(describe(gesture)); });
-        service.start();
+        launch(pad, pad.pointerEvents(), pad.clock());
     }
-    void take(const PadScript& script) {
-        for (const RecordingEvent& event : script.events())
-            pad.take(event);
+    ~Player() { service.reset(); }  // before the pad
+    /// Takes the script at once, then lets time pass. Returns what happened.
+    std::string playUntil(Seconds time, const PadScript& script = {}) {
+        std::ranges::for_each(script.events(), [this](const RecordingEvent& event) { pad.take(event); });
+        runUntil(time);
+        return std::exchange(gestures, {});
     }
-    void runUntil(Seconds time) { mainThread.advanceTo(VirtualMainThread::Time(std::llround(time * 1e9))); }
-    void add(const std::string& what) { told += numberText(clock.wallClock()) + " " + what + "; "; }
 
-    VirtualMainThread mainThread{std::chrono::seconds(1000)};
-    VirtualClock clock{mainThread};
-    FakeUserDefaults defaults;
     int taken = 0;
-    /// What was delivered when: the time stamps of events, gestures, the end.
-    std::string told;
     RecordedPad pad;
-    MultitouchService service{defaults, pad, pad.pointerEvents(), mainThread, pad.clock()};
 };
 
 TEST(RecordedPad, KeepsThePaceAndATapWaitsForNoFurtherEvent) {
     Player player(Source::live);
-    player.take(PadScript().at(50).land(3).at(50.125).upAll());
-    player.runUntil(1002);
-    EXPECT_EQ(player.told, "1000 1000; 1000.125 1000.125; 1000.375 3-finger single tap; ");
-    player.told.clear();
+    EXPECT_EQ(player.playUntil(2, PadScript().at(50).land(3).at(50.125).upAll()),
+              "0 0; 0.125 0.125; 0.375 singleTap of 3");
     // Late, but recorded as a double tap. The click came a second after the fingers had gone.
-    player.take(PadScript().tap(50.5, 2).tap(50.625, 2).click(51.625, 51.75).at(52.5).land(1));
+    player.playUntil(2, PadScript().tap(50.5).tap(50.625).click(51.625, 51.75).at(52.5).land(1));
     player.pad.end("The end.");
-    player.runUntil(1004);
-    EXPECT_EQ(player.told,
-              "1002 1000.45; 1002 1000.5; 1002 1000.575; 1002 1000.625; 1002 1001.625; 1002 1001.75; "
-              "1002.25 2-finger double tap; 1002.5 1002.5; 1003 The end.; ");
-    EXPECT_EQ(player.taken, 9);
+    EXPECT_EQ(player.playUntil(4),
+              "2 0.45; 2 0.5; 2 0.575; 2 0.625; 2 1.625; 2 1.75; 2.25 doubleTap of 2; 2.5 2.5; 3 The end.");
 }
 
 TEST(RecordedPad, DropsWhatArrivesWhileStopped) {
     // A file goes on at its pace; what a writer has sent by then is gone.
-    for (const auto& [source, after] : {std::pair(Source::file, "1002.5 1002.5; "), std::pair(Source::live, "")}) {
+    for (const auto& [source, taken, after] : {std::tuple(Source::file, 2, "2.5 2.5"), {Source::live, 3, ""}}) {
         Player player(source);
-        player.take(PadScript().at(0).land(3).at(1.5).upAll().at(2.5).land(3));
-        player.runUntil(1001);
-        player.service.stop();
-        EXPECT_EQ(player.taken, source == Source::live ? 3 : 1);
-        player.runUntil(1002);
-        EXPECT_EQ(player.taken, source == Source::live ? 3 : 2);
-        player.service.start();
-        player.runUntil(1003);
-        EXPECT_EQ(player.told, std::string("1000 1000; ") + after);
-        player.service.stop();
+        player.playUntil(1, PadScript().at(0).land(3).at(1.5).upAll());
+        player.service->stop();
+        EXPECT_EQ(player.playUntil(2, PadScript().at(2.5).land(3)), "");
+        EXPECT_EQ(player.taken, taken);
+        player.service->start();
+        EXPECT_EQ(player.playUntil(3), after);
+        player.service->stop();
         player.pad.end("The end.");
-        player.runUntil(1004);
-        player.service.start();
-        EXPECT_EQ(player.service.status().value(), MultitouchService::Status::unavailable("The end."));
+        player.service->start();
+        EXPECT_EQ(player.service->status().value(), MultitouchService::Status::unavailable("The end."));
     }
 }
 

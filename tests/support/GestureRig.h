@@ -60,8 +60,10 @@ struct GestureRig {
     std::optional<MultitouchService> service;
 
     /// Makes the service, as at the start of the application.
-    MultitouchService& launch() {
-        service.emplace(defaults, provider, pointer, mainThread, clock);
+    MultitouchService& launch() { return launch(provider, pointer, clock); }
+    MultitouchService& launch(TrackpadContactProviding& contacts, PointerEventMonitoring& clicks,
+                              const Clock& arrival) {
+        service.emplace(defaults, contacts, clicks, mainThread, arrival);
         service->onTap = [this](const DetectedTap& tap) { add(rawValue(tap.gesture), " of ", tap.fingerCount); };
         service->onEdgeSlide = [this](const DetectedEdgeSlide& slide) {
             add("edgeSlide of ", slide.fingerCount, " ", rawValue(slide.side), slide.steps > 0 ? " +" : " ",
@@ -102,7 +104,7 @@ struct GestureRig {
         }
     }
 
-  private:
+  protected:
     template <typename... Parts>
     void add(const Parts&... parts) {
         std::ostringstream text;
@@ -110,6 +112,8 @@ struct GestureRig {
         (text << ... << parts);
         gestures += text.str();
     }
+
+  private:
     void change(const RecordedSettings& settings) {
         if (settings.gesturesEnabled)
             service->setGestureEnabled(*settings.gesturesEnabled);

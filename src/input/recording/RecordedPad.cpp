@@ -56,7 +56,8 @@ void RecordedPad::take(RecordingEvent event) {
 
 void RecordedPad::end(std::string why) {
     m_end = std::move(why);
-    if (!m_first)
+    const bool mayAnythingWait = m_first && m_status == TrackpadContactProviderStatus::listening();
+    if (!mayAnythingWait && m_pending.empty())
         finish();
     else if (m_pending.empty())
         proceedLater();
