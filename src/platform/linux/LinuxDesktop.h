@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "app/Desktop.h"
@@ -58,6 +59,7 @@ class LinuxDesktop final : public Desktop {
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
 
+    void useStream(std::string path) override { m_stream = std::move(path); }
     LiveTrackpad& trackpad() override;
     ConnectedTrackpads connectedTrackpads() override;
 
@@ -88,13 +90,14 @@ class LinuxDesktop final : public Desktop {
     Tell m_onSettingsProblem;
     Tell m_onActionProblem;
     ProgramOutput m_programOutput = ProgramOutput::nowhere;
+    std::optional<std::string> m_stream;
     // Created at first use. Members that start threads come after the signals, because threads inherit the signal mask.
     std::optional<TerminalTakeover> m_terminal;
     std::optional<SignalListener> m_signals;
     std::optional<SingleInstance> m_instance;
     std::optional<FileUserDefaults> m_defaults;
     std::optional<LinuxActions> m_actions;
-    std::optional<LinuxTrackpad> m_trackpad;
+    std::unique_ptr<LiveTrackpad> m_trackpad;
     std::optional<FileWatcher> m_watcher;
 };
 
