@@ -4,14 +4,12 @@
 #include <libevdev/libevdev.h>
 #include <linux/input.h>
 #include <poll.h>
-#include <unistd.h>
 
 #include <array>
 #include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace kinesta::vm {
 
@@ -99,14 +97,8 @@ class VirtualTouchpad {
     }
     VirtualTouchpad& key(int code, bool isDown) { return add(EV_KEY, code, isDown ? 1 : 0); }
 
-    /// Sends all changes since the last report.
-    void report() {
-        add(EV_SYN, SYN_REPORT, 0);
-        const std::size_t size = m_events.size() * sizeof(input_event);
-        const ssize_t written = ::write(libevdev_uinput_get_fd(m_device.get()), m_events.data(), size);
-        require(written == static_cast<ssize_t>(size), "the report was not taken");
-        m_events.clear();
-    }
+    /// Readers get all changes since the last report.
+    void report() { add(EV_SYN, SYN_REPORT, 0); }
 
     /// One finger touches the middle.
     void touch(int trackingId) {
@@ -121,17 +113,12 @@ class VirtualTouchpad {
     }
 
   private:
-    VirtualTouchpad& add(int type, int code, int value) {
-        input_event event{};
-        event.type = static_cast<__u16>(type);
-        event.code = static_cast<__u16>(code);
-        event.value = value;
-        m_events.push_back(event);
+    VirtualTouchpad& add(unsigned type, int code, int value) {
+        require(libevdev_uinput_write_event(m_device.get(), type, static_cast<unsigned>(code), value) == 0, "no event");
         return *this;
     }
 
     VirtualDevice m_device;
-    std::vector<input_event> m_events;
 };
 
 }  // namespace kinesta::vm

@@ -97,13 +97,18 @@ TEST_F(WindowClosing, LeavesSpecialWindowsAlone) {
     EXPECT_TRUE(actions.closes()) << "all is allowed where nothing is listed";
     EXPECT_EQ(stubborn.events(), "close");
 
-    desktop.minimize(window.id());
+    const auto before = desktop.frame(window.id());
+    for (const TestWindow* each : {&stubborn, &window})
+        desktop.minimize(each->id());
     desktop.pretendActive(window.id());
     EXPECT_FALSE(actions.closes()) << "minimized";
+    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill)) << "minimized";
     EXPECT_EQ(window.events(), "");
+    desktop.activate(window.id());
+    EXPECT_TRUE(eventually([&] { return desktop.frame(window.id()) == before; }));
 }
 
-TEST_F(WindowClosing, ClosesNothingOnceThePersonHasGoneElsewhere) {
+TEST_F(WindowClosing, ClosesAndTilesNothingOnceThePersonHasGoneElsewhere) {
     const auto connection = TestWindow::connect(desktop);
     TestWindow first(desktop, {100, 100, 300, 200}, connection);
     TestWindow sibling(desktop, {300, 300, 300, 200}, connection);
@@ -111,6 +116,11 @@ TEST_F(WindowClosing, ClosesNothingOnceThePersonHasGoneElsewhere) {
     for (TestWindow* each : {&sibling, &stranger, &first})
         each->show();
     const auto told = [&] { return first.events() + sibling.events() + stranger.events(); };
+    const auto places = [&] { return std::pair(desktop.frame(first.id()), desktop.frame(stranger.id())); };
+    const auto before = places();
+    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill, [&] { desktop.activate(stranger.id()); }));
+    EXPECT_EQ(told(), "");
+    EXPECT_EQ(places(), before);
     for (TestWindow* other : {&stranger, &sibling}) {
         desktop.activate(first.id());
         EXPECT_FALSE(actions.closes([&] { desktop.activate(other->id()); }));

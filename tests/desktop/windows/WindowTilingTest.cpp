@@ -205,24 +205,6 @@ TEST_F(WindowTiling, KeepsWindowsWithSizeLimitsOnTheScreen) {
     EXPECT_TRUE(eventually([&] { return desktop.client(shadowed.id()) == WindowRectangle{630, -8, 662, 822}; }));
 }
 
-TEST_F(WindowTiling, TouchesNothingOnceThePersonHasGoneElsewhere) {
-    TestWindow first(desktop, {100, 100, 300, 200});
-    TestWindow stranger(desktop, {600, 100, 300, 200});
-    stranger.show();
-    first.show();
-    const auto before = desktop.frame(first.id());
-    const auto strangerBefore = desktop.frame(stranger.id());
-    EXPECT_FALSE(actions.tiles(Command::fill, [&] { desktop.activate(stranger.id()); }));
-    desktop.minimize(first.id());
-    desktop.minimize(stranger.id());
-    desktop.pretendActive(first.id());
-    EXPECT_FALSE(actions.tiles(Command::fill)) << "minimized";
-    for (const TestWindow* each : {&first, &stranger})
-        desktop.activate(each->id());
-    EXPECT_TRUE(isAt(first.id(), before));
-    EXPECT_TRUE(isAt(stranger.id(), strangerBefore));
-}
-
 TEST(WindowTilingOnI3, TakesWindowsOutOfTheLayoutAndGivesThemBack) {
     TestDesktop desktop;
     const std::string config = folderOf("HOME") / "i3";
