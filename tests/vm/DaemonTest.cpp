@@ -190,8 +190,7 @@ TEST_F(Daemon, DoctorKnowsHowManyFingersThePadReports) {
     for (const int fingers : {2, 3}) {
         const VirtualTouchpad pad({.slots = 2, .fingers = fingers, .maximumPressure = 1000, .pressureResolution = 10});
         EXPECT_EQ(run("kinesta doctor > said"), fingers == 3);
-        EXPECT_EQ(readText("said").find("tells of 2 fingers at once and no more.") != std::string::npos, fingers == 2)
-            << readText("said");
+        EXPECT_EQ(run("grep 'tells of 2 fingers at once and no more.' said"), fingers == 2);
     }
 }
 
@@ -200,9 +199,8 @@ TEST_F(Daemon, MonitorPerformsNothingAndDoctorIsContent) {
     EXPECT_TRUE(run("kinesta devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));
     for (const bool isWayland : {false, true}) {
         EXPECT_TRUE(run("kinesta doctor > said"));
-        EXPECT_NE(readText("said").find("✓ Touchpad: Virtual Touchpad at /dev/input/"), std::string::npos);
-        EXPECT_EQ(readText("said").find("also reads it while this desktop has it switched off") != std::string::npos,
-                  isWayland);
+        EXPECT_TRUE(run("grep '✓ Touchpad: Virtual Touchpad at /dev/input/' said"));
+        EXPECT_EQ(run("grep 'also reads it while this desktop has it switched off' said"), isWayland);
         setenv("WAYLAND_DISPLAY", "wayland-0", 1);
     }
     ChildProcess monitor("kinesta monitor");

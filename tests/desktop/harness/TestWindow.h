@@ -20,8 +20,10 @@ class TestWindow {
     }
 
     /// `place` is that of the window without its frame. It is hidden until show().
-    TestWindow(const TestDesktop& desktop, const WindowRectangle& place, Connection connection)
-        : m_desktop(desktop), m_connection(std::move(connection)), m_window(xcb_generate_id(m_connection.get())) {
+    TestWindow(const TestDesktop& desktop, const WindowRectangle& place, const Connection& connection = nullptr)
+        : m_desktop(desktop),
+          m_connection(connection ? connection : connect(desktop)),
+          m_window(xcb_generate_id(m_connection.get())) {
         const std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE |
                                      XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE;
         xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, m_window, desktop.root(),
@@ -32,8 +34,6 @@ class TestWindow {
         setSizes({1, 1}, {32767, 32767});
         setAtoms("WM_PROTOCOLS", {"WM_DELETE_WINDOW"});
     }
-    TestWindow(const TestDesktop& desktop, const WindowRectangle& place)
-        : TestWindow(desktop, place, connect(desktop)) {}
     TestWindow(const TestWindow&) = delete;
     TestWindow& operator=(const TestWindow&) = delete;
     ~TestWindow() {
