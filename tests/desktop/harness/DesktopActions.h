@@ -69,9 +69,8 @@ class DesktopActions {
     /// Posts a key with these flags and returns once the server has taken it.
     void stroke(std::uint16_t code, std::uint64_t flags) {
         auto& events = ports().events;
-        const auto down = events.makeKeyEvent(nullptr, code, KeyTransition::down);
-        const auto up = events.makeKeyEvent(nullptr, code, KeyTransition::up);
-        for (const auto& event : {down.get(), up.get()}) {
+        for (const auto transition : {KeyTransition::down, KeyTransition::up}) {
+            const auto event = events.makeKeyEvent(nullptr, code, transition);
             event->setFlags(flags);
             event->post();
         }

@@ -29,7 +29,7 @@ struct Posting : ::testing::Test {
 
     /// Presses or releases a key (an evdev code) of the user's keyboard. The server tracks its keys separately from
     /// those of the device through which programs post.
-    void type(std::uint16_t key, int event) {
+    std::string type(std::uint16_t key, int event) {
         constexpr std::uint8_t kKeyboardOfXvfb = 7;
         xcb_connection_t* server = desktop.connection();
         XcbPointer<xcb_input_xi_query_version_reply_t>(
@@ -38,15 +38,10 @@ struct Posting : ::testing::Test {
             server, static_cast<std::uint8_t>(xcb_get_extension_data(server, &xcb_input_id)->first_event + event),
             static_cast<std::uint8_t>(key + 8), XCB_CURRENT_TIME, XCB_NONE, 0, 0, kKeyboardOfXvfb);
         EXPECT_FALSE(XcbPointer<xcb_generic_error_t>(xcb_request_check(server, cookie)));
-    }
-    std::string press(std::uint16_t key) {
-        type(key, XCB_INPUT_DEVICE_KEY_PRESS);
         return window.events();
     }
-    std::string release(std::uint16_t key) {
-        type(key, XCB_INPUT_DEVICE_KEY_RELEASE);
-        return window.events();
-    }
+    std::string press(std::uint16_t key) { return type(key, XCB_INPUT_DEVICE_KEY_PRESS); }
+    std::string release(std::uint16_t key) { return type(key, XCB_INPUT_DEVICE_KEY_RELEASE); }
 
     TestDesktop desktop;
     TestWindow window{desktop, kWholeScreen};

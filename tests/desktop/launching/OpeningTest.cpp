@@ -31,16 +31,13 @@ struct Opening : ::testing::Test {
     Workspace& workspace = actions.ports().workspace;
 };
 
-TEST_F(Opening, HandsAddressesToTheBrowser) {
+TEST_F(Opening, HandsAddressesFilesAndFoldersToTheirPrograms) {
     const LaunchedProgram browser(folder, "browser");
     setenv("BROWSER", browser.path().c_str(), 1);
     for (const char* address : {"HTTPS://kinesta.test/a?b=c&d=%20#e", "http://kinesta.test/'$x'"}) {
         workspace.openURL(address);
         EXPECT_EQ(browser.waitForArguments(), Words{address});
     }
-}
-
-TEST_F(Opening, HandsFilesAndFoldersToTheirPrograms) {
     const LaunchedProgram editor(folder, "editor");
     handle("text/plain", editor);
     for (const char* name : {"two words.txt", "-dash.txt", "Zürich.txt", "it's \"odd\".txt", "a:b.txt"}) {
