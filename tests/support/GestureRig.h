@@ -25,14 +25,8 @@ class FakeContactProvider final : public TrackpadContactProviding {
     FrameHandler frameHandler() const override { return m_handler.handler(); }
     void setFrameHandler(FrameHandler handler) override { m_handler.setHandler(std::move(handler)); }
     TrackpadContactProviderStatus status() const override { return m_status; }
-    void start() override {
-        calls.push_back("start");
-        m_status = statusAfterStart;
-    }
-    void stop() override {
-        calls.push_back("stop");
-        m_status = TrackpadContactProviderStatus::stopped();
-    }
+    void start() override { log("start", statusAfterStart); }
+    void stop() override { log("stop", TrackpadContactProviderStatus::stopped()); }
 
     /// Changes the status, as a connected or removed pad does.
     void becomes(TrackpadContactProviderStatus status) { m_status = std::move(status); }
@@ -41,6 +35,11 @@ class FakeContactProvider final : public TrackpadContactProviding {
     void send(const TrackpadContactFrame& frame) const { m_handler.call(frame); }
 
   private:
+    void log(const char* call, const TrackpadContactProviderStatus& status) {
+        calls.emplace_back(call);
+        m_status = status;
+    }
+
     FrameHandlerSlot m_handler;
     TrackpadContactProviderStatus m_status;
 };
@@ -60,14 +59,18 @@ struct GestureRig {
     /// Makes the service, as at the start of the application.
     MultitouchService& launch() {
         service.emplace(defaults, provider, pointer, mainThread, clock);
-        service->onTap = [this](const DetectedTap& tap) { add(rawValue(tap.gesture), " of ", tap.fingerCount); };
-        service->onEdgeSlide = [this](const DetectedEdgeSlide& slide) {
-            add("edgeSlide of ", slide.fingerCount, " ", rawValue(slide.side), slide.steps > 0 ? " +" : " ",
-                slide.steps);
-        };
-        service->onAnchorDraw = [this](const DetectedAnchorDraw& draw) {
-            add("anchorDraw ", rawValue(draw.corner), " ", rawValue(draw.pattern));
-        };
+        service->onEveryGesture([this](const DetectedGesture& gesture) {
+            std::ostringstream text;
+            text << (gestures.empty() ? "" : "; ") << numberText(clock.wallClock()) << " ";
+            if (const auto* tap = std::get_if<DetectedTap>(&gesture))
+                text << rawValue(tap->gesture) << " of " << tap->fingerCount;
+            else if (const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture))
+                text << "edgeSlide of " << slide->fingerCount << " " << rawValue(slide->side) << " " << std::showpos
+                     << slide->steps;
+            else if (const auto* draw = std::get_if<DetectedAnchorDraw>(&gesture))
+                text << "anchorDraw " << rawValue(draw->corner) << " " << rawValue(draw->pattern);
+            gestures += text.str();
+        });
         service->startIfEnabled();
         return *service;
     }
@@ -101,13 +104,6 @@ struct GestureRig {
     }
 
   private:
-    template <typename... Parts>
-    void add(const Parts&... parts) {
-        std::ostringstream text;
-        text << (gestures.empty() ? "" : "; ") << numberText(clock.wallClock()) << " ";
-        (text << ... << parts);
-        gestures += text.str();
-    }
     void change(const RecordedSettings& settings) {
         if (settings.gesturesEnabled)
             service->setGestureEnabled(*settings.gesturesEnabled);
@@ -115,8 +111,6 @@ struct GestureRig {
             service->setTapWaitingInterval(TapWaitingInterval::fromRawValue(*settings.tapWaitingMilliseconds).value());
         if (settings.cornerPalmRejectionEnabled)
             service->setCornerPalmRejectionEnabled(*settings.cornerPalmRejectionEnabled);
-        if (settings.cornerPalmRejectionSensitivity)
-            service->setCornerPalmRejectionSensitivity(*settings.cornerPalmRejectionSensitivity);
     }
 };
 

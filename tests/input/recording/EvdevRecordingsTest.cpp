@@ -138,8 +138,7 @@ the time 9223372036853 is not within 9.2e9 seconds => [9223372036854775807, 0, 0
 
 /// The identifiers of the fingers and the buttons in their order, without repetition.
 std::string story(const Reading& reading) {
-    std::string story;
-    std::string last;
+    std::string story, last;
     for (const RecordingEvent& event : reading.events) {
         std::string word;
         for (const std::string& part : split(contentText(event), " "))
@@ -152,24 +151,15 @@ std::string story(const Reading& reading) {
 }
 
 TEST(RealRecordings, ShowWhatThePersonDid) {
-    const Reading two = read(exampleText("CyPS2-Cypress-Trackpad.two_finger_tap.events"));
-    EXPECT_EQ(story(two), "391,392 0 ");
-    EXPECT_EQ(contentText(two.events[0]), "391@0.421875,0.6711111111111111 392@0.54125,0.7077777777777778");
-
-    // The pad gave the third finger no slot and the second no place: both lie where the first is.
-    const Reading three = read(exampleText("CyPS2-Cypress-Trackpad.three_finger_tap.events"));
-    EXPECT_EQ(story(three), "393,394,-2 0 ");
-    EXPECT_EQ(eventText(three.events[0]), "1382570952.534113 393@0.40125,0.72 394@0.40125,0.72 -2@0.40125,0.72");
-
-    // Clicks of one, two and three fingers, each finger with one identifier from touch to lift.
-    const Reading clicks = read(exampleText("bcm5974.three-finger-click.events"));
-    EXPECT_EQ(story(clicks), "1 down 1 up 1 0 2 3,2 down 3,2 up 3,2 3 0 4 5,6,4 down 5,6,4 up 5,6,4 6,4 4 0 ");
-
-    const Reading made = read(exampleText("tap-and-click.yml"));
-    EXPECT_EQ(made.header.device, "Example Touchpad");
-    EXPECT_EQ(story(made), "10,11 11 0 12,13,14 down 12,13,14 up 0 ");
-    for (const Reading& reading : {two, three, clicks, made})
-        EXPECT_EQ(reading.error, "");
+    for (const auto& row : tableRows(R"(
+CyPS2-Cypress-Trackpad.two_finger_tap.events => 391,392 0 
+CyPS2-Cypress-Trackpad.three_finger_tap.events => 393,394,-2 0 
+bcm5974.three-finger-click.events => 1 down 1 up 1 0 2 3,2 down 3,2 up 3,2 3 0 4 5,6,4 down 5,6,4 up 5,6,4 6,4 4 0 
+tap-and-click.yml => 10,11 11 0 12,13,14 down 12,13,14 up 0 
+)")) {
+        const Reading reading = read(exampleText(row[0]));
+        EXPECT_EQ(story(reading) + reading.error, row[1]) << row[0];
+    }
 }
 
 }  // namespace
