@@ -37,7 +37,7 @@ class RecordingEventSynthesizer final : public EventSynthesizer {
         const std::string what = "system " + std::to_string(made.subtype) + " " + hex(made.data1) + " " +
                                  std::to_string(made.data2) +
                                  (made.timestamp == m_world.clock.uptime() ? "" : " stale");
-        m_world.clock.advance(0.0625);
+        m_world.advance(0.0625);
         return event(what, true);
     }
 

@@ -12,8 +12,8 @@
 #include "actions/AccessibilityElements.h"
 #include "actions/OwnMenus.h"
 #include "actions/OwnWindows.h"
-#include "support/Clock.h"
 #include "support/Text.h"
+#include "support/VirtualClock.h"
 
 namespace kinesta::testing {
 
@@ -46,21 +46,13 @@ class CallLog {
     Calls m_calls;
 };
 
-/// A clock that moves only by advance().
-class ManualClock final : public Clock {
-  public:
-    Uptime uptime() const override { return m_now; }
-    Seconds wallClock() const override { return m_now; }
-    void advance(Seconds time) { m_now += time; }
-
-  private:
-    Uptime m_now = 1024;  // multiples of 1/16 s stay exact from here
-};
-
 /// What all fakes of a desktop share.
 struct FakeWorld {
+    void advance(Seconds duration) { time.advanceTo(time.now() + wholeNanoseconds(duration)); }
+
     CallLog log;
-    ManualClock clock;
+    VirtualMainThread time{std::chrono::seconds(1024)};
+    VirtualClock clock{time};
     bool areMenusUpdated = false;
 };
 
@@ -132,7 +124,7 @@ class FakeElement final : public AccessibilityElement, public OwnMenuItem, publi
         std::string word = m_node->word(key);
         if (const std::size_t at = word.find('@'); at != std::string::npos) {
             const Seconds delay = std::stod(word.substr(at + 1));
-            m_world.clock.advance(std::min(delay, m_timeout));
+            m_world.advance(std::min(delay, m_timeout));
             if (delay > m_timeout)
                 return AccessibilityFailure{};
             word.resize(at);

@@ -7,37 +7,20 @@
 namespace kinesta {
 namespace {
 
-constexpr int kEnd = std::char_traits<char>::eof();
-constexpr int kBreak = kEnd - 1;
-
 /// An input without a buffer that never says how much it has, like that of a pipe shared with C. After its text it
-/// ends, breaks, as a folder or a failing disk does, or repeats one character for ever, in larger pieces.
-class UnbufferedInput final : public std::streambuf {
-  public:
-    UnbufferedInput(std::string text, int rest) : m_text(std::move(text)), m_rest(rest) {}
-
-    std::size_t given = 0;
-
-  private:
+/// ends, or breaks, as a folder or a failing disk does.
+struct UnbufferedInput final : std::streambuf {
+    UnbufferedInput(std::string content, bool doesBreak) : text(std::move(content)), breaks(doesBreak) {}
     int_type underflow() override {
-        if (given < m_text.size())
-            return traits_type::to_int_type(m_text[given]);
-        if (m_rest == kBreak)
-            throw 5;
-        if (m_rest != kEnd) {
-            m_text.assign(5000, static_cast<char>(m_rest));
-            setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
-            given += m_text.size();
-        }
-        return m_rest;
+        if (at < text.size())
+            return traits_type::to_int_type(text[at]);
+        return breaks ? throw 5 : traits_type::eof();
     }
-    int_type uflow() override {
-        const int_type byte = underflow();
-        return gptr() < egptr() ? gbump(1) : void(++given), byte;
-    }
+    int_type uflow() override { return at < text.size() ? traits_type::to_int_type(text[at++]) : underflow(); }
 
-    std::string m_text;
-    int m_rest;
+    std::string text;
+    bool breaks;
+    std::size_t at = 0;
 };
 
 constexpr std::size_t kLimit = std::size_t{1} << 20;
@@ -60,11 +43,10 @@ const std::string kEveryLine =
 
 TEST(KinestaRecording, GivesItsEventsInOrder) {
     const Reading reading = read(kEveryLine);
-    EXPECT_EQ(reading.error, "");
     EXPECT_EQ(reading.header, (RecordingHeader{"Pad \"7\" \u00e9\U0001F600\u00e9", {false, 250, true, 1}}));
-    EXPECT_EQ(reading.texts(),
-              (Texts{"-1.5 -2147483648@0,1 2147483647@0.25,-0.5 3@0.01,20", "-1.5 no finger received -2", "0 down",
-                     "0 pressure -9223372036854775808", "9.2e+09 settings", "9.2e+09 up"}));
+    EXPECT_EQ(reading.text(), reading.header.device +
+                                  ": -1.5 -2147483648@0,1 2147483647@0.25,-0.5 3@0.01,20; -1.5 no finger received -2; "
+                                  "0 down; 0 pressure -9223372036854775808; 9.2e+09 settings; 9.2e+09 up");
     for (const int milliseconds : {150, 200, 250, 300, 400}) {
         const Reading own = read(R"({"kinesta":"recording","version":1,"settings":{"tapWaitingInterval.v1":)" +
                                  std::to_string(milliseconds) + "}}");
@@ -172,31 +154,32 @@ TEST(KinestaRecording, KeepsOneLineInMemory) {
     }
 }
 
-TEST(Recordings, ReadAnyStream) {
+TEST(Recordings, EndWithTheirStreamAndAtWhatIsTooLong) {
     const std::string broken = ": the input cannot be read", tooLong = ": the line is longer than 1 MiB";
-    const std::tuple<std::string, int, std::string> rows[] = {
-        {exampleText("tip-tap-right.jsonl"), kEnd, ""},
-        {exampleText("CyPS2-Cypress-Trackpad.two_finger_tap.events"), kEnd, ""},
-        {exampleText("tap-and-click.yml"), kEnd, ""},
-        {"", kBreak, "x:1" + broken},
-        {kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", kBreak, "x:2" + broken},
-        {"# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", kBreak, "x:4" + broken},
-        {"version: 1\n", kBreak, "x:1" + broken},
-        {"{", 'a', "x:1" + tooLong},
-        {"", '\n', "x:1048578: the input holds no recording"},
-        {"", ' ', "x:1: the input holds no recording"},
-        {kHeader + "\n{\"t\":1,\"a\":\"", 'a', "x:2" + tooLong},
-        {"# EVEMU 1.2\nN: ", 'a', "x:2" + tooLong},
-        {"version: 1\nname: \"", '\n', "x:2: a value is longer than 1 MiB"},
-        {"version: 1\nname: ", '[', "x:2: values are nested too deeply"},
-    };
-    for (const auto& [text, rest, error] : rows) {
-        UnbufferedInput input(text, rest);
+    for (const auto& [text, error] : {std::pair(exampleText("tip-tap-right.jsonl"), ""),
+                                      {exampleText("CyPS2-Cypress-Trackpad.two_finger_tap.events"), ""},
+                                      {exampleText("tap-and-click.yml"), ""},
+                                      {"", "x:1"},
+                                      {kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", "x:2"},
+                                      {"# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", "x:4"},
+                                      {"version: 1\n", "x:1"}}) {
+        const bool breaks = *error != 0;
+        UnbufferedInput input(text, breaks);
         std::istream stream(&input);
         const Reading reading = read(stream);
-        EXPECT_EQ(reading.error, error) << text;
-        EXPECT_LT(input.given, 2 * kLimit) << text;
-        EXPECT_TRUE(!error.empty() || (reading.events == read(text).events && !reading.events.empty())) << text;
+        EXPECT_EQ(reading.error, breaks ? error + broken : "") << text;
+        EXPECT_TRUE(breaks || (reading.events == read(text).events && !reading.events.empty())) << text;
+    }
+    for (const auto& [text, rest, error] : {std::tuple("{" + std::string(), 'a', "1" + tooLong),
+                                            {"", '\n', "1048578: the input holds no recording"},
+                                            {"", ' ', "1: the input holds no recording"},
+                                            {kHeader + "\n{\"t\":1,\"a\":\"", 'a', "2" + tooLong},
+                                            {"# EVEMU 1.2\nN: ", 'a', "2" + tooLong},
+                                            {"version: 1\nname: \"", '\n', "2: a value is longer than 1 MiB"},
+                                            {"version: 1\nname: ", '[', "2: values are nested too deeply"}}) {
+        std::istringstream stream(text + std::string(3 * kLimit, rest));
+        EXPECT_EQ(read(stream).error, "x:" + error) << text;
+        EXPECT_TRUE(stream && stream.tellg() - std::ssize(text) <= std::streamoff{2 * kLimit}) << text;
     }
 }
 

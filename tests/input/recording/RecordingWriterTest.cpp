@@ -19,6 +19,15 @@ RecordingEvent frame(Seconds time, std::initializer_list<TouchSample> samples, s
     return PadEvent{time, PadFrame{TouchSamples(samples), received}};
 }
 
+std::string written(const RecordingHeader& header, const std::vector<RecordingEvent>& events) {
+    std::ostringstream output;
+    RecordingWriter writer(output);
+    EXPECT_TRUE(writer.writeHeader(header));
+    for (const RecordingEvent& event : events)
+        EXPECT_TRUE(writer.write(event)) << eventText(event);
+    return output.str();
+}
+
 TEST(RecordingWriter, WritesOneLineAnEvent) {
     const std::string text =
         R"({"kinesta":"recording","version":1,"device":"Pad \"7\"\n�","settings":{"gesturesEnabled":true}}
@@ -29,13 +38,8 @@ TEST(RecordingWriter, WritesOneLineAnEvent) {
 {"t":1e+05,"settings":{"tapWaitingInterval.v1":400,"cornerPalmRejectionSensitivity.v1":0.5}}
 )";
     Reading reading = read(text);
-    reading.header.device.replace(reading.header.device.find("\uFFFD"), 3, "\xFF");
-    std::ostringstream output;
-    RecordingWriter writer(output);
-    ASSERT_TRUE(writer.writeHeader(reading.header));
-    for (const RecordingEvent& event : reading.events)
-        ASSERT_TRUE(writer.write(event));
-    EXPECT_EQ(output.str(), text);
+    reading.header.device = "Pad \"7\"\n\xFF";  // not UTF-8
+    EXPECT_EQ(written(reading.header, reading.events), text);
 }
 
 TEST(RecordingWriter, WritesEveryBit) {
@@ -53,16 +57,11 @@ TEST(RecordingWriter, WritesEveryBit) {
     events.push_back(PadEvent{9.2e9, PadPressure{std::numeric_limits<std::int64_t>::min()}});
     events.push_back(SettingsChange{9.2e9, {false, 150, false, Limits::max()}});
     const RecordingHeader header{.device = "é\t\x01 \"\\", .settings = {true, 300, true, -0.0}};
-    std::stringstream stream;
-    RecordingWriter writer(stream);
-    ASSERT_TRUE(writer.writeHeader(header));
-    for (const RecordingEvent& event : events)
-        ASSERT_TRUE(writer.write(event));
-    const Reading reading = read(stream);
+    const Reading reading = read(written(header, events));
     EXPECT_EQ(reading.error, "");
     EXPECT_EQ(reading.header, header);
     EXPECT_TRUE(reading.events == events);
-    EXPECT_TRUE(reading.texts()[0].ends_with("@-0,0 received -9.2e+09")) << reading.texts()[0];
+    EXPECT_TRUE(eventText(reading.events.at(0)).ends_with("@-0,0 received -9.2e+09")) << eventText(reading.events[0]);
 }
 
 TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
@@ -102,25 +101,22 @@ TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
 TEST(ReplayContactProvider, DeliversWhileStarted) {
     ReplayContactProvider provider;
     std::string seen;
-    const auto deliver = [&](Seconds time) { provider.deliver({{}, time}); };
-    const auto note = [&](const TrackpadContactFrame& frame) { seen += numberText(frame.timestamp) + " "; };
-    deliver(0);
-    provider.start();
-    deliver(1);
-    provider.setFrameHandler(note);
-    deliver(2);
-    provider.stop();
-    deliver(3);
-    provider.start();
-    provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
-        provider.stop();
-        provider.setFrameHandler({});
-        note(frame);
-    });
-    deliver(4);
-    deliver(5);
-    EXPECT_EQ(seen, "2 4 ");
+    for (int time = 0; time < 6; ++time) {
+        if (time == 2 || time == 4)
+            provider.start();
+        provider.deliver({{}, static_cast<Seconds>(time)});
+        if (time == 0)
+            provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
+                provider.stop();
+                if (frame.timestamp == 4)
+                    provider.setFrameHandler({});  // replaces the handler that is running
+                seen += numberText(frame.timestamp) + " ";
+            });
+    }
     EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::stopped());
+    provider.start();
+    provider.deliver({{}, 6});
+    EXPECT_EQ(seen, "2 4 ");
 }
 
 }  // namespace
