@@ -98,10 +98,11 @@ TEST_F(RunLoopTest, RunsTheTasksOfOtherThreadsInTheirOrderWhileATimerWaits) {
                         isInOrder = count++ == i && isInOrder;
                         done.release();
                     });
-                    if (threads == 1 || i == kTasks - 1)
-                        for (int waits = threads == 1 ? 1 : kTasks; waits > 0; --waits)
-                            done.acquire();
+                    if (threads == 1)
+                        done.acquire();
                 }
+                for (int waits = threads == 1 ? 0 : kTasks; waits > 0; --waits)
+                    done.acquire();
                 port.post([&] { --left == 0 ? thread.quit() : void(); });
             });
         thread.run();

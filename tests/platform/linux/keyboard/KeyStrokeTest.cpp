@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
-#include <map>
 #include <set>
 #include <sstream>
 
@@ -29,16 +28,13 @@ std::string text(std::span<const InputTransition> transitions) {
     return result;
 }
 
-/// The modifiers of their letters: Shift, Ctrl, Alt, Meta (Super) and another.
+/// Modifiers by the letters of Shift, Ctrl, Alt, Meta (Super) and another.
 DesktopModifiers modifiers(const std::string& letters) {
-    static const std::map<char, DesktopModifiers> meanings{{'S', kShiftModifier},
-                                                           {'C', kControlModifier},
-                                                           {'A', kAltModifier},
-                                                           {'M', kSuperModifier},
-                                                           {'O', kOtherModifier}};
+    constexpr DesktopModifiers kMeanings[] = {kShiftModifier, kControlModifier, kAltModifier, kSuperModifier,
+                                              kOtherModifier};
     DesktopModifiers result = 0;
     for (const char letter : letters)
-        result |= meanings.at(letter);
+        result |= kMeanings[std::string_view("SCAMO").find(letter)];
     return result;
 }
 
