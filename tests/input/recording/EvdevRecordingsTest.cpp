@@ -130,31 +130,5 @@ the time 9223372036853 is not within 9.2e9 seconds => [9223372036854775807, 0, 0
     }
 }
 
-/// The identifiers of the fingers and the buttons in their order, without repetition.
-std::string story(const Reading& reading) {
-    std::string story, last;
-    for (const RecordingEvent& event : reading.events) {
-        std::string word;
-        for (const std::string& part : split(contentText(event), " "))
-            word += (word.empty() ? "" : ",") + part.substr(0, part.find('@'));
-        if (word != last)
-            story += (word == "no,finger" ? "0" : word) + " ";
-        last = word;
-    }
-    return story;
-}
-
-TEST(RealRecordings, ShowWhatThePersonDid) {
-    for (const auto& row : tableRows(R"(
-CyPS2-Cypress-Trackpad.two_finger_tap.events => 391,392 0 
-CyPS2-Cypress-Trackpad.three_finger_tap.events => 393,394,-2 0 
-bcm5974.three-finger-click.events => 1 down 1 up 1 0 2 3,2 down 3,2 up 3,2 3 0 4 5,6,4 down 5,6,4 up 5,6,4 6,4 4 0 
-tap-and-click.yml => 10,11 11 0 12,13,14 down 12,13,14 up 0 
-)")) {
-        const Reading reading = read(exampleText(row[0]));
-        EXPECT_EQ(story(reading) + reading.error, row[1]) << row[0];
-    }
-}
-
 }  // namespace
 }  // namespace kinesta
