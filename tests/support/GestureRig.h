@@ -7,6 +7,7 @@
 #include "input/PointerEventBroadcaster.h"
 #include "input/TrackpadContactProviding.h"
 #include "recognition/MultitouchService.h"
+#include "support/ArrivalClock.h"
 #include "support/FakeUserDefaults.h"
 #include "support/PadScript.h"
 #include "support/Text.h"
@@ -50,27 +51,26 @@ struct GestureRig {
     FakeContactProvider provider;
     PointerEventBroadcaster pointer;
     VirtualMainThread mainThread;
-    VirtualClock clock{mainThread};
+    VirtualClock virtualClock{mainThread};
+    ArrivalClock clock{virtualClock};
     /// Each with its time, joined by "; ": "0.37 singleTap of 2", "0.5 edgeSlide of 2 left -1",
     /// "2.1 anchorDraw topLeft lineUp".
     std::string gestures;
     std::optional<MultitouchService> service;
 
     /// Makes the service, as at the start of the application.
-    MultitouchService& launch() {
-        service.emplace(defaults, provider, pointer, mainThread, clock);
-        service->onEveryGesture([this](const DetectedGesture& gesture) {
-            std::ostringstream text;
-            text << (gestures.empty() ? "" : "; ") << numberText(clock.wallClock()) << " ";
-            if (const auto* tap = std::get_if<DetectedTap>(&gesture))
-                text << rawValue(tap->gesture) << " of " << tap->fingerCount;
-            else if (const auto* slide = std::get_if<DetectedEdgeSlide>(&gesture))
-                text << "edgeSlide of " << slide->fingerCount << " " << rawValue(slide->side) << " " << std::showpos
-                     << slide->steps;
-            else if (const auto* draw = std::get_if<DetectedAnchorDraw>(&gesture))
-                text << "anchorDraw " << rawValue(draw->corner) << " " << rawValue(draw->pattern);
-            gestures += text.str();
-        });
+    MultitouchService& launch() { return launch(provider, pointer, clock); }
+    MultitouchService& launch(TrackpadContactProviding& contacts, PointerEventMonitoring& clicks,
+                              const Clock& arrival) {
+        service.emplace(defaults, contacts, clicks, mainThread, arrival);
+        service->onTap = [this](const DetectedTap& tap) { add(rawValue(tap.gesture), " of ", tap.fingerCount); };
+        service->onEdgeSlide = [this](const DetectedEdgeSlide& slide) {
+            add("edgeSlide of ", slide.fingerCount, " ", rawValue(slide.side), slide.steps > 0 ? " +" : " ",
+                slide.steps);
+        };
+        service->onAnchorDraw = [this](const DetectedAnchorDraw& draw) {
+            add("anchorDraw ", rawValue(draw.corner), " ", rawValue(draw.pattern));
+        };
         service->startIfEnabled();
         return *service;
     }
@@ -101,6 +101,15 @@ struct GestureRig {
         } else {
             pointer.deliver(*pad);
         }
+    }
+
+  protected:
+    template <typename... Parts>
+    void add(const Parts&... parts) {
+        std::ostringstream text;
+        text << (gestures.empty() ? "" : "; ") << numberText(clock.wallClock()) << " ";
+        (text << ... << parts);
+        gestures += text.str();
     }
 
   private:
