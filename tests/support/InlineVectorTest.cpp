@@ -21,10 +21,11 @@ TEST(InlineVector, HoldsWhatAVectorWouldAndStaysInPlaceUpToItsCapacity) {
             model.resize(size);
             list.truncate(size);
         } else if (choice == 2) {
-            const Four copy(list);
-            list = size % 2 == 0 ? Four{9, 9, 9, 9, 9, 9} : Four{9};
-            list = copy;
-            list = *&list;
+            Four assigned = size % 2 == 0 ? Four{9, 9, 9, 9, 9, 9} : Four{9};
+            assigned = list;
+            assigned = *&assigned;
+            const Four copy(assigned);
+            list.assign(copy.view());
         } else if (choice == 3 && size == 0) {
             model.clear();
             list.clear();
