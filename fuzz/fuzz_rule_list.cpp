@@ -8,6 +8,7 @@
 #include "require.h"
 #include "rules/GestureConflictChecker.h"
 #include "rules/GestureRuleCoding.h"
+#include "rules/RuleSelection.h"
 #include "rules/SystemGestureWarningChecker.h"
 
 using namespace kinesta;
@@ -31,6 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         (void)rule.action.summary();
         (void)rule.action.keyboardCueLabel();
         (void)rule.resolvedVisualCueMessage();
+        const DetectedTap tap{rule.fingerCount.value_or(0), rule.gesture};
+        const GestureRule* selected = selectRule(*rules, tap, ShellCommands::allowed);
+        require(!selected || (selected->isEnabled && selected->action.isConfigured()));
     }
     return 0;
 }

@@ -309,11 +309,11 @@ TEST_F(DaemonOnADesktop, RunsOnceAtATimeAndWithoutAHome) {
 TEST_F(DaemonOnADesktop, ReadsAStreamInPlaceOfTheTrackpad) {
     const std::string pad = kinesta.folder / "pad";
     ASSERT_EQ(::mkfifo(pad.c_str(), 0600), 0);
-    std::unique_ptr<ChildProcess> daemon;
+    std::optional<ChildProcess> daemon;
     const auto restart = [&](const std::string& path, const std::string& status) {
         daemon.reset();
-        daemon = desktop.start({KINESTA_PROGRAM, "daemon", "--trackpad", path});
-        EXPECT_TRUE(says(*daemon, status));
+        daemon.emplace(kDaemon + std::string(" --trackpad '") + path + "'");
+        EXPECT_TRUE(daemon->says(status));
     };
     const std::string header = "{\"kinesta\":\"recording\",\"version\":1}\n";
     const auto tap = [](const std::string& t) {
@@ -323,13 +323,13 @@ TEST_F(DaemonOnADesktop, ReadsAStreamInPlaceOfTheTrackpad) {
     {
         std::ofstream writer(pad);
         writer << header << "{\"t\"" << std::flush << tap("5").substr(4) << std::flush;
-        EXPECT_TRUE(says(*daemon, "2-finger single tap")) << "while the stream is silent";
-        set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", false); });
-        EXPECT_TRUE(says(*daemon, "Gesture recognition is off"));
+        EXPECT_TRUE(daemon->says("2-finger single tap")) << "while the stream is silent";
+        settings().setBoolean("gesturesEnabled", false);
+        EXPECT_TRUE(daemon->says("Gesture recognition is off"));
         writer << tap("6") << std::string(200000, '\n') << std::flush;  // more than a pipe holds
-        set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", true); });
-        EXPECT_TRUE(says(*daemon, "Trackpad listening: pad"));
-        EXPECT_TRUE(says(*daemon, "rules are on."));
+        settings().setBoolean("gesturesEnabled", true);
+        EXPECT_TRUE(daemon->says("Trackpad listening: pad"));
+        EXPECT_TRUE(daemon->says("rules are on."));
         writer << tap("7") << "no event\n" << std::flush;
         EXPECT_NE(daemon->readLine().value_or("").find("2-finger single tap"), std::string::npos);
         const std::string bad = "The trackpad recording cannot be read: " + pad + ":200008: ";
@@ -337,7 +337,7 @@ TEST_F(DaemonOnADesktop, ReadsAStreamInPlaceOfTheTrackpad) {
     }
     restart(pad, "listening");
     std::ofstream(pad) << header;
-    EXPECT_TRUE(says(*daemon, "The trackpad recording " + pad + " has ended."));
+    EXPECT_TRUE(daemon->says("The trackpad recording " + pad + " has ended."));
     restart(pad, "listening");
     daemon->signal(SIGTERM);
     EXPECT_TRUE(daemon->waitForEnd()) << "while nobody has written";
