@@ -94,6 +94,7 @@ function(kinesta_test name)
     add_executable(test_${name} ${sources})
     target_link_libraries(test_${name} PRIVATE kinesta_test_support kinesta_test_main ${ARG_LIBRARIES})
     if(ARG_QT)  # compiled as Qt demands, so the precompiled headers of the other tests do not fit
+        set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
         target_precompile_headers(test_${name} PRIVATE <gtest/gtest.h> <QtWidgets> ${KINESTA_COMMON_HEADERS})
     else()
         target_precompile_headers(test_${name} REUSE_FROM kinesta_test_main)

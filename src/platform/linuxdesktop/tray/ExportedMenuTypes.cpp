@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/ExportedMenuTypes.h"
+#include "platform/linuxdesktop/tray/ExportedMenuTypes.h"
 
 #include <QDBusMetaType>
 

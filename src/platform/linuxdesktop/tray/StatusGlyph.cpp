@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/StatusGlyph.h"
+#include "platform/linuxdesktop/tray/StatusGlyph.h"
 
 #include <QPainter>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/StatusNotifierTypes.h"
+#include "platform/linuxdesktop/tray/StatusNotifierTypes.h"
 
 #include <QDBusMetaType>
 

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/XembedTray.h"
+#include "platform/linuxdesktop/tray/XembedTray.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,10 +1,10 @@
-#include "platform/linuxdesktop/StatusNotifierItem.h"
+#include "platform/linuxdesktop/tray/StatusNotifierItem.h"
 
 #include <QImage>
 #include <QtEndian>
 #include <utility>
 
-#include "platform/linuxdesktop/StatusGlyph.h"
+#include "platform/linuxdesktop/tray/StatusGlyph.h"
 
 namespace kinesta {
 namespace {
@@ -19,8 +19,8 @@ StatusPixmap pixmap(const QImage& image) {
 
 }  // namespace
 
-StatusNotifierItem::StatusNotifierItem(const QDBusConnection& bus, const QString& menuPath, Handlers handlers)
-    : m_bus(bus), m_menuPath(menuPath), m_handlers(std::move(handlers)) {
+StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, QString menuPath, Handlers handlers)
+    : m_bus(std::move(bus)), m_menuPath(std::move(menuPath)), m_handlers(std::move(handlers)) {
     registerStatusNotifierTypes();
     m_bus.registerObject(QString::fromLatin1(kPath), this, QDBusConnection::ExportScriptableContents);
 }

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/LinuxStatusItem.h"
+#include "platform/linuxdesktop/tray/LinuxStatusItem.h"
 
 #include <QCursor>
 #include <QGuiApplication>

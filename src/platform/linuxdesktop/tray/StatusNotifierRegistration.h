@@ -18,13 +18,11 @@ class StatusNotifierRegistration final : public QObject {
     using Changed = std::function<void(bool isRegistered)>;
 
     /// The item must be exported already.
-    StatusNotifierRegistration(const QDBusConnection& bus, Changed changed);
-
-  private Q_SLOTS:
-    void watcherChanged(const QString& name, const QString& before, const QString& now);
-    void busLost();
+    StatusNotifierRegistration(QDBusConnection bus, Changed changed);
 
   private:
+    Q_SLOT void watcherChanged(const QString& name, const QString& before, const QString& now);
+    Q_SLOT void busLost();
     void announce();
     void settle(bool isRegistered);
 

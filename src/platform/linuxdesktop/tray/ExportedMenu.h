@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "app/StatusMenu.h"
-#include "platform/linuxdesktop/ExportedMenuTypes.h"
+#include "platform/linuxdesktop/tray/ExportedMenuTypes.h"
 
 namespace kinesta {
 
@@ -31,7 +31,7 @@ class ExportedMenu final : public QObject, protected QDBusContext {
     /// `chosen` is called after the panel has its answer.
     using Chosen = std::function<void(StatusMenuCommand)>;
 
-    ExportedMenu(const QDBusConnection& bus, Chosen chosen);
+    ExportedMenu(QDBusConnection bus, Chosen chosen);
     ~ExportedMenu() override;
 
     void setMenu(const StatusMenu& menu);
@@ -41,17 +41,16 @@ class ExportedMenu final : public QObject, protected QDBusContext {
     QString status() const { return QStringLiteral("normal"); }
     QStringList iconThemePath() const { return {}; }
 
-  public Q_SLOTS:
     // Values beyond the first go to the last parameter.
-    Q_SCRIPTABLE uint GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
-                                kinesta::ExportedMenuLayout& layout);
-    Q_SCRIPTABLE QList<kinesta::ExportedMenuItem> GetGroupProperties(const QList<int>& ids,
-                                                                     const QStringList& propertyNames);
-    Q_SCRIPTABLE QDBusVariant GetProperty(int id, const QString& name);
-    Q_SCRIPTABLE void Event(int id, const QString& eventId, const QDBusVariant& data, uint timestamp);
-    Q_SCRIPTABLE QList<int> EventGroup(const QList<kinesta::ExportedMenuEvent>& events);
-    Q_SCRIPTABLE bool AboutToShow(int id);
-    Q_SCRIPTABLE QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors);
+    Q_SLOT Q_SCRIPTABLE uint GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
+                                       kinesta::ExportedMenuLayout& layout);
+    Q_SLOT Q_SCRIPTABLE QList<kinesta::ExportedMenuItem> GetGroupProperties(const QList<int>& ids,
+                                                                            const QStringList& propertyNames);
+    Q_SLOT Q_SCRIPTABLE QDBusVariant GetProperty(int id, const QString& name);
+    Q_SLOT Q_SCRIPTABLE void Event(int id, const QString& eventId, const QDBusVariant& data, uint timestamp);
+    Q_SLOT Q_SCRIPTABLE QList<int> EventGroup(const QList<kinesta::ExportedMenuEvent>& events);
+    Q_SLOT Q_SCRIPTABLE bool AboutToShow(int id);
+    Q_SLOT Q_SCRIPTABLE QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors);
 
   Q_SIGNALS:
     Q_SCRIPTABLE void ItemsPropertiesUpdated(const QList<kinesta::ExportedMenuItem>& updatedProps,

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/StatusMenuPopup.h"
+#include "platform/linuxdesktop/tray/StatusMenuPopup.h"
 
 #include <QAction>
 #include <QGuiApplication>

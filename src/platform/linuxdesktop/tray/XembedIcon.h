@@ -13,7 +13,7 @@
 #include <optional>
 
 #include "app/StatusItem.h"
-#include "platform/linuxdesktop/XembedTray.h"
+#include "platform/linuxdesktop/tray/XembedTray.h"
 
 namespace kinesta {
 

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/XembedIcon.h"
+#include "platform/linuxdesktop/tray/XembedIcon.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "platform/linux/x11/XcbPointer.h"
-#include "platform/linuxdesktop/StatusGlyph.h"
+#include "platform/linuxdesktop/tray/StatusGlyph.h"
 
 namespace kinesta {
 namespace {

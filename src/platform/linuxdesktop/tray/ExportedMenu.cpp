@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/ExportedMenu.h"
+#include "platform/linuxdesktop/tray/ExportedMenu.h"
 
 #include <QDBusError>
 #include <QGuiApplication>
@@ -37,7 +37,7 @@ bool haveSameLayout(const StatusMenu& a, const StatusMenu& b) {
 
 }  // namespace
 
-ExportedMenu::ExportedMenu(const QDBusConnection& bus, Chosen chosen) : m_bus(bus), m_chosen(std::move(chosen)) {
+ExportedMenu::ExportedMenu(QDBusConnection bus, Chosen chosen) : m_bus(std::move(bus)), m_chosen(std::move(chosen)) {
     registerExportedMenuTypes();
     m_bus.registerObject(QString::fromLatin1(kPath), this, QDBusConnection::ExportScriptableContents);
 }

@@ -8,7 +8,7 @@
 #include <QString>
 #include <functional>
 
-#include "platform/linuxdesktop/StatusNotifierTypes.h"
+#include "platform/linuxdesktop/tray/StatusNotifierTypes.h"
 
 namespace kinesta {
 
@@ -37,7 +37,7 @@ class StatusNotifierItem final : public QObject {
     };
 
     /// `menuPath` is that of the exported menu.
-    StatusNotifierItem(const QDBusConnection& bus, const QString& menuPath, Handlers handlers);
+    StatusNotifierItem(QDBusConnection bus, QString menuPath, Handlers handlers);
     ~StatusNotifierItem() override;
 
     void setGlyph(bool isEnabled, bool isDarkPanel);
@@ -56,12 +56,11 @@ class StatusNotifierItem final : public QObject {
     bool isMenu() const { return false; }
     QDBusObjectPath menu() const { return QDBusObjectPath(m_menuPath); }
 
-  public Q_SLOTS:
-    Q_SCRIPTABLE void Activate(int x, int y);
+    Q_SLOT Q_SCRIPTABLE void Activate(int x, int y);
     /// The middle button does nothing: an accidental one must not.
-    Q_SCRIPTABLE void SecondaryActivate(int x, int y);
-    Q_SCRIPTABLE void ContextMenu(int x, int y);
-    Q_SCRIPTABLE void Scroll(int delta, const QString& orientation);
+    Q_SLOT Q_SCRIPTABLE void SecondaryActivate(int x, int y);
+    Q_SLOT Q_SCRIPTABLE void ContextMenu(int x, int y);
+    Q_SLOT Q_SCRIPTABLE void Scroll(int delta, const QString& orientation);
 
   Q_SIGNALS:
     Q_SCRIPTABLE void NewIcon();

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/StatusNotifierRegistration.h"
+#include "platform/linuxdesktop/tray/StatusNotifierRegistration.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -34,8 +34,8 @@ QDBusMessage call(QLatin1StringView service, QLatin1StringView path, const char*
 
 }  // namespace
 
-StatusNotifierRegistration::StatusNotifierRegistration(const QDBusConnection& bus, Changed changed)
-    : m_bus(bus),
+StatusNotifierRegistration::StatusNotifierRegistration(QDBusConnection bus, Changed changed)
+    : m_bus(std::move(bus)),
       m_changed(std::move(changed)),
       m_name(QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(QCoreApplication::applicationPid())) {
     if (!m_bus.isConnected()) {

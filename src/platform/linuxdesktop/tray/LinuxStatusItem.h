@@ -7,11 +7,11 @@
 #include <memory>
 
 #include "app/StatusItem.h"
-#include "platform/linuxdesktop/ExportedMenu.h"
-#include "platform/linuxdesktop/StatusMenuPopup.h"
-#include "platform/linuxdesktop/StatusNotifierItem.h"
-#include "platform/linuxdesktop/StatusNotifierRegistration.h"
-#include "platform/linuxdesktop/XembedIcon.h"
+#include "platform/linuxdesktop/tray/ExportedMenu.h"
+#include "platform/linuxdesktop/tray/StatusMenuPopup.h"
+#include "platform/linuxdesktop/tray/StatusNotifierItem.h"
+#include "platform/linuxdesktop/tray/StatusNotifierRegistration.h"
+#include "platform/linuxdesktop/tray/XembedIcon.h"
 #include "support/Published.h"
 
 namespace kinesta {
