@@ -76,12 +76,15 @@ TEST_F(ActionEndurance, DoesNotWaitForAServerThatHangs) {
     EXPECT_EQ((Events{window.next(), window.next()}), click);
     desktop.server().signal(SIGSTOP);
     const auto began = std::chrono::steady_clock::now();
-    for (const ActionKind kind : {ActionKind::middleClick, ActionKind::keyboardShortcut, ActionKind::closeWindow})
-        actions.run(kind);
-    EXPECT_FALSE(actions.closes());
-    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill));
-    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(3));
+    for (int i = 0; i < 20; ++i) {
+        for (const ActionKind kind : {ActionKind::middleClick, ActionKind::keyboardShortcut, ActionKind::closeWindow})
+            actions.run(kind);
+        EXPECT_FALSE(actions.closes());
+        EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill));
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(1)) << "a hundred actions";
     desktop.server().signal(SIGCONT);
+    desktop.active();  // has an answer, so the server runs again
     actions.run(ActionKind::middleClick);
     EXPECT_EQ((Events{window.next(), window.next()}), click) << "and not those that could not be done in time";
     actions.run(ActionKind::keyboardShortcut);
