@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "platform/linux/keyboard/KeyObstacle.h"
+#include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/settings/LinuxActionSettings.h"
 
 namespace kinesta {

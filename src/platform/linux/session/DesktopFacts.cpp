@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "platform/linux/process/ExecutableSearch.h"
 #include "platform/linux/process/FileDescriptor.h"
+#include "platform/linux/process/SessionEnvironment.h"
 
 namespace kinesta {
 namespace {

@@ -112,7 +112,8 @@ TEST(TilingRecord, ComesBackFromTheNumbersOfAProperty) {
     auto record = TilingRecord::of(before, restored);
     record.tiledFrame = {0, 0, 640, 780};
     EXPECT_EQ(TilingRecord::decoded(record.encoded()), record);
-    const auto good = record.encoded();
+    const auto encoded = record.encoded();
+    const std::vector<std::uint32_t> good(encoded.begin(), encoded.end());
     for (std::size_t i = 0; i < 8; ++i)
         for (const std::uint32_t bad : {32768U, 0x7FFFFFFFU, 0x80000000U, i % 4 < 2 ? 0xFFFF7FFFU : 0U}) {
             auto numbers = good;
