@@ -59,10 +59,29 @@ function(kinesta_module name)
     endif()
 endfunction()
 
-# kinesta_test(NAME LIBRARIES libs... [TIMEOUT seconds] [SERIAL]): the GoogleTest program of tests/NAME, with each test
-# known to CTest. SERIAL tests run while no other test runs.
+# kinesta_qt_module(NAME [PUBLIC libs...] [PRIVATE libs...]): the same for a module that uses Qt.
+function(kinesta_qt_module name)
+    cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+        ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
+    string(REPLACE "/" "_" target kinesta_${name})
+    add_library(${target} STATIC ${sources})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    # Text becomes a QString by name only, and Qt's macros for signals do not take these words from everybody.
+    target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
+    target_link_libraries(${target} PUBLIC kinesta_options Threads::Threads Qt6::Widgets ${ARG_PUBLIC}
+        PRIVATE ${ARG_PRIVATE})
+    if(name STREQUAL "platform/qt")
+        target_precompile_headers(${target} PRIVATE <QtWidgets> ${KINESTA_COMMON_HEADERS})
+    else()
+        target_precompile_headers(${target} REUSE_FROM kinesta_platform_qt)
+    endif()
+endfunction()
+
+# kinesta_test(NAME LIBRARIES libs... [TIMEOUT seconds] [SERIAL] [QT]): the GoogleTest program of tests/NAME, with each
+# test known to CTest. SERIAL tests run while no other test runs. QT says that it uses Qt.
 function(kinesta_test name)
-    cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "SERIAL;QT" "TIMEOUT" "LIBRARIES" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 60)
     endif()
@@ -72,7 +91,11 @@ function(kinesta_test name)
     endif()
     add_executable(test_${name} ${sources})
     target_link_libraries(test_${name} PRIVATE kinesta_test_support kinesta_test_main ${ARG_LIBRARIES})
-    target_precompile_headers(test_${name} REUSE_FROM kinesta_test_main)
+    if(ARG_QT)  # compiled as Qt demands, so the precompiled headers of the other tests do not fit
+        target_precompile_headers(test_${name} PRIVATE <gtest/gtest.h> <QtWidgets> ${KINESTA_COMMON_HEADERS})
+    else()
+        target_precompile_headers(test_${name} REUSE_FROM kinesta_test_main)
+    endif()
     set(properties TIMEOUT ${ARG_TIMEOUT})
     if(ARG_SERIAL)
         list(APPEND properties RUN_SERIAL TRUE)

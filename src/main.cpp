@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
-#include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxDesktop.h"
 #include "platform/linux/process/BrokenPipes.h"
 #include "platform/linux/process/Terminal.h"
@@ -31,8 +30,7 @@ int main(int argc, char** argv) {
                           .rows = size.rows};
     try {
         RunLoop mainLoop;
-        NoActionCue cue;
-        LinuxDesktop desktop(mainLoop, cue, LinuxDesktop::Places::current());
+        LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());
         const ExitStatus status = runCommandLine(console, desktop, argc, argv);
         errno = 0;
         std::cout.flush();

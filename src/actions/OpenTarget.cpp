@@ -92,4 +92,25 @@ bool isWebAddress(std::string_view text) {
     return lowered == "http" || lowered == "https";
 }
 
+std::string webHost(std::string_view text) {
+    if (!isWebAddress(text))
+        return {};
+    text.remove_prefix(text.find(':') + 1);
+    if (!text.starts_with("//"))
+        return {};
+    text.remove_prefix(2);
+    text = text.substr(0, text.find_first_of("/?#"));
+    if (const auto at = text.rfind('@'); at != std::string_view::npos)
+        text.remove_prefix(at + 1);
+    // The colons of an IPv6 address stand in brackets.
+    if (const auto port = text.rfind(':');
+        port != std::string_view::npos && text.find(']', port) == std::string_view::npos)
+        text = text.substr(0, port);
+    return std::string(text);
+}
+
+bool isSecureWebAddress(std::string_view text) {
+    return lowerCased(text.substr(0, 6)) == "https:" && !webHost(text).empty();
+}
+
 }  // namespace kinesta

@@ -20,4 +20,10 @@ std::string standardizedPath(std::string_view path);
 /// without two hexadecimal digits.
 bool isWebAddress(std::string_view text);
 
+/// The host of a web address as written, without user and port; empty if `text` is no web address or has no host.
+std::string webHost(std::string_view text);
+
+/// Whether `text` is a web address with the scheme https and a host.
+bool isSecureWebAddress(std::string_view text);
+
 }  // namespace kinesta

@@ -78,6 +78,8 @@ class Desktop {
 
     // The trackpad
 
+    /// Reads the recording or FIFO at `path` in place of a trackpad. Must be called before trackpad() is first used.
+    virtual void useStream(std::string path) = 0;
     virtual LiveTrackpad& trackpad() = 0;
     /// All trackpads. Opens each for a moment.
     virtual ConnectedTrackpads connectedTrackpads() = 0;

@@ -17,7 +17,8 @@ class LiveRecognition {
     MultitouchService& service() { return m_service; }
     LiveTrackpad::Identity identity() const { return m_trackpad.identity(); }
 
-    void start() { m_service.startIfEnabled(); }
+    /// Begins to read the trackpad, if recognition is on.
+    void start();
 
     /// Applies the stored settings again.
     void reloadSettings();

@@ -10,6 +10,7 @@
 #include "input/PadEvent.h"
 #include "input/PointerEventMonitoring.h"
 #include "input/TrackpadContactProviding.h"
+#include "support/Clock.h"
 
 namespace kinesta {
 
@@ -27,6 +28,8 @@ class LiveTrackpad {
 
     virtual TrackpadContactProviding& contacts() = 0;
     virtual PointerEventMonitoring& pointerEvents() = 0;
+    /// The time for recognition: during the delivery of an event, when that arrived.
+    virtual const Clock& clock() const = 0;
 
     /// The pad that is read, while contacts() is listening.
     virtual Identity identity() const = 0;

@@ -93,11 +93,17 @@ class Parser {
     }
 
     void addLive() {
-        command(m_app, "daemon", "Recognize gestures and run their actions, without a window", [this] {
-            return runDaemon(m_console, m_desktop, m_verbose ? LogLevel::everything : LogLevel::gestures);
-        })->add_flag("--verbose", m_verbose, "Also list the rules that are on");
-        command(m_app, "monitor", "Show the live pad and what is recognized; no action runs",
-                [this] { return monitor(m_console, m_desktop); });
+        CLI::App* daemon = command(
+            m_app, "daemon", "Recognize gestures and run their actions, without a window",
+            [this] { return runDaemon(m_console, m_desktop, m_verbose ? LogLevel::everything : LogLevel::gestures); });
+        daemon->add_flag("--verbose", m_verbose, "Also list the rules that are on");
+        CLI::App* live = command(m_app, "monitor", "Show the live pad and what is recognized; no action runs",
+                                 [this] { return monitor(m_console, m_desktop); });
+        for (CLI::App* app : {daemon, live})
+            app->add_option_function<std::string>(
+                   "--trackpad", [this](const std::string& path) { m_desktop.useStream(path); },
+                   "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad")
+                ->type_name("PATH");
         CLI::App* recording = command(m_app, "record", "Write what the pad reports to a recording",
                                       [this] { return record(m_console, m_desktop, m_output, m_device); });
         recording->add_option("-o,--output", m_output, "Where to write it (default: standard output)");

@@ -9,6 +9,7 @@
 #include "input/recording/ReplayContactProvider.h"
 #include "recognition/MultitouchService.h"
 #include "rules/RuleSelection.h"
+#include "support/ArrivalClock.h"
 #include "support/InMemoryUserDefaults.h"
 #include "support/VirtualClock.h"
 #include "support/VirtualMainThread.h"
@@ -44,7 +45,8 @@ class ReplaySession {
     void apply(const RecordedSettings& settings);
 
     VirtualMainThread m_mainThread{Time::min()};
-    VirtualClock m_clock{m_mainThread};
+    VirtualClock m_time{m_mainThread};
+    ArrivalClock m_clock{m_time};
     InMemoryUserDefaults m_defaults;
     ReplayContactProvider m_provider;
     PointerEventBroadcaster m_pointer;

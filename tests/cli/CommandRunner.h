@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "cli/CommandLine.h"
-#include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxDesktop.h"
 #include "support/RunLoop.h"
 #include "support/TemporaryFolder.h"
@@ -29,10 +28,8 @@ class CommandRunner {
         std::ostringstream err;
         const Console console{.in = in, .out = out, .err = err};
         RunLoop mainLoop;
-        NoActionCue cue;
-        LinuxDesktop desktop(mainLoop, cue,
-                             {.settings = folder.path() / "settings" / "defaults.json",
-                              .examples = std::filesystem::path(KINESTA_SOURCE_DIR) / "examples"});
+        LinuxDesktop desktop(mainLoop, {.settings = folder.path() / "settings" / "defaults.json",
+                                        .examples = std::filesystem::path(KINESTA_SOURCE_DIR) / "examples"});
         arguments.insert(arguments.begin(), "kinesta");
         std::vector<const char*> pointers;
         for (const std::string& argument : arguments)

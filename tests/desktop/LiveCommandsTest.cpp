@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #include <iostream>
@@ -308,6 +309,44 @@ TEST_F(DaemonOnADesktop, RunsOnceAtATimeAndWithoutAHome) {
                                          "TMPDIR=" + kinesta.folder.path().string(), KINESTA_PROGRAM, "daemon"});
     EXPECT_TRUE(says(*homeless, "1 of 1 rules are on."));
     EXPECT_TRUE(says(*homeless, "  Nothing can be saved; what changes lasts only until Kinesta quits: /proc/nowhere"));
+}
+
+TEST_F(DaemonOnADesktop, ReadsAStreamInPlaceOfTheTrackpad) {
+    const std::string pad = kinesta.folder / "pad";
+    ASSERT_EQ(::mkfifo(pad.c_str(), 0600), 0);
+    std::unique_ptr<ChildProcess> daemon;
+    const auto restart = [&](const std::string& path, const std::string& status) {
+        daemon.reset();
+        daemon = desktop.start({KINESTA_PROGRAM, "daemon", "--trackpad", path});
+        EXPECT_TRUE(says(*daemon, status));
+    };
+    const std::string header = "{\"kinesta\":\"recording\",\"version\":1}\n";
+    const auto tap = [](const std::string& t) {
+        return "{\"t\":" + t + ".1,\"touches\":[[1,0.4,0.5],[2,0.5,0.5]]}\n{\"t\":" + t + ".2,\"touches\":[]}\n";
+    };
+    restart(pad, "Trackpad listening: pad (" + pad + ")");
+    {
+        std::ofstream writer(pad);
+        writer << header << "{\"t\"" << std::flush << tap("5").substr(4) << std::flush;
+        EXPECT_TRUE(says(*daemon, "2-finger single tap")) << "while the stream is silent";
+        set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", false); });
+        EXPECT_TRUE(says(*daemon, "Gesture recognition is off"));
+        writer << tap("6") << std::string(200000, '\n') << std::flush;  // more than a pipe holds
+        set([](UserDefaults& settings) { settings.setBoolean("gesturesEnabled", true); });
+        EXPECT_TRUE(says(*daemon, "Trackpad listening: pad"));
+        EXPECT_TRUE(says(*daemon, "rules are on."));
+        writer << tap("7") << "no event\n" << std::flush;
+        EXPECT_NE(daemon->readLine().value_or("").find("2-finger single tap"), std::string::npos);
+        const std::string bad = "The trackpad recording cannot be read: " + pad + ":200008: ";
+        EXPECT_NE(daemon->readLine().value_or("").find(bad), std::string::npos) << "no second tap before";
+    }
+    restart(pad, "listening");
+    std::ofstream(pad) << header;
+    EXPECT_TRUE(says(*daemon, "The trackpad recording " + pad + " has ended."));
+    restart(pad, "listening");
+    daemon->signal(SIGTERM);
+    EXPECT_TRUE(daemon->waitForEnd()) << "while nobody has written";
+    restart(pad + "?", "The trackpad recording " + pad + "? cannot be opened: No such file");
 }
 
 TEST_F(DaemonOnADesktop, StartsAtOnceAndStaysSmall) {

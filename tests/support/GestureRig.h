@@ -7,6 +7,7 @@
 #include "input/PointerEventBroadcaster.h"
 #include "input/TrackpadContactProviding.h"
 #include "recognition/MultitouchService.h"
+#include "support/ArrivalClock.h"
 #include "support/FakeUserDefaults.h"
 #include "support/PadScript.h"
 #include "support/Text.h"
@@ -51,15 +52,18 @@ struct GestureRig {
     FakeContactProvider provider;
     PointerEventBroadcaster pointer;
     VirtualMainThread mainThread;
-    VirtualClock clock{mainThread};
+    VirtualClock virtualClock{mainThread};
+    ArrivalClock clock{virtualClock};
     /// Each with its time, joined by "; ": "0.37 singleTap of 2", "0.5 edgeSlide of 2 left -1",
     /// "2.1 anchorDraw topLeft lineUp".
     std::string gestures;
     std::optional<MultitouchService> service;
 
     /// Makes the service, as at the start of the application.
-    MultitouchService& launch() {
-        service.emplace(defaults, provider, pointer, mainThread, clock);
+    MultitouchService& launch() { return launch(provider, pointer, clock); }
+    MultitouchService& launch(TrackpadContactProviding& contacts, PointerEventMonitoring& clicks,
+                              const Clock& arrival) {
+        service.emplace(defaults, contacts, clicks, mainThread, arrival);
         service->onTap = [this](const DetectedTap& tap) { add(rawValue(tap.gesture), " of ", tap.fingerCount); };
         service->onEdgeSlide = [this](const DetectedEdgeSlide& slide) {
             add("edgeSlide of ", slide.fingerCount, " ", rawValue(slide.side), slide.steps > 0 ? " +" : " ",
@@ -100,7 +104,7 @@ struct GestureRig {
         }
     }
 
-  private:
+  protected:
     template <typename... Parts>
     void add(const Parts&... parts) {
         std::ostringstream text;
@@ -108,6 +112,8 @@ struct GestureRig {
         (text << ... << parts);
         gestures += text.str();
     }
+
+  private:
     void change(const RecordedSettings& settings) {
         if (settings.gesturesEnabled)
             service->setGestureEnabled(*settings.gesturesEnabled);

@@ -4,6 +4,7 @@
 
 #include <csignal>
 
+#include "platform/linux/StreamTrackpad.h"
 #include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/process/BrokenPipes.h"
@@ -104,8 +105,10 @@ Result<std::filesystem::path> LinuxDesktop::settingsFolder() {
 }
 
 LiveTrackpad& LinuxDesktop::trackpad() {
-    if (!m_trackpad)
-        m_trackpad.emplace(m_mainLoop, m_clock, fileDefaults());
+    if (!m_trackpad && m_stream)
+        m_trackpad = std::make_unique<StreamTrackpad>(m_mainLoop, m_clock, *m_stream);
+    else if (!m_trackpad)
+        m_trackpad = std::make_unique<LinuxTrackpad>(m_mainLoop, m_clock, fileDefaults());
     return *m_trackpad;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "app/Desktop.h"
+#include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxActions.h"
 #include "platform/linux/LinuxTrackpad.h"
 #include "platform/linux/process/PosixHomeFolders.h"
@@ -30,9 +32,12 @@ class LinuxDesktop final : public Desktop {
         static Places current();
     };
 
-    /// Main loop and cue must outlive this.
-    LinuxDesktop(MainLoop& mainLoop, ActionCuePresenting& cue, Places places)
-        : m_mainLoop(mainLoop), m_cue(cue), m_places(std::move(places)) {}
+    /// The main loop must outlive this.
+    LinuxDesktop(MainLoop& mainLoop, Places places) : m_mainLoop(mainLoop), m_places(std::move(places)) {}
+
+    /// Shows the cue of each action. Without it, none is shown. Must be called before actionPorts(); `cue` must outlive
+    /// every action.
+    void setCue(ActionCuePresenting& cue) { m_cue = &cue; }
 
     MainLoop& mainLoop() override { return m_mainLoop; }
     const Clock& clock() const override { return m_clock; }
@@ -54,11 +59,12 @@ class LinuxDesktop final : public Desktop {
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
 
+    void useStream(std::string path) override { m_stream = std::move(path); }
     LiveTrackpad& trackpad() override;
     ConnectedTrackpads connectedTrackpads() override;
 
     void onActionProblem(Tell tell, ProgramOutput output) override;
-    ActionPorts actionPorts(const UserDefaults& settings) override { return actions().ports(settings, m_cue); }
+    ActionPorts actionPorts(const UserDefaults& settings) override { return actions().ports(settings, *m_cue); }
     void prepareToPost() override { actions().prepareToPost(); }
     ApplicationNotifications& notifications() override { return actions().notifications(); }
     WindowActionOutcomes& windowOutcomes() override { return actions().windowOutcomes(); }
@@ -76,20 +82,22 @@ class LinuxDesktop final : public Desktop {
     LinuxActions& actions();
 
     MainLoop& m_mainLoop;
-    ActionCuePresenting& m_cue;
+    NoActionCue m_noCue;
+    ActionCuePresenting* m_cue = &m_noCue;
     Places m_places;
     SteadyClock m_clock;
     PosixHomeFolders m_homeFolders;
     Tell m_onSettingsProblem;
     Tell m_onActionProblem;
     ProgramOutput m_programOutput = ProgramOutput::nowhere;
+    std::optional<std::string> m_stream;
     // Created at first use. Members that start threads come after the signals, because threads inherit the signal mask.
     std::optional<TerminalTakeover> m_terminal;
     std::optional<SignalListener> m_signals;
     std::optional<SingleInstance> m_instance;
     std::optional<FileUserDefaults> m_defaults;
     std::optional<LinuxActions> m_actions;
-    std::optional<LinuxTrackpad> m_trackpad;
+    std::unique_ptr<LiveTrackpad> m_trackpad;
     std::optional<FileWatcher> m_watcher;
 };
 

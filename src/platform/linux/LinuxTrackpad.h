@@ -24,6 +24,7 @@ class LinuxTrackpad final : public LiveTrackpad {
 
     TrackpadContactProviding& contacts() override { return m_provider; }
     PointerEventMonitoring& pointerEvents() override { return m_pointer; }
+    const Clock& clock() const override { return m_clock; }
     Identity identity() const override;
     void choose(const std::string& wanted) override;
     void onStatusChange(std::function<void()> handler) override { m_provider.setStatusHandler(std::move(handler)); }
