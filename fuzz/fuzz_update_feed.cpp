@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "actions/OpenTarget.h"
-#include "platform/linuxdesktop/updates/UpdateFeed.h"
+#include "platform/linuxupdates/UpdateFeed.h"
 #include "require.h"
 
 using namespace kinesta;

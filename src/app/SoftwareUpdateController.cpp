@@ -2,33 +2,32 @@
 
 #include "actions/OpenTarget.h"
 #include "support/Base64.h"
-#include "support/Result.h"
 
 namespace kinesta {
 namespace {
 
 constexpr std::size_t kPublicKeyLength = 32;
 
-Result<UpdateConfiguration> configurationIn(const BundleInformation& bundle) {
-    const auto feed = bundle.string(SoftwareUpdateController::feedKey);
+}  // namespace
+
+Result<UpdateConfiguration> SoftwareUpdateController::configuration(const BundleInformation& bundle) {
+    const auto feed = bundle.string(feedKey);
     if (!feed || !isSecureWebAddress(*feed))
         return Error{"The update feed is not configured in this build."};
-    const auto encoded = bundle.string(SoftwareUpdateController::publicKeyKey);
+    const auto encoded = bundle.string(publicKeyKey);
     const auto key = encoded ? fromBase64(*encoded) : std::nullopt;
     if (!key || key->size() != kPublicKeyLength)
         return Error{"Update signing is not configured in this development build."};
     return UpdateConfiguration{*feed, *key};
 }
 
-}  // namespace
-
 SoftwareUpdateController::SoftwareUpdateController(const BundleInformation& bundle, const MakeUpdater& makeUpdater) {
-    const auto configuration = configurationIn(bundle);
-    if (!configuration) {
-        m_configurationMessage.set(configuration.error().message);
+    const auto valid = configuration(bundle);
+    if (!valid) {
+        m_configurationMessage.set(valid.error().message);
         return;
     }
-    m_updater = makeUpdater(*configuration);
+    m_updater = makeUpdater(*valid);
     m_isAvailable.set(true);
 }
 

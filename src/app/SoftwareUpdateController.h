@@ -9,6 +9,7 @@
 
 #include "app/BundleInformation.h"
 #include "app/SoftwareUpdater.h"
+#include "support/Result.h"
 
 namespace kinesta {
 
@@ -27,6 +28,9 @@ class SoftwareUpdateController {
     /// The bundle's keys.
     static constexpr std::string_view feedKey = "SUFeedURL";
     static constexpr std::string_view publicKeyKey = "SUPublicEDKey";
+
+    /// What `bundle` says, or why it is not enough.
+    static Result<UpdateConfiguration> configuration(const BundleInformation& bundle);
 
     using MakeUpdater = std::function<std::unique_ptr<SoftwareUpdater>(const UpdateConfiguration&)>;
 

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/updates/FeedUpdater.h"
+#include "platform/linuxupdates/UpdateCheck.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -6,17 +6,14 @@
 #include <algorithm>
 
 #include "actions/OpenTarget.h"
-#include "platform/linuxdesktop/updates/ReleaseSignature.h"
-#include "platform/linuxdesktop/updates/UpdateFeed.h"
+#include "platform/linuxupdates/ReleaseSignature.h"
+#include "platform/linuxupdates/UpdateFeed.h"
 
 namespace kinesta {
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Seconds kBetweenChecks = 24 * 3600;
-/// The start of the application, and of the desktop, comes first.
-constexpr Seconds kAfterStart = 60;
 constexpr SecureDownload::Limits kFeedLimits{.bytes = 1 << 20, .time = 60s};
 constexpr std::chrono::milliseconds kDownloadTime = 2h;
 
@@ -44,49 +41,19 @@ QString freePath(const QString& folder, const QString& name) {
 
 }  // namespace
 
-FeedUpdater::FeedUpdater(Environment environment, UpdateConfiguration configuration)
+UpdateCheck::UpdateCheck(Environment environment, UpdateConfiguration configuration)
     : m_environment(std::move(environment)), m_configuration(std::move(configuration)) {}
 
-FeedUpdater::~FeedUpdater() {
+UpdateCheck::~UpdateCheck() {
     if (m_verification.joinable())
         m_verification.join();
 }
 
-void FeedUpdater::start() {
-    m_isAutomatic.set(m_environment.defaults.boolean(automaticCheckKey).value_or(false));
-    scheduleAutomaticCheck();
-}
-
-void FeedUpdater::setAutomaticallyChecksForUpdates(bool isAutomatic) {
-    if (isAutomatic == m_isAutomatic.value())
+void UpdateCheck::check() {
+    if (m_progress.value().isBusy())
         return;
-    m_environment.defaults.setBoolean(automaticCheckKey, isAutomatic);
-    m_isAutomatic.set(isAutomatic);
-    scheduleAutomaticCheck();
-}
-
-void FeedUpdater::scheduleAutomaticCheck() {
-    m_nextCheck.cancel();
-    if (!m_isAutomatic.value())
-        return;
-    // A time in the future comes from a clock that was wrong, and counts as now.
-    const Seconds now = m_environment.clock.wallClock();
-    const Seconds last = std::min(m_environment.defaults.real(lastCheckKey).value_or(0), now);
-    const Seconds wait = std::clamp(last + kBetweenChecks - now, kAfterStart, kBetweenChecks);
-    m_nextCheck = m_environment.mainThread.after(wholeNanoseconds(wait), [this] {
-        if (m_progress.value().stage != Stage::found)  // the person has not decided yet
-            check(false);
-        scheduleAutomaticCheck();
-    });
-}
-
-void FeedUpdater::check(bool isAskedFor) {
-    if (!m_canCheck.value())
-        return;
-    m_canCheck.set(false);
     UpdateProgress progress;
     progress.stage = Stage::checking;
-    progress.isAskedFor = isAskedFor;
     m_progress.set(std::move(progress));
     m_feed.clear();
     m_transfer = std::make_unique<SecureDownload>(
@@ -105,8 +72,7 @@ void FeedUpdater::check(bool isAskedFor) {
                                      }});
 }
 
-void FeedUpdater::readFeed() {
-    m_environment.defaults.setReal(lastCheckKey, m_environment.clock.wallClock());
+void UpdateCheck::readFeed() {
     const auto releases = readUpdateFeed(m_feed);
     m_feed.clear();
     if (!releases)
@@ -120,7 +86,7 @@ void FeedUpdater::readFeed() {
     enter(Stage::found);
 }
 
-void FeedUpdater::download() {
+void UpdateCheck::download() {
     if (m_progress.value().stage != Stage::found)
         return;
     // Without a name until it is verified, so that nothing is left of it even by a crash.
@@ -151,7 +117,7 @@ void FeedUpdater::download() {
                                      }});
 }
 
-void FeedUpdater::verify() {
+void UpdateCheck::verify() {
     m_transfer.reset();
     if (!m_file->flush())
         return fail("The update cannot be stored: " + m_file->errorString().toStdString() + ".");
@@ -171,7 +137,7 @@ void FeedUpdater::verify() {
         });
 }
 
-void FeedUpdater::keep(bool isGenuine) {
+void UpdateCheck::keep(bool isGenuine) {
     m_verification.join();
     if (!isGenuine)
         return fail("The update is not signed by the makers of Kinesta. Nothing was kept.");
@@ -188,32 +154,30 @@ void FeedUpdater::keep(bool isGenuine) {
     enter(Stage::finished);
 }
 
-void FeedUpdater::cancel() {
+void UpdateCheck::cancel() {
     // A verification ends by itself within moments; then the person may cancel no more.
     if (m_progress.value().stage != Stage::verifying)
         enter(Stage::idle);
 }
 
-void FeedUpdater::enter(Stage stage) {
+void UpdateCheck::enter(Stage stage) {
     UpdateProgress progress = m_progress.value();
     progress.stage = stage;
-    const bool isBusy = stage == Stage::checking || stage == Stage::downloading || stage == Stage::verifying;
-    if (!isBusy) {
+    if (!progress.isBusy()) {
         m_transfer.reset();
         m_file.reset();
     }
-    m_canCheck.set(!isBusy);
     m_progress.set(std::move(progress));
 }
 
-void FeedUpdater::fail(const std::string& problem) {
+void UpdateCheck::fail(const std::string& problem) {
     UpdateProgress progress = m_progress.value();
     progress.problem = problem;
     m_progress.set(std::move(progress));
     enter(Stage::failed);
 }
 
-QNetworkAccessManager& FeedUpdater::network() {
+QNetworkAccessManager& UpdateCheck::network() {
     // Made late: most days need no network.
     if (!m_network)
         m_network = std::make_unique<QNetworkAccessManager>();

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/updates/SecureDownload.h"
+#include "platform/linuxupdates/SecureDownload.h"
 
 #include <QNetworkRequest>
 #include <QSslConfiguration>

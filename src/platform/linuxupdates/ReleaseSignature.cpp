@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/updates/ReleaseSignature.h"
+#include "platform/linuxupdates/ReleaseSignature.h"
 
 #include <sodium.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/updates/FeedUpdater.h"
+#include "platform/linuxupdates/UpdateCheck.h"
 
 #include <gtest/gtest.h>
 #include <sodium.h>
@@ -14,17 +14,15 @@
 #include <QTest>
 
 #include "platform/qt/QtMainThread.h"
-#include "support/InMemoryUserDefaults.h"
-#include "support/SteadyClock.h"
 
 namespace kinesta::testing {
 namespace {
 
 using Stage = UpdateProgress::Stage;
 
-/// An update server with an authority of its own on the loopback interface, and a person's updater.
-struct FeedUpdating : ::testing::Test {
-    FeedUpdating() {
+/// An update server with an authority of its own on the loopback interface, and a person's check.
+struct UpdateChecking : ::testing::Test {
+    UpdateChecking() {
         const auto make = [this](const QStringList& arguments) {
             QProcess openssl;
             openssl.setWorkingDirectory(folder.path());
@@ -88,22 +86,22 @@ struct FeedUpdating : ::testing::Test {
 
     /// What a check and, if it finds something, a download end with; then all files that were kept.
     std::string update() {
-        FeedUpdater updater({.mainThread = mainThread,
-                             .clock = clock,
-                             .defaults = defaults,
-                             .running = {"1.9", "linux", "x86_64", "2.36"},
-                             .folder = path("downloads").toStdString()},
-                            {address("/feed").toStdString(), {publicKey.begin(), publicKey.end()}});
-        updater.start();
-        updater.checkForUpdates();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return updater.canCheckForUpdates().value(); }, 10'000));
+        UpdateCheck check({.mainThread = mainThread,
+                           .running = {"1.9", "linux", "x86_64", "2.36"},
+                           .folder = path("downloads").toStdString()},
+                          {address("/feed").toStdString(), {publicKey.begin(), publicKey.end()}});
+        check.check();
+        const auto wait = [&] {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !check.progress().value().isBusy(); }, 10'000));
+        };
+        wait();
         std::string result;
-        if (updater.progress().value().stage == Stage::found) {
-            result = "found " + updater.progress().value().release.version + "; ";
-            updater.download();
-            EXPECT_TRUE(QTest::qWaitFor([&] { return updater.canCheckForUpdates().value(); }, 10'000));
+        if (check.progress().value().stage == Stage::found) {
+            result = "found " + check.progress().value().release.version + "; ";
+            check.download();
+            wait();
         }
-        const UpdateProgress& end = updater.progress().value();
+        const UpdateProgress& end = check.progress().value();
         result += end.stage == Stage::upToDate ? "up to date" : end.stage == Stage::finished ? "kept" : end.problem;
         const auto files = QDir(path("downloads")).entryList(QDir::Files | QDir::Hidden);
         return files.isEmpty() ? result : result + ": " + files.join(", ").toStdString();
@@ -120,11 +118,9 @@ struct FeedUpdating : ::testing::Test {
     QByteArray program{300'000, 'x'};
     std::vector<unsigned char> publicKey, secretKey;
     QtMainThread mainThread;
-    SteadyClock clock;
-    InMemoryUserDefaults defaults;
 };
 
-TEST_F(FeedUpdating, KeepsTheNewestSignedReleaseOfThisSystem) {
+TEST_F(UpdateChecking, KeepsTheNewestSignedReleaseOfThisSystem) {
     const QByteArray genuine = signature(program);
     answers["/old-feed"] =
         feed(release("1.10", genuine) + "<later/>" + release("1.9.9", genuine) + release("2", genuine, "macos") +
@@ -136,10 +132,9 @@ TEST_F(FeedUpdating, KeepsTheNewestSignedReleaseOfThisSystem) {
     for (const char* told : {"Cookie", "?", "Mozilla", "1.9"})
         EXPECT_FALSE(requests.contains(told)) << told;
     EXPECT_EQ(requests.count("Accept-Language: en\r\n"), requests.count("GET "));
-    EXPECT_TRUE(defaults.contains("softwareUpdateLastCheck.v1"));
 }
 
-TEST_F(FeedUpdating, KeepsNothingThatIsNotRight) {
+TEST_F(UpdateChecking, KeepsNothingThatIsNotRight) {
     const QByteArray genuine = signature(program);
     const std::string unsigned_ = "found 2; The update is not signed by the makers of Kinesta. Nothing was kept.";
     for (const auto& [releases, file, result] : std::vector<std::tuple<QByteArray, QByteArray, std::string>>{

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/JsonBundleInformation.h"
+#include "platform/qt/JsonBundleInformation.h"
 
 #include <QFile>
 #include <QJsonDocument>

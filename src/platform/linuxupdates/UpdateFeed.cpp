@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/updates/UpdateFeed.h"
+#include "platform/linuxupdates/UpdateFeed.h"
 
 #include <QXmlStreamReader>
 #include <optional>

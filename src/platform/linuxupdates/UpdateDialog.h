@@ -5,18 +5,24 @@
 #include <QProgressBar>
 #include <QPushButton>
 
-#include "platform/linuxdesktop/updates/FeedUpdater.h"
+#include "platform/linuxupdates/UpdateCheck.h"
 
 namespace kinesta {
 
-/// Shows what an update check finds, the progress of a download and where the file is. An automatic check shows it only
-/// when there is a new version.
+/// Who wants to know about updates.
+enum class UpdateTrigger {
+    person,
+    /// The daily check, which shows nothing unless there is a new version.
+    schedule
+};
+
+/// Shows what an update check finds, the progress of a download and where the file is.
 class UpdateDialog final : public QDialog {
     Q_OBJECT
 
   public:
-    /// `updater` must outlive this.
-    explicit UpdateDialog(FeedUpdater& updater);
+    /// `check` must outlive this.
+    UpdateDialog(UpdateCheck& check, UpdateTrigger trigger);
 
     void reject() override;
 
@@ -26,7 +32,8 @@ class UpdateDialog final : public QDialog {
     void show(const UpdateProgress& progress);
     void act();
 
-    FeedUpdater& m_updater;
+    UpdateCheck& m_check;
+    UpdateTrigger m_trigger;
     QLabel m_headline;
     QLabel m_detail;
     QProgressBar m_bar;

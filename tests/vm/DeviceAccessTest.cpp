@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
 
-#include <cstdlib>
+#include <array>
 #include <filesystem>
 
-#include "desktop/harness/ChildProcess.h"
-#include "platform/linux/keyboard/UinputDevice.h"
-#include "support/TemporaryFolder.h"
+#include "platform/linux/keyboard/UinputInputPoster.h"
 #include "vm/DeviceListener.h"
-#include "vm/PadReading.h"
 #include "vm/VirtualTouchpad.h"
 
 namespace kinesta::vm {
@@ -19,8 +17,7 @@ struct Udev : ::testing::Test {
         EXPECT_TRUE(testing::eventually([] { return std::filesystem::exists("/run/udev/control"); }));
     }
     ~Udev() override {
-        daemon.signal(SIGTERM);
-        daemon.waitForEnd();
+        daemon.end(SIGTERM);
         std::filesystem::remove_all("/run/udev");
     }
 
@@ -28,15 +25,15 @@ struct Udev : ::testing::Test {
     static void addRule(const std::string& file, const std::string& rule) {
         std::filesystem::create_directories("/run/udev/rules.d");
         writeText("/run/udev/rules.d/" + file, rule + "\n");
-        run("udevadm control --reload && udevadm trigger --subsystem-match=input --subsystem-match=misc");
-        run("udevadm settle");
+        EXPECT_TRUE(
+            testing::run("udevadm control --reload && udevadm settle && "
+                         "udevadm trigger --settle --subsystem-match=input --subsystem-match=misc"));
     }
-    static void run(const std::string& command) { EXPECT_EQ(std::system(command.c_str()), 0) << command; }
     static bool hasProperty(const std::string& path, const std::string& property) {
-        return std::system(("udevadm info -q property -n " + path + " | grep -qx " + property).c_str()) == 0;
+        return testing::run("udevadm info -q property -n " + path + " | grep -qx " + property);
     }
 
-    testing::ChildProcess daemon{{"systemd-udevd"}};
+    testing::ChildProcess daemon{"systemd-udevd"};
 };
 
 TEST_F(Udev, RulesOpenTouchpadsAndUinputAndNothingElse) {
@@ -45,7 +42,7 @@ TEST_F(Udev, RulesOpenTouchpadsAndUinputAndNothingElse) {
     const VirtualTouchpad pad;
     const auto keyboard = UinputDevice::create();
     const std::string keyboardPath = DeviceListener().path();
-    run("udevadm settle");
+    EXPECT_TRUE(testing::run("udevadm settle"));
     EXPECT_TRUE(hasProperty(pad.path(), "IS_OPEN=1"));
     EXPECT_TRUE(hasProperty("/dev/uinput", "IS_OPEN=1"));
     EXPECT_TRUE(hasProperty(keyboardPath, "ID_INPUT_KEYBOARD=1"));
@@ -56,7 +53,7 @@ TEST_F(Udev, RulesOpenTouchpadsAndUinputAndNothingElse) {
 TEST_F(Udev, SaysWhichPadIsBuiltInAndWhichToIgnore) {
     const VirtualTouchpad first({.name = "First", .bus = BUS_USB});
     const VirtualTouchpad second({.name = "Second", .bus = BUS_USB});
-    run("udevadm settle");
+    EXPECT_TRUE(testing::run("udevadm settle"));
     PadReading reading;
     EXPECT_EQ(reading.provider().state().name, "First");
     addRule("61-test.rules", "ATTRS{name}==\"Second\", ENV{ID_INPUT_TOUCHPAD_INTEGRATION}=\"internal\"");
@@ -64,6 +61,29 @@ TEST_F(Udev, SaysWhichPadIsBuiltInAndWhichToIgnore) {
     EXPECT_EQ(reading.provider().state().name, "Second");
     addRule("61-test.rules", "SUBSYSTEM==\"input\", ENV{LIBINPUT_IGNORE_DEVICE}=\"1\"");
     EXPECT_TRUE(reading.takeUntil("No built-in trackpad was found."));  // one pad may be ignored before the other
+}
+
+TEST(Uinput, SaysOnceThatItIsNotAllowedAndTriesAgain) {
+    Lines log;
+    std::optional<UinputInputPoster> poster;
+    asOrdinaryUser([&] {
+        poster.emplace([&](const std::string& line) { log.push_back(line); });
+        EXPECT_FALSE(poster->isAvailable());
+        EXPECT_FALSE(poster->modifiersFor(KEY_A));
+        EXPECT_EQ(poster->pointerLocation(), std::nullopt);
+    });
+    ASSERT_EQ(log.size(), 1U);
+    EXPECT_TRUE(log.front().starts_with("Keys cannot be posted, for /dev/uinput may not be opened; to")) << log.front();
+    ASSERT_TRUE(poster->isAvailable()) << "now it is allowed";
+    EXPECT_FALSE(poster->modifiersFor(BTN_LEFT) || poster->modifiersFor(256));
+    const DeviceListener listener;
+    const std::array presses{InputTransition{KEY_LEFTSHIFT, KeyTransition::down},
+                             InputTransition{KEY_VOLUMEDOWN, KeyTransition::down}};
+    EXPECT_TRUE(poster->post(presses));
+    EXPECT_EQ(listener.take(2), (Lines{"KEY_LEFTSHIFT down", "KEY_VOLUMEDOWN down"}));
+    poster.reset();
+    const Lines last = listener.take(3);
+    EXPECT_TRUE(!last.empty() && last.back() == "gone");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/updates/UpdateDialog.h"
+#include "platform/linuxupdates/UpdateDialog.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -16,7 +16,7 @@ QString sizeText(std::uint64_t bytes) { return QLocale().formattedDataSize(stati
 
 }  // namespace
 
-UpdateDialog::UpdateDialog(FeedUpdater& updater) : m_updater(updater) {
+UpdateDialog::UpdateDialog(UpdateCheck& check, UpdateTrigger trigger) : m_check(check), m_trigger(trigger) {
     setWindowTitle(tr("Software Update"));
     setMinimumWidth(420);
     QFont headline = font();
@@ -41,32 +41,33 @@ UpdateDialog::UpdateDialog(FeedUpdater& updater) : m_updater(updater) {
     column->addStretch();
     column->addLayout(buttons);
 
+    m_close.setAutoDefault(false);  // Enter is for the action; Escape closes
     m_action.setDefault(true);
     connect(&m_action, &QPushButton::clicked, this, [this] { act(); });
     connect(&m_close, &QPushButton::clicked, this, [this] { reject(); });
-    m_observation = updater.progress().observe([this](const UpdateProgress& progress) { show(progress); });
+    m_observation = check.progress().observe([this](const UpdateProgress& progress) { show(progress); });
 }
 
 void UpdateDialog::reject() {
-    m_updater.cancel();
+    m_check.cancel();
     QDialog::reject();
 }
 
 void UpdateDialog::act() {
-    const UpdateProgress& progress = m_updater.progress().value();
+    const UpdateProgress& progress = m_check.progress().value();
     if (progress.stage == Stage::found) {
-        m_updater.download();
+        m_check.download();
     } else if (progress.stage == Stage::finished) {
         QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(text(progress.file)).path()));
         accept();
     } else if (progress.stage == Stage::failed) {
-        m_updater.checkForUpdates();
+        m_check.check();
     }
 }
 
 void UpdateDialog::show(const UpdateProgress& progress) {
     const bool isLoading = progress.stage == Stage::downloading;
-    const bool isBusy = isLoading || progress.stage == Stage::checking || progress.stage == Stage::verifying;
+    const bool isBusy = progress.isBusy();
     m_bar.setVisible(isBusy);
     // Thousands, because a length in bytes may not fit; the same ends stand for "unknown".
     m_bar.setRange(0, isLoading ? 1000 : 0);
@@ -109,7 +110,7 @@ void UpdateDialog::show(const UpdateProgress& progress) {
             action = tr("Show in Folder");
             break;
         case Stage::failed:
-            m_headline.setText(tr("The update did not work"));
+            m_headline.setText(tr("Kinesta could not be updated"));
             m_detail.setText(text(progress.problem));
             action = tr("Try Again");
             break;
@@ -117,7 +118,7 @@ void UpdateDialog::show(const UpdateProgress& progress) {
     m_action.setText(action);
     m_action.setVisible(!action.isEmpty());
     m_detail.setVisible(!m_detail.text().isEmpty());
-    if (!isVisible() && (progress.isAskedFor || progress.stage == Stage::found)) {
+    if (!isVisible() && (m_trigger == UpdateTrigger::person || progress.stage == Stage::found)) {
         QDialog::show();
         raise();
         activateWindow();
