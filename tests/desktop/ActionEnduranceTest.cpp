@@ -74,12 +74,15 @@ TEST_F(ActionEndurance, DoesNotWaitForAServerThatHangs) {
     EXPECT_TRUE(clicks());
     desktop.server->signal(SIGSTOP);
     const auto began = Clock::now();
-    for (const ActionKind kind : {ActionKind::middleClick, ActionKind::keyboardShortcut, ActionKind::closeWindow})
-        actions.run(kind);
-    EXPECT_FALSE(actions.closes());
-    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill));
-    EXPECT_LT(Clock::now() - began, std::chrono::seconds(3));
+    for (int i = 0; i < 20; ++i) {
+        for (const ActionKind kind : {ActionKind::middleClick, ActionKind::keyboardShortcut, ActionKind::closeWindow})
+            actions.run(kind);
+        EXPECT_FALSE(actions.closes());
+        EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill));
+    }
+    EXPECT_LT(Clock::now() - began, std::chrono::seconds(1)) << "a hundred actions";
     desktop.server->signal(SIGCONT);
+    desktop.active();  // has an answer, so the server runs again
     EXPECT_TRUE(clicks()) << "and not those that could not be done in time";
     actions.run(ActionKind::keyboardShortcut);
     EXPECT_EQ(window.next(), "KEY_LEFTCTRL down");

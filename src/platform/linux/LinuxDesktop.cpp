@@ -5,11 +5,10 @@
 #include <csignal>
 
 #include "platform/linux/StreamTrackpad.h"
-#include "platform/linux/keyboard/KeyObstacle.h"
+#include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/process/CurrentDesktop.h"
-#include "platform/linux/process/ExecutableSearch.h"
+#include "platform/linux/process/SessionEnvironment.h"
 #include "support/SystemError.h"
 
 namespace kinesta {

@@ -179,7 +179,8 @@ TEST(TilingRecord, ComesBackFromTheNumbersOfAProperty) {
     restored.frame = {-5, 20, 300, 200};
     auto record = TilingRecord::of(before, restored);
     record.tiledFrame = {0, 0, 640, 780};
-    const auto good = record.encoded();
+    const auto encoded = record.encoded();
+    const std::vector<std::uint32_t> good(encoded.begin(), encoded.end());
     EXPECT_EQ(TilingRecord::decoded(good), record);
     auto numbers = good;
     for (std::size_t i = 0; i < 8; ++i, numbers = good)

@@ -1,4 +1,4 @@
-#include "platform/linux/process/ExecutableSearch.h"
+#include "platform/linux/process/SessionEnvironment.h"
 
 #include <unistd.h>
 
@@ -6,6 +6,11 @@
 #include <sstream>
 
 namespace kinesta {
+
+bool isCurrentDesktop(const std::string& name) {
+    const char* list = std::getenv("XDG_CURRENT_DESKTOP");
+    return list != nullptr && (':' + std::string(list) + ':').find(':' + name + ':') != std::string::npos;
+}
 
 bool isInSearchPath(const std::string& name) {
     const char* path = std::getenv("PATH");
