@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 #include <csignal>
 #include <memory>
+#include <optional>
 
 #include "platform/linuxdesktop/tray/LinuxStatusItem.h"
 #include "shell/QtTest.h"
@@ -108,14 +109,13 @@ class StatusItemTest : public QtTest {
 
     /// Where our icon is on the screen. Empty if it is not there.
     WindowRectangle iconPlace() {
-        ChildProcess search("xdotool search --onlyvisible --name '^Kinesta, gestures'");
-        const auto window = search.readLine();
+        const auto window = ChildProcess("xdotool search --onlyvisible --name '^Kinesta, gestures'").readLine();
         return window ? desktop.client(static_cast<xcb_window_t>(std::stoul(*window))) : WindowRectangle{};
     }
     void click(const std::string& button, const std::string& key = "Shift_L") {
         const auto place = iconPlace();
-        run("xdotool mousemove " + std::to_string(place.x + 5) + " " + std::to_string(place.y + 5) + " keydown " + key +
-            " click " + button + " keyup " + key);
+        EXPECT_TRUE(run("xdotool mousemove " + std::to_string(place.x + 5) + " " + std::to_string(place.y + 5) +
+                        " keydown " + key + " click " + button + " keyup " + key));
     }
 
     std::unique_ptr<TestPanel> panel;
@@ -251,7 +251,7 @@ TEST_F(StatusItemTest, TakesClicksAndKeysInAnXembedTray) {
     ASSERT_TRUE(popup != nullptr && QTest::qWaitForWindowExposed(popup));
     const auto icon = iconPlace();
     EXPECT_GE(popup->y(), icon.y + icon.height);
-    run("xdotool key Up Return");
+    EXPECT_TRUE(run("xdotool key Up Return"));
     EXPECT_TRUE(happens("quit "));
 }
 
