@@ -11,8 +11,8 @@ QPalette themePalette(const AppTheme& theme) {
     set(QPalette::AlternateBase, theme.canvas);
     set(QPalette::Button, theme.control);
     set(QPalette::ToolTipBase, theme.surface);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText,
-                            QPalette::ToolTipText})
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText, QPalette::ToolTipText})
         set(role, theme.text);
     set(QPalette::PlaceholderText, theme.text2);
     set(QPalette::Highlight, theme.accent);

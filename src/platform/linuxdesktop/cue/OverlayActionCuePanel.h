@@ -3,8 +3,8 @@
 #include <QVariantAnimation>
 
 #include "feedback/ActionCuePanel.h"
-#include "platform/linuxdesktop/CompositorWatch.h"
-#include "platform/linuxdesktop/CueWindow.h"
+#include "platform/linuxdesktop/cue/CompositorWatch.h"
+#include "platform/linuxdesktop/cue/CueWindow.h"
 
 namespace kinesta {
 

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/DesktopScreens.h"
+#include "platform/linuxdesktop/cue/DesktopScreens.h"
 
 #include <QCursor>
 #include <QGuiApplication>

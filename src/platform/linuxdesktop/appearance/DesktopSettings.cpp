@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/DesktopSettings.h"
+#include "platform/linuxdesktop/appearance/DesktopSettings.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -35,8 +35,8 @@ struct Key {
     const char* name;
 };
 
-constexpr Key kKeys[] = {{kAppearance, kColorScheme}, {kAppearance, kContrast},       {kAppearance, kReducedMotion},
-                         {kGnome, kEnableAnimations}, {kGnome, kTextScale},           {kGnomeAccess, kHighContrast},
+constexpr Key kKeys[] = {{kAppearance, kColorScheme}, {kAppearance, kContrast}, {kAppearance, kReducedMotion},
+                         {kGnome, kEnableAnimations}, {kGnome, kTextScale},     {kGnomeAccess, kHighContrast},
                          {kKde, kAnimationFactor}};
 
 QString asText(const char* text) { return QString::fromLatin1(text); }
@@ -49,8 +49,7 @@ DesktopSettings::DesktopSettings(const QDBusConnection& bus) : m_bus(bus) {
     m_bus.connect(asText(kService), asText(kPath), asText(kInterface), QStringLiteral("SettingChanged"), this,
                   SLOT(take(QString, QString, QDBusVariant)));
     // A portal that starts again, perhaps of another desktop, may have other values.
-    auto* watcher =
-        new QDBusServiceWatcher(asText(kService), m_bus, QDBusServiceWatcher::WatchForRegistration, this);
+    auto* watcher = new QDBusServiceWatcher(asText(kService), m_bus, QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] { askForAll(); });
     askForAll();
 }
@@ -61,8 +60,8 @@ void DesktopSettings::askForAll() {
 }
 
 void DesktopSettings::ask(const QString& group, const QString& key) {
-    auto call = QDBusMessage::createMethodCall(asText(kService), asText(kPath), asText(kInterface),
-                                               QStringLiteral("Read"));
+    auto call =
+        QDBusMessage::createMethodCall(asText(kService), asText(kPath), asText(kInterface), QStringLiteral("Read"));
     call << group << key;
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group, key](QDBusPendingCallWatcher* finished) {

@@ -5,8 +5,8 @@
 
 #include "app/AppTheme.h"
 #include "app/AppearanceControl.h"
-#include "platform/linuxdesktop/DesktopSettings.h"
 #include "platform/linuxdesktop/ScreenSelection.h"
+#include "platform/linuxdesktop/appearance/DesktopSettings.h"
 #include "support/Published.h"
 
 namespace kinesta {

@@ -1,9 +1,9 @@
-#include "platform/linuxdesktop/DesktopActionCue.h"
+#include "platform/linuxdesktop/cue/DesktopActionCue.h"
 
 #include <QGuiApplication>
 
-#include "platform/linuxdesktop/NotificationActionCuePanel.h"
-#include "platform/linuxdesktop/OverlayActionCuePanel.h"
+#include "platform/linuxdesktop/cue/NotificationActionCuePanel.h"
+#include "platform/linuxdesktop/cue/OverlayActionCuePanel.h"
 
 namespace kinesta {
 namespace {

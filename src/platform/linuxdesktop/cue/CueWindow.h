@@ -26,12 +26,14 @@ class CueWindow final : public QWidget {
     double alpha() const { return m_alpha; }
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
     bool isSolid() const { return !m_hasCompositor || m_groundOpacity >= 1; }
     void redraw();
+    void cut();
     QImage layer() const;
     QImage drawnWindow() const;
     void drawGround(QPainter& painter) const;

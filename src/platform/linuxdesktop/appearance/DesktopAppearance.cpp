@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/DesktopAppearance.h"
+#include "platform/linuxdesktop/appearance/DesktopAppearance.h"
 
 #include <QApplication>
 

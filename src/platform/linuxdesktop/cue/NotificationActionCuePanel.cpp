@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/NotificationActionCuePanel.h"
+#include "platform/linuxdesktop/cue/NotificationActionCuePanel.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -11,9 +11,9 @@ namespace kinesta {
 namespace {
 
 QDBusMessage call(const QString& method) {
-    return QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
-        QStringLiteral("org.freedesktop.Notifications"), method);
+    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
+                                          QStringLiteral("/org/freedesktop/Notifications"),
+                                          QStringLiteral("org.freedesktop.Notifications"), method);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/OverlayActionCuePanel.h"
+#include "platform/linuxdesktop/cue/OverlayActionCuePanel.h"
 
 #include <cmath>
 #include <utility>

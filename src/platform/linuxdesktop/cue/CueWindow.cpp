@@ -1,7 +1,6 @@
-#include "platform/linuxdesktop/CueWindow.h"
+#include "platform/linuxdesktop/cue/CueWindow.h"
 
 #include <QApplication>
-#include <QBitmap>
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -13,6 +12,7 @@
 
 #include "feedback/ActionCuePanel.h"
 #include "feedback/ActionCueSymbol.h"
+#include "platform/linuxdesktop/cue/WindowShape.h"
 #include "platform/qt/PicturePainter.h"
 
 namespace kinesta {
@@ -87,18 +87,11 @@ void CueWindow::setGroundOpacity(double opacity) {
 void CueWindow::setCompositor(bool isThere) {
     if (std::exchange(m_hasCompositor, isThere) == isThere)
         return;
-    if (isThere) {
-        clearMask();
-    } else {
-        QBitmap shape(size());
-        shape.clear();
-        QPainter painter(&shape);
-        painter.fillPath(capsule(rect(), 0), Qt::color1);
-        painter.end();
-        setMask(shape);
-    }
+    cut();
     redraw();
 }
+
+void CueWindow::cut() { cutWindow(*this, m_hasCompositor ? QPainterPath() : capsule(rect(), 0)); }
 
 void CueWindow::setAlpha(double alpha) {
     m_alpha = alpha;
@@ -114,6 +107,12 @@ void CueWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
         redraw();
     QWidget::changeEvent(event);
+}
+
+void CueWindow::showEvent(QShowEvent* event) {
+    // Again at each show, perhaps on a screen of another scale.
+    cut();
+    QWidget::showEvent(event);
 }
 
 void CueWindow::paintEvent(QPaintEvent* /*event*/) {
@@ -176,8 +175,11 @@ QImage CueWindow::drawnWords() const {
     painter.setPen(kInk);
     const QString text = QString::fromStdString(m_content.label).simplified();
     const Qt::Alignment side = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(label, QFontMetricsF(font).elidedText(text, Qt::ElideRight, label.width()),
-                     QTextOption(side | Qt::AlignAbsolute | Qt::AlignVCenter));
+    QTextOption option(side | Qt::AlignAbsolute | Qt::AlignVCenter);
+    // From the text itself: the keys of a shortcut keep their order in every language.
+    option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::NoWrap);
+    painter.drawText(label, QFontMetricsF(font).elidedText(text, Qt::ElideRight, label.width()), option);
     return words;
 }
 

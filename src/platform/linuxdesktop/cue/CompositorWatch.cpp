@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/CompositorWatch.h"
+#include "platform/linuxdesktop/cue/CompositorWatch.h"
 
 #include <xcb/xfixes.h>
 
