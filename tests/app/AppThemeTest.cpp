@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <utility>
-#include <vector>
 
 namespace kinesta {
 namespace {
@@ -26,7 +25,7 @@ TEST(AppTheme, KeepsWordsAndControlsLegible) {
     for (const auto appearance : {NamedAppearance::aqua, NamedAppearance::darkAqua})
         for (const auto wish : {ThemeContrast::standard, ThemeContrast::more}) {
             const AppTheme t = AppTheme::of(appearance, wish);
-            const std::vector<std::pair<Rgb, Rgb>> words{
+            const std::pair<Rgb, Rgb> words[] = {
                 {t.onAccent, t.accent},     {t.text, t.cautionSoft}, {t.text2, t.cautionSoft},
                 {t.caution, t.cautionSoft}, {t.danger, t.surface},   {t.danger, t.dangerSoft},
                 {t.positive, t.surface},    {t.caution, t.surface},  {t.caution, t.accentSoft},

@@ -56,50 +56,40 @@ TEST(ActionCueSettings, KeepsNumbersInRange) {
 /// Two monitors side by side, a panel whose fades run in virtual time, and the log of what happens to it, each entry
 /// with its milliseconds.
 struct ActionCuePresentation : ::testing::Test, Screens, DisplayPreferences {
-    class Panel final : public ActionCuePanel {
-      public:
-        explicit Panel(ActionCuePresentation& test) : m_test(test) {}
-        void setContent(const ActionCueContent& content) override { m_test.note(content.label); }
-        void setBackgroundOpacity(double opacity) override { m_test.opacity = opacity; }
-        void setOrigin(Point origin) override { m_test.origin = origin; }
-        bool isVisible() const override { return m_isVisible; }
+    struct Panel final : ActionCuePanel {
+        explicit Panel(ActionCuePresentation& owner) : test(owner) {}
+        void setContent(const ActionCueContent& content) override { test.note(content.label); }
+        void setBackgroundOpacity(double value) override { test.opacity = value; }
+        void setOrigin(Point value) override { test.origin = value; }
+        bool isVisible() const override { return isUp; }
         double alpha() const override {
-            if (m_duration == 0s)
-                return m_target;
-            const double part = std::chrono::duration<double>(m_test.mainThread.now() - m_start) / m_duration;
-            return m_from + (m_target - m_from) * part;
+            const double part = std::chrono::duration<double>(test.mainThread.now() - start).count() / length;
+            return part < 1 ? from + (to - from) * part : to;
         }
-        void setAlpha(double alpha) override {
-            m_animation.cancel();
-            m_duration = {};
-            m_target = alpha;
-            m_test.note("alpha " + numberText(alpha));
+        void setAlpha(double value) override {
+            from = to = value;
+            fade.cancel();
+            test.note("alpha " + numberText(value));
         }
-        void orderFront() override { m_isVisible = true; }
+        void orderFront() override { isUp = true; }
         void orderOut() override {
-            m_isVisible = false;
-            m_test.note("out");
+            isUp = false;
+            test.note("out");
         }
-        void animateAlpha(double alpha, Seconds duration, std::function<void()> done) override {
-            m_test.note("from " + numberText(std::round(this->alpha() * 100) / 100) + " to " + numberText(alpha));
-            m_from = this->alpha();
-            m_target = alpha;
-            m_start = m_test.mainThread.now();
-            m_duration = std::chrono::duration<double>(duration);
-            m_animation = m_test.mainThread.after(wholeNanoseconds(duration), [this, done = std::move(done)] {
-                m_duration = {};
-                done();
-            });
+        void animateAlpha(double value, Seconds duration, std::function<void()> done) override {
+            from = alpha();
+            to = value;
+            start = test.mainThread.now();
+            length = duration;
+            test.note("from " + numberText(std::round(from * 100) / 100) + " to " + numberText(to));
+            fade = test.mainThread.after(wholeNanoseconds(duration), std::move(done));
         }
 
-      private:
-        ActionCuePresentation& m_test;
-        bool m_isVisible = false;
-        double m_from = 0;
-        double m_target = 0;
-        VirtualMainThread::Time m_start{};
-        std::chrono::duration<double> m_duration{};
-        DelayedTask m_animation;
+        ActionCuePresentation& test;
+        bool isUp = false;
+        double from = 0, to = 0, length = 1;
+        VirtualMainThread::Time start{};
+        DelayedTask fade;
     };
 
     std::vector<Screen> screens() const override { return {left, right}; }
@@ -126,25 +116,17 @@ struct ActionCuePresentation : ::testing::Test, Screens, DisplayPreferences {
                                  }};
 };
 
-TEST_F(ActionCuePresentation, KeepsTheNewerCueForItsFullTime) {
-    show("A");
-    mainThread.advanceTo(300ms);
-    show("B");
-    mainThread.runRemaining();
-    show("C");
-    EXPECT_EQ(log.take(), (Calls{"0 made", "0 A", "0 alpha 0", "0 from 0 to 1", "300 B", "300 from 1 to 1",
-                                 "1800 from 1 to 0", "2000 out", "2000 C", "2000 alpha 0", "2000 from 0 to 1"}));
-}
-
-TEST_F(ActionCuePresentation, ContinuesFromThePresentOpacityInAnyFade) {
+TEST_F(ActionCuePresentation, KeepsOpacityAndFullTimeForTheNewerCue) {
     show("A");
     mainThread.advanceTo(80ms);
     show("B");
     mainThread.advanceTo(1630ms);
     show("C");
-    mainThread.advanceTo(2s);
+    mainThread.runRemaining();
+    show("D");
     EXPECT_EQ(log.take(), (Calls{"0 made", "0 A", "0 alpha 0", "0 from 0 to 1", "80 B", "80 from 0.5 to 1",
-                                 "1580 from 1 to 0", "1630 C", "1630 from 0.75 to 1"}));
+                                 "1580 from 1 to 0", "1630 C", "1630 from 0.75 to 1", "3130 from 1 to 0", "3330 out",
+                                 "3330 D", "3330 alpha 0", "3330 from 0 to 1"}));
 }
 
 TEST_F(ActionCuePresentation, NeitherFadesNorShowsThroughWhereTheDesktopIsAskedForThat) {

@@ -17,27 +17,20 @@ std::string stateOf(const GestureTestSession& session) {
 TEST(GestureTestSession, DescribesAndCountsWhatItTakes) {
     GestureTestSession session;
     session.begin();
-    const auto tap = [&](std::int64_t fingers, GestureKind kind) {
-        EXPECT_TRUE(session.interceptTap(fingers, kind));
+    const auto take = [&](const DetectedGesture& gesture) {
+        EXPECT_TRUE(session.intercept(gesture));
         return stateOf(session);
     };
-    const auto draw = [&] {
-        EXPECT_TRUE(session.intercept(DetectedAnchorDraw{AnchorCorner::topLeft, DrawPattern::lineUp}));
-        return stateOf(session);
-    };
-    const auto slide = [&](std::int64_t steps) {
-        EXPECT_TRUE(session.intercept(DetectedEdgeSlide{2, EdgeSlideSide::left, steps}));
-        return stateOf(session);
-    };
-    EXPECT_EQ(tap(2, GestureKind::doubleTap), "2-finger double tap 1");
-    EXPECT_EQ(tap(2, GestureKind::doubleTap), "2-finger double tap 2");
-    EXPECT_EQ(tap(3, GestureKind::doubleTap), "3-finger double tap 1");
-    EXPECT_EQ(tap(2, GestureKind::tipTapLeft), std::string(title(GestureKind::tipTapLeft)) + " 1");
-    EXPECT_EQ(draw(), "Top left · Line up 1");
-    EXPECT_EQ(draw(), "Top left · Line up 2");
-    EXPECT_EQ(slide(3), "2-finger left edge slide up continuous");
-    EXPECT_EQ(slide(-1), "2-finger left edge slide down continuous");
-    EXPECT_EQ(draw(), "Top left · Line up 1");
+    const DetectedAnchorDraw draw{AnchorCorner::topLeft, DrawPattern::lineUp};
+    EXPECT_EQ(take(DetectedTap{2, GestureKind::doubleTap}), "2-finger double tap 1");
+    EXPECT_EQ(take(DetectedTap{2, GestureKind::doubleTap}), "2-finger double tap 2");
+    EXPECT_EQ(take(DetectedTap{3, GestureKind::doubleTap}), "3-finger double tap 1");
+    EXPECT_EQ(take(DetectedTap{2, GestureKind::tipTapLeft}), "Single tip-tap left 1");
+    EXPECT_EQ(take(draw), "Top left · Line up 1");
+    EXPECT_EQ(take(draw), "Top left · Line up 2");
+    EXPECT_EQ(take(DetectedEdgeSlide{2, EdgeSlideSide::left, 3}), "2-finger left edge slide up continuous");
+    EXPECT_EQ(take(DetectedEdgeSlide{2, EdgeSlideSide::left, -1}), "2-finger left edge slide down continuous");
+    EXPECT_EQ(take(draw), "Top left · Line up 1");
 }
 
 TEST(GestureTestSession, TakesGesturesOnlyBetweenBeginAndEnd) {

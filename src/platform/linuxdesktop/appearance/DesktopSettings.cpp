@@ -1,11 +1,11 @@
 #include "platform/linuxdesktop/appearance/DesktopSettings.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kinesta {
 namespace {
@@ -45,9 +45,9 @@ QString joined(const QString& group, const QString& key) { return group + QLatin
 
 }  // namespace
 
-DesktopSettings::DesktopSettings(const QDBusConnection& bus) : m_bus(bus) {
+DesktopSettings::DesktopSettings(QDBusConnection bus) : m_bus(std::move(bus)) {
     m_bus.connect(asText(kService), asText(kPath), asText(kInterface), QStringLiteral("SettingChanged"), this,
-                  SLOT(take(QString, QString, QDBusVariant)));
+                  SLOT(takeChange(QDBusMessage)));
     // A portal that starts again, perhaps of another desktop, may have other values.
     auto* watcher = new QDBusServiceWatcher(asText(kService), m_bus, QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] { askForAll(); });
@@ -70,6 +70,12 @@ void DesktopSettings::ask(const QString& group, const QString& key) {
             take(group, key, reply.value());
         finished->deleteLater();
     });
+}
+
+void DesktopSettings::takeChange(const QDBusMessage& signal) {
+    const QVariantList arguments = signal.arguments();
+    if (signal.signature() == QLatin1String("ssv"))
+        take(arguments[0].toString(), arguments[1].toString(), qvariant_cast<QDBusVariant>(arguments[2]));
 }
 
 void DesktopSettings::take(const QString& group, const QString& key, const QDBusVariant& value) {

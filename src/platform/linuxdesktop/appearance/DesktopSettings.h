@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QMap>
 #include <QObject>
@@ -18,7 +19,7 @@ class DesktopSettings final : public QObject, public DisplayPreferences {
     Q_OBJECT
 
   public:
-    explicit DesktopSettings(const QDBusConnection& bus);
+    explicit DesktopSettings(QDBusConnection bus);
 
     /// Nothing if either will do.
     std::optional<NamedAppearance> appearance() const;
@@ -33,7 +34,8 @@ class DesktopSettings final : public QObject, public DisplayPreferences {
 
   private:
     // A slot of a signal on the bus must be known by name.
-    Q_SLOT void take(const QString& group, const QString& key, const QDBusVariant& value);
+    Q_SLOT void takeChange(const QDBusMessage& signal);
+    void take(const QString& group, const QString& key, const QDBusVariant& value);
     void askForAll();
     void ask(const QString& group, const QString& key);
     QVariant value(const char* group, const char* key) const;

@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QString>
+#include <utility>
 
 #include "feedback/ActionCuePanel.h"
 
@@ -14,7 +15,7 @@ class NotificationActionCuePanel final : public QObject, public ActionCuePanel {
     Q_OBJECT
 
   public:
-    explicit NotificationActionCuePanel(const QDBusConnection& bus) : m_bus(bus) {}
+    explicit NotificationActionCuePanel(QDBusConnection bus) : m_bus(std::move(bus)) {}
 
     void setContent(const ActionCueContent& content) override;
     void setBackgroundOpacity(double /*opacity*/) override {}
