@@ -6,6 +6,7 @@
 
 #include "actions/ActionPorts.h"
 #include "actions/InProcessNotifications.h"
+#include "app/LoginItemService.h"
 #include "platform/linux/launching/PosixProcessLauncher.h"
 #include "platform/linux/session/DesktopSession.h"
 #include "platform/linux/windows/WindowOutcomes.h"
@@ -37,6 +38,7 @@ class LinuxActions {
     void letDesktopCatchUp();
 
     WindowOutcomes& windowOutcomes();
+    LoginItemService& loginItem();
 
     /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names. False if no
     /// layout of the keyboard types that letter with the key that is posted. True for keys that name no letter, and if
