@@ -55,11 +55,16 @@ struct Pane {
     const char* program;
     const char* argument;
 };
-constexpr std::array kPanes{
-    Pane{"KDE", "systemsettings", "kcm_autostart"},     Pane{"KDE", "systemsettings5", "kcm_autostart"},
-    Pane{"XFCE", "xfce4-session-settings", nullptr},    Pane{"MATE", "mate-session-properties", nullptr},
-    Pane{"X-Cinnamon", "cinnamon-settings", "startup"}, Pane{"LXQt", "lxqt-config-session", nullptr},
-    Pane{"GNOME", "gnome-session-properties", nullptr}, Pane{"GNOME", "gnome-tweaks", nullptr}};
+constexpr std::array<Pane, 8> kPanes{{
+    {"KDE", "systemsettings", "kcm_autostart"},
+    {"KDE", "systemsettings5", "kcm_autostart"},
+    {"XFCE", "xfce4-session-settings", nullptr},
+    {"MATE", "mate-session-properties", nullptr},
+    {"X-Cinnamon", "cinnamon-settings", "startup"},
+    {"LXQt", "lxqt-config-session", nullptr},
+    {"GNOME", "gnome-session-properties", nullptr},
+    {"GNOME", "gnome-tweaks", nullptr},
+}};
 
 Error failure(const std::string& path, const std::error_code& reason) {
     return {"The start at login cannot be changed: " + path + ": " + systemErrorText(reason.value())};
