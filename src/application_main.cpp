@@ -115,5 +115,6 @@ int main(int argc, char** argv) {
                                                              : ApplicationController::LaunchKind::byPerson);
     app.start();
     mainLoop.run();
+    controller->onChange = {};  // the window changes once more as it goes, after the control
     return 0;
 }

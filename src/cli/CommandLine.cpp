@@ -8,8 +8,11 @@
 namespace kinesta {
 namespace {
 
+constexpr const char* kTrackpad =
+    "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad";
+
 constexpr const char* kExamples =
-    R"(Without a subcommand, Kinesta starts with its icon and window, or shows the window if it runs already.
+    R"(Without a subcommand, Kinesta starts with its icon in the tray, or shows its window if it runs already.
 
 Examples:
   kinesta demo                             watch recognition at work on real recordings
@@ -78,7 +81,7 @@ class Parser {
                 [this](const std::string& path) {
                     m_application.insert(m_application.end(), {"--trackpad", path});
                 },
-                "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad")
+                kTrackpad)
             ->type_name("PATH");
 
         CLI::App* running = m_app.add_subcommand("ctl", "Control the application that runs");
@@ -132,8 +135,7 @@ class Parser {
                                  [this] { return monitor(m_console, m_desktop); });
         for (CLI::App* app : {daemon, live})
             app->add_option_function<std::string>(
-                   "--trackpad", [this](const std::string& path) { m_desktop.useStream(path); },
-                   "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad")
+                   "--trackpad", [this](const std::string& path) { m_desktop.useStream(path); }, kTrackpad)
                 ->type_name("PATH");
         CLI::App* recording = command(m_app, "record", "Write what the pad reports to a recording",
                                       [this] { return record(m_console, m_desktop, m_output, m_device); });
