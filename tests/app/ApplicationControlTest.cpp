@@ -24,14 +24,8 @@ TEST(ApplicationControl, PublishesEachChangeOnce) {
                                 .toggle = nothing,
                                 .reload = nothing,
                                 .quit = nothing});
-    ApplicationState expected{.isGestureEnabled = true,
-                              .status = TrackpadContactProviderStatus::Kind::listening,
-                              .statusText = "on",
-                              .enabledRules = store.rules().value().size(),
-                              .tray = TrayKind::xembed};
     service.start();
-    EXPECT_EQ(control.state().value(), expected);
-
+    ASSERT_EQ(control.state().value().enabledRules, 1);
     int changes = 0;
     const Subscription observer = control.state().observe([&](const auto&) { ++changes; });
     control.perform(ApplicationRequest::show);
@@ -39,14 +33,11 @@ TEST(ApplicationControl, PublishesEachChangeOnce) {
     control.perform(ApplicationRequest::hide);  // which these parts do not do
     EXPECT_EQ(changes, 1);
     store.disableAllRules();
-    expected.isWindowVisible = true;
-    expected.enabledRules = 0;
-    EXPECT_EQ(control.state().value(), expected);
     control.perform(ApplicationRequest::disable);
-    expected.isGestureEnabled = false;
-    expected.status = TrackpadContactProviderStatus::Kind::stopped;
-    expected.statusText = "off";
-    EXPECT_EQ(control.state().value(), expected);
+    EXPECT_EQ(control.state().value(), (ApplicationState{.status = TrackpadContactProviderStatus::Kind::stopped,
+                                                         .statusText = "off",
+                                                         .isWindowVisible = true,
+                                                         .tray = TrayKind::xembed}));
 }
 
 }  // namespace

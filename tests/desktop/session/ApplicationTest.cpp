@@ -109,34 +109,27 @@ TEST_F(Application, IsControlledFromOutside) {
     sd_bus* bus = nullptr;
     std::string changed;
     ASSERT_GE(sd_bus_open_user(&bus), 0);
-    const auto note = [](sd_bus_message* signal, void* names, sd_bus_error*) {
-        const char* name = nullptr;
+    const auto note = [](sd_bus_message* signal, void* name, sd_bus_error*) {
+        const char* first = nullptr;
         sd_bus_message_skip(signal, "s");
         sd_bus_message_enter_container(signal, 'a', "{sv}");
-        while (sd_bus_message_enter_container(signal, 'e', "sv") > 0) {
-            sd_bus_message_read(signal, "s", &name);
-            *static_cast<std::string*>(names) += std::string(name) + " ";
-            sd_bus_message_skip(signal, "v");
-            sd_bus_message_exit_container(signal);
-        }
+        sd_bus_message_enter_container(signal, 'e', "sv");
+        sd_bus_message_read(signal, "s", &first);
+        *static_cast<std::string*>(name) = first;
         return 0;
     };
     constexpr const char* kName = "com.orvane.kinesta";
     constexpr const char* kPath = "/com/orvane/kinesta";
     ASSERT_GE(sd_bus_match_signal(bus, nullptr, kName, kPath, nullptr, "PropertiesChanged", note, &changed), 0);
-    const auto changesAfter = [&](const std::string& arguments) {
+    const auto changeAfter = [&](const std::string& arguments) {
         EXPECT_EQ(run(arguments), "0|") << arguments;
-        const auto arrived = [&] {
-            while (sd_bus_process(bus, nullptr) > 0) {
-            }
-            return !changed.empty();
-        };
-        EXPECT_TRUE(eventually(arrived)) << arguments;
+        while (changed.empty() && (sd_bus_process(bus, nullptr) > 0 || sd_bus_wait(bus, 20'000'000) > 0)) {
+        }
         return std::exchange(changed, {});
     };
-    EXPECT_EQ(changesAfter("ctl show"), "WindowVisible ");
-    EXPECT_EQ(changesAfter("ctl toggle"), "WindowVisible ");
-    EXPECT_NE(changesAfter("ctl disable").find("GesturesEnabled "), std::string::npos);
+    EXPECT_EQ(changeAfter("ctl show"), "WindowVisible");
+    EXPECT_EQ(changeAfter("ctl toggle"), "WindowVisible");
+    EXPECT_EQ(run("ctl disable"), "0|");
     EXPECT_EQ(status()["gesturesEnabled"], false);
     const auto asDesktopsDo = [&](const char* action) {
         return sd_bus_call_method(bus, kName, kPath, "org.freedesktop.Application", "ActivateAction", nullptr, nullptr,
@@ -144,10 +137,8 @@ TEST_F(Application, IsControlledFromOutside) {
     };
     EXPECT_LT(asDesktopsDo("no-such-action"), 0);
     EXPECT_GE(asDesktopsDo("enable"), 0);
+    EXPECT_GE(asDesktopsDo("show"), 0);
     EXPECT_EQ(status()["gesturesEnabled"], true);
-    EXPECT_GE(
-        sd_bus_call_method(bus, kName, kPath, "org.freedesktop.Application", "Activate", nullptr, nullptr, "a{sv}", 0),
-        0);
     EXPECT_EQ(status()["windowVisible"], true);
     sd_bus_flush_close_unref(bus);
     EXPECT_EQ(run("ctl quit"), "0|");

@@ -1,6 +1,7 @@
 #include "platform/linux/process/SignalBlock.h"
 
 #include <csignal>
+#include <initializer_list>
 
 namespace kinesta {
 

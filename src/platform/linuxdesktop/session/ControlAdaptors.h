@@ -36,13 +36,12 @@ class ControlAdaptor final : public QDBusAbstractAdaptor {
     uint enabledRules() const { return static_cast<uint>(state().enabledRules); }
     QString tray() const;
 
-  public Q_SLOTS:
-    void Show() { m_control.perform(ApplicationRequest::show); }
-    void Hide() { m_control.perform(ApplicationRequest::hide); }
-    void Toggle() { m_control.perform(ApplicationRequest::toggle); }
-    void Reload() { m_control.perform(ApplicationRequest::reload); }
-    void Quit() { m_control.perform(ApplicationRequest::quit); }
-    void SetGesturesEnabled(bool enabled) {
+    Q_SLOT void Show() { m_control.perform(ApplicationRequest::show); }
+    Q_SLOT void Hide() { m_control.perform(ApplicationRequest::hide); }
+    Q_SLOT void Toggle() { m_control.perform(ApplicationRequest::toggle); }
+    Q_SLOT void Reload() { m_control.perform(ApplicationRequest::reload); }
+    Q_SLOT void Quit() { m_control.perform(ApplicationRequest::quit); }
+    Q_SLOT void SetGesturesEnabled(bool enabled) {
         m_control.perform(enabled ? ApplicationRequest::enable : ApplicationRequest::disable);
     }
 
@@ -61,13 +60,12 @@ class ActivationAdaptor final : public QDBusAbstractAdaptor {
     ActivationAdaptor(QObject* parent, QDBusConnection bus, ApplicationControl& control)
         : QDBusAbstractAdaptor(parent), m_bus(std::move(bus)), m_control(control) {}
 
-  public Q_SLOTS:
-    void Activate(const QVariantMap& /*platformData*/) { m_control.perform(ApplicationRequest::show); }
+    Q_SLOT void Activate(const QVariantMap& /*platformData*/) { m_control.perform(ApplicationRequest::show); }
     /// There are no documents to open.
-    void Open(const QStringList& /*addresses*/, const QVariantMap& platformData) { Activate(platformData); }
+    Q_SLOT void Open(const QStringList& /*addresses*/, const QVariantMap& platformData) { Activate(platformData); }
     /// The actions of the desktop file are named as the requests.
-    void ActivateAction(const QString& name, const QVariantList& parameters, const QVariantMap& platformData,
-                        const QDBusMessage& call);
+    Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameters, const QVariantMap& platformData,
+                               const QDBusMessage& call);
 
   private:
     QDBusConnection m_bus;
