@@ -1,14 +1,24 @@
 #include <QApplication>
-#include <QStandardPaths>
-#include <QSysInfo>
+#include <QCommandLineParser>
+#include <deque>
 #include <iostream>
-
-#include <gnu/libc-version.h>
+#include <optional>
 
 #include "app/App.h"
+#include "app/ApplicationControl.h"
 #include "app/ApplicationController.h"
+#include "feedback/ActionCuePresenter.h"
 #include "platform/linux/LinuxDesktop.h"
+#include "platform/linux/process/ProgramFiles.h"
+#include "platform/linux/process/SignalBlock.h"
 #include "platform/linuxdesktop/UpdaterProcess.h"
+#include "platform/linuxdesktop/appearance/DesktopAppearance.h"
+#include "platform/linuxdesktop/cue/DesktopActionCue.h"
+#include "platform/linuxdesktop/cue/DesktopScreens.h"
+#include "platform/linuxdesktop/session/ControlService.h"
+#include "platform/linuxdesktop/session/SessionBus.h"
+#include "platform/linuxdesktop/session/SessionEvents.h"
+#include "platform/linuxdesktop/tray/LinuxStatusItem.h"
 #include "platform/qt/JsonBundleInformation.h"
 #include "platform/qt/QtActivationPolicy.h"
 #include "platform/qt/QtConfigurationWindow.h"
@@ -17,52 +27,220 @@
 #include "ui/StatusWindow.h"
 
 namespace kinesta {
-struct S final : StatusItem, LoginItemService {
-    void create(Handlers) override {}
-    void setState(bool, const std::string&) override {}
-    void setToolTip(const std::string&) override {}
-    void setMenu(const StatusMenu&) override {}
-    void openMenu() override {}
-    LoginItemStatus status() const override { return LoginItemStatus::notRegistered; }
-    Outcome registerItem() override { return success(); }
-    Outcome unregisterItem() override { return success(); }
-    Outcome openSettings() override { return success(); }
+namespace {
+
+/// How long a panel may take to accept the icon before the person is told that there is none.
+constexpr std::chrono::seconds kTrayPatience{2};
+constexpr std::size_t kMostProblems = 5;
+
+struct Options {
+    bool isInBackground = false;
+    std::optional<std::string> trackpad;
 };
+
+Options optionsIn(const QApplication& application) {
+    QCommandLineParser parser;
+    const QCommandLineOption background(QStringLiteral("background"));
+    const QCommandLineOption trackpad(QStringLiteral("trackpad"), {}, QStringLiteral("PATH"));
+    parser.addOptions({background, trackpad});
+    parser.process(application);
+    return {parser.isSet(background),
+            parser.isSet(trackpad) ? std::optional(parser.value(trackpad).toStdString()) : std::nullopt};
+}
+
+/// The application on a Linux desktop: all parts, connected.
+class Application {
+  public:
+    Application(QtMainThread& mainLoop, LinuxDesktop& desktop, Options options)
+        : m_mainLoop(mainLoop), m_desktop(desktop), m_options(std::move(options)) {
+        m_statusItem.setPanelIsDark(m_settings.appearance() == NamedAppearance::darkAqua);
+        m_settingsObserver = m_settings.observe(
+            [this] { m_statusItem.setPanelIsDark(m_settings.appearance() == NamedAppearance::darkAqua); });
+        m_controller.configureWindowOpening([this] {
+            m_window.open();
+            showNotices();
+        });
+        m_controller.configureRuntime(m_app.store(), m_app.recognition().service(), m_login, m_updates);
+        m_controller.onChange = [this] {
+            m_control.refresh();
+            if (auto* window = statusWindow())
+                window->update();
+        };
+        m_app.onToggleConfigurationWindow = [this] { m_controller.toggleConfigurationWindow(); };
+        m_trayObserver = m_statusItem.kind().observe([this](TrayKind) {
+            m_control.refresh();
+            showNotices();
+        });
+        m_testObserver = m_app.testSession().isActive().observe([this](bool) { m_control.refresh(); });
+        applyAppearance();
+    }
+
+    // The window and the icon change once more as they go, after the control.
+    ~Application() { m_controller.onChange = {}; }
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    void run() {
+        m_controller.applicationWillFinishLaunching();
+        m_service.emplace(sessionBus(), m_control, [this](const std::string& problem) { tell(problem); });
+        m_controller.applicationDidFinishLaunching(m_options.isInBackground
+                                                       ? ApplicationController::LaunchKind::inBackground
+                                                       : ApplicationController::LaunchKind::byPerson);
+        m_app.start();
+        m_session.emplace(m_events);
+        m_desktop.watchDefaults([this] { reload(); });
+        reload();  // for changes between the first reading and the start of watching
+        m_trayCheck = m_mainLoop.after(kTrayPatience, [this] { findOutAboutTray(); });
+        m_mainLoop.run();
+    }
+
+    void reload() {
+        if (!m_desktop.reloadDefaults())
+            return;
+        m_app.reload();
+        applyAppearance();
+    }
+
+  private:
+    /// Tells problems in the log and in the window.
+    Desktop::Tell teller() {
+        return [this](const std::string& problem) { tell(problem); };
+    }
+
+    void tell(const std::string& problem) {
+        std::cerr << problem << std::endl;
+        std::erase(m_problems, problem);
+        m_problems.push_back(problem);
+        if (m_problems.size() > kMostProblems)
+            m_problems.pop_front();
+        showNotices();
+    }
+
+    UserDefaults& defaultsThatTell() {
+        m_desktop.onSettingsProblem(teller());
+        return m_desktop.defaults();
+    }
+
+    Desktop& desktopWithCue() {
+        m_desktop.setCue(m_cue);
+        return m_desktop;
+    }
+
+    StatusWindow* statusWindow() const { return static_cast<StatusWindow*>(m_window.widget()); }
+
+    void showNotices() {
+        auto* window = statusWindow();
+        if (window == nullptr)
+            return;
+        QStringList notices;
+        if (m_isTrayDue && m_statusItem.kind().value() == TrayKind::none)
+            notices += QObject::tr(
+                "This desktop shows no status icons. Start Kinesta again to bring back this window; "
+                "closing it leaves gestures on.");
+        for (const std::string& problem : m_problems)
+            notices += QString::fromStdString(problem);
+        window->setNotices(notices);
+    }
+
+    /// Someone who has started the program by hand must see something of it.
+    void findOutAboutTray() {
+        m_isTrayDue = true;
+        if (m_statusItem.kind().value() == TrayKind::none && !m_options.isInBackground)
+            m_controller.showConfigurationWindow();
+        showNotices();
+    }
+
+    void applyAppearance() { m_appearance.force(AppAppearances::ns(AppAppearances::stored(m_defaults))); }
+
+    std::unique_ptr<SoftwareUpdater> makeUpdater() {
+        return std::make_unique<UpdaterProcess>(UpdaterProcess::Environment{.mainThread = m_mainLoop,
+                                                                            .clock = m_desktop.clock(),
+                                                                            .defaults = m_defaults,
+                                                                            .program = m_files.updater().string(),
+                                                                            .bundle = m_files.bundle().string()});
+    }
+
+    QtMainThread& m_mainLoop;
+    LinuxDesktop& m_desktop;
+    Options m_options;
+    std::deque<std::string> m_problems;
+    bool m_isTrayDue = false;
+    ProgramFiles m_files = ProgramFiles::ofThisProcess();
+    JsonBundleInformation m_bundle{m_files.bundle()};
+    ApplicationEvents m_events;
+    QtConfigurationWindow m_window{
+        m_events, [this] { return std::make_unique<StatusWindow>(m_controller, m_app.recognition().service()); }};
+
+    DesktopSettings m_settings{sessionBus()};
+    DesktopAppearance m_appearance{m_settings};
+    DesktopScreens m_screens{[this] { return m_desktop.monitors(); }};
+    UserDefaults& m_defaults{defaultsThatTell()};
+    ActionCuePresenter m_cue{{m_defaults, m_mainLoop, m_screens, m_settings}, makeActionCuePanel};
+    App m_app{desktopWithCue(), teller()};
+    LaunchAtLoginManager m_login{m_desktop.loginItem()};
+    SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
+
+    LinuxStatusItem m_statusItem{sessionBus()};
+    QtTermination m_termination{m_mainLoop};
+    QtActivationPolicy m_policy;
+    ApplicationController m_controller{
+        {m_mainLoop, m_defaults, m_bundle, m_events, m_statusItem, m_window, m_policy, m_termination}};
+    ApplicationControl m_control{{.store = m_app.store(),
+                                  .service = m_app.recognition().service(),
+                                  .statusText = [this] { return m_controller.statusLine(); },
+                                  .isWindowVisible = [this] { return m_controller.isWindowShown(); },
+                                  .isTestActive = [this] { return m_app.testSession().isActive().value(); },
+                                  .tray = [this] { return m_statusItem.kind().value(); },
+                                  .show = [this] { m_controller.showConfigurationWindow(); },
+                                  .hide = [this] { m_controller.hideConfigurationWindow(); },
+                                  .toggle = [this] { m_controller.toggleConfigurationWindow(); },
+                                  .reload = [this] { reload(); },
+                                  .quit = [this] { m_controller.quit(); }}};
+    std::optional<ControlService> m_service;
+    std::optional<SessionEvents> m_session;
+    DelayedTask m_trayCheck;
+    Subscription m_settingsObserver;
+    Subscription m_trayObserver;
+    Subscription m_testObserver;
+};
+
+}  // namespace
 }  // namespace kinesta
 
 int main(int argc, char** argv) {
     using namespace kinesta;
-    QApplication::setApplicationName("Kinesta");
-    QApplication::setDesktopFileName("com.orvane.kinesta");
-    QApplication::setQuitOnLastWindowClosed(false);
-    const QApplication application(argc, argv);
+    blockProgramSignals();  // before Qt starts threads
+    QApplication::setApplicationName(QStringLiteral("Kinesta"));
+    QApplication::setDesktopFileName(QStringLiteral("com.orvane.kinesta"));
+    QApplication::setQuitOnLastWindowClosed(ApplicationController::applicationShouldTerminateAfterLastWindowClosed());
+    std::optional<XWaylandPreference> preference(std::in_place);
+    const QApplication qt(argc, argv);
+    preference.reset();
+    const Options options = optionsIn(qt);
+
     QtMainThread mainLoop;
     LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());
     desktop.surviveClosedPipes();
-    desktop.catchSignals({ProgramSignal::end}, [&mainLoop](ProgramSignal /*signal*/) { mainLoop.quit(); });
-    App app(desktop, [](const std::string& problem) { std::cerr << problem << std::endl; });
-    JsonBundleInformation bundle(argv[1]);
-    S s;
-    LaunchAtLoginManager login(s);
-    const auto folder = QCoreApplication::applicationDirPath().toStdString();
-    SoftwareUpdateController updates(bundle, [&](const UpdateConfiguration&) {
-        return std::make_unique<UpdaterProcess>(UpdaterProcess::Environment{
-            mainLoop, desktop.clock(), desktop.defaults(), folder + "/kinesta-updater", argv[1]});
+    Application* running = nullptr;
+    desktop.catchSignals({ProgramSignal::end, ProgramSignal::reload}, [&](ProgramSignal signal) {
+        if (signal == ProgramSignal::end)
+            mainLoop.quit();
+        else if (running)
+            running->reload();
     });
-    ApplicationEvents events;
-    QtTermination termination(mainLoop);
-    QtActivationPolicy policy;
-    std::optional<ApplicationController> controller;
-    QtConfigurationWindow window(
-        events, [&] { return std::make_unique<StatusWindow>(*controller, app.recognition().service()); });
-    controller.emplace(ApplicationPorts{mainLoop, desktop.defaults(), bundle, events, s, window, policy, termination});
-    controller->configureWindowOpening([&] { window.open(); });
-    controller->configureRuntime(app.store(), app.recognition().service(), login, updates);
-    controller->applicationWillFinishLaunching();
-    controller->applicationDidFinishLaunching();
-    app.start();
-    if (argc > 2)
-        updates.checkForUpdates();
-    mainLoop.run();
+    const auto claim = desktop.claimApplication(options.isInBackground ? ApplicationOpening::inBackground
+                                                                       : ApplicationOpening::withWindow);
+    if (!claim) {
+        std::cerr << claim.error().message << '\n';
+        return 1;
+    }
+    if (!*claim)
+        return 0;  // the other application has shown its window
+    if (options.trackpad)
+        desktop.useStream(*options.trackpad);
+    Application application(mainLoop, desktop, options);
+    running = &application;
+    application.run();
+    running = nullptr;
     return 0;
 }

@@ -11,6 +11,7 @@
 #include "actions/ActionPorts.h"
 #include "app/DesktopFindings.h"
 #include "app/LiveTrackpad.h"
+#include "app/RunningApplication.h"
 #include "app/WindowActionOutcomes.h"
 #include "rules/SystemGestureWarningChecker.h"
 #include "support/MainLoop.h"
@@ -18,8 +19,9 @@
 
 namespace kinesta {
 
-/// A request of the terminal or the system: to end, to stop (Ctrl-Z), to read the settings again.
-enum class ProgramSignal { end, stop, reload };
+/// A request of the terminal or the system: to end, to stop (Ctrl-Z), to read the settings again; or of the application
+/// to the daemon: to end because the application acts on gestures from now on.
+enum class ProgramSignal { end, stop, reload, yield };
 
 /// Whether it is certain that no other process of this user acts on gestures.
 enum class SingleInstanceClaim { certain, uncertain };
@@ -46,7 +48,13 @@ class Desktop {
                               std::function<void(ProgramSignal)> handler) = 0;
     /// Lets writing to a closed pipe fail instead of ending the program.
     virtual void surviveClosedPipes() = 0;
-    /// Makes this the one process that acts on gestures, until it ends. The error names the process that already does.
+    /// Turns this process into the graphical application with these arguments. Returns only if that is not possible:
+    /// why.
+    virtual Error becomeApplication(const std::vector<std::string>& arguments) = 0;
+    /// The application of this session, in another process.
+    virtual RunningApplication& runningApplication() = 0;
+    /// Makes this, a daemon, the one process that acts on gestures, until it ends. The error names the process that
+    /// already does.
     virtual Result<SingleInstanceClaim> claimSingleInstance() = 0;
     /// Hides the cursor and shows the terminal's second screen until giveTerminalBack() or the end of the program.
     virtual void takeTerminal() = 0;

@@ -8,7 +8,13 @@
 namespace kinesta {
 namespace {
 
-constexpr const char* kExamples = R"(Examples:
+constexpr const char* kTrackpad =
+    "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad";
+
+constexpr const char* kExamples =
+    R"(Without a subcommand, Kinesta starts with its icon in the tray, or shows its window if it runs already.
+
+Examples:
   kinesta demo                             watch recognition at work on real recordings
   kinesta replay tap.jsonl                 what is recognized in a recording, and which rule takes it
   kinesta replay bug.yml --json            the same for a program to read
@@ -24,8 +30,9 @@ class Parser {
     Parser(const Console& console, Desktop& desktop) : m_console(console), m_desktop(desktop) {
         m_app.set_version_flag("--version", "kinesta " KINESTA_VERSION, "Show the version and exit");
         m_app.set_help_flag("-h,--help", "Show this help and exit");
-        m_app.require_subcommand(1);
+        m_app.require_subcommand(0, 1);
         m_app.footer(kExamples);
+        addApplication();
         addPlaying();
         addLive();
         addRules();
@@ -40,6 +47,12 @@ class Parser {
             return ExitStatus::success;
         } catch (const CLI::Error& error) {
             m_app.exit(error, m_console.out, m_console.err);
+            return ExitStatus::badUsage;
+        }
+        if (!m_run)
+            return becomeApplication(m_console, m_desktop, m_application);
+        if (!m_application.empty()) {
+            m_console.fail(m_application.front() + " stands before a subcommand; it is for kinesta without one.");
             return ExitStatus::badUsage;
         }
         return m_run();
@@ -58,6 +71,27 @@ class Parser {
     GestureSystem system() const { return fromRawValue<GestureSystem>(m_system).value_or(m_desktop.gestureSystem()); }
 
     OutputForm form() const { return m_json ? OutputForm::json : OutputForm::forPeople; }
+
+    void addApplication() {
+        m_app.add_flag_callback(
+            "--background", [this] { m_application.emplace_back("--background"); }, "Start without showing the window");
+        m_app
+            .add_option_function<std::string>(
+                "--trackpad",
+                [this](const std::string& path) {
+                    m_application.insert(m_application.end(), {"--trackpad", path});
+                },
+                kTrackpad)
+            ->type_name("PATH");
+
+        CLI::App* running = m_app.add_subcommand("ctl", "Control the application that runs");
+        running->require_subcommand(1);
+        for (const ApplicationRequest request : allCases<ApplicationRequest>())
+            command(*running, std::string(rawValue(request)), std::string(title(request)),
+                    [this, request] { return control(m_console, m_desktop, request); });
+        addJson(command(*running, "status", "Tell what it does",
+                        [this] { return applicationStatus(m_console, m_desktop, form()); }));
+    }
 
     void addPlaying() {
         command(m_app, "demo", "Play the bundled recordings and show what is recognized",
@@ -101,8 +135,7 @@ class Parser {
                                  [this] { return monitor(m_console, m_desktop); });
         for (CLI::App* app : {daemon, live})
             app->add_option_function<std::string>(
-                   "--trackpad", [this](const std::string& path) { m_desktop.useStream(path); },
-                   "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad")
+                   "--trackpad", [this](const std::string& path) { m_desktop.useStream(path); }, kTrackpad)
                 ->type_name("PATH");
         CLI::App* recording = command(m_app, "record", "Write what the pad reports to a recording",
                                       [this] { return record(m_console, m_desktop, m_output, m_device); });
@@ -158,6 +191,7 @@ class Parser {
     Desktop& m_desktop;
     CLI::App m_app{"Kinesta: deliberate trackpad gestures that run what you choose.", "kinesta"};
     std::function<ExitStatus()> m_run;
+    std::vector<std::string> m_application;  // the arguments of the application
     ReplayRequest m_replay;
     std::string m_input;
     std::string m_output = "-";

@@ -13,9 +13,9 @@ using Arguments = std::vector<std::string>;
 TEST(CommandLine, ReportsBadUsageWithStatusTwo) {
     const CommandRunner kinesta;
     for (const Arguments& arguments :
-         {Arguments{}, Arguments{"frobnicate"}, Arguments{"replay"}, Arguments{"rules"}, Arguments{"rules", "check"},
-          Arguments{"gestures", "--yaml"}, Arguments{"replay", "-", "--allow-shell-commands"},
-          Arguments{"demo", "surplus"}}) {
+         {Arguments{"--background", "demo"}, Arguments{"ctl"}, Arguments{"frobnicate"}, Arguments{"replay"},
+          Arguments{"rules"}, Arguments{"rules", "check"}, Arguments{"gestures", "--yaml"},
+          Arguments{"replay", "-", "--allow-shell-commands"}, Arguments{"demo", "surplus"}}) {
         const Ran ran = kinesta.run(arguments);
         EXPECT_TRUE(ran.status == 2 && ran.out.empty() && !ran.err.empty()) << ::testing::PrintToString(arguments);
     }

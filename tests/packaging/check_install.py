@@ -9,6 +9,7 @@ import pathlib
 import subprocess
 import sys
 import tempfile
+import xml.etree.ElementTree
 
 PREFIX = "/opt/a b/100%h"  # systemd splits at a blank and replaces %h
 
@@ -25,6 +26,21 @@ def main():
             problems.append(f"the unit starts something else: {unit}")
         if not os.access(installed / "bin/kinesta", os.X_OK):
             problems.append("the program that the unit starts is not installed")
+        if (installed / "libexec/kinesta/kinesta-application").exists():  # else built without it
+            name = "com.orvane.kinesta"
+            share = installed / "share"
+            expected = {
+                f"applications/{name}.desktop": {'Exec="/opt/a b/100%%h/bin/kinesta"', "DBusActivatable=true"},
+                f"dbus-1/services/{name}.service": {f"Name={name}", 'Exec="/opt/a b/100%h/bin/kinesta" --background'}}
+            for file, lines in expected.items():
+                if missing := lines - set((share / file).read_text(encoding="utf-8").splitlines()):
+                    problems.append(f"{file} does not say {missing}")
+            for icon in ("scalable/apps/{}.svg", "symbolic/apps/{}-symbolic.svg", "16x16/apps/{}.svg"):
+                xml.etree.ElementTree.parse(share / "icons/hicolor" / icon.format(name))
+            started = subprocess.run([installed / "bin/kinesta", "--background"], capture_output=True, text=True,
+                                     env={"QT_QPA_PLATFORM": "none such", "PATH": "/"})
+            if "none such" not in started.stderr:
+                problems.append(f"the application does not start: {started.stderr}")
         if len(os.listdir(folder)) != 1:
             problems.append(f"something escaped the prefix: {os.listdir(folder)}")
         sys.exit("\n".join(problems) or 0)

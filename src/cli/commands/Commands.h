@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "app/Desktop.h"
 #include "cli/terminal/Console.h"
@@ -10,11 +11,20 @@ namespace kinesta {
 
 // The subcommands of `kinesta`, one function each.
 
+/// `kinesta` alone: turns this process into the graphical application. Returns only if that is not possible.
+ExitStatus becomeApplication(const Console& console, Desktop& desktop, const std::vector<std::string>& arguments);
+
+/// `kinesta ctl show` and its like: asks the running application, and returns when it has done so.
+ExitStatus control(const Console& console, Desktop& desktop, ApplicationRequest request);
+
+/// `kinesta ctl status`: what the running application does.
+ExitStatus applicationStatus(const Console& console, Desktop& desktop, OutputForm form);
+
 enum class LogLevel { gestures, everything };
 
 /// `kinesta daemon`: recognition, rules and actions without any window, until SIGTERM or Ctrl-C. SIGHUP, and every
-/// change of the settings file, reload rules and settings. Logs one line for each gesture: which rule ran, or why none
-/// did.
+/// change of the settings file, reload rules and settings. Ends when the application starts. Logs one line for each
+/// gesture: which rule ran, or why none did.
 ExitStatus runDaemon(const Console& console, Desktop& desktop, LogLevel level);
 
 /// `kinesta demo`: plays the bundled recordings in real time, with a picture of the pad on a terminal, else as

@@ -48,7 +48,9 @@ class Daemon {
     }
 
     void receive(ProgramSignal signal) {
-        if (signal == ProgramSignal::end)
+        if (signal == ProgramSignal::yield)
+            m_log.write("The Kinesta application has started and takes over.");
+        if (signal == ProgramSignal::end || signal == ProgramSignal::yield)
             m_desktop.mainLoop().quit();
         else if (!reload("Asked to reload"))
             m_log.write("Asked to reload: there is nothing new to be read.");
@@ -109,12 +111,13 @@ class Daemon {
 
 ExitStatus runDaemon(const Console& console, Desktop& desktop, LogLevel level) {
     desktop.surviveClosedPipes();  // the reader of the log may end first
+    Daemon* running = nullptr;
+    // Before the claim: once that is made, the application may ask this to end.
+    desktop.catchSignals({ProgramSignal::end, ProgramSignal::reload, ProgramSignal::yield},
+                         [&running](ProgramSignal signal) { running->receive(signal); });
     const auto claim = desktop.claimSingleInstance();
     if (!claim)
         return console.fail(claim.error().message);
-    Daemon* running = nullptr;
-    desktop.catchSignals({ProgramSignal::end, ProgramSignal::reload},
-                         [&running](ProgramSignal signal) { running->receive(signal); });
     Daemon daemon(console, desktop, level);
     running = &daemon;
     daemon.run(*claim);

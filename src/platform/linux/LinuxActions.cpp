@@ -10,9 +10,11 @@
 #include "platform/linux/keyboard/UinputDevice.h"
 #include "platform/linux/keyboard/X11Keyboard.h"
 #include "platform/linux/keyboard/XkbKeyboardLayout.h"
+#include "platform/linux/launching/AutostartLoginItem.h"
 #include "platform/linux/launching/DesktopPortal.h"
 #include "platform/linux/launching/XdgWorkspace.h"
 #include "platform/linux/process/PosixHomeFolders.h"
+#include "platform/linux/process/ProgramFiles.h"
 #include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/session/DesktopNotifications.h"
 #include "platform/linux/session/DesktopPermission.h"
@@ -68,6 +70,7 @@ struct LinuxActions::Parts {
     WindowOwnWindows ownWindows{desktop};
     WindowOwnMenus ownMenus{tiler};
     XdgWorkspace workspace;
+    AutostartLoginItem loginItem{ProgramFiles::ofThisProcess().program().string(), launcher, workspace};
     DesktopNotifications notificationsOnScreen{bus};
     DesktopPermission permission{poster, notificationsOnScreen, [this] {
                                      const auto facts = DesktopFacts::probeInput(connection, UinputDevice::kPath);
@@ -97,6 +100,8 @@ ActionPorts LinuxActions::ports(const UserDefaults& settings, ActionCuePresentin
 }
 
 InProcessNotifications& LinuxActions::notifications() { return m_parts->notifications; }
+
+LoginItemService& LinuxActions::loginItem() { return m_parts->loginItem; }
 
 WindowOutcomes& LinuxActions::windowOutcomes() { return m_parts->outcomes; }
 

@@ -7,6 +7,7 @@
 
 #include "actions/ActionPorts.h"
 #include "actions/InProcessNotifications.h"
+#include "app/LoginItemService.h"
 #include "platform/linux/launching/PosixProcessLauncher.h"
 #include "platform/linux/session/DesktopSession.h"
 #include "platform/linux/windows/EwmhSnapshot.h"
@@ -39,6 +40,7 @@ class LinuxActions {
     void letDesktopCatchUp();
 
     WindowOutcomes& windowOutcomes();
+    LoginItemService& loginItem();
 
     /// The monitors with their work areas; none without an X server that answers at once.
     std::vector<EwmhMonitor> monitors();

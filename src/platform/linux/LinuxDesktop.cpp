@@ -2,29 +2,45 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdlib>
 
 #include "platform/linux/StreamTrackpad.h"
 #include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/process/BrokenPipes.h"
+#include "platform/linux/process/ProgramFiles.h"
 #include "platform/linux/process/SessionEnvironment.h"
+#include "platform/linux/session/DesktopFacts.h"
+#include "platform/linux/x11/X11Connection.h"
 #include "support/SystemError.h"
 
 namespace kinesta {
 namespace {
 
-/// share/kinesta/examples beside the folder of the running program, both in an installation and in a build tree.
-std::filesystem::path examplesOfThisProgram() {
-    std::error_code ignored;
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", ignored);
-    return program.parent_path().parent_path() / "share" / "kinesta" / "examples";
-}
-
 GestureSystem systemOfThisSession() {
     if (isCurrentDesktop("GNOME"))
         return GestureSystem::gnome;
     return isCurrentDesktop("KDE") ? GestureSystem::kde : GestureSystem::none;
+}
+
+SingleInstanceClaim certaintyOf(const SingleInstance& instance) {
+    return instance.isCertain() ? SingleInstanceClaim::certain : SingleInstanceClaim::uncertain;
+}
+
+/// Why the application could not show anything; Qt would abort without a display.
+std::optional<Error> whyNoDisplay() {
+    constexpr Seconds kPatience = 2;
+    if (std::getenv("QT_QPA_PLATFORM") != nullptr || X11Connection().answers(kPatience) || answersWayland())
+        return std::nullopt;
+    const char* display = std::getenv("DISPLAY");
+    const std::string what = display != nullptr && *display != '\0'
+                                 ? "The display " + std::string(display) + " does not answer"
+                                 : "There is no display";
+    return Error{what +
+                 ", so Kinesta cannot show its icon and window. Start it in a graphical session, or use: "
+                 "kinesta daemon"};
 }
 
 ProgramSignal meaningOf(int signal) {
@@ -33,6 +49,8 @@ ProgramSignal meaningOf(int signal) {
             return ProgramSignal::reload;
         case SIGTSTP:
             return ProgramSignal::stop;
+        case SIGUSR1:
+            return ProgramSignal::yield;
         default:
             return ProgramSignal::end;
     }
@@ -41,7 +59,7 @@ ProgramSignal meaningOf(int signal) {
 }  // namespace
 
 LinuxDesktop::Places LinuxDesktop::Places::current() {
-    return {FileUserDefaults::defaultPath(), examplesOfThisProgram(), systemOfThisSession()};
+    return {FileUserDefaults::defaultPath(), ProgramFiles::ofThisProcess().examples(), systemOfThisSession()};
 }
 
 void LinuxDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) {
@@ -57,6 +75,9 @@ void LinuxDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::
             case ProgramSignal::reload:
                 numbers.push_back(SIGHUP);
                 break;
+            case ProgramSignal::yield:
+                numbers.push_back(SIGUSR1);
+                break;
         }
     }
     m_signals.emplace(m_mainLoop, numbers, [handler = std::move(handler)](int signal) { handler(meaningOf(signal)); });
@@ -65,11 +86,41 @@ void LinuxDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::
 void LinuxDesktop::surviveClosedPipes() { surviveBrokenPipes(); }
 
 Result<SingleInstanceClaim> LinuxDesktop::claimSingleInstance() {
-    auto claimed = SingleInstance::claim(m_places.settings);
+    auto claimed = SingleInstance::claim(m_places.settings, SingleInstance::Role::daemon);
     if (!claimed)
         return claimed.error();
     m_instance = std::move(*claimed);
-    return m_instance->isCertain() ? SingleInstanceClaim::certain : SingleInstanceClaim::uncertain;
+    return certaintyOf(*m_instance);
+}
+
+Result<std::optional<SingleInstanceClaim>> LinuxDesktop::claimApplication(ApplicationOpening opening) {
+    auto claimed = claimForApplication(m_places.settings, sessionApplication(), opening);
+    if (!claimed)
+        return claimed.error();
+    m_instance = std::move(*claimed);
+    m_sessionApplication.reset();  // its connection is of no more use
+    return m_instance ? std::optional(certaintyOf(*m_instance)) : std::nullopt;
+}
+
+Error LinuxDesktop::becomeApplication(const std::vector<std::string>& arguments) {
+    if (const auto problem = whyNoDisplay())
+        return *problem;
+    const std::string application = ProgramFiles::ofThisProcess().application().string();
+    std::vector<std::string> words{application};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers;
+    for (std::string& word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    ::execv(application.c_str(), pointers.data());
+    return {"The Kinesta application cannot be started: " + application + ": " + systemErrorText(errno) +
+            ". Install all of Kinesta, or use its subcommands; see: kinesta --help"};
+}
+
+SessionApplication& LinuxDesktop::sessionApplication() {
+    if (!m_sessionApplication)
+        m_sessionApplication.emplace(m_places.settings);
+    return *m_sessionApplication;
 }
 
 void LinuxDesktop::stopUntilContinued() {

@@ -5,11 +5,11 @@
 
 #include "app/Desktop.h"
 #include "feedback/NoActionCue.h"
+#include "platform/linux/ApplicationClaim.h"
 #include "platform/linux/LinuxActions.h"
 #include "platform/linux/LinuxTrackpad.h"
 #include "platform/linux/process/PosixHomeFolders.h"
 #include "platform/linux/process/SignalListener.h"
-#include "platform/linux/process/SingleInstance.h"
 #include "platform/linux/process/Terminal.h"
 #include "platform/linux/settings/FileUserDefaults.h"
 #include "platform/linux/settings/FileWatcher.h"
@@ -46,7 +46,14 @@ class LinuxDesktop final : public Desktop {
     const Clock& clock() const override { return m_clock; }
     void catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) override;
     void surviveClosedPipes() override;
+    Error becomeApplication(const std::vector<std::string>& arguments) override;
+    RunningApplication& runningApplication() override { return sessionApplication(); }
     Result<SingleInstanceClaim> claimSingleInstance() override;
+    /// Makes this the one application of the session, until it ends; see claimForApplication(). Nothing if another one
+    /// runs.
+    Result<std::optional<SingleInstanceClaim>> claimApplication(ApplicationOpening opening);
+    /// What starts the application at login. Uses the actions' way to open things.
+    LoginItemService& loginItem() { return actions().loginItem(); }
     void takeTerminal() override { m_terminal.emplace(); }
     void giveTerminalBack() override { m_terminal.reset(); }
     void stopUntilContinued() override;
@@ -83,6 +90,7 @@ class LinuxDesktop final : public Desktop {
   private:
     FileUserDefaults& fileDefaults();
     LinuxActions& actions();
+    SessionApplication& sessionApplication();
 
     MainLoop& m_mainLoop;
     NoActionCue m_noCue;
@@ -98,6 +106,7 @@ class LinuxDesktop final : public Desktop {
     std::optional<TerminalTakeover> m_terminal;
     std::optional<SignalListener> m_signals;
     std::optional<SingleInstance> m_instance;
+    std::optional<SessionApplication> m_sessionApplication;
     std::optional<FileUserDefaults> m_defaults;
     std::optional<LinuxActions> m_actions;
     std::unique_ptr<LiveTrackpad> m_trackpad;

@@ -1,11 +1,11 @@
 #include "platform/linux/process/SingleInstance.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <string>
@@ -16,11 +16,19 @@ namespace kinesta {
 
 namespace {
 
-/// Opens or creates a file that belongs to this user. None if that is not possible.
-FileDescriptor openOwn(const std::filesystem::path& path) {
+std::vector<std::filesystem::path> places(const std::filesystem::path& settings) {
     std::error_code ignored;
-    std::filesystem::create_directories(path.parent_path(), ignored);
-    FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    std::vector<std::filesystem::path> places{
+        settings.parent_path() / "kinesta.lock",
+        std::filesystem::temp_directory_path(ignored) / ("kinesta-" + std::to_string(::geteuid()) + ".lock")};
+    if (const char* runtime = std::getenv("XDG_RUNTIME_DIR"); runtime != nullptr && runtime[0] == '/')
+        places.insert(places.begin(), std::filesystem::path(runtime) / "kinesta.lock");
+    return places;
+}
+
+/// Opens a file that belongs to this user. None if that is not possible.
+FileDescriptor openOwn(const std::filesystem::path& path, int creation) {
+    FileDescriptor file(::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC | creation, S_IRUSR | S_IWUSR));
     struct stat status {};
     // In a shared folder another user may have created it.
     if (!file || ::fstat(file.number(), &status) != 0 || status.st_uid != ::geteuid())
@@ -28,27 +36,47 @@ FileDescriptor openOwn(const std::filesystem::path& path) {
     return file;
 }
 
-Error runningAlready(const FileDescriptor& lock) {
-    std::array<char, 16> digits{};
-    const ssize_t length = ::pread(lock.number(), digits.data(), digits.size() - 1, 0);
-    const long process = length > 0 ? std::strtol(digits.data(), nullptr, 10) : 0;
-    if (process <= 0)
-        return {"Kinesta is running already."};
-    const std::string number = std::to_string(process);
-    return {"Kinesta is running already, as process " + number + "; to end it: kill " + number};
+/// The holder marks its role by locking one byte: the system then tells everybody its process number, which is never
+/// that of an earlier holder.
+struct flock mark(SingleInstance::Role role) {
+    struct flock byte {};
+    byte.l_type = F_WRLCK;
+    byte.l_whence = SEEK_SET;
+    byte.l_start = static_cast<off_t>(role);
+    byte.l_len = 1;
+    return byte;
+}
+
+std::optional<SingleInstance::Holder> markedHolder(const FileDescriptor& file) {
+    for (const auto role : {SingleInstance::Role::daemon, SingleInstance::Role::application})
+        if (struct flock byte = mark(role); ::fcntl(file.number(), F_GETLK, &byte) == 0 && byte.l_type != F_UNLCK)
+            return SingleInstance::Holder{byte.l_pid, role};
+    return std::nullopt;
+}
+
+Error runningAlready(const FileDescriptor& file) {
+    // The holder has locked the file a moment before it marks its role.
+    for (int attempt = 0; attempt < 20; ++attempt, ::poll(nullptr, 0, 1))
+        if (const auto holder = markedHolder(file))
+            return holder->error();
+    return {"Kinesta is running already."};
 }
 
 }  // namespace
 
-Result<SingleInstance> SingleInstance::claim(const std::filesystem::path& settings) {
-    std::error_code ignored;
-    std::vector<std::filesystem::path> places{
-        settings.parent_path() / "kinesta.lock",
-        std::filesystem::temp_directory_path(ignored) / ("kinesta-" + std::to_string(::geteuid()) + ".lock")};
-    if (const char* runtime = std::getenv("XDG_RUNTIME_DIR"); runtime != nullptr && runtime[0] == '/')
-        places.insert(places.begin(), std::filesystem::path(runtime) / "kinesta.lock");
-    for (const std::filesystem::path& place : places) {
-        FileDescriptor lock = openOwn(place);
+Error SingleInstance::Holder::error() const {
+    const std::string name = role == Role::application ? "The Kinesta application" : "The Kinesta daemon";
+    if (process <= 0)
+        return {name + " is running already."};
+    const std::string number = std::to_string(process);
+    return {name + " is running already, as process " + number + "; to end it: kill " + number};
+}
+
+Result<SingleInstance> SingleInstance::claim(const std::filesystem::path& settings, Role role) {
+    for (const std::filesystem::path& place : places(settings)) {
+        std::error_code ignored;
+        std::filesystem::create_directories(place.parent_path(), ignored);
+        FileDescriptor lock = openOwn(place, O_CREAT);
         if (!lock)
             continue;
         if (::flock(lock.number(), LOCK_EX | LOCK_NB) != 0) {
@@ -56,13 +84,20 @@ Result<SingleInstance> SingleInstance::claim(const std::filesystem::path& settin
                 return runningAlready(lock);
             continue;  // a file system without locks
         }
-        const std::string own = std::to_string(::getpid()) + "\n";
-        // Only for the message to the user; the lock works without it.
-        if (::ftruncate(lock.number(), 0) == 0)
-            static_cast<void>(::pwrite(lock.number(), own.data(), own.size(), 0) < 0);
+        const struct flock byte = mark(role);
+        // Only so that others can tell who runs; the other lock works without it.
+        static_cast<void>(::fcntl(lock.number(), F_SETLK, &byte));
         return SingleInstance(std::move(lock));
     }
     return SingleInstance(FileDescriptor());
+}
+
+std::optional<SingleInstance::Holder> SingleInstance::holder(const std::filesystem::path& settings) {
+    for (const std::filesystem::path& place : places(settings))
+        if (const FileDescriptor file = openOwn(place, 0))
+            if (const auto holder = markedHolder(file))
+                return holder;
+    return std::nullopt;
 }
 
 }  // namespace kinesta

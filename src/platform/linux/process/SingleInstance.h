@@ -1,6 +1,9 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <filesystem>
+#include <optional>
 #include <utility>
 
 #include "platform/linux/process/FileDescriptor.h"
@@ -12,9 +15,24 @@ namespace kinesta {
 /// releases it when the process ends, even by a crash.
 class SingleInstance {
   public:
+    enum class Role { daemon, application };
+
+    /// The process that holds it.
+    struct Holder {
+        /// 0 if it runs in a container, where its number is not known.
+        pid_t process = 0;
+        Role role = Role::daemon;
+
+        /// "running already, as process 7; to end it: kill 7", as a sentence.
+        Error error() const;
+    };
+
     /// Locks a file in the first of these folders where that is possible: XDG_RUNTIME_DIR, the folder of `settings`,
     /// the folder for temporary files. The error names the process that holds it.
-    static Result<SingleInstance> claim(const std::filesystem::path& settings);
+    static Result<SingleInstance> claim(const std::filesystem::path& settings, Role role);
+
+    /// The other process that holds it now. Not for the process that holds it itself: that would lose its role.
+    static std::optional<Holder> holder(const std::filesystem::path& settings);
 
     /// Whether another process is ruled out: false if no file could be locked.
     bool isCertain() const { return static_cast<bool>(m_lock); }

@@ -6,6 +6,7 @@
 #include <QString>
 #include <memory>
 
+#include "app/ApplicationState.h"
 #include "app/StatusItem.h"
 #include "platform/linuxdesktop/tray/ExportedMenu.h"
 #include "platform/linuxdesktop/tray/StatusMenuPopup.h"
@@ -15,9 +16,6 @@
 #include "support/Published.h"
 
 namespace kinesta {
-
-/// How the panel shows our icon.
-enum class TrayKind { none, xembed, statusNotifier };
 
 /// The icon in the panel of a Linux desktop: a status notifier where a panel takes one, otherwise in the tray of an X11
 /// panel. Follows panels as they come, go and restart. Needs the QApplication. Main thread only.
