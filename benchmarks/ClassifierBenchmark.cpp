@@ -10,7 +10,7 @@
 namespace kinesta {
 namespace {
 
-/// `count` points of the curve for 0…1.
+/// `count` points of a curve, evenly spaced from 0 to 1.
 std::vector<Point> path(std::int64_t count, const std::function<Point(double)>& curve) {
     std::vector<Point> points;
     for (std::int64_t i = 0; i < count; ++i)
@@ -24,7 +24,7 @@ void classify(benchmark::State& state, const std::function<Point(double)>& curve
         benchmark::DoNotOptimize(AnchorDrawPatternClassifier::classify(points));
 }
 
-// All are large enough that no point of 300 is thinned out.
+// Every shape is so large that the classifier keeps all of 300 points.
 
 void circle(benchmark::State& state) {
     classify(state, [](double t) {
@@ -33,7 +33,7 @@ void circle(benchmark::State& state) {
     });
 }
 
-/// Fits the outer strokes of a zigzag everywhere and the middle one nowhere.
+/// Matches the outer strokes of a zigzag wherever it is split, and the middle one nowhere.
 void diagonal(benchmark::State& state) {
     classify(state, [](double t) { return Point{1.8 * t, -1.5 * t}; });
 }
@@ -46,7 +46,7 @@ void zigzag(benchmark::State& state) {
     classify(state, [](double t) { return Point{2 * t, std::abs(std::fmod(3 * t, 2.0) - 1) * 0.7}; });
 }
 
-/// Fits nothing, and no test fails early.
+/// Matches no pattern, and no check ends early.
 void wave(benchmark::State& state) {
     classify(state, [](double t) { return Point{1.7 * t, -1.5 * t + 0.1 * std::sin(40 * t)}; });
 }

@@ -10,13 +10,13 @@ namespace kinesta {
 
 inline constexpr Seconds kFrameInterval = 0.01;  // 100 Hz
 
-/// A finger's place on the pad, clear of corners and edges, `progress` (0…1) through its movement.
+/// Where a finger is at `progress` (0 to 1) of its movement, away from corners and edges.
 inline Point fingerPosition(int finger, double progress) {
     return {0.32 + 0.09 * finger, 0.40 + 0.02 * finger + 0.2 * progress};
 }
 
-/// Frames with and without fingers, as a pad sends them: each stroke takes `frames` frames, the last of them the
-/// lift, and gives its fingers ids of their own.
+/// Frames as a pad sends them. Each stroke takes `frames` frames, the last of them without fingers, and has new ids for
+/// its fingers.
 inline std::vector<TrackpadContactFrame> strokes(int count, int fingers, int frames, double travel) {
     std::vector<TrackpadContactFrame> stream;
     Seconds time = 1;

@@ -6,7 +6,7 @@
 namespace kinesta {
 namespace {
 
-/// Time and items are those of one frame.
+/// Each iteration is one frame.
 void runFrames(benchmark::State& state, const std::vector<TrackpadContactFrame>& frames) {
     TouchFrameProcessor processor;
     processor.setCornerPalmRejection({.isEnabled = true});

@@ -9,7 +9,7 @@
 namespace kinesta {
 namespace {
 
-/// Ready, enabled rules of which none takes a five-finger tap.
+/// Enabled rules that are ready; none matches a five-finger tap.
 std::vector<GestureRule> rules(std::int64_t count) {
     std::vector<GestureRule> list;
     for (std::int64_t i = 0; i < count; ++i) {
@@ -26,7 +26,7 @@ std::vector<GestureRule> rules(std::int64_t count) {
     return list;
 }
 
-/// The longest search: to the end of a list without a match.
+/// The slowest search: no rule matches, so it reads the whole list.
 void selectNoRule(benchmark::State& state) {
     const std::vector<GestureRule> list = rules(state.range(0));
     const DetectedGesture gesture = DetectedTap{5, GestureKind::singleTap};

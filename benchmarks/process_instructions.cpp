@@ -1,5 +1,5 @@
-// Feeds streams of contact frames to a TouchFrameProcessor, says how many there were, and fails if any after the first
-// stroke took memory from the heap. To be run under callgrind by scripts/count-instructions.
+// Feeds contact frames to a TouchFrameProcessor, prints how many, and fails if it allocates memory after the first
+// tenth of them. scripts/count-instructions runs it under callgrind.
 
 #include <cstdio>
 #include <cstdlib>

@@ -67,6 +67,8 @@ function(kinesta_qt_module name)
     string(REPLACE "/" "_" target kinesta_${name})
     add_library(${target} STATIC ${sources})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    # CMake 3.25 does not look for Qt objects in a header that was added after the first build.
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
     # Text becomes a QString by name only, and Qt's macros for signals do not take these words from everybody.
     target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
     target_link_libraries(${target} PUBLIC kinesta_options Threads::Threads Qt6::Widgets ${ARG_PUBLIC}
@@ -92,6 +94,7 @@ function(kinesta_test name)
     add_executable(test_${name} ${sources})
     target_link_libraries(test_${name} PRIVATE kinesta_test_support kinesta_test_main ${ARG_LIBRARIES})
     if(ARG_QT)  # compiled as Qt demands, so the precompiled headers of the other tests do not fit
+        set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
         target_precompile_headers(test_${name} PRIVATE <gtest/gtest.h> <QtWidgets> ${KINESTA_COMMON_HEADERS})
     else()
         target_precompile_headers(test_${name} REUSE_FROM kinesta_test_main)

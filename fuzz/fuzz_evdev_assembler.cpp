@@ -1,4 +1,4 @@
-// Plays any bytes as the events of a pad and checks the frames and buttons.
+// Turns bytes into kernel events of a pad, and checks the frames and buttons that the assembler makes of them.
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Plays any stream of frames, clicks and settings through all recognizers. They must not crash, and every result must
-// be a possible gesture.
+// Turns bytes into frames, clicks and settings for all recognizers. Nothing may crash, and every result must be a
+// possible gesture.
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <array>
@@ -19,10 +19,10 @@ using namespace kinesta;
 struct Bytes : FuzzedDataProvider {
     using FuzzedDataProvider::FuzzedDataProvider;
 
-    /// The bytes one by one, then zeros.
+    /// The next byte, or 0 after the last.
     std::uint8_t next() { return ConsumeIntegral<std::uint8_t>(); }
 
-    /// Mostly on the pad, in steps of 1/200.
+    /// Mostly on the pad, in steps of 1/200; sometimes infinite, huge, tiny or not a number.
     double coordinate() {
         using Limits = std::numeric_limits<double>;
         constexpr std::array kOddities{
@@ -31,7 +31,7 @@ struct Bytes : FuzzedDataProvider {
         return byte <= 200 ? byte / 200.0 : kOddities[byte % kOddities.size()];
     }
 
-    /// The time after `time`: a little later or earlier, or any other.
+    /// A time a little before or after `time`, or any other.
     double timeAfter(double time) {
         const std::uint8_t byte = next();
         return byte < 240 ? time + (byte - 10) * 0.004 : coordinate();
@@ -111,7 +111,7 @@ struct Session : Bytes {
         require(!m_processor.completePhysicalClick(m_time));
     }
 
-    /// Every sequence is finalized once and only with its own generation.
+    /// Checks that the processor gives a sequence once, and only for its own generation.
     void finalize() {
         finalize(&TouchFrameProcessor::finalize, m_tap);
         finalize(&TouchFrameProcessor::finalizeTipTap, m_tipTap);

@@ -1,5 +1,5 @@
-// Reads any bytes as a recording; the description of an evemu device follows a NUL. Every event must be the same after
-// it was written and read again.
+// Reads bytes as a recording, and those after a NUL as the description of its evemu device. Every event must be the
+// same after it was written and read again.
 
 #include <cstddef>
 #include <cstdint>

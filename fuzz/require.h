@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-/// Ends the run, as a finding, unless `condition` holds.
+/// Aborts unless `condition` holds, so that the fuzzer reports the input.
 inline void require(bool condition) {
     if (!condition)
         std::abort();

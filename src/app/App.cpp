@@ -24,7 +24,7 @@ App::App(Desktop& desktop, Desktop::Tell tell)
       m_tell(std::move(tell)),
       m_store(defaultsThatTell(desktop, m_tell)),
       m_executor(desktop.actionPorts(desktop.defaults())),
-      m_dispatcher(m_store, desktop.defaults(), m_executor),
+      m_dispatcher(m_store, desktop.defaults(), m_executor, m_testSession),
       m_recognition(desktop) {
     tellUnreadableRules();
     m_dispatcher.bind(m_recognition.service());

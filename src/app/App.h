@@ -4,6 +4,7 @@
 
 #include "app/GestureDispatcher.h"
 #include "app/LiveRecognition.h"
+#include "feedback/GestureTestSession.h"
 
 namespace kinesta {
 
@@ -21,6 +22,8 @@ class App {
     std::function<void()> onAllRulesDisabled;
 
     RuleStore& store() { return m_store; }
+    /// While it is active, no rule runs.
+    GestureTestSession& testSession() { return m_testSession; }
     GestureDispatcher& dispatcher() { return m_dispatcher; }
     LiveRecognition& recognition() { return m_recognition; }
 
@@ -36,6 +39,7 @@ class App {
     Desktop::Tell m_tell;
     RuleStore m_store;
     ActionExecutor m_executor;
+    GestureTestSession m_testSession;
     GestureDispatcher m_dispatcher;
     LiveRecognition m_recognition;
     Subscription m_requests;

@@ -11,7 +11,7 @@ struct Obstacle {
 };
 
 /// Something that a session may or may not let us do.
-enum class DesktopCapability { sendInput, keyboardLayout, windows, open, notify };
+enum class DesktopCapability { sendInput, keyboardLayout, windows, open, notify, cue };
 
 /// Whether one capability works, in plain words.
 struct DesktopFinding {

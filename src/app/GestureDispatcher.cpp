@@ -12,7 +12,8 @@ void GestureDispatcher::bind(MultitouchService& service) {
 void GestureDispatcher::dispatch(const DetectedGesture& gesture) {
     const ShellCommands shellCommands =
         ShellCommandSettings::isEnabled(m_defaults) ? ShellCommands::allowed : ShellCommands::forbidden;
-    const GestureRule* rule = selectRule(m_store.rules().value(), gesture, shellCommands);
+    const GestureRule* rule =
+        m_testSession.intercept(gesture) ? nullptr : selectRule(m_store.rules().value(), gesture, shellCommands);
     if (m_observer)
         m_observer(gesture, rule);
     if (rule == nullptr)

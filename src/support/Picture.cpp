@@ -35,6 +35,11 @@ class PathReader {
                 m_text.remove_prefix(1);
             }
             step(command);
+            // More numbers repeat the command; after a move they are lines, after a close they are an error.
+            if (command == 'M' || command == 'm')
+                command = command == 'M' ? 'L' : 'l';
+            else if (command == 'Z' || command == 'z')
+                command = 0;
         }
     }
 
@@ -109,6 +114,10 @@ class PathReader {
 
     /// Finds the centre of the arc, then draws it as curves of at most a quarter each.
     void arcTo(Point end, double radiusX, double radiusY, bool isLarge, bool isClockwise) {
+        // Radii too short to reach the end grow until they do.
+        const double reached = std::hypot((end.x - m_at.x) / radiusX, (end.y - m_at.y) / radiusY) / 2;
+        radiusX *= std::max(reached, 1.0);
+        radiusY *= std::max(reached, 1.0);
         // On a circle of radius 1.
         const Point from{m_at.x / radiusX, m_at.y / radiusY};
         const Point to{end.x / radiusX, end.y / radiusY};

@@ -14,6 +14,7 @@ namespace {
 const std::string kItem = "- item AXIdentifier=_zoomLeft: ";
 const std::string kEnabledItem = kItem + "AXEnabled=yes";
 
+const std::string kWindow = "AXFocusedWindow: AXRole=AXWindow ";
 const std::string kButton = "\n  AXCloseButton: button AXEnabled=yes";
 
 /// Another application comes to the front before or after the first question, or none is.
@@ -89,17 +90,15 @@ TEST_F(WindowTilingExecutorTest, SearchesDepthFirstAndPressesTheFirstMatch) {
 }
 
 TEST_F(WindowTilingExecutorTest, StopsAtTheFirstUnexpectedAnswer) {
-    const auto pressesNothing = [&](const std::string& tree) {
-        return !tilesLeft(tree) && desktop.log.takeEffects().empty();
-    };
-    for (const std::string item : {"", "AXEnabled=no", "AXEnabled=1", "AXEnabled=!"})
-        EXPECT_TRUE(pressesNothing("\n " + kItem + item)) << item;
-    for (const std::string tree : {"AXChildren=*", "AXChildren=[]"})
-        EXPECT_TRUE(pressesNothing(tree)) << tree;
-    EXPECT_TRUE(pressesNothing("timeout=no\n " + kEnabledItem));
-    EXPECT_TRUE(pressesNothing("\n " + kItem + "\n " + kEnabledItem)) << "a disabled first match hides a second one";
-    EXPECT_FALSE(tilesLeft("\n " + kEnabledItem, "timeout=no"));
-    EXPECT_FALSE(tilesLeft("\n " + kEnabledItem + " AXPress=no"));
+    const std::string enabled = "\n " + kEnabledItem, item = "\n " + kItem;
+    for (const std::string& tree : {item, item + "AXEnabled=no", item + "AXEnabled=1", item + "AXEnabled=!",
+                                    std::string("AXChildren=*"), std::string("AXChildren=[]"), "timeout=no" + enabled,
+                                    item + enabled /* a disabled first match hides a second one */}) {
+        EXPECT_FALSE(tilesLeft(tree)) << tree;
+        EXPECT_EQ(desktop.log.takeEffects(), Calls{}) << tree;
+    }
+    EXPECT_FALSE(tilesLeft(enabled, "timeout=no"));
+    EXPECT_FALSE(tilesLeft(enabled + " AXPress=no"));
     EXPECT_EQ(desktop.log.takeEffects(), Calls{"AXPress item"});
     for (const std::string application : {"", "AXMenuBar=text", "AXMenuBar=!"}) {
         desktop.accessibility.describe("", application);
@@ -172,21 +171,19 @@ TEST_F(WindowTilingExecutorTest, SendsOwnMenuItemsWithoutPermission) {
     desktop.frontmost = {1};
     desktop.isGranted = false;
     EXPECT_FALSE(tilesLeft());
-    const Calls none, left{"send _zoomLeft:"}, other{"send x"};
-    const std::vector<std::tuple<std::string, bool, Calls>> rows{
-        {"", false, none},
-        {"- a\n - b action=_zoomRight:\n- c\n - d identifier=_zoomLeft: action=x\n- action=_zoomLeft:", true, other},
-        {"- a\n - b\n  - action=_zoomLeft:\n- identifier=_zoomLeft: action=x", true, left},
-        {"- a identifier=_zoomLeft: action=x enabled=no\n- action=_zoomLeft:", false, none},
-        {"- a identifier=_zoomLeft:\n- action=_zoomLeft:", false, none},
-        {"- a action=_zoomLeft: taken=no", false, left},
-        // Enabled only after the menu was updated.
-        {"- a action=_zoomLeft: enabled=updated", true, left},
-    };
-    for (const auto& [bar, isTiled, effects] : rows) {
+    for (const auto& [bar, isTiled, effects] : std::vector<std::tuple<std::string, bool, std::string>>{
+             {"", false, ""},
+             {"- a\n - b action=_zoomRight:\n- c\n - d identifier=_zoomLeft: action=x\n- action=_zoomLeft:", true,
+              "send x"},
+             {"- a\n - b\n  - action=_zoomLeft:\n- identifier=_zoomLeft: action=x", true, "send _zoomLeft:"},
+             {"- a identifier=_zoomLeft: action=x enabled=no\n- action=_zoomLeft:", false, ""},
+             {"- a identifier=_zoomLeft:\n- action=_zoomLeft:", false, ""},
+             {"- a action=_zoomLeft: taken=no", false, "send _zoomLeft:"},
+             // Enabled only after the menu was updated.
+             {"- a action=_zoomLeft: enabled=updated", true, "send _zoomLeft:"}}) {
         desktop.menus.bar = FakeNode::parse(bar);
         EXPECT_EQ(tilesLeft(), isTiled) << bar;
-        EXPECT_EQ(desktop.log.takeEffects(), effects) << bar;
+        EXPECT_EQ(joined(desktop.log.takeEffects()), effects) << bar;
     }
     for (const int depth : {12, 13}) {
         desktop.menus.bar = FakeNode::parse(nested(depth, "- action=_zoomLeft:"));
@@ -228,27 +225,31 @@ TEST_F(WindowCloseExecutorTest, StopsAtTheFirstUnexpectedAnswer) {
 }
 
 TEST_F(WindowCloseExecutorTest, IgnoresUnreadableAttributesAndFallsBackToTheMainWindow) {
-    for (const std::string window :
-         {"AXMinimized=! AXChildren=!", "AXMinimized=*", "AXMinimized=text AXChildren=[]",
-          // Only the roles of the window's own children count.
-          "\n  - ?\n  - AXRole=*\n  - AXRole=!\n  - group AXRole=AXGroup\n    - AXRole=AXSheet\n  - AXSheet"}) {
-        desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow " + window + kButton);
-        EXPECT_TRUE(closes()) << window;
-    }
-    for (const std::string application :
-         {"timeout=no", "AXFocusedWindow=!", "AXFocusedWindow=text", "AXFocusedWindow=[]"}) {
-        desktop.accessibility.describe("AXMainWindow: AXRole=AXWindow" + kButton, application);
-        EXPECT_TRUE(closes()) << application;
+    const std::string main = "AXMainWindow: AXRole=AXWindow" + kButton;
+    // Only the roles of the window's own children count.
+    const std::string children =
+        "\n  - ?\n  - AXRole=*\n  - AXRole=!\n  - group AXRole=AXGroup\n    - AXRole=AXSheet\n  - AXSheet";
+    for (const auto& [window, application] :
+         std::vector<std::pair<std::string, std::string>>{{kWindow + "AXMinimized=! AXChildren=!" + kButton, ""},
+                                                          {kWindow + "AXMinimized=*" + kButton, ""},
+                                                          {kWindow + "AXMinimized=text AXChildren=[]" + kButton, ""},
+                                                          {kWindow + children + kButton, ""},
+                                                          {main, "timeout=no"},
+                                                          {main, "AXFocusedWindow=!"},
+                                                          {main, "AXFocusedWindow=text"},
+                                                          {main, "AXFocusedWindow=[]"}}) {
+        desktop.accessibility.describe(window, application);
+        EXPECT_TRUE(closes()) << window << application;
     }
     // A hanging application costs the timeout for each of the two windows.
     const Uptime before = desktop.clock.uptime();
-    desktop.accessibility.describe("AXMainWindow: AXRole=AXWindow" + kButton, "AXFocusedWindow=@9 AXMainWindow=@9");
+    desktop.accessibility.describe(main, "AXFocusedWindow=@9 AXMainWindow=@9");
     EXPECT_FALSE(closes());
     EXPECT_EQ(desktop.clock.uptime() - before, 1.0);
 }
 
 TEST_F(WindowCloseExecutorTest, PressesNothingOnceAnotherApplicationIsInFront) {
-    desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow" + kButton);
+    desktop.accessibility.describe(kWindow + kButton);
     for (const auto& frontmost : kChangesOfFrontmost) {
         desktop.frontmost = frontmost;
         EXPECT_FALSE(closes());
@@ -256,11 +257,10 @@ TEST_F(WindowCloseExecutorTest, PressesNothingOnceAnotherApplicationIsInFront) {
     }
     desktop.frontmost = {7, 7, 9};  // changes only after the press
     EXPECT_TRUE(closes());
-    EXPECT_EQ(desktop.log.takeEffects(), Calls{"AXPress button"});
     desktop.frontmost = {7};
-    desktop.accessibility.describe("AXFocusedWindow: AXRole=AXWindow" + kButton + " AXPress=no");
+    desktop.accessibility.describe(kWindow + kButton + " AXPress=no");
     EXPECT_FALSE(closes());
-    EXPECT_EQ(desktop.log.takeEffects(), Calls{"AXPress button"});
+    EXPECT_EQ(desktop.log.takeEffects(), (Calls{"AXPress button", "AXPress button"}));
     desktop.isGranted = false;
     EXPECT_FALSE(closes());
     EXPECT_EQ(desktop.log.take(), Calls{"? trusted"});
@@ -268,22 +268,21 @@ TEST_F(WindowCloseExecutorTest, PressesNothingOnceAnotherApplicationIsInFront) {
 
 TEST_F(WindowCloseExecutorTest, ClosesOwnWindowsButNotPanelsMiniaturizedOrWithASheet) {
     const auto none = std::nullopt;
-    const std::vector<std::tuple<std::optional<std::string>, std::optional<std::string>, Calls>> rows{
-        {"key button", "main button", {"close own key button"}},
-        {none, "main button", {"close own main button"}},
-        {none, none, {}},
-        {"key", none, {}},
-        {"button miniaturized", none, {}},
-        {none, "button sheet", {}},
-        // The main window behind a panel stays.
-        {"button panel", "main button", {}},
-    };
+    using Window = std::optional<std::string>;
     desktop.frontmost = {1};
-    for (const auto& [key, main, effects] : rows) {
+    for (const auto& [key, main, effects] :
+         std::vector<std::tuple<Window, Window, std::string>>{{"key button", "main button", "close own key button"},
+                                                              {none, "main button", "close own main button"},
+                                                              {none, none, ""},
+                                                              {"key", none, ""},
+                                                              {"button miniaturized", none, ""},
+                                                              {none, "button sheet", ""},
+                                                              // The main window behind a panel stays.
+                                                              {"button panel", "main button", ""}}) {
         desktop.ownKeyWindow = key;
         desktop.ownMainWindow = main;
         EXPECT_EQ(closes(), !effects.empty());
-        EXPECT_EQ(desktop.log.takeEffects(), effects);
+        EXPECT_EQ(joined(desktop.log.takeEffects()), effects);
     }
 }
 

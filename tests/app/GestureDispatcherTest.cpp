@@ -29,7 +29,8 @@ struct GestureDispatching : ::testing::Test {
     FakeActionDesktop desktop;
     RuleStore store{desktop.defaults};
     ActionExecutor executor{desktop.ports()};
-    GestureDispatcher dispatcher{store, desktop.defaults, executor};
+    GestureTestSession testSession;
+    GestureDispatcher dispatcher{store, desktop.defaults, executor, testSession};
 };
 
 TEST_F(GestureDispatching, PerformsTheFirstRuleWithItsStepsAndCue) {
@@ -44,6 +45,16 @@ TEST_F(GestureDispatching, PerformsTheFirstRuleWithItsStepsAndCue) {
     EXPECT_EQ(tap, (Calls{"3-finger single tap: first", "cue middleClick 0 first"}));
     EXPECT_EQ(dispatch(DetectedAnchorDraw{AnchorCorner::topLeft, DrawPattern::lineUp}),
               Calls{"top left line up: nothing"});
+}
+
+TEST_F(GestureDispatching, RunsNoRuleForWhatTheTestSessionTakes) {
+    store.replaceRules(
+        {named("volume", makeSlide(2, EdgeSlideSide::left)), named("tap", makeRule(GestureKind::singleTap, 3))});
+    testSession.begin();
+    EXPECT_EQ(dispatch(DetectedEdgeSlide{2, EdgeSlideSide::left, 1}), Calls{"2-finger left edge slide up: nothing"});
+    EXPECT_EQ(dispatch(DetectedTap{3, GestureKind::singleTap}), Calls{"3-finger single tap: nothing"});
+    testSession.end();
+    EXPECT_EQ(dispatch(DetectedTap{3, GestureKind::singleTap}).front(), "3-finger single tap: tap");
 }
 
 TEST_F(GestureDispatching, LetsAnActionReplaceTheRules) {

@@ -65,6 +65,13 @@ class Program {
 
     std::string output;
 
+    /// What a command shows from its beginning to its end.
+    static std::string outputOf(const std::string& command) {
+        Program program(command);
+        program.wait();
+        return program.output;
+    }
+
   private:
     pid_t m_child = -1;
     int m_terminal = -1;
@@ -121,15 +128,13 @@ TEST(Program, RestoresTheTerminalWhileStopped) {
 }
 
 TEST(Program, ColoursOnlyOnTerminals) {
-    const auto escapes = [](const std::string& command) {
-        Program list(command);
-        list.wait();
-        EXPECT_NE(list.output.find("tripleForceClick"), std::string::npos);
-        return list.output.find('\x1b') != std::string::npos;
-    };
-    EXPECT_TRUE(escapes(kKinesta + "gestures"));
-    EXPECT_FALSE(escapes("NO_COLOR=1 " + kKinesta + "gestures"));
-    EXPECT_FALSE(escapes(kKinesta + "gestures | cat"));
+    for (const auto& [command, hasColours] : {std::pair(kKinesta + "gestures", true),
+                                              {"NO_COLOR=1 " + kKinesta + "gestures", false},
+                                              {kKinesta + "gestures | cat", false}}) {
+        const std::string list = Program::outputOf(command);
+        EXPECT_NE(list.find("tripleForceClick"), std::string::npos);
+        EXPECT_EQ(list.find('\x1b') != std::string::npos, hasColours) << command;
+    }
 }
 
 TEST(Program, WarnsOfTheRunningDesktopsGestures) {
@@ -137,31 +142,26 @@ TEST(Program, WarnsOfTheRunningDesktopsGestures) {
     const std::string rules = folder.write(
         "rules.json",
         "[" + rule("0a", R"("name":"","fingerCount":3,"gesture":"edgeSlide")", R"("kind":"adjustVolume")") + "]");
-    const auto warned = [&](const std::string& desktop) {
-        Program check("XDG_CURRENT_DESKTOP=" + desktop + " " + kKinesta + "rules check --json " + rules);
-        check.wait();
-        const std::size_t start = check.output.find(R"("warning":)");
-        EXPECT_NE(start, std::string::npos) << check.output;
-        return check.output.substr(start, check.output.find(R"(,"summary")") - start);
-    };
-    EXPECT_NE(warned("ubuntu:GNOME").find("GNOME 40"), std::string::npos);
-    EXPECT_NE(warned("KDE").find("Plasma 6"), std::string::npos);
-    for (const char* other : {"", "XFCE", "GNOMEsque"})
-        EXPECT_EQ(warned(other), R"("warning":null)") << other;
+    const std::string none = R"("warning":null)";
+    for (const auto& [desktop, warning] : {std::pair("ubuntu:GNOME", std::string("GNOME 40")),
+                                           {"KDE", "Plasma 6"},
+                                           {"", none},
+                                           {"XFCE", none},
+                                           {"GNOMEsque", none}}) {
+        const std::string report = Program::outputOf("XDG_CURRENT_DESKTOP=" + std::string(desktop) + " " + kKinesta +
+                                                     "rules check --json " + rules);
+        EXPECT_NE(report.find(warning), std::string::npos) << desktop << report;
+    }
 }
 
 TEST(Program, EndsQuietlyOnAClosedPipe) {
-    TemporaryFolder folder;
-    std::string slide = "{\"kinesta\":\"recording\",\"version\":1}\n";
-    for (int i = 0; i < 20000; ++i)
-        slide +=
-            "{\"t\":" + std::to_string(i) + ",\"touches\":[[1,0.1," + (i % 2 ? "0.2" : "0.8") + "],[2,0.2,0.5]]}\n";
-    const std::string file = folder.write("slide.jsonl", slide);
-    Program replay(kKinesta + "replay " + file + " --json | head -n 1; echo ended by ${PIPESTATUS[0]}");
-    replay.wait();
-    const std::size_t end = replay.output.find('\n') + 1;
-    EXPECT_NE(replay.output.find("edgeSlide"), std::string::npos);
-    EXPECT_EQ(replay.output.substr(end), "ended by " + std::to_string(128 + SIGPIPE) + "\r\n");
+    const std::string longSlide = R"((echo '{"kinesta":"recording","version":1}'
+yes '{"t":1,"touches":[[1,0.1,0.2],[2,0.2,0.5]]}
+{"t":1,"touches":[[1,0.1,0.8],[2,0.2,0.5]]}' | head -n 40000))";
+    const std::string output =
+        Program::outputOf(longSlide + " | " + kKinesta + "replay - --json | head -n 1; echo ended by ${PIPESTATUS[1]}");
+    EXPECT_NE(output.find("edgeSlide"), std::string::npos);
+    EXPECT_EQ(output.substr(output.find('\n') + 1), "ended by " + std::to_string(128 + SIGPIPE) + "\r\n");
 }
 
 }  // namespace

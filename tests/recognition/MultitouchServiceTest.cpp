@@ -14,7 +14,7 @@ namespace {
 using Status = MultitouchService::Status;
 using Texts = std::vector<std::string>;
 
-PadScript tapAtOne() { return PadScript().tap(1, 3); }
+PadScript tapAt(Seconds time) { return PadScript().tap(time, 3); }
 
 std::string settingsOf(const MultitouchService& service) {
     const auto& palm = service.cornerPalmRejection().value();
@@ -22,11 +22,21 @@ std::string settingsOf(const MultitouchService& service) {
            (palm.isEnabled ? " palm " : " no palm ") + numberText(palm.sensitivity);
 }
 
+TEST(TapWaitingInterval, HasFiveValues) {
+    std::string titles;
+    for (std::int64_t value = -400; value <= 65536 + 400; ++value)
+        if (const auto interval = TapWaitingInterval::fromRawValue(value))
+            titles += interval->title() + ",";
+    EXPECT_EQ(titles, "150 ms,200 ms,250 ms,300 ms,400 ms,");
+    EXPECT_EQ(TapWaitingInterval().seconds(), MultiTapRecognizer().maximumInterval());
+}
+
 TEST(MultitouchService, ReadsItsSettingsAndRepairsMalformedOnes) {
     const std::string text = "text";
+    const std::int64_t tooLong = 4294967296 + 150;
     for (const auto& [values, settings] : std::vector<std::pair<StoredValues, std::string>>{
              {{}, "on 250 ms no palm 0.5"},
-             {{{"gesturesEnabled", text}, {"tapWaitingInterval.v1", std::int64_t{275}}}, "off 250 ms no palm 0.5"},
+             {{{"gesturesEnabled", text}, {"tapWaitingInterval.v1", tooLong}}, "off 250 ms no palm 0.5"},
              {{{"gesturesEnabled", true}, {"tapWaitingInterval.v1", text}}, "on 250 ms no palm 0.5"},
              {{{"cornerPalmRejectionEnabled.v1", std::int64_t{1}}}, "on 250 ms no palm 0.5"},
              {{{"cornerPalmRejectionSensitivity.v1", std::int64_t{3}}}, "on 250 ms no palm 1"}}) {
@@ -37,19 +47,19 @@ TEST(MultitouchService, ReadsItsSettingsAndRepairsMalformedOnes) {
     }
 }
 
-TEST(TapWaitingInterval, HasFiveValues) {
-    std::string titles;
-    for (std::int64_t value = -400; value <= 1000; ++value)
-        if (const auto interval = TapWaitingInterval::fromRawValue(value))
-            titles += interval->title() + ",";
-    EXPECT_EQ(titles, "150 ms,200 ms,250 ms,300 ms,400 ms,");
-    EXPECT_FALSE(TapWaitingInterval::fromRawValue(65536 + 150) || TapWaitingInterval::fromRawValue(4294967296 + 150));
-    EXPECT_EQ(TapWaitingInterval().seconds(), MultiTapRecognizer().maximumInterval());
-}
-
-TEST(MultitouchService, StoresChangesOnly) {
+struct RunningService : ::testing::Test {
     GestureRig rig;
     MultitouchService& service = rig.launch();
+
+    /// All gestures after a script and everything that it has set going.
+    const std::string& gesturesAfter(const PadScript& script) {
+        rig.play(script);
+        rig.mainThread.runRemaining();
+        return rig.gestures;
+    }
+};
+
+TEST_F(RunningService, StoresChangesOnly) {
     service.setGestureEnabled(true);
     service.setTapWaitingInterval(TapWaitingInterval::standard);
     service.setCornerPalmRejectionEnabled(false);
@@ -76,71 +86,63 @@ TEST(MultitouchService, StoresChangesOnly) {
     EXPECT_EQ(rig.defaults.writes, 9) << "three are the test's own";
 }
 
-TEST(MultitouchService, FollowsTheProvider) {
-    GestureRig rig;
-    rig.provider.statusAfterStart = Status::unavailable("No pad.");
-    MultitouchService& service = rig.launch();
-    EXPECT_EQ(service.status().value(), Status::unavailable("No pad."));
-    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
-    rig.provider.statusAfterStart = Status::listening();
-    service.start();
-    EXPECT_EQ(service.status().value(), Status::listening());
-    EXPECT_EQ(rig.pointer.monitorCount(), 2U);
-    service.start();
-    EXPECT_EQ(rig.provider.calls, (Texts{"start", "start"})) << "it listens already";
-
-    const auto becomes = [&](const Status& status) {
+TEST_F(RunningService, FollowsTheProvider) {
+    const auto becomes = [&](const Status& status, std::size_t monitors) {
         rig.provider.becomes(status);
         service.contactProviderDidChangeStatus();
-        return service.status().value() == status;
+        EXPECT_EQ(service.status().value(), status);
+        EXPECT_EQ(rig.pointer.monitorCount(), monitors);
     };
-    rig.play(tapAtOne());
-    EXPECT_TRUE(becomes(Status::unavailable("Gone.")));
-    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
+    rig.play(tapAt(1));
+    becomes(Status::unavailable("Gone."), 0);
     rig.mainThread.runRemaining();
     EXPECT_EQ(rig.gestures, "") << "a waiting gesture is dropped with its pad";
-    for (const Status& status : {Status::unavailable("No permission."), Status::listening(), Status::listening()})
-        EXPECT_TRUE(becomes(status));
-    EXPECT_EQ(rig.pointer.monitorCount(), 2U);
-    rig.play(PadScript().tap(5, 3));
-    rig.mainThread.runRemaining();
-    EXPECT_EQ(rig.gestures, "5.25 singleTap of 3");
+    rig.provider.statusAfterStart = Status::unavailable("No pad.");
+    service.start();
+    EXPECT_EQ(service.status().value(), Status::unavailable("No pad."));
+    EXPECT_EQ(rig.pointer.monitorCount(), 0U);
+    becomes(Status::unavailable("No permission."), 0);
+    becomes(Status::listening(), 2);
+    becomes(Status::listening(), 2);
+    service.start();
+    EXPECT_EQ(rig.provider.calls, (Texts{"start", "start"})) << "it listens already";
+    EXPECT_EQ(gesturesAfter(tapAt(5)), "5.25 singleTap of 3");
 
     service.setGestureEnabled(false);
     EXPECT_EQ(service.status().value(), Status::stopped());
     EXPECT_EQ(rig.pointer.monitorCount(), 0U);
-    EXPECT_FALSE(becomes(Status::listening())) << "too late: it is off";
+    rig.provider.becomes(Status::listening());
+    service.contactProviderDidChangeStatus();
+    EXPECT_EQ(service.status().value(), Status::stopped()) << "too late: it is off";
     service.start();
     service.startIfEnabled();
     EXPECT_EQ(rig.provider.calls, (Texts{"start", "start", "stop"})) << "it is off";
 }
 
-TEST(MultitouchService, TakesBothButtonsInAnyWindow) {
+TEST_F(RunningService, TakesBothButtonsInAnyWindow) {
     using Kind = PointerEvent::Kind;
+    rig.play(PadScript().at(1).land(2));
     for (const auto scope : {PointerEventScope::thisApplication, PointerEventScope::otherApplications})
-        for (const bool isLeft : {true, false}) {
-            GestureRig rig;
-            rig.launch();
-            rig.play(PadScript().at(1).land(2));
-            for (const Kind kind :
-                 {isLeft ? Kind::leftDown : Kind::rightDown, Kind::pressure, isLeft ? Kind::leftUp : Kind::rightUp})
+        for (const auto& [down, up] : {std::pair(Kind::leftDown, Kind::leftUp), {Kind::rightDown, Kind::rightUp}}) {
+            for (const Kind kind : {down, Kind::pressure, up})
                 rig.pointer.deliver(PointerEvent{kind, 2, 1}, scope);
-            rig.mainThread.runRemaining();
-            EXPECT_EQ(rig.gestures, "1.25 singleForceClick of 2");
+            rig.runUntil(rig.clock.wallClock() + 1);
         }
+    EXPECT_EQ(rig.gestures,
+              "1.25 singleForceClick of 2; 2.25 singleForceClick of 2; 3.25 singleForceClick of 2; "
+              "4.25 singleForceClick of 2");
 }
 
-TEST(MultitouchService, NamesTheGestureForFiveSeconds) {
-    GestureRig rig;
-    MultitouchService& service = rig.launch();
+TEST_F(RunningService, NamesTheGestureForFiveSeconds) {
     service.onTap = {};  // the feedback does not need a callback
     Texts shown;
-    const auto now = [&] { return std::to_string(rig.clock.wallClock()).substr(0, 4) + " "; };
-    const auto texts = service.lastGesture().observe([&](const auto& t) { shown.push_back(now() + t.value_or("-")); });
-    const auto counts = service.gestureCountdown().observe(
-        [&](const auto& count) { shown.push_back(now() + (count ? std::to_string(*count) : "-")); });
-    rig.play(tapAtOne());
-    rig.mainThread.runRemaining();
+    const auto add = [&](const std::string& text) {
+        shown.push_back(std::to_string(rig.clock.wallClock()).substr(0, 4) + " " + text);
+    };
+    const auto texts = service.lastGesture().observe([&](const auto& text) { add(text.value_or("-")); });
+    const auto counts =
+        service.gestureCountdown().observe([&](const auto& count) { add(count ? std::to_string(*count) : "-"); });
+    gesturesAfter(tapAt(1));
     EXPECT_EQ(shown, (Texts{"1.25 Detected 3-finger single tap", "1.25 5", "2.25 4", "3.25 3", "4.25 2", "5.25 1",
                             "6.25 -", "6.25 -"}));
     shown.clear();
@@ -154,10 +156,8 @@ TEST(MultitouchService, NamesTheGestureForFiveSeconds) {
         << "a new gesture starts the countdown again, stop() ends it";
 }
 
-TEST(MultitouchService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
-    GestureRig rig;
-    rig.launch();
-    rig.play(tapAtOne());
+TEST_F(RunningService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
+    rig.play(tapAt(1));
     rig.runUntil(2);  // told at 1.25
     const auto delayOfNext = [&](Seconds tick, Seconds uptime) {
         rig.clock.setUptime(uptime);
@@ -169,44 +169,37 @@ TEST(MultitouchService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
 }
 
 TEST(MultitouchService, DropsGesturesOfAnOlderGeneration) {
-    const std::function<void(MultitouchService&)> stop = [](auto& service) { service.stop(); };
-    const std::function<void(MultitouchService&)> palm = [](auto& s) { s.setCornerPalmRejectionEnabled(true); };
     const PadScript slide = PadScript().at(1).land(2, {0.1, 0.5}).glide({1, 2}, {0, 0.1}, 0.008);
     const PadScript click = PadScript().at(1).land(2).press().at(1.1).release();
-    for (const auto& change : {stop, palm})
-        for (const PadScript& script : {tapAtOne(), slide, click}) {
+    for (const bool isStopped : {true, false})
+        for (const PadScript& script : {tapAt(1), slide, click}) {
             GestureRig rig;
             rig.launch();
             rig.send(script);  // the tasks that it posts have not run yet
-            change(*rig.service);
+            isStopped ? rig.service->stop() : rig.service->setCornerPalmRejectionEnabled(true);
             rig.mainThread.runRemaining();
             EXPECT_EQ(rig.gestures, "");
             EXPECT_EQ(rig.service->lastGesture().value(), std::nullopt);
         }
 }
 
-TEST(MultitouchService, LetsCallbacksReplaceThemselvesAndStopIt) {
-    GestureRig rig;
-    MultitouchService& service = rig.launch();
+TEST_F(RunningService, LetsCallbacksReplaceThemselvesAndStopIt) {
     std::int64_t fingers = 0;
     service.onTap = [&](const DetectedTap& tap) {
         service.onTap = {};
         service.stop();
         fingers += tap.fingerCount;
     };
-    rig.play(tapAtOne());
-    rig.mainThread.runRemaining();
+    gesturesAfter(tapAt(1));
     EXPECT_EQ(fingers, 3);
     EXPECT_EQ(service.status().value(), Status::stopped());
 }
 
-TEST(MultitouchService, CallsNothingAfterItsEnd) {
-    GestureRig rig;
-    rig.launch();
+TEST_F(RunningService, CallsNothingAfterItsEnd) {
     rig.play(PadScript().at(1).land(2).click(1.1, 1.1).at(1.15).hold());  // the click waits
     rig.launch();                                                         // and its service is destroyed
     rig.mainThread.runRemaining();
-    rig.send(tapAtOne());
+    rig.send(tapAt(1));
     rig.service.reset();
     rig.mainThread.runRemaining();
     EXPECT_EQ(rig.gestures, "");

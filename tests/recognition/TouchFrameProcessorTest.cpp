@@ -28,6 +28,18 @@ TouchFrameProcessor::CompletedClick click(TouchFrameProcessor& processor, Uptime
     return processor.completePhysicalClick(release).value();
 }
 
+/// A processor gives a sequence once, and only for the very sequence and its generation.
+template <typename Sequence>
+void expectFinalizedOnce(TouchFrameProcessor& processor,
+                         std::optional<Sequence> (TouchFrameProcessor::*finalize)(const Sequence&, std::uint64_t),
+                         const Sequence& sequence, std::uint64_t generation, const std::vector<Sequence>& others = {}) {
+    EXPECT_EQ((processor.*finalize)(sequence, generation - 1), std::nullopt) << "an older generation";
+    for (const Sequence& other : others)
+        EXPECT_EQ((processor.*finalize)(other, generation), std::nullopt);
+    EXPECT_EQ((processor.*finalize)(sequence, generation), sequence);
+    EXPECT_EQ((processor.*finalize)(sequence, generation), std::nullopt) << "a second time";
+}
+
 TEST(TouchFrameProcessor, CountsToThreeAndFinalizesOnlyTheExpectedSequence) {
     TouchFrameProcessor taps, tipTaps, clicks;
     tipTaps.process(fingers(1), 0.5, 0.5);
@@ -38,19 +50,13 @@ TEST(TouchFrameProcessor, CountsToThreeAndFinalizesOnlyTheExpectedSequence) {
                   std::to_string(click(clicks, time).sequence.clicks) + " ";
     EXPECT_EQ(counts, "111 222 333 333 ");
 
-    constexpr auto right = TipTapDirection::right;
+    constexpr auto left = TipTapDirection::left, right = TipTapDirection::right;
     constexpr auto soft = PhysicalClickPressure::soft;
-    for (const TapSequence& other : {TapSequence{2, 2}, {3, 3}})
-        EXPECT_EQ(taps.finalize(other, 0), std::nullopt);
-    for (const TipTapSequence& other : {TipTapSequence{0, right, 2}, {0, TipTapDirection::left, 3}, {1, right, 3}})
-        EXPECT_EQ(tipTaps.finalizeTipTap(other, 0), std::nullopt);
-    for (const PhysicalClickSequence& other : {PhysicalClickSequence{2, 2, soft}, {3, 3, soft}, {2, 3, std::nullopt}})
-        EXPECT_EQ(clicks.finalizePhysicalClick(other, 0), std::nullopt);
-    for (const bool isFirst : {true, false}) {
-        EXPECT_EQ(taps.finalize({2, 3}, 0).has_value(), isFirst);
-        EXPECT_EQ(tipTaps.finalizeTipTap({0, right, 3}, 0).has_value(), isFirst);
-        EXPECT_EQ(clicks.finalizePhysicalClick({2, 3, soft}, 0).has_value(), isFirst);
-    }
+    expectFinalizedOnce(taps, &TouchFrameProcessor::finalize, {2, 3}, 0, {{2, 2}, {3, 3}});
+    expectFinalizedOnce(tipTaps, &TouchFrameProcessor::finalizeTipTap, {0, right, 3}, 0,
+                        {{0, right, 2}, {0, left, 3}, {1, right, 3}});
+    expectFinalizedOnce(clicks, &TouchFrameProcessor::finalizePhysicalClick, {2, 3, soft}, 0,
+                        {{2, 2, soft}, {3, 3, soft}, {2, 3, std::nullopt}});
     EXPECT_EQ(tap(taps, 1.7).tapSequence, kOneTap) << "the finalized taps do not count";
 }
 
@@ -63,15 +69,12 @@ TEST(TouchFrameProcessor, IgnoresAnOlderGeneration) {
         const auto [now, draw, slide, none, taps] = tap(processor, 1.1);
         EXPECT_EQ(taps, kOneTap) << "the tap before does not count";
         EXPECT_TRUE(processor.isCurrent(now));
-        EXPECT_EQ(processor.finalize(*taps, old), std::nullopt) << "an equal sequence";
-        EXPECT_EQ(processor.finalize(*taps, now), taps);
+        EXPECT_EQ(now, old + 1);
+        expectFinalizedOnce(processor, &TouchFrameProcessor::finalize, taps.value(), now);
         processor.process(fingers(1), 2, 2);
-        const auto tipTaps = tap(processor, 2.5, 1).tipTapSequence;
-        EXPECT_EQ(processor.finalizeTipTap(tipTaps.value(), old), std::nullopt);
-        EXPECT_EQ(processor.finalizeTipTap(*tipTaps, now), tipTaps);
-        const auto clicks = click(processor, 3).sequence;
-        EXPECT_EQ(processor.finalizePhysicalClick(clicks, old), std::nullopt);
-        EXPECT_EQ(processor.finalizePhysicalClick(clicks, now), clicks);
+        expectFinalizedOnce(processor, &TouchFrameProcessor::finalizeTipTap,
+                            tap(processor, 2.5, 1).tipTapSequence.value(), now);
+        expectFinalizedOnce(processor, &TouchFrameProcessor::finalizePhysicalClick, click(processor, 3).sequence, now);
     }
 }
 

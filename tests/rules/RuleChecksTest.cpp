@@ -55,10 +55,9 @@ std::map<std::string, std::string> noticesOf(GestureSystem system) {
     for (const std::optional<std::int64_t> fingers :
          {std::optional<std::int64_t>(), {0}, {1}, {2}, {3}, {4}, std::optional(INT64_MAX)})
         for (const GestureKind kind : allCases<GestureKind>())
-            if (const auto warning = SystemGestureWarningChecker::warning(makeRule(kind, fingers), system)) {
-                std::string& user = users[warning->title + ": " + warning->detail];
-                user.append(fingers ? std::to_string(*fingers) : "-").append(" ").append(rawValue(kind)).append(" ");
-            }
+            if (const auto warning = SystemGestureWarningChecker::warning(makeRule(kind, fingers), system))
+                users[warning->title + ": " + warning->detail] +=
+                    (fingers ? std::to_string(*fingers) : "-") + " " + std::string(rawValue(kind)) + " ";
     return users;
 }
 
@@ -112,64 +111,45 @@ TEST(SystemGestureWarningChecker, NamesTheLinuxDesktopThatAlsoActs) {
             EXPECT_FALSE(SystemGestureWarningChecker::warning(rule, system)) << encodeRules(std::vector{rule});
 }
 
-// The index of the selected rule, or -1.
-std::ptrdiff_t selected(const std::vector<GestureRule>& rules, const DetectedGesture& detected,
-                        ShellCommands shellCommands = ShellCommands::forbidden) {
-    const GestureRule* rule = selectRule(rules, detected, shellCommands);
-    return rule ? rule - rules.data() : -1;
-}
-
 TEST(RuleSelection, TakesTheFirstRuleThatQualifies) {
-    auto rules = std::vector{makeRule(singleTap, 3), makeRule(singleTap, 3), makeRule(doubleTap, 3)};
-    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}), 0);
-    rules[0].isEnabled = false;
-    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}), 1);
-    rules[1].action = {};
-    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}), -1);
-    EXPECT_EQ(selected(rules, DetectedTap{3, doubleTap}), 2);
-    EXPECT_EQ(selected({}, DetectedTap{3, singleTap}), -1);
-}
-
-TEST(RuleSelection, TakesARuleForItsOwnGestureOnly) {
     using enum EdgeSlideSide;
     const auto none = std::nullopt;
+    const GestureRule tap = makeRule(singleTap, 3), incomplete = makeRule(singleTap, 3, ActionKind::openURL);
+    const DetectedTap tapped{3, singleTap};
     const DetectedEdgeSlide toTheLeft{3, left, -2}, toTheRight{3, right, 1};
     const auto corner = AnchorCorner::topLeft;
     const auto line = DrawPattern::lineUp;
     const DetectedAnchorDraw drawn{corner, line};
     GestureRule tapWithDrawing = makeDrawing(corner, line);
     tapWithDrawing.gesture = tipTapLeft;
-    const std::vector<std::tuple<GestureRule, DetectedGesture, bool>> rows{
-        {makeRule(singleTap, 3), DetectedTap{2, singleTap}, false},
-        {makeRule(singleTap), DetectedTap{3, singleTap}, false},
-        {makeRule(singleClick, 2), DetectedTap{2, singleForceClick}, true},
-        {makeRule(singleClick, 2), DetectedTap{3, singleForceClick}, false},
-        {makeRule(tipTapLeft), DetectedTap{2, tipTapLeft}, true},
-        {makeRule(tipTapLeft, 5), DetectedTap{2, tipTapLeft}, true},
-        {makeRule(tipTapLeft), DetectedTap{2, tipTapRight}, false},
-        {makeSlide(3, none), toTheLeft, true},
-        {makeSlide(3, none), toTheRight, true},
-        {makeSlide(3, both), toTheLeft, true},
-        {makeSlide(3, right), toTheLeft, false},
-        {makeSlide(2, both), toTheLeft, false},
-        {makeSlide(none, both), toTheLeft, false},
-        {makeRule(edgeSlide, 3, ActionKind::middleClick), toTheLeft, false},
-        {makeDrawing(corner, line), drawn, true},
-        {makeDrawing(AnchorCorner::topRight, line), drawn, false},
-        {makeDrawing(corner, DrawPattern::lineDown), drawn, false},
-        {makeDrawing(corner, none), drawn, false},
-        {tapWithDrawing, drawn, false},
+    // The index of the rule that is taken, or -1.
+    const std::vector<std::tuple<std::vector<GestureRule>, DetectedGesture, std::ptrdiff_t>> rows{
+        {{}, tapped, -1},
+        {{tap, tap}, tapped, 0},
+        {{disabled(tap), incomplete, makeShellCommand({}), makeRule(doubleTap, 3), tap}, tapped, 4},
+        {{makeRule(singleTap, 2), makeRule(singleTap)}, tapped, -1},
+        {{makeRule(singleClick, 3), makeRule(singleClick, 2)}, DetectedTap{2, singleForceClick}, 1},
+        {{makeRule(tipTapRight), makeRule(tipTapLeft)}, DetectedTap{2, tipTapLeft}, 1},
+        {{makeRule(tipTapLeft, 5)}, DetectedTap{2, tipTapLeft}, 0},
+        {{makeSlide(3, none)}, toTheLeft, 0},
+        {{makeSlide(3, none)}, toTheRight, 0},
+        {{makeSlide(3, right), makeSlide(2, both), makeSlide(none, both), makeRule(edgeSlide, 3), makeSlide(3, both)},
+         toTheLeft,
+         4},
+        {{makeDrawing(AnchorCorner::topRight, line), makeDrawing(corner, DrawPattern::lineDown),
+          makeDrawing(corner, none), tapWithDrawing, makeDrawing(corner, line)},
+         drawn,
+         4},
     };
     for (std::size_t i = 0; i < rows.size(); ++i)
-        EXPECT_EQ(selected({std::get<0>(rows[i])}, std::get<1>(rows[i])) == 0, std::get<2>(rows[i])) << "row " << i;
-}
-
-TEST(RuleSelection, SkipsForbiddenShellCommands) {
-    auto rules = std::vector{makeShellCommand(true), makeRule(singleTap, 3)};
-    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}, ShellCommands::forbidden), 1);
-    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}, ShellCommands::allowed), 0);
-    rules[0].action.shellCommandAcknowledged.reset();
-    EXPECT_EQ(selected(rules, DetectedTap{3, singleTap}, ShellCommands::allowed), 1);
+        for (const ShellCommands shellCommands : {ShellCommands::forbidden, ShellCommands::allowed}) {
+            const auto& [rules, detected, expected] = rows[i];
+            const GestureRule* rule = selectRule(rules, detected, shellCommands);
+            EXPECT_EQ(rule ? rule - rules.data() : -1, expected) << "row " << i;
+        }
+    const std::vector<GestureRule> withShell{makeShellCommand(true), tap};
+    EXPECT_EQ(selectRule(withShell, tapped, ShellCommands::forbidden), &withShell[1]);
+    EXPECT_EQ(selectRule(withShell, tapped, ShellCommands::allowed), &withShell[0]);
 }
 
 TEST(ExampleRules, DecodeAndAreReady) {

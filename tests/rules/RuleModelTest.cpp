@@ -64,18 +64,14 @@ TEST(GestureAction, SummarizesWhatItDoes) {
 }
 
 TEST(GestureAction, LabelsAShortcutByPresetThenCustomLabelThenKeys) {
-    GestureAction action = makeAction(ActionKind::keyboardShortcut);
-    action.customCueLabel = " Mine\n";
-    EXPECT_EQ(action.keyboardCueLabel(), std::nullopt) << "no key yet";
-    action.keyCode = 9;
-    EXPECT_EQ(action.keyboardCueLabel(), "Mine");
-    action.modifiers = ShortcutModifiers::command;
-    EXPECT_EQ(action.keyboardCueLabel(), "Paste");
-    action.modifiers = ShortcutModifiers::option;
-    action.customCueLabel = " \n";
-    EXPECT_EQ(action.keyboardCueLabel(), "⌥V");
-    action.kind = ActionKind::middleClick;
-    EXPECT_EQ(action.keyboardCueLabel(), std::nullopt);
+    constexpr auto shortcut = ActionKind::keyboardShortcut;
+    for (const auto& [action, label] : std::vector<std::pair<GestureAction, std::optional<std::string>>>{
+             {{shortcut, {}, {}, "", {}, " Mine\n", {}}, std::nullopt},
+             {{shortcut, 9, {}, "", {}, " Mine\n", {}}, "Mine"},
+             {{shortcut, 9, ShortcutModifiers::command, "", {}, " Mine\n", {}}, "Paste"},
+             {{shortcut, 9, ShortcutModifiers::option, "", {}, " \n", {}}, "⌥V"},
+             {{ActionKind::middleClick, 9, {}, "", {}, " Mine\n", {}}, std::nullopt}})
+        EXPECT_EQ(action.keyboardCueLabel(), label);
 }
 
 TEST(GestureRule, ResolvesTheCueMessageFromLabelThenName) {
@@ -90,23 +86,16 @@ TEST(GestureRule, ResolvesTheCueMessageFromLabelThenName) {
 }
 
 TEST(GestureRule, IsReadyWhenGestureAndActionAreComplete) {
-    for (const GestureKind kind : allCases<GestureKind>()) {
-        const bool needsFingers = usesFingerCount(kind), needsDrawing = kind == GestureKind::anchorDraw;
-        for (int given = 0; given < 16; ++given) {
-            GestureRule rule = makeRule(kind);
-            if (given & 1)
-                rule.fingerCount = -7;  // any number counts
-            if (given & 2)
-                rule.drawPattern = DrawPattern::zigzag;
-            if (given & 4)
-                rule.anchorCorner = AnchorCorner::topLeft;
-            if (given & 8)
-                rule.action = {};
-            EXPECT_EQ(rule.isReady(), isConfigured(kind) && (!needsFingers || (given & 1)) &&
-                                          (!needsDrawing || (given & 6) == 6) && given < 8)
-                << rawValue(kind) << given;
-        }
-    }
+    using enum GestureKind;
+    const auto corner = AnchorCorner::topLeft;
+    for (const GestureRule& ready : {makeRule(singleTap, -7), makeRule(doubleSoftClick, 2), makeRule(tipTapLeft),
+                                     makeSlide(2, std::nullopt), makeDrawing(corner, DrawPattern::zigzag)})
+        EXPECT_TRUE(ready.isReady()) << rawValue(ready.gesture);
+    for (const GestureRule& incomplete :
+         {makeRule(unconfigured, 2), makeRule(singleTap), makeRule(doubleSoftClick), makeRule(edgeSlide),
+          makeDrawing(corner, std::nullopt), makeDrawing(std::nullopt, DrawPattern::zigzag),
+          makeRule(tipTapLeft, 2, ActionKind::unconfigured)})
+        EXPECT_FALSE(incomplete.isReady()) << rawValue(incomplete.gesture);
 }
 
 TEST(GestureRule, KeepsTheRecommendedDefaultForTheWholeRun) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <functional>
 #include <string>
 #include <tuple>
 
@@ -18,17 +18,20 @@ using Rules = std::vector<GestureRule>;
 
 constexpr std::string_view kKey = "gestureRules.v1";
 
-/// A rule that is ready for a small letter, and lacks its finger count for a capital one.
-GestureRule ruleOf(char name) {
-    GestureRule rule = makeRule(name >= 'a' ? GestureKind::tipTapLeft : GestureKind::singleTap);
+/// The rule with a name of one letter, and an id of its own for each letter.
+GestureRule named(char name, GestureRule rule) {
     rule.name = name;
+    rule.id.bytes = {static_cast<std::uint8_t>(name)};
     return rule;
 }
 
+/// A rule that is ready for a small letter, and lacks its finger count for a capital one.
+GestureRule ruleOf(char name) {
+    return named(name, makeRule(name >= 'a' ? GestureKind::tipTapLeft : GestureKind::singleTap));
+}
+
 GestureRule shellRule(char name, std::optional<bool> acknowledged) {
-    GestureRule rule = makeShellCommand(acknowledged);
-    rule.name = name;
-    return rule;
+    return named(name, makeShellCommand(acknowledged));
 }
 
 /// The rules of a text like "ab-C": a "-" disables the one before.
@@ -128,56 +131,57 @@ TEST(RuleStore, DisablesUnacknowledgedShellRulesOnLoadingAndSavesThat) {
         EXPECT_EQ(Fixture(Rules{others[0], shellRule('s', acknowledged), others[2]}).changes(), "as-C 0/1");
 }
 
-TEST(RuleStore, AddsABlankRuleAtTheEndAndDeletesById) {
-    Rules rules = rulesOf("abcde");
-    rules[3].id = rules[1].id;
-    Fixture fixture(rules);
-    GestureRule blank;
-    blank.id = fixture.store->addRule();
-    EXPECT_EQ(fixture.rules().back(), blank);
-    EXPECT_EQ(fixture.changes(), "abcde- 1/1");
-    fixture.store->deleteRules({blank.id, rules[1].id, Uuid::random()});
-    EXPECT_EQ(fixture.changes(), "ace 1/1");
-}
-
-TEST(RuleStore, MovesAnySelectionAnywhere) {
-    const Rules rules = rulesOf("abcde");
-    Fixture fixture(rules);
-    const std::vector<std::tuple<std::set<std::size_t>, std::size_t, std::string>> rows{
-        {{0}, 1, "abcde"},    {{0}, 2, "bacde"},    {{4}, 0, "eabcd"},    {{2}, 7, "abdec"},
-        {{1, 3}, 2, "abdce"}, {{1, 3}, 5, "acebd"}, {{0, 4}, 2, "baecd"}, {{0, 1, 2, 3, 4}, 3, "abcde"},
+TEST(RuleStore, SavesAndPublishesEachChangeOnce) {
+    using Change = std::function<void(Fixture&)>;
+    const auto add = [](Fixture& f) {
+        GestureRule blank;
+        blank.id = f.store->addRule();
+        EXPECT_EQ(f.rules().back(), blank);
     };
-    for (const auto& [from, to, expected] : rows) {
-        fixture.store->replaceRules(rules);
-        fixture.changes();
-        auto withStray = from;
-        withStray.insert({5, 9});
-        fixture.store->moveRules(withStray, to);
-        EXPECT_EQ(fixture.changes(), expected + " 1/1") << ::testing::PrintToString(from) << " to " << to;
+    const auto remove = [](Fixture& f) { f.store->deleteRules({ruleOf('b').id, ruleOf('x').id}); };
+    const auto move = [](std::set<std::size_t> from, std::size_t to) {
+        from.insert({5, 9});  // beyond the list
+        return [=](Fixture& f) { f.store->moveRules(from, to); };
+    };
+    const auto set = [](char name, bool enabled, Result result) {
+        return [=](Fixture& f) { EXPECT_EQ(f.store->setRuleEnabled(ruleOf(name).id, enabled), result); };
+    };
+    const auto enableAll = [](Result result) {
+        return [=](Fixture& f) {
+            EXPECT_EQ(f.store->canEnableAllRules(), result == Result::changed);
+            EXPECT_EQ(f.store->enableAllRules(), result);
+        };
+    };
+    const auto disableAll = [](Fixture& f) { f.store->disableAllRules(); };
+    const auto replace = [](Fixture& f) {
+        f.store->replaceRules({shellRule('s', {}), shellRule('t', true), ruleOf('U'), disabled(ruleOf('v'))});
+    };
+    const std::vector<std::tuple<const char*, Change, const char*>> rows{
+        {"abcde", add, "abcde- 1/1"},
+        {"abcbe", remove, "ace 1/1"},
+        {"abcde", move({0}, 1), "abcde 1/1"},
+        {"abcde", move({4}, 0), "eabcd 1/1"},
+        {"abcde", move({2}, 7), "abdec 1/1"},
+        {"abcde", move({1, 3}, 2), "abdce 1/1"},
+        {"abcde", move({1, 3}, 5), "acebd 1/1"},
+        {"abcde", move({0, 4}, 2), "baecd 1/1"},
+        {"aB-c-", set('x', true, Result::unchanged), "aB-c- 0/0"},
+        {"aB-c-", set('a', true, Result::unchanged), "aB-c- 0/0"},
+        {"aB-c-", set('B', false, Result::unchanged), "aB-c- 0/0"},
+        {"aB-c-", set('B', true, Result::ruleNotReady), "aB-c- 0/0"},
+        {"aB-c-", set('c', true, Result::changed), "aB-c 1/1"},
+        {"aB-c-", set('a', false, Result::changed), "a-B-c- 1/1"},
+        {"a-B-c-D", enableAll(Result::changed), "aB-cD 1/1"},
+        {"aB-cD", enableAll(Result::unchanged), "aB-cD 0/0"},
+        {"aB-cD", disableAll, "a-B-c-D- 1/1"},
+        {"a-B-", disableAll, "a-B- 0/0"},
+        {"z", replace, "s-tU-v- 1/1"},
+    };
+    for (const auto& [before, change, after] : rows) {
+        Fixture fixture(rulesOf(before));
+        change(fixture);
+        EXPECT_EQ(fixture.changes(), after) << "from " << before;
     }
-}
-
-TEST(RuleStore, EnablesOnlyReadyRules) {
-    Fixture fixture(rulesOf("aB-c-"));
-    const auto set = [&](const Uuid& id, bool enabled) { return fixture.store->setRuleEnabled(id, enabled); };
-    EXPECT_EQ(set(Uuid::random(), true), Result::unchanged);
-    EXPECT_EQ(set(fixture.id(0), true), Result::unchanged);
-    EXPECT_EQ(set(fixture.id(1), false), Result::unchanged);
-    EXPECT_EQ(set(fixture.id(1), true), Result::ruleNotReady);
-    EXPECT_EQ(fixture.changes(), "aB-c- 0/0");
-    EXPECT_EQ(set(fixture.id(2), true), Result::changed);
-    EXPECT_EQ(set(fixture.id(0), false), Result::changed);
-    EXPECT_EQ(fixture.changes(), "a-B-c 2/2");
-
-    Fixture all(rulesOf("a-B-c-D"));
-    EXPECT_TRUE(all.store->canEnableAllRules());
-    EXPECT_EQ(all.store->enableAllRules(), Result::changed);
-    EXPECT_EQ(all.changes(), "aB-cD 1/1");
-    EXPECT_FALSE(all.store->canEnableAllRules());
-    EXPECT_EQ(all.store->enableAllRules(), Result::unchanged);
-    all.store->disableAllRules();
-    all.store->disableAllRules();
-    EXPECT_EQ(all.changes(), "a-B-c-D- 1/1");
 }
 
 TEST(RuleStoreBinding, FollowsItsRule) {
@@ -200,12 +204,6 @@ TEST(RuleStoreBinding, FollowsItsRule) {
     EXPECT_EQ(binding->get(), GestureRule::recommendedDefault());
     binding->set(edited);
     EXPECT_EQ(fixture.changes(), "a 0/0");
-}
-
-TEST(RuleStore, DisablesUnreadyRulesOfAReplacement) {
-    Fixture fixture(rulesOf("z"));
-    fixture.store->replaceRules({shellRule('s', {}), shellRule('t', true), ruleOf('U'), disabled(ruleOf('v'))});
-    EXPECT_EQ(fixture.changes(), "s-tU-v- 1/1");
 }
 
 TEST(RuleStore, PublishesOnlyDifferencesOnReload) {

@@ -74,33 +74,27 @@ TEST(Vocabulary, MatchesAnyPressureClicksWithAllOfTheirCount) {
 }
 
 TEST(Vocabulary, MatchesSidesOneWayAndOverlapsThemBothWays) {
-    using enum EdgeSlideSide;
     std::string matching, overlapping;
-    for (const EdgeSlideSide a : {left, right, both})
-        for (const EdgeSlideSide b : {left, right, both}) {
+    for (const EdgeSlideSide a : allCases<EdgeSlideSide>())
+        for (const EdgeSlideSide b : allCases<EdgeSlideSide>()) {
             matching += matches(a, b) ? '1' : '0';
             overlapping += overlaps(a, b) ? '1' : '0';
         }
     EXPECT_EQ(matching + " " + overlapping, "100010111 101011111");
 }
 
-TEST(Vocabulary, BuildsGesturesOfOneToThreeRepetitions) {
-    for (const std::int64_t count : {INT64_MIN, std::int64_t{-1}, std::int64_t{0}, std::int64_t{4}, INT64_MAX}) {
-        EXPECT_EQ(tapGesture(count), std::nullopt);
-        EXPECT_EQ(physicalClickGesture(count, std::nullopt), std::nullopt);
-        EXPECT_EQ(physicalClickGesture(count, PhysicalClickPressure::force), std::nullopt);
-        EXPECT_EQ(tipTapGesture(count, TipTapDirection::right), std::nullopt);
-    }
-    EXPECT_EQ(physicalClickGesture(2, PhysicalClickPressure::soft), doubleSoftClick);
-    EXPECT_EQ(tipTapGesture(3, TipTapDirection::right), tripleTipTapRight);
-}
-
 TEST(GestureTypeChoice, ReachesEveryGestureAndFallsBackToTheSingleForm) {
     for (const GestureKind kind : allCases<GestureKind>())
         EXPECT_EQ(gestureKind(gestureTypeChoice(kind), repetitionCount(kind).value_or(7)), kind) << rawValue(kind);
-    for (const GestureTypeChoice choice : allCases<GestureTypeChoice>())
-        for (const std::int64_t count : {INT64_MIN, std::int64_t{0}, std::int64_t{4}})
+    EXPECT_EQ(gestureKind(GestureTypeChoice::softClick, 2), doubleSoftClick);
+    EXPECT_EQ(gestureKind(GestureTypeChoice::tipTapRight, 3), tripleTipTapRight);
+    for (const std::int64_t count : {INT64_MIN, std::int64_t{-1}, std::int64_t{0}, std::int64_t{4}, INT64_MAX}) {
+        for (const GestureTypeChoice choice : allCases<GestureTypeChoice>())
             EXPECT_EQ(gestureKind(choice, count), gestureKind(choice, 1)) << rawValue(choice);
+        EXPECT_FALSE(tapGesture(count) || tipTapGesture(count, TipTapDirection::right) ||
+                     physicalClickGesture(count, std::nullopt) ||
+                     physicalClickGesture(count, PhysicalClickPressure::force));
+    }
 }
 
 constexpr ShortcutModifiers kCommand = ShortcutModifiers::command;
@@ -121,29 +115,27 @@ TEST(ShortcutKey, NamesEachKeyOnce) {
         EXPECT_EQ(ShortcutKey::nameFor(unnamed), "Key " + std::to_string(unnamed));
 }
 
-TEST(ShortcutKey, LabelsModifiersInOneOrder) {
-    EXPECT_EQ(ShortcutKey::label(47, kCommand), "⌘Key 47");
-    EXPECT_EQ(ShortcutKey::label(0, kAll), "fn ⌃⌥⇧⌘A");
-    EXPECT_EQ(ShortcutKey::label(0, ShortcutModifiers{32}), "A");
-    EXPECT_EQ(ShortcutKey::label(0, ShortcutModifiers{-1}), "fn ⌃⌥⇧⌘A");
-}
-
 TEST(ShortcutKey, DerivesFlagsAndTheFunctionKey) {
-    const auto facts = [](std::uint16_t code, ShortcutModifiers modifiers) {
-        return std::pair(ShortcutKey::eventFlags(code, modifiers),
-                         ShortcutKey::requiresFunctionKeyTransition(code, modifiers));
-    };
-    EXPECT_EQ(facts(6, kCommand | kShift), std::pair(0x120000UL, false));
-    EXPECT_EQ(facts(6, kAll), std::pair(0x9E0000UL, false));
-    EXPECT_EQ(facts(6, ShortcutModifiers{32}), std::pair(0UL, false));
-    EXPECT_EQ(facts(14, kFunction), std::pair(0x800000UL, false));
-    for (const std::uint16_t code : {std::uint16_t{122}, std::uint16_t{127}})
-        EXPECT_EQ(facts(code, kFunction), std::pair(0x800000UL, false)) << code;
-    EXPECT_EQ(facts(123, kControl | kFunction), std::pair(0xA40000UL, true));
-    EXPECT_EQ(facts(126, kFunction), std::pair(0xA00000UL, true));
+    for (const auto& [code, modifiers, flags, withFunctionKey] :
+         std::vector<std::tuple<std::uint16_t, ShortcutModifiers, std::uint64_t, bool>>{
+             {6, kCommand | kShift, 0x120000, false},
+             {6, kAll, 0x9E0000, false},
+             {6, {32}, 0, false},
+             {6, {-1}, 0x9E0000, false},
+             {122, kFunction, 0x800000, false},
+             {127, kFunction, 0x800000, false},
+             {123, kControl | kFunction, 0xA40000, true},
+             {126, kFunction, 0xA00000, true}}) {
+        EXPECT_EQ(ShortcutKey::eventFlags(code, modifiers), flags) << code;
+        EXPECT_EQ(ShortcutKey::requiresFunctionKeyTransition(code, modifiers), withFunctionKey) << code;
+    }
 }
 
 TEST(CommonMacShortcut, HasOneTitlePerStrokeAndCategoriesInOrder) {
+    struct Version final : SystemVersion {
+        int majorVersion() const override { return version; }
+        int version = 15;
+    } current;
     std::set<std::string> ids;
     std::vector<std::string_view> categories;
     for (const CommonMacShortcut& preset : CommonMacShortcut::all()) {
@@ -157,11 +149,6 @@ TEST(CommonMacShortcut, HasOneTitlePerStrokeAndCategoriesInOrder) {
     EXPECT_EQ(CommonMacShortcut::actionTitle(9, kCommand | kOption | kShift), "Paste and Match Style");
     EXPECT_EQ(CommonMacShortcut::actionTitle(9, kCommand | kOption), std::nullopt);
     EXPECT_EQ(CommonMacShortcut::actionTitle(9, ShortcutModifiers{1 | 32}), std::nullopt);
-
-    struct Version final : SystemVersion {
-        int majorVersion() const override { return version; }
-        int version = 15;
-    } current;
     EXPECT_EQ(CommonMacShortcut::availableCategoryOrder(current), categories);
     current.version = 14;
     std::erase(categories, "Window Tiling");

@@ -1,20 +1,11 @@
 #pragma once
 
-#include <memory>
-#include <optional>
 #include <set>
-#include <sstream>
-#include <string>
-#include <vector>
 
 #include "actions/ActionPorts.h"
-#include "actions/EventSynthesizer.h"
 #include "actions/InProcessNotifications.h"
-#include "support/CallLog.h"
-#include "support/FakeInterface.h"
+#include "support/FakeWorld.h"
 #include "support/InMemoryUserDefaults.h"
-#include "support/ManualClock.h"
-#include "support/Text.h"
 
 namespace kinesta::testing {
 
@@ -23,7 +14,7 @@ namespace kinesta::testing {
 /// "center up at 1 2", "system 8 a00 -1").
 class RecordingEventSynthesizer final : public EventSynthesizer {
   public:
-    RecordingEventSynthesizer(CallLog& log, ManualClock& clock) : m_log(log), m_clock(clock) {}
+    explicit RecordingEventSynthesizer(FakeWorld& world) : m_world(world) {}
 
     std::set<std::string> failing;
     DesktopLocation pointer{640, 400.5};
@@ -39,14 +30,14 @@ class RecordingEventSynthesizer final : public EventSynthesizer {
         return event("key " + std::to_string(keyCode) + name(transition), source);
     }
     std::unique_ptr<SynthesizedEvent> makeCenterButtonEvent(EventSource* source, KeyTransition transition,
-                                                            DesktopLocation location) override {
-        return event("center" + name(transition) + " at " + numberText(location.x) + " " + numberText(location.y),
-                     source);
+                                                            DesktopLocation at) override {
+        return event("center" + name(transition) + " at " + numberText(at.x) + " " + numberText(at.y), source);
     }
     std::unique_ptr<SynthesizedEvent> makeSystemDefinedEvent(const SystemDefinedEvent& made) override {
         const std::string what = "system " + std::to_string(made.subtype) + " " + hex(made.data1) + " " +
-                                 std::to_string(made.data2) + (made.timestamp == m_clock.uptime() ? "" : " stale");
-        m_clock.advance(0.0625);
+                                 std::to_string(made.data2) +
+                                 (made.timestamp == m_world.clock.uptime() ? "" : " stale");
+        m_world.advance(0.0625);
         return event(what, true);
     }
 
@@ -69,62 +60,58 @@ class RecordingEventSynthesizer final : public EventSynthesizer {
     }
     static std::string name(KeyTransition transition) { return transition == KeyTransition::down ? " down" : " up"; }
     bool isMade(const std::string& what, bool hasSource) {
-        m_log.add("+ " + what + (hasSource ? "" : " without source"));
+        m_world.log.add("+ " + what + (hasSource ? "" : " without source"));
         return !failing.contains(what);
     }
     std::unique_ptr<SynthesizedEvent> event(const std::string& what, bool hasSource) {
-        return isMade(what, hasSource) ? std::make_unique<Event>(m_log, what) : nullptr;
+        return isMade(what, hasSource) ? std::make_unique<Event>(m_world.log, what) : nullptr;
     }
 
-    CallLog& m_log;
-    ManualClock& m_clock;
+    FakeWorld& m_world;
 };
 
 /// Everything an action can touch, with one log of what was done to it. By default the permission is granted,
 /// application 7 is in front (this process is 1), the system offers tiling, the keyboard layout is unknown, and shell
 /// commands are off.
-class FakeActionDesktop final : AccessibilityPermission,
+class FakeActionDesktop final : public FakeWorld,
                                 public KeyboardLayout,
+                                AccessibilityPermission,
+                                AccessibilityElements,
                                 Workspace,
                                 ProcessLauncher,
                                 OwnWindows,
+                                OwnMenus,
                                 SystemVersion,
                                 HomeFolders,
                                 ActionCuePresenting {
   public:
-    CallLog log;
-    ManualClock clock;
     InMemoryUserDefaults defaults;
-    RecordingEventSynthesizer events{log, clock};
-    FakeAccessibility accessibility{log, clock};
-    FakeOwnMenus menus{log};
+    RecordingEventSynthesizer events{*this};
     InProcessNotifications notifications;
     bool isGranted = true;
     int version = 15;
     std::optional<KeyboardLayoutCharacters> characters;
     /// The next answers; the last one stays.
     std::vector<std::optional<ProcessIdentifier>> frontmost{7};
-    /// What is true of a window: "panel", "miniaturized", "sheet", and "button" for an enabled close button.
+    /// The interface of application 7, below the application's own element.
+    struct {
+        std::shared_ptr<FakeNode> root;
+        void describe(const std::string& lines, const std::string& application = "") {
+            root = FakeNode::parse(lines, application);
+        }
+    } accessibility;
+    /// The menu bar of this process; its children are the items. No menu bar if it is null.
+    struct {
+        std::shared_ptr<FakeNode> bar;
+    } menus;
     std::optional<std::string> ownKeyWindow, ownMainWindow;
 
     ActionPorts ports() {
-        return {clock, defaults, *this,         *this, *this, events,        *this,
-                *this, *this,    accessibility, *this, menus, notifications, *this};
+        return {clock, defaults, *this, *this, *this, events,        *this,
+                *this, *this,    *this, *this, *this, notifications, *this};
     }
 
   private:
-    struct Window final : OwnWindow {
-        Window(CallLog& calls, std::string text) : log(calls), words(std::move(text)) {}
-        bool has(const char* word) const { return words.find(word) != std::string::npos; }
-        bool isPanel() override { return has("panel"); }
-        bool isMiniaturized() override { return has("miniaturized"); }
-        bool hasAttachedSheet() override { return has("sheet"); }
-        bool isCloseButtonEnabled() override { return has("button"); }
-        void performClose() override { log.add("close own " + words); }
-        CallLog& log;
-        std::string words;
-    };
-
     bool isTrusted() override { return log.add("? trusted"), isGranted; }
     bool prompt() override { return log.add("prompt"), isGranted; }
     std::optional<KeyboardLayoutCharacters> charactersWithoutModifiers() override { return characters; }
@@ -144,6 +131,11 @@ class FakeActionDesktop final : AccessibilityPermission,
         return answer;
     }
     ProcessIdentifier ownProcessIdentifier() override { return 1; }
+    AccessibilityElementHandle applicationElement(ProcessIdentifier application) override {
+        log.add("? application " + std::to_string(application));
+        return element(application == 7 ? accessibility.root : nullptr);
+    }
+    std::unique_ptr<OwnMenu> mainMenu() override { return areMenusUpdated = false, element(menus.bar); }
     std::unique_ptr<OwnWindow> keyWindow() override { return window(ownKeyWindow); }
     std::unique_ptr<OwnWindow> mainWindow() override { return window(ownMainWindow); }
     int majorVersion() const override { return version; }
@@ -157,8 +149,13 @@ class FakeActionDesktop final : AccessibilityPermission,
                 message.value_or("-"));
     }
 
-    std::unique_ptr<OwnWindow> window(const std::optional<std::string>& words) {
-        return words ? std::make_unique<Window>(log, *words) : nullptr;
+    std::unique_ptr<FakeElement> element(const std::shared_ptr<FakeNode>& node) {
+        return node ? std::make_unique<FakeElement>(*this, node) : nullptr;
+    }
+    std::unique_ptr<FakeElement> window(const std::optional<std::string>& words) {
+        const auto node = std::make_shared<FakeNode>("");
+        node->name = words.value_or("");
+        return element(words ? node : nullptr);
     }
     static std::string listed(const std::vector<std::string>& arguments) {
         std::string text;

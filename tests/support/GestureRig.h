@@ -26,14 +26,8 @@ class FakeContactProvider final : public TrackpadContactProviding {
     FrameHandler frameHandler() const override { return m_handler.handler(); }
     void setFrameHandler(FrameHandler handler) override { m_handler.setHandler(std::move(handler)); }
     TrackpadContactProviderStatus status() const override { return m_status; }
-    void start() override {
-        calls.push_back("start");
-        m_status = statusAfterStart;
-    }
-    void stop() override {
-        calls.push_back("stop");
-        m_status = TrackpadContactProviderStatus::stopped();
-    }
+    void start() override { log("start", statusAfterStart); }
+    void stop() override { log("stop", TrackpadContactProviderStatus::stopped()); }
 
     /// Changes the status, as a connected or removed pad does.
     void becomes(TrackpadContactProviderStatus status) { m_status = std::move(status); }
@@ -42,6 +36,11 @@ class FakeContactProvider final : public TrackpadContactProviding {
     void send(const TrackpadContactFrame& frame) const { m_handler.call(frame); }
 
   private:
+    void log(const char* call, const TrackpadContactProviderStatus& status) {
+        calls.emplace_back(call);
+        m_status = status;
+    }
+
     FrameHandlerSlot m_handler;
     TrackpadContactProviderStatus m_status;
 };
@@ -121,8 +120,6 @@ struct GestureRig {
             service->setTapWaitingInterval(TapWaitingInterval::fromRawValue(*settings.tapWaitingMilliseconds).value());
         if (settings.cornerPalmRejectionEnabled)
             service->setCornerPalmRejectionEnabled(*settings.cornerPalmRejectionEnabled);
-        if (settings.cornerPalmRejectionSensitivity)
-            service->setCornerPalmRejectionSensitivity(*settings.cornerPalmRejectionSensitivity);
     }
 };
 

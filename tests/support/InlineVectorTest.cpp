@@ -2,57 +2,44 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 using namespace kinesta;
 
-namespace {
-
-using Four = InlineVector<int, 4>;
-
-/// 1, 2, 3, … pushed one by one.
-Four upTo(std::size_t count) {
+TEST(InlineVector, HoldsWhatAVectorWouldAndStaysInPlaceUpToItsCapacity) {
+    using Four = InlineVector<int, 4>;
+    std::minstd_rand random(7);
     Four list;
-    while (list.size() < count)
-        list.push_back(static_cast<int>(list.size()) + 1);
-    return list;
-}
-
-void expectUpTo(std::size_t count, const Four& list) {
-    ASSERT_EQ(list.size(), count);
-    for (std::size_t i = 0; i < count; ++i)
-        EXPECT_EQ(list[i], static_cast<int>(i) + 1);
-    const auto* from = reinterpret_cast<const char*>(&list);
-    const auto* data = reinterpret_cast<const char*>(list.data());
-    EXPECT_EQ(data >= from && data < from + sizeof(list), count <= 4) << "in place up to its capacity";
-}
-
-}  // namespace
-
-TEST(InlineVector, PushesCopiesAndAssignsAnyNumber) {
-    for (std::size_t count = 0; count <= 9; ++count) {
-        const Four pushed = upTo(count);
-        expectUpTo(count, pushed);
-        expectUpTo(count, Four(pushed));
-        Four assigned{9, 9, 9, 9, 9, 9};
-        assigned = pushed;
-        assigned = *&assigned;
-        expectUpTo(count, assigned);
-    }
-}
-
-TEST(InlineVector, TruncatesAcrossItsCapacity) {
-    for (std::size_t from = 0; from <= 7; ++from)
-        for (std::size_t to = 0; to <= from; ++to) {
-            SCOPED_TRACE(testing::Message() << from << " to " << to);
-            Four list{9, 9, 9, 9};
-            list.assign(upTo(from).view());
-            list.truncate(to);
-            expectUpTo(to, list);
-            EXPECT_EQ(list, upTo(to)) << "what was cut off does not count";
-            EXPECT_NE(list, upTo(to + 1));
-            for (std::size_t next = to; next < 6; ++next)
-                list.push_back(static_cast<int>(next) + 1);
-            expectUpTo(std::max<std::size_t>(to, 6), list);
+    std::vector<int> model;
+    for (int step = 0; step < 20'000; ++step) {
+        const std::size_t choice = random() % 9;
+        const std::size_t size = random() % (choice == 0 ? 9 : model.size() + 1);
+        if (choice == 0) {
+            model.assign(size, step);
+            list.assign(model);
+        } else if (choice == 1) {
+            model.resize(size);
+            list.truncate(size);
+        } else if (choice == 2) {
+            Four assigned = size % 2 == 0 ? Four{9, 9, 9, 9, 9, 9} : Four{9};
+            assigned = list;
+            assigned = *&assigned;
+            const Four copy(assigned);
+            list.assign(copy.view());
+        } else if (choice == 3 && size == 0) {
+            model.clear();
             list.clear();
-            expectUpTo(0, list);
+        } else {
+            model.push_back(step);
+            list.push_back(step);
         }
+        ASSERT_TRUE(std::ranges::equal(list, model)) << step;
+        const auto* from = reinterpret_cast<const char*>(&list);
+        const auto* data = reinterpret_cast<const char*>(list.data());
+        ASSERT_EQ(data >= from && data < from + sizeof(list), model.size() <= 4) << step;
+        Four other{std::span<const int>(model)};
+        ASSERT_EQ(list, other) << "what was cut off does not count";
+        other.push_back(step);
+        ASSERT_NE(list, other);
+    }
 }

@@ -81,41 +81,36 @@ TEST_F(RunLoopTest, StarvesNeitherPostedNorDelayedWork) {
     EXPECT_EQ(log, "delayed posted ");
 }
 
-// Each task waits for the one before, so that the loop sleeps between them.
-TEST_F(RunLoopTest, WakesForATaskFromAnotherThreadWhileATimerWaits) {
-    after(3s, "late");
-    std::thread poster([&] {
-        for (int i = 0; i < 300; ++i) {
-            std::binary_semaphore done(0);
-            port.post([&] { done.release(); });
-            done.acquire();
-        }
-        thread.quit();
-    });
-    thread.run();
-    poster.join();
-    EXPECT_EQ(log, "");
-}
-
-TEST_F(RunLoopTest, KeepsTheOrderOfEachPostingThread) {
-    constexpr int kEach = 2000;
-    std::vector<int> counts(4, 0);
-    int left = kEach * 4;
+// One thread alone waits for each of its tasks, so that the loop sleeps between them.
+TEST_F(RunLoopTest, RunsTheTasksOfOtherThreadsInTheirOrderWhileATimerWaits) {
+    after(60s, "late");
     bool isInOrder = true;
-    std::vector<std::thread> posters;
-    for (int& count : counts)
-        posters.emplace_back([&] {
-            for (int i = 0; i < kEach; ++i)
-                port.post([&, i] {
-                    isInOrder = count++ == i && isInOrder;
-                    if (--left == 0)
-                        thread.quit();
-                });
-        });
-    thread.run();
-    for (auto& poster : posters)
-        poster.join();
+    for (const int threads : {1, 4}) {
+        int left = threads;
+        std::vector<std::thread> posters;
+        while (std::ssize(posters) < threads)
+            posters.emplace_back([&] {
+                constexpr int kTasks = 2000;
+                std::counting_semaphore done(0);
+                int count = 0;
+                for (int i = 0; i < kTasks; ++i) {
+                    port.post([&, i] {
+                        isInOrder = count++ == i && isInOrder;
+                        done.release();
+                    });
+                    if (threads == 1)
+                        done.acquire();
+                }
+                for (int waits = threads == 1 ? 0 : kTasks; waits > 0; --waits)
+                    done.acquire();
+                port.post([&] { --left == 0 ? thread.quit() : void(); });
+            });
+        thread.run();
+        for (auto& poster : posters)
+            poster.join();
+    }
     EXPECT_TRUE(isInOrder);
+    EXPECT_EQ(log, "");
 }
 
 TEST(RunLoop, MayBeDestroyedAsSoonAsRunReturns) {

@@ -77,13 +77,13 @@ class PadScript {
     }
 
     /// The button goes down or up, or deeper, after what the frame of this moment says.
-    PadScript& press() { return add(PadButton::down); }
-    PadScript& release() { return add(PadButton::up); }
-    PadScript& stage(std::int64_t stage) { return add(PadPressure{stage}); }
+    PadScript& press() { return add(PadEvent{m_time, PadButton::down}); }
+    PadScript& release() { return add(PadEvent{m_time, PadButton::up}); }
+    PadScript& stage(std::int64_t stage) { return add(PadEvent{m_time, PadPressure{stage}}); }
     PadScript& click(Seconds down, Seconds up) { return at(down).press().at(up).release(); }
-    PadScript& setGestures(bool enabled) { return set(&RecordedSettings::gesturesEnabled, enabled); }
-    PadScript& setTapWaiting(int time) { return set(&RecordedSettings::tapWaitingMilliseconds, time); }
-    PadScript& setPalmRejection(bool enabled) { return set(&RecordedSettings::cornerPalmRejectionEnabled, enabled); }
+    PadScript& setGestures(bool isOn) { return add(SettingsChange{m_time, {.gesturesEnabled = isOn}}); }
+    PadScript& setTapWaiting(int time) { return add(SettingsChange{m_time, {.tapWaitingMilliseconds = time}}); }
+    PadScript& setPalmRejection(bool isOn) { return add(SettingsChange{m_time, {.cornerPalmRejectionEnabled = isOn}}); }
     /// Delays the arrival of this moment's frame: uptime against the driver's time.
     PadScript& receivedAt(Uptime uptime) {
         m_received = uptime;
@@ -107,17 +107,9 @@ class PadScript {
         m_isTouched = true;
         return *this;
     }
-    PadScript& add(decltype(PadEvent::content) content) {
+    PadScript& add(RecordingEvent event) {
         flush();
-        m_events.push_back(PadEvent{m_time, std::move(content)});
-        return *this;
-    }
-    template <typename T>
-    PadScript& set(std::optional<T> RecordedSettings::*setting, T value) {
-        RecordedSettings settings;
-        settings.*setting = value;
-        flush();
-        m_events.push_back(SettingsChange{m_time, settings});
+        m_events.push_back(std::move(event));
         return *this;
     }
     void flush() {

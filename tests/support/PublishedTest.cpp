@@ -69,17 +69,14 @@ TEST_F(PublishedTest, DeliversNestedChangesOnce) {
 
 TEST_F(PublishedTest, FreesObserversWithTheirSubscriptions) {
     const auto held = std::make_shared<int>();
-    Subscription inner = number.observe([held](int) {});
-    auto outer = std::make_shared<Subscription>(number.observe([held](int) {}));
-    Subscription both = number.observe([held, other = std::move(outer)](int) {});  // whose end ends another
+    const auto observer = [&] { return std::make_shared<Subscription>(number.observe([held](int) {})); };
+    Subscription alone = number.observe([held](int) {});
+    Subscription both = number.observe([held, other = observer()](int) {});  // whose end ends another
     EXPECT_EQ(held.use_count(), 4);
-    inner.end();
+    alone.end();
     both.end();
     EXPECT_EQ(held.use_count(), 1);
-
-    Subscription own;
-    auto third = std::make_shared<Subscription>(number.observe([held](int) {}));
-    own = number.observe([&own, held, other = std::move(third)](int) { own.end(); });
+    alone = number.observe([&alone, held, other = observer()](int) { alone.end(); });
     number.set(1);
     EXPECT_EQ(held.use_count(), 1) << "also if they end during a notification";
 }

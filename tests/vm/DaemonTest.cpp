@@ -1,20 +1,19 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <thread>
 
-#include "desktop/harness/ChildProcess.h"
+#include "desktop/harness/ProcessFigures.h"
 #include "platform/linux/settings/FileUserDefaults.h"
-#include "support/TemporaryFolder.h"
 #include "vm/DeviceListener.h"
-#include "vm/Processes.h"
 #include "vm/VirtualTouchpad.h"
 
 namespace kinesta::vm {
 namespace {
+
+using namespace testing;
 
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool kIsInstrumented = true;  // the program too: its sanitizer holds on to freed memory
@@ -36,44 +35,17 @@ constexpr const char* kRules = R"([
 /// Gestures take as long here as on a real pad.
 void rest(int milliseconds) { std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds)); }
 
-/// Whether the command succeeds.
-bool kinesta(const std::string& words) { return std::system(("kinesta " + words).c_str()) == 0; }
-
-/// The program in a process of its own.
-struct ProgramRun : testing::ChildProcess {
-    explicit ProgramRun(std::vector<std::string> command) : ChildProcess(std::move(command)) {}
-
-    /// Reads lines until one contains `text`.
-    bool says(const std::string& text, std::chrono::milliseconds patience = std::chrono::seconds(10)) {
-        while (const auto line = readLine(patience))
-            if (line->find(text) != std::string::npos)
-                return true;
-        return false;
-    }
-
-    /// Ends it with a signal. Returns its exit status, or the signal that killed it.
-    int end(int number) {
-        siginfo_t information{};
-        signal(number);
-        waitid(P_PID, static_cast<id_t>(pid()), &information, WEXITED | WNOWAIT);
-        waitForEnd();
-        return information.si_status;
-    }
-
-    ProcessFigures figures() const { return ProcessFigures(pid()); }
-};
-
 struct Daemon : ::testing::Test {
     Daemon() {
         writeText("rules.json", kRules);
-        EXPECT_TRUE(kinesta("rules import rules.json >/dev/null"));
+        EXPECT_TRUE(run("kinesta rules import rules.json >/dev/null"));
     }
 };
 
 TEST_F(Daemon, PerformsWhatTheFingersMean) {
     const PadShape shape{.maximumPressure = 1000, .pressureResolution = 10};
     auto pad = std::make_unique<VirtualTouchpad>(shape);
-    ProgramRun daemon({"kinesta", "daemon"});
+    ChildProcess daemon("kinesta daemon");
     ASSERT_TRUE(daemon.says("Trackpad listening: Virtual Touchpad"));
     const DeviceListener desktop;
     pad->touch(1);
@@ -84,9 +56,9 @@ TEST_F(Daemon, PerformsWhatTheFingersMean) {
     pad->touch(2);
 
     rest(500);
-    const ProcessFigures before = daemon.figures();
+    const ProcessFigures before = ProcessFigures(daemon.pid());
     rest(2000);
-    const ProcessFigures idle = daemon.figures();
+    const ProcessFigures idle = ProcessFigures(daemon.pid());
     EXPECT_EQ(idle.sleeps, before.sleeps) << "idle, it must not wake at all";
     EXPECT_LE(idle.cpuHundredths, before.cpuHundredths + 1) << "nor spin";
     EXPECT_TRUE(kIsInstrumented || idle.residentKilobytes < 10240) << idle.residentKilobytes;
@@ -131,7 +103,7 @@ TEST_F(Daemon, PerformsWhatTheFingersMean) {
 
 TEST_F(Daemon, NeitherMisfiresNorStaysDeafAfterLostEvents) {
     VirtualTouchpad pad;
-    ProgramRun daemon({"kinesta", "daemon"});
+    ChildProcess daemon("kinesta daemon");
     ASSERT_TRUE(daemon.says("Trackpad listening"));
     const DeviceListener desktop;
     daemon.signal(SIGSTOP);
@@ -150,7 +122,7 @@ TEST_F(Daemon, NeitherMisfiresNorStaysDeafAfterLostEvents) {
 
 TEST_F(Daemon, KeepsNothingOverThousandsOfActions) {
     VirtualTouchpad pad;
-    ProgramRun daemon({"kinesta", "daemon"});
+    ChildProcess daemon("kinesta daemon");
     ASSERT_TRUE(daemon.says("Trackpad listening"));
     std::optional<ProcessFigures> first;
     constexpr int kActionsARound = 500;
@@ -170,9 +142,9 @@ TEST_F(Daemon, KeepsNothingOverThousandsOfActions) {
         pad.up(0).up(1).report();
         ASSERT_GE(actions, kActionsARound * 9 / 10) << round;
         if (!first)
-            first = daemon.figures();
+            first = ProcessFigures(daemon.pid());
     }
-    const ProcessFigures last = daemon.figures();
+    const ProcessFigures last = ProcessFigures(daemon.pid());
     EXPECT_EQ(last.descriptors, first->descriptors);
     EXPECT_TRUE(kIsInstrumented || last.residentKilobytes <= first->residentKilobytes + 128) << last.residentKilobytes;
 }
@@ -180,7 +152,7 @@ TEST_F(Daemon, KeepsNothingOverThousandsOfActions) {
 TEST_F(Daemon, FollowsTheChoiceOfThePadAndTheRules) {
     VirtualTouchpad first({.name = "First Pad"});
     VirtualTouchpad second({.name = "Second Pad", .bus = BUS_USB});
-    ProgramRun daemon({"kinesta", "daemon"});
+    ChildProcess daemon("kinesta daemon");
     ASSERT_TRUE(daemon.says("Trackpad listening: First Pad"));
     FileUserDefaults(FileUserDefaults::defaultPath(), {}).setString("linux.touchpad.v1", "Second Pad");
     ASSERT_TRUE(daemon.says("Trackpad listening: Second Pad"));
@@ -189,7 +161,7 @@ TEST_F(Daemon, FollowsTheChoiceOfThePadAndTheRules) {
     EXPECT_TRUE(daemon.says("4 of 4 rules are on."));
     EXPECT_TRUE(daemon.says("3-finger single tap  →  Middle click"));
     writeText("none.json", "[]");
-    ASSERT_TRUE(kinesta("rules import none.json >/dev/null"));
+    ASSERT_TRUE(run("kinesta rules import none.json >/dev/null"));
     ASSERT_TRUE(daemon.says("0 of 0 rules are on."));
     second.tapWithThree();
     EXPECT_TRUE(daemon.says("3-finger single tap  →  nothing: no rule is bound to it"));
@@ -198,9 +170,9 @@ TEST_F(Daemon, FollowsTheChoiceOfThePadAndTheRules) {
 TEST_F(Daemon, LeavesAValidRecordingWhenKilled) {
     VirtualTouchpad pad;
     for (const int signal : {SIGKILL, SIGTERM}) {
-        ProgramRun record({"kinesta", "record", "-o", "pad.jsonl"});
+        ChildProcess record("kinesta record -o pad.jsonl");
         const auto waitForLines = [](std::ptrdiff_t count) {
-            return testing::eventually([count] {
+            return eventually([count] {
                 std::ifstream stream("pad.jsonl");
                 return std::count(std::istreambuf_iterator<char>(stream), {}, '\n') >= count;
             });
@@ -209,7 +181,7 @@ TEST_F(Daemon, LeavesAValidRecordingWhenKilled) {
         pad.tapWithThree();
         ASSERT_TRUE(waitForLines(3));
         record.end(signal);
-        EXPECT_TRUE(kinesta(R"(replay --json pad.jsonl | grep -q '"gesture":"singleTap","fingers":3')"));
+        EXPECT_TRUE(run(R"(kinesta replay --json pad.jsonl | grep -q '"gesture":"singleTap","fingers":3')"));
         std::filesystem::remove("pad.jsonl");
     }
 }
@@ -217,23 +189,21 @@ TEST_F(Daemon, LeavesAValidRecordingWhenKilled) {
 TEST_F(Daemon, DoctorKnowsHowManyFingersThePadReports) {
     for (const int fingers : {2, 3}) {
         const VirtualTouchpad pad({.slots = 2, .fingers = fingers, .maximumPressure = 1000, .pressureResolution = 10});
-        EXPECT_EQ(kinesta("doctor > said"), fingers == 3);
-        EXPECT_EQ(readText("said").find("tells of 2 fingers at once and no more.") != std::string::npos, fingers == 2)
-            << readText("said");
+        EXPECT_EQ(run("kinesta doctor > said"), fingers == 3);
+        EXPECT_EQ(run("grep 'tells of 2 fingers at once and no more.' said"), fingers == 2);
     }
 }
 
 TEST_F(Daemon, MonitorPerformsNothingAndDoctorIsContent) {
     VirtualTouchpad pad({.maximumPressure = 1000, .pressureResolution = 10});
-    EXPECT_TRUE(kinesta("devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));
+    EXPECT_TRUE(run("kinesta devices --json | grep -q '\"name\": \"Virtual Touchpad\"'"));
     for (const bool isWayland : {false, true}) {
-        EXPECT_TRUE(kinesta("doctor > said"));
-        EXPECT_NE(readText("said").find("✓ Touchpad: Virtual Touchpad at /dev/input/"), std::string::npos);
-        EXPECT_EQ(readText("said").find("also reads it while this desktop has it switched off") != std::string::npos,
-                  isWayland);
+        EXPECT_TRUE(run("kinesta doctor > said"));
+        EXPECT_TRUE(run("grep '✓ Touchpad: Virtual Touchpad at /dev/input/' said"));
+        EXPECT_EQ(run("grep 'also reads it while this desktop has it switched off' said"), isWayland);
         setenv("WAYLAND_DISPLAY", "wayland-0", 1);
     }
-    ProgramRun monitor({"kinesta", "monitor"});
+    ChildProcess monitor("kinesta monitor");
     ASSERT_TRUE(monitor.says("Virtual Touchpad"));
     pad.tapWithThree();
     EXPECT_TRUE(monitor.says("3-finger single tap  →  would run: Middle click"));

@@ -7,13 +7,11 @@
 #include <filesystem>
 #include <set>
 
-#include "platform/linux/keyboard/UinputDevice.h"
+#include "desktop/harness/ProcessFigures.h"
 #include "platform/linux/touchpad/DeviceAccess.h"
 #include "platform/linux/touchpad/TouchpadListing.h"
 #include "support/DconfSample.h"
-#include "support/TemporaryFolder.h"
-#include "vm/PadReading.h"
-#include "vm/Processes.h"
+#include "vm/DeviceListener.h"
 #include "vm/VirtualTouchpad.h"
 
 namespace kinesta::vm {
@@ -146,7 +144,7 @@ TEST(TouchpadComingAndGoing, IsLeftAloneWhileTheDesktopHasItSwitchedOff) {
 
 TEST(TouchpadComingAndGoing, StartsAndStopsAtOnceAndLeavesNothing) {
     VirtualTouchpad pad;
-    const long descriptors = ProcessFigures(getpid()).descriptors;
+    const long descriptors = testing::ProcessFigures(getpid()).descriptors;
     std::vector<double> delays;
     {
         PadReading reading;
@@ -166,7 +164,7 @@ TEST(TouchpadComingAndGoing, StartsAndStopsAtOnceAndLeavesNothing) {
         pad.touch(99);
         EXPECT_EQ(reading.take(3, kMoment), touchOf(99)) << "and no click of a run that is over";
     }
-    EXPECT_EQ(ProcessFigures(getpid()).descriptors, descriptors);
+    EXPECT_EQ(testing::ProcessFigures(getpid()).descriptors, descriptors);
     std::sort(delays.begin(), delays.end());
     std::printf("LATENCY stop(): median %.1f ms, worst %.1f ms\n", delays[delays.size() / 2] * 1e3,
                 delays.back() * 1e3);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "actions/KeyboardLayoutResolver.h"
 #include "platform/linux/keyboard/PostingEventSynthesizer.h"
@@ -103,6 +104,11 @@ InProcessNotifications& LinuxActions::notifications() { return m_parts->notifica
 LoginItemService& LinuxActions::loginItem() { return m_parts->loginItem; }
 
 WindowOutcomes& LinuxActions::windowOutcomes() { return m_parts->outcomes; }
+
+std::vector<EwmhMonitor> LinuxActions::monitors() {
+    auto snapshot = m_parts->desktop.snapshot();
+    return snapshot ? std::move(snapshot->monitors) : std::vector<EwmhMonitor>();
+}
 
 bool LinuxActions::typesLetterOf(std::uint16_t keyCode, const std::string& name) {
     const std::string letter = lowerCased(name);

@@ -3,12 +3,14 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "actions/ActionPorts.h"
 #include "actions/InProcessNotifications.h"
 #include "app/LoginItemService.h"
 #include "platform/linux/launching/PosixProcessLauncher.h"
 #include "platform/linux/session/DesktopSession.h"
+#include "platform/linux/windows/EwmhSnapshot.h"
 #include "platform/linux/windows/WindowOutcomes.h"
 
 namespace kinesta {
@@ -39,6 +41,9 @@ class LinuxActions {
 
     WindowOutcomes& windowOutcomes();
     LoginItemService& loginItem();
+
+    /// The monitors with their work areas; none without an X server that answers at once.
+    std::vector<EwmhMonitor> monitors();
 
     /// Whether a shortcut with this key, which has this name, reaches programs as the letter that it names. False if no
     /// layout of the keyboard types that letter with the key that is posted. True for keys that name no letter, and if

@@ -7,12 +7,11 @@
 #include <cstdlib>
 
 #include "platform/linux/StreamTrackpad.h"
-#include "platform/linux/keyboard/KeyObstacle.h"
+#include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/process/CurrentDesktop.h"
-#include "platform/linux/process/ExecutableSearch.h"
 #include "platform/linux/process/ProgramFiles.h"
+#include "platform/linux/process/SessionEnvironment.h"
 #include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/x11/X11Connection.h"
 #include "support/SystemError.h"

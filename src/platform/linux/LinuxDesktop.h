@@ -39,6 +39,9 @@ class LinuxDesktop final : public Desktop {
     /// every action.
     void setCue(ActionCuePresenting& cue) { m_cue = &cue; }
 
+    /// The monitors with their work areas in pixels; none if they are not known.
+    std::vector<EwmhMonitor> monitors() { return actions().monitors(); }
+
     MainLoop& mainLoop() override { return m_mainLoop; }
     const Clock& clock() const override { return m_clock; }
     void catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) override;

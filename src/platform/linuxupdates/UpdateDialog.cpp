@@ -41,6 +41,7 @@ UpdateDialog::UpdateDialog(UpdateCheck& check, UpdateTrigger trigger) : m_check(
     column->addStretch();
     column->addLayout(buttons);
 
+    m_close.setAutoDefault(false);  // Enter is for the action; Escape closes
     m_action.setDefault(true);
     connect(&m_action, &QPushButton::clicked, this, [this] { act(); });
     connect(&m_close, &QPushButton::clicked, this, [this] { reject(); });
@@ -109,7 +110,7 @@ void UpdateDialog::show(const UpdateProgress& progress) {
             action = tr("Show in Folder");
             break;
         case Stage::failed:
-            m_headline.setText(tr("The update did not work"));
+            m_headline.setText(tr("Kinesta could not be updated"));
             m_detail.setText(text(progress.problem));
             action = tr("Try Again");
             break;

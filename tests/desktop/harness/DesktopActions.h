@@ -1,16 +1,15 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "actions/ActionExecutor.h"
 #include "actions/WindowCloseExecutor.h"
 #include "actions/WindowTilingExecutor.h"
+#include "desktop/harness/TestWindow.h"
 #include "feedback/NoActionCue.h"
 #include "platform/linux/LinuxActions.h"
 #include "support/InMemoryUserDefaults.h"
@@ -70,9 +69,8 @@ class DesktopActions {
     /// Posts a key with these flags and returns once the server has taken it.
     void stroke(std::uint16_t code, std::uint64_t flags) {
         auto& events = ports().events;
-        const auto down = events.makeKeyEvent(nullptr, code, KeyTransition::down);
-        const auto up = events.makeKeyEvent(nullptr, code, KeyTransition::up);
-        for (const auto& event : {down.get(), up.get()}) {
+        for (const auto transition : {KeyTransition::down, KeyTransition::up}) {
+            const auto event = events.makeKeyEvent(nullptr, code, transition);
             event->setFlags(flags);
             event->post();
         }
@@ -82,7 +80,6 @@ class DesktopActions {
     ActionPorts ports() { return m_actions.ports(m_defaults, m_cue); }
     unsigned roundTrips() const { return m_actions.roundTrips(); }
     DesktopSession session() { return m_actions.session(); }
-    bool works(DesktopCapability capability) { return session().finding(capability).works; }
     std::string lastMessage() {
         const std::lock_guard lock(m_mutex);
         return m_lastMessage;
@@ -110,6 +107,12 @@ class DesktopActions {
     NoActionCue m_cue;
     GrantedPermission m_permission;
     InterruptedWorkspace m_workspace{ports().workspace};
+};
+
+/// A desktop with a window manager on which actions run.
+struct DesktopActionsTest : ::testing::Test {
+    TestDesktop desktop{TestDesktop::openbox};
+    DesktopActions actions;
 };
 
 }  // namespace kinesta::testing

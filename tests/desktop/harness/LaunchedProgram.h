@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desktop/harness/ChildProcess.h"
+#include "support/TableRows.h"
 #include "support/TemporaryFolder.h"
 
 namespace kinesta::testing {
@@ -25,12 +26,9 @@ class LaunchedProgram {
     /// The arguments of its next start.
     std::vector<std::string> waitForArguments() const {
         const std::string file = m_path + ".arguments";
-        if (!eventually([&] { return std::filesystem::exists(file); }))
-            return {"(not started)"};
-        std::ifstream content(file);
-        std::vector<std::string> arguments;
-        for (std::string argument; std::getline(content, argument, '\0');)
-            arguments.push_back(argument);
+        EXPECT_TRUE(eventually([&] { return std::filesystem::exists(file); })) << "not started";
+        auto arguments = split(readText(file), std::string(1, '\0'));
+        arguments.pop_back();  // after the last NUL
         std::filesystem::remove(file);
         return arguments;
     }

@@ -17,7 +17,7 @@ struct Application : ::testing::Test {
     }
     /// Runs it in a shell, which afterwards says its exit status.
     std::unique_ptr<ChildProcess> start(const std::string& arguments) const {
-        return desktop.start({"sh", "-c", "'" KINESTA_PROGRAM "' " + arguments + " 2>&1; echo $?"});
+        return std::make_unique<ChildProcess>("sh -c \"'" KINESTA_PROGRAM "' " + arguments + R"( 2>&1; echo \$?")");
     }
     static std::string rest(ChildProcess& process) {
         std::string text;
@@ -37,7 +37,7 @@ struct Application : ::testing::Test {
     }
     pid_t processOf() const { return status().value("pid", 0); }
 
-    TestDesktop desktop{{.hasSessionBus = true}};
+    TestDesktop desktop;
 };
 
 TEST_F(Application, RunsOnceHoweverManyStartsRace) {
@@ -86,7 +86,7 @@ TEST_F(Application, TakesOverFromTheDaemonAndSurvivesEveryEnd) {
     kill(process, SIGCONT);
     kill(process, SIGHUP);
     EXPECT_EQ(processOf(), process);
-    desktop.stopSessionBus();
+    desktop.sessionBus.reset();
     EXPECT_NE(run("").find("No session bus answers"), std::string::npos);
     EXPECT_NE(run("ctl quit").find("there is no session bus to reach it.|1|"), std::string::npos);
     kill(process, SIGTERM);

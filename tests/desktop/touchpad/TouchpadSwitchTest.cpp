@@ -1,7 +1,6 @@
 #include "platform/linux/touchpad/TouchpadSwitch.h"
 
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <xcb/xinput.h>
 
 #include <filesystem>
@@ -17,8 +16,7 @@ namespace {
 constexpr const char* kKey = "/org/gnome/desktop/peripherals/touchpad/send-events";
 
 bool changes(TouchpadSwitch& pads, int milliseconds = 5000) {
-    pollfd events{.fd = pads.fileDescriptor(), .events = POLLIN, .revents = 0};
-    while (poll(&events, 1, milliseconds) > 0)
+    while (testing::waitForInput(pads.fileDescriptor(), std::chrono::milliseconds(milliseconds)))
         if (pads.takeChanges())
             return true;
     return false;

@@ -5,7 +5,6 @@
 
 #include "desktop/harness/BusPeer.h"
 #include "desktop/harness/DesktopActions.h"
-#include "desktop/harness/TestWindow.h"
 
 namespace kinesta::testing {
 namespace {
@@ -30,7 +29,7 @@ Tree windowWith(std::uint64_t state, int levels = 2, std::uint64_t stateOfWindow
 }
 
 TEST(AccessibilityBus, FindsAModalDialogInsideTheActiveWindow) {
-    TestDesktop desktop({.hasSessionBus = true});
+    TestDesktop desktop;
     MessageBus session;
     AccessibilityBus bus(session);
     const auto isQuick = [&] {
@@ -58,12 +57,12 @@ TEST(AccessibilityBus, FindsAModalDialogInsideTheActiveWindow) {
     AccessibleProgram program(windowWith(kShowing | kModal));
     program.hang();
     EXPECT_TRUE(isQuick());
-    desktop.stopSessionBus();
+    desktop.sessionBus.reset();
     EXPECT_TRUE(isQuick());
 }
 
 TEST(AccessibilityBus, KeepsAWindowWithADialogOpen) {
-    TestDesktop desktop({.hasWindowManager = true, .hasSessionBus = true});
+    TestDesktop desktop(TestDesktop::openbox);
     TestWindow window(desktop, {100, 100, 300, 200});
     window.setProcess(getpid()).show();
     DesktopActions actions;

@@ -4,38 +4,29 @@
 #include <csignal>
 
 #include "desktop/harness/DesktopActions.h"
-#include "desktop/harness/TestWindow.h"
 
 namespace kinesta::testing {
 namespace {
 
-using Words = std::vector<std::string>;
-const Words kClose{"close"};
-
-struct WindowClosing : ::testing::Test {
-    TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
-    DesktopActions actions;
-};
+struct WindowClosing : DesktopActionsTest {};
 
 TEST_F(WindowClosing, ClosesEditorsAndLeavesSaveDialogsToThePerson) {
-    for (const Words& command : {Words{"mousepad", "--disable-server"}, {"featherpad", "--standalone"}}) {
-        const auto unchanged = desktop.start(command);
-        ASSERT_NE(desktop.awaitWindowOf(unchanged->pid()), 0U) << command[0];
-        EXPECT_TRUE(actions.closes()) << command[0];
-        EXPECT_TRUE(unchanged->waitForEnd()) << command[0];
-        const auto program = desktop.start(command);
-        const xcb_window_t editor = desktop.awaitWindowOf(program->pid());
-        ASSERT_NE(editor, 0U) << command[0];
-        desktop.run({"xdotool", "type", "not saved"});
+    for (const std::string command : {"mousepad --disable-server", "featherpad --standalone"}) {
+        ChildProcess unchanged(command);
+        desktop.awaitWindowOf(unchanged);
+        EXPECT_TRUE(actions.closes()) << command;
+        EXPECT_TRUE(unchanged.waitForEnd()) << command;
+        ChildProcess program(command);
+        const xcb_window_t editor = desktop.awaitWindowOf(program);
+        EXPECT_TRUE(run("xdotool type 'not saved'"));
         ASSERT_TRUE(actions.closes());
-        const xcb_window_t dialog = desktop.awaitWindowOf(program->pid(), editor);
-        ASSERT_NE(dialog, 0U) << command[0] << " does not ask";
-        EXPECT_FALSE(actions.closes()) << command[0] << ": the dialog is in front";
+        const xcb_window_t dialog = desktop.awaitWindowOf(program, editor);
+        EXPECT_FALSE(actions.closes()) << command << ": the dialog is in front";
         desktop.request(editor, "_NET_ACTIVE_WINDOW", {2});
-        EXPECT_FALSE(actions.closes()) << command[0] << ": its owner is in front";
-        desktop.letWindowManagerCatchUp(editor);
-        EXPECT_TRUE(desktop.isManaged(dialog)) << command[0];
-        program->signal(SIGKILL);
+        EXPECT_FALSE(actions.closes()) << command << ": its owner is in front";
+        desktop.letWindowManagerCatchUp();
+        EXPECT_TRUE(desktop.isManaged(dialog)) << command;
+        program.end(SIGKILL);
         ASSERT_TRUE(eventually([this] { return desktop.stacking().empty(); }));
         EXPECT_FALSE(actions.closes()) << "an empty desktop";
     }
@@ -62,81 +53,86 @@ TEST_F(WindowClosing, WaitsForTheAnswerToAModalDialog) {
         if (row.group != 0)
             dialog.setGroup(row.group);
         if (row.owner != 0)
-            dialog.setWindow("WM_TRANSIENT_FOR", row.owner);
+            dialog.setOwner(row.owner);
         dialog.show();
         EXPECT_FALSE(actions.closes()) << row.description << ": the dialog is in front";
-        EXPECT_EQ(dialog.eventsAfterWindowManager(), Words{}) << row.description;
+        EXPECT_EQ(dialog.events(), "") << row.description;
         // Openbox gives the focus to the dialog; other window managers do not.
         desktop.pretendActive(editor.id());
         EXPECT_EQ(actions.closes(), !row.holdsBack) << row.description << ": its owner is in front";
-        EXPECT_EQ(editor.eventsAfterWindowManager(), row.holdsBack ? Words{} : kClose) << row.description;
+        EXPECT_EQ(editor.events(), row.holdsBack ? "" : "close") << row.description;
     }
     TestWindow find(desktop, {200, 200, 100, 50}, connection);
-    find.setWindow("WM_TRANSIENT_FOR", editor.id()).show();
+    find.setOwner(editor.id()).show();
     EXPECT_TRUE(actions.closes()) << "not modal";
-    EXPECT_EQ(find.next(), "close");
+    EXPECT_EQ(find.events(), "close");
 }
 
 TEST_F(WindowClosing, LeavesSpecialWindowsAlone) {
     TestWindow window(desktop, {100, 100, 300, 200});
     window.setProcess(getpid()).show();  // our own windows follow the same rules
     EXPECT_TRUE(actions.closes());
-    EXPECT_EQ(window.next(), "close");
+    EXPECT_EQ(window.events(), "close");
     for (const char* type : {"DESKTOP", "DOCK", "TOOLBAR", "MENU", "UTILITY", "SPLASH"}) {
         for (const pid_t process : {getppid(), getpid()}) {
-            ASSERT_TRUE(eventually([&] { return desktop.active() == window.id(); }));
+            ASSERT_TRUE(desktop.becomesActive(window.id()));
             TestWindow other(desktop, {500, 100, 200, 100});
             // The first type is unknown to Kinesta and must be ignored.
-            other.setAtoms("_NET_WM_WINDOW_TYPE",
-                           {"_KDE_NET_WM_WINDOW_TYPE_OVERRIDE", std::string("_NET_WM_WINDOW_TYPE_") + type});
-            other.setProcess(process).show(false);
+            other.setType(type, "_KDE_NET_WM_WINDOW_TYPE_OVERRIDE").setProcess(process).show(false);
             desktop.activate(other.id());
             EXPECT_FALSE(actions.closes()) << type;
-            EXPECT_EQ(other.eventsAfterWindowManager(), Words{}) << type;
+            EXPECT_EQ(other.events(), "") << type;
         }
     }
-    ASSERT_TRUE(eventually([&] { return desktop.active() == window.id(); }));
+    ASSERT_TRUE(desktop.becomesActive(window.id()));
     TestWindow stubborn(desktop, {500, 300, 200, 100});
-    stubborn.show();
-    desktop.letWindowManagerCatchUp(window.id());  // openbox also sets the allowed actions
-    for (const Words& allowed : {Words{"_NET_WM_ACTION_MOVE"}, {}}) {
-        stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", allowed).send();
+    stubborn.show();  // openbox also sets the allowed actions
+    for (const std::vector<std::string>& allowed : {std::vector<std::string>{"_NET_WM_ACTION_MOVE"}, {}}) {
+        stubborn.setAtoms("_NET_WM_ALLOWED_ACTIONS", allowed);
         EXPECT_FALSE(actions.closes());
     }
-    EXPECT_EQ(stubborn.eventsAfterWindowManager(), Words{});
+    EXPECT_EQ(stubborn.events(), "");
     xcb_delete_property(desktop.connection(), stubborn.id(), desktop.atom("_NET_WM_ALLOWED_ACTIONS"));
     ASSERT_TRUE(desktop.property(stubborn.id(), "_NET_WM_ALLOWED_ACTIONS").empty());
     EXPECT_TRUE(actions.closes()) << "all is allowed where nothing is listed";
-    EXPECT_EQ(stubborn.next(), "close");
+    EXPECT_EQ(stubborn.events(), "close");
 
-    desktop.minimize(window.id());
+    const auto before = desktop.frame(window.id());
+    for (const TestWindow* each : {&stubborn, &window})
+        desktop.minimize(each->id());
     desktop.pretendActive(window.id());
     EXPECT_FALSE(actions.closes()) << "minimized";
-    EXPECT_EQ(window.eventsAfterWindowManager(), Words{});
+    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill)) << "minimized";
+    EXPECT_EQ(window.events(), "");
+    desktop.activate(window.id());
+    EXPECT_TRUE(eventually([&] { return desktop.frame(window.id()) == before; }));
 }
 
-TEST_F(WindowClosing, ClosesNothingOnceThePersonHasGoneElsewhere) {
+TEST_F(WindowClosing, ClosesAndTilesNothingOnceThePersonHasGoneElsewhere) {
     const auto connection = TestWindow::connect(desktop);
     TestWindow first(desktop, {100, 100, 300, 200}, connection);
     TestWindow sibling(desktop, {300, 300, 300, 200}, connection);
     TestWindow stranger(desktop, {600, 100, 300, 200});
     for (TestWindow* each : {&sibling, &stranger, &first})
         each->show();
+    const auto told = [&] { return first.events() + sibling.events() + stranger.events(); };
+    const auto places = [&] { return std::pair(desktop.frame(first.id()), desktop.frame(stranger.id())); };
+    const auto before = places();
+    EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill, [&] { desktop.activate(stranger.id()); }));
+    EXPECT_EQ(told(), "");
+    EXPECT_EQ(places(), before);
     for (TestWindow* other : {&stranger, &sibling}) {
         desktop.activate(first.id());
         EXPECT_FALSE(actions.closes([&] { desktop.activate(other->id()); }));
-        EXPECT_EQ(first.eventsAfterWindowManager(), Words{});
-        EXPECT_EQ(other->eventsAfterWindowManager(), Words{});
+        EXPECT_EQ(told(), "");
     }
     desktop.activate(first.id());
-    const auto vanishes = [&] {
+    EXPECT_FALSE(actions.closes([&] {
         xcb_destroy_window(connection.get(), first.id());
         xcb_flush(connection.get());
         EXPECT_TRUE(eventually([&] { return !desktop.isManaged(first.id()); }));
-    };
-    EXPECT_FALSE(actions.closes(vanishes)) << "it went by itself";
-    EXPECT_EQ(sibling.eventsAfterWindowManager(), Words{});
-    EXPECT_EQ(stranger.eventsAfterWindowManager(), Words{});
+    })) << "it went by itself";
+    EXPECT_EQ(told(), "");
     desktop.pretendActive(first.id());
     EXPECT_EQ(actions.frontmost(), std::nullopt) << "the window is gone";
     EXPECT_FALSE(actions.closes());
@@ -148,25 +144,26 @@ TEST_F(WindowClosing, ClosesNothingOnceThePersonHasGoneElsewhere) {
 TEST_F(WindowClosing, KnowsTheProcessInFront) {
     EXPECT_EQ(actions.frontmost(), std::nullopt) << "an empty desktop";
     {
-        const auto terminal = desktop.start({"xterm"});
-        ASSERT_NE(desktop.awaitWindowOf(terminal->pid()), 0U);
-        EXPECT_EQ(actions.frontmost(), terminal->pid());
+        const ChildProcess terminal("xterm");
+        desktop.awaitWindowOf(terminal);
+        EXPECT_EQ(actions.frontmost(), terminal.pid());
     }
     std::string machine(256, '\0');
     ASSERT_EQ(gethostname(machine.data(), machine.size() - 1), 0);
-    machine.resize(machine.find('\0'));
     const struct {
-        std::string machine;
+        const char* machine;
         xcb_atom_t type;
-        std::int64_t number;
+        int number;
         bool isProcess;
-    } rows[] = {{machine, XCB_ATOM_CARDINAL, 4711, true},
+    } rows[] = {{machine.c_str(), XCB_ATOM_CARDINAL, 4711, true},
                 {"elsewhere", XCB_ATOM_CARDINAL, 4711, false},
-                {machine, XCB_ATOM_CARDINAL, 0, false},
-                {machine, XCB_ATOM_STRING, 4711, false}};
+                {machine.c_str(), XCB_ATOM_CARDINAL, 0, false},
+                {machine.c_str(), XCB_ATOM_STRING, 4711, false}};
     for (const auto& row : rows) {
         TestWindow window(desktop, {100, 100, 200, 100});
-        window.setMachine(row.machine).setProcess(row.number, row.type).show();
+        EXPECT_TRUE(run("xprop -f WM_CLIENT_MACHINE 8s -set WM_CLIENT_MACHINE " + std::string(row.machine) + " -id " +
+                        std::to_string(window.id())));
+        window.set("_NET_WM_PID", row.type, {row.number}).show();
         const auto process = actions.frontmost().value_or(0);
         EXPECT_TRUE(row.isProcess ? process == 4711 : process < 0) << process << ' ' << row.machine;
     }

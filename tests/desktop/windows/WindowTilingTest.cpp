@@ -3,10 +3,9 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <fstream>
 
 #include "desktop/harness/DesktopActions.h"
-#include "desktop/harness/TestWindow.h"
+#include "support/TemporaryFolder.h"
 
 namespace kinesta::testing {
 namespace {
@@ -15,70 +14,96 @@ using Command = WindowTilingMenuCommand;
 
 constexpr const char* kHorizontally = "_NET_WM_STATE_MAXIMIZED_HORZ";
 constexpr const char* kVertically = "_NET_WM_STATE_MAXIMIZED_VERT";
+constexpr WindowRectangle kLeft{0, 0, 640, 800};
+constexpr WindowRectangle kRight{640, 0, 640, 800};
 
-struct WindowTiling : ::testing::Test {
-    TestDesktop desktop{{.hasWindowManager = true, .hasSessionBus = true}};
-    DesktopActions actions;
+/// Waits until a window's frame is at this place, each edge within `tolerance` pixels.
+::testing::AssertionResult isAt(const TestDesktop& desktop, xcb_window_t window, const WindowRectangle& expected,
+                                int tolerance = 0) {
+    const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
+    WindowRectangle frame;
+    const auto isThere = [&] {
+        frame = desktop.frame(window);
+        return isNear(frame.x, expected.x) && isNear(frame.y, expected.y) && isNear(frame.right(), expected.right()) &&
+               isNear(frame.bottom(), expected.bottom());
+    };
+    if (!eventually(isThere, std::chrono::seconds(5)))
+        return ::testing::AssertionFailure() << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
+    if (desktop.windowManager)
+        desktop.letWindowManagerCatchUp();  // the window in the frame moves after it
+    return ::testing::AssertionSuccess();
+}
 
-    /// Waits until a window's frame is at this place, each edge within `tolerance` pixels.
-    ::testing::AssertionResult isAt(xcb_window_t window, const WindowRectangle& expected, int tolerance = 0) {
-        const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
-        WindowRectangle frame;
-        const auto isThere = [&] {
-            frame = desktop.frame(window);
-            return isNear(frame.x, expected.x) && isNear(frame.y, expected.y) &&
-                   isNear(frame.right(), expected.right()) && isNear(frame.bottom(), expected.bottom());
-        };
-        if (!eventually(isThere, std::chrono::seconds(5)))
-            return ::testing::AssertionFailure()
-                   << frame.width << 'x' << frame.height << '+' << frame.x << '+' << frame.y;
-        desktop.letWindowManagerCatchUp(window);  // the window in the frame moves after it
-        return ::testing::AssertionSuccess();
+struct WindowTiling : DesktopActionsTest {
+    auto isAt(xcb_window_t window, const WindowRectangle& expected, int tolerance = 0) {
+        return testing::isAt(desktop, window, expected, tolerance);
     }
 };
 
-TEST_F(WindowTiling, TilesEditorsAndReturnsThemToTheirPlace) {
-    const auto program = desktop.start({"mousepad", "--disable-server"});
-    const xcb_window_t editor = desktop.awaitWindowOf(program->pid());
-    ASSERT_NE(editor, 0U);
+TEST_F(WindowTiling, TilesEditorsAndRemembersThePlaceThatThePersonChose) {
+    const ChildProcess program("mousepad --disable-server");
+    const xcb_window_t editor = desktop.awaitWindowOf(program);
     const auto before = desktop.frame(editor);
-    for (const auto& [command, expected] : {std::pair{Command::right, WindowRectangle{640, 0, 640, 800}},
+    for (const auto& [command, expected] : {std::pair{Command::right, kRight},
                                             {Command::topThreeUp, {0, 0, 1280, 400}},
-                                            {Command::center, {0, 200, 1280, 400}}}) {
+                                            {Command::center, {0, 200, 1280, 400}},
+                                            {Command::untile, before},  // from before the first of them
+                                            {Command::untile, before},  // posts no key instead
+                                            {Command::left, kLeft}}) {
         EXPECT_TRUE(actions.tiles(command));
         EXPECT_TRUE(isAt(editor, expected)) << rawValue(command);
     }
+    constexpr std::uint32_t kStaticWithAll = 10 | 0xF << 8;
+    desktop.request(editor, "_NET_MOVERESIZE_WINDOW", {kStaticWithAll, 600, 300, 520, 440});
+    ASSERT_TRUE(eventually([&] { return desktop.client(editor) == WindowRectangle{600, 300, 520, 440}; }));
+    const auto chosen = desktop.frame(editor);
+    EXPECT_TRUE(actions.tiles(Command::right));
+    EXPECT_TRUE(isAt(editor, kRight));
     EXPECT_TRUE(actions.tiles(Command::untile));
-    EXPECT_TRUE(isAt(editor, before)) << "from before the first of them";
-    EXPECT_TRUE(actions.tiles(Command::untile)) << "posts no key instead";
-    EXPECT_TRUE(isAt(editor, before));
+    EXPECT_TRUE(isAt(editor, chosen));
+    // A record of a monitor that is gone, or an invalid one, does not move the window off the screen.
+    for (const std::vector<std::int64_t>& record :
+         {std::vector<std::int64_t>{3000, 100, 500, 400, 0, 0, 640, 800, 0}, {1, 2, 3}}) {
+        desktop.set(editor, "_KINESTA_TILING_RECORD", XCB_ATOM_CARDINAL, record);
+        EXPECT_TRUE(actions.tiles(Command::untile));
+        EXPECT_TRUE(isAt(editor, {390, 200, 500, 400}));
+    }
 }
 
-TEST_F(WindowTiling, TilesTerminalsInWholeCells) {
-    std::vector<std::unique_ptr<ChildProcess>> programs;
-    std::vector<xcb_window_t> terminals;
-    for (const char* place : {"40x10+0+50", "40x10+50+50"}) {
-        programs.push_back(desktop.start({"xterm", "-geometry", place}));
-        terminals.push_back(desktop.awaitWindowOf(programs.back()->pid()));
-        ASSERT_NE(terminals.back(), 0U);
-    }
+TEST_F(WindowTiling, TilesTerminalsInWholeCellsEvenIfTheyOrTheWindowManagerHang) {
     constexpr int kCell = 26;
+    const ChildProcess first("xterm -geometry 40x10+0+50");
+    const xcb_window_t lower = desktop.awaitWindowOf(first);
+    ChildProcess second("xterm -geometry 40x10+50+50");
+    const xcb_window_t upper = desktop.awaitWindowOf(second);
     EXPECT_TRUE(actions.tiles(Command::rightAndLeft));
-    EXPECT_TRUE(isAt(terminals[1], {640, 0, 640, 800}, kCell));
-    EXPECT_TRUE(isAt(terminals[0], {0, 0, 640, 800}, kCell));
-    for (const xcb_window_t terminal : terminals)
-        EXPECT_EQ(desktop.frame(terminal).intersection(TestWindow::kWholeScreen), desktop.frame(terminal));
+    EXPECT_TRUE(isAt(upper, kRight, kCell));
+    EXPECT_TRUE(isAt(lower, kLeft, kCell));
+    for (const xcb_window_t terminal : {lower, upper})
+        EXPECT_EQ(desktop.frame(terminal).intersection(kWholeScreen), desktop.frame(terminal));
     EXPECT_TRUE(actions.tiles(Command::bottom)) << "cells are no sign that a person has resized it";
-    EXPECT_TRUE(isAt(terminals[1], {0, 400, 1280, 400}, kCell));
+    EXPECT_TRUE(isAt(upper, {0, 400, 1280, 400}, kCell));
     EXPECT_TRUE(actions.tiles(Command::untile));
-    EXPECT_TRUE(eventually([&] { return desktop.client(terminals[1]).height < 200; }));
-    EXPECT_EQ(desktop.frame(terminals[1]).x, 50);
-    EXPECT_EQ(desktop.frame(terminals[1]).y, 50);
+    EXPECT_TRUE(eventually([&] { return desktop.client(upper).height < 200; }));
+    EXPECT_EQ(desktop.frame(upper).x, 50);
+    EXPECT_EQ(desktop.frame(upper).y, 50);
+    for (ChildProcess* hanging : {&second, &*desktop.windowManager}) {
+        desktop.addState(upper, kHorizontally, kVertically);
+        hanging->signal(SIGSTOP);
+        const auto began = std::chrono::steady_clock::now();
+        EXPECT_TRUE(actions.tiles(Command::left));
+        EXPECT_TRUE(actions.closes());
+        EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(1));
+        if (hanging == &second) {
+            EXPECT_TRUE(isAt(upper, kLeft, kCell));
+        }
+    }
+    desktop.windowManager->signal(SIGCONT);
+    second.signal(SIGKILL);
 }
 
 TEST_F(WindowTiling, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
-    desktop.run({"xrandr", "--setmonitor", "L", "640/170x800/210+0+0", "screen"});
-    desktop.run({"xrandr", "--setmonitor", "R", "640/170x800/210+640+0", "none"});
+    EXPECT_TRUE(run("xrandr --setmonitor L 640/170x800/210+0+0 screen --setmonitor R 640/170x800/210+640+0 none"));
     TestWindow panel(desktop, {0, 775, 640, 25});
     panel.setType("DOCK");
     panel.set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, 0, 25, 0, 0, 0, 0, 0, 0, 0, 639}).show(false);
@@ -111,10 +136,7 @@ TEST_F(WindowTiling, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
     EXPECT_TRUE(actions.tiles(Command::bottom));
     EXPECT_TRUE(isAt(onLeft.id(), {0, 387, 640, 388})) << "above the panel";
     // Some desktops publish the work area of each monitor.
-    const std::vector<std::uint32_t> areas{0, 40, 640, 700, 640, 0, 640, 800};
-    xcb_change_property(desktop.connection(), XCB_PROP_MODE_REPLACE, desktop.root(), desktop.atom("_GTK_WORKAREAS_D0"),
-                        XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(areas.size()), areas.data());
-    ASSERT_EQ(desktop.property(desktop.root(), "_GTK_WORKAREAS_D0"), areas);
+    desktop.set(desktop.root(), "_GTK_WORKAREAS_D0", XCB_ATOM_CARDINAL, {0, 40, 640, 700, 640, 0, 640, 800});
     EXPECT_TRUE(actions.tiles(Command::fill));
     EXPECT_TRUE(isAt(onLeft.id(), {0, 40, 640, 700}));
     desktop.activate(minimized.id());
@@ -124,7 +146,7 @@ TEST_F(WindowTiling, ArrangesTheNextWindowsOfTheSameMonitorAndDesktop) {
 TEST_F(WindowTiling, EndsMaximizedAndFullscreenAndReturnsToThem) {
     TestWindow other(desktop, {50, 50, 300, 200});
     TestWindow window(desktop, {200, 150, 400, 300});
-    other.setStaticGravity().show();
+    other.setSizes({1, 1}, {32767, 32767}, XCB_GRAVITY_STATIC).show();
     window.show();
     const auto before = desktop.frame(window.id());
     const auto otherBefore = desktop.frame(other.id());
@@ -140,8 +162,8 @@ TEST_F(WindowTiling, EndsMaximizedAndFullscreenAndReturnsToThem) {
         desktop.addState(window.id(), state, second);
         const auto zoomed = desktop.frame(window.id());
         EXPECT_TRUE(actions.tiles(Command::leftAndRight));
-        EXPECT_TRUE(isAt(window.id(), {0, 0, 640, 800})) << state;
-        EXPECT_TRUE(isAt(other.id(), {640, 0, 640, 800})) << state;
+        EXPECT_TRUE(isAt(window.id(), kLeft)) << state;
+        EXPECT_TRUE(isAt(other.id(), kRight)) << state;
         EXPECT_FALSE(desktop.hasState(window.id(), state) || desktop.hasState(other.id(), state));
         EXPECT_TRUE(actions.tiles(Command::untile));
         EXPECT_TRUE(isAt(window.id(), zoomed)) << state;
@@ -161,30 +183,9 @@ TEST_F(WindowTiling, EndsMaximizedAndFullscreenAndReturnsToThem) {
         << "in the size that it was maximized from";
 }
 
-TEST_F(WindowTiling, RemembersThePlaceThatThePersonChose) {
-    TestWindow window(desktop, {200, 150, 400, 300});
-    window.setProcess(getpid()).show();  // our own windows are tiled like any other
-    EXPECT_TRUE(actions.tiles(Command::left));
-    EXPECT_TRUE(isAt(window.id(), {0, 0, 640, 800}));
-    constexpr std::uint32_t kStaticWithAll = 10 | 0xF << 8;
-    desktop.request(window.id(), "_NET_MOVERESIZE_WINDOW", {kStaticWithAll, 600, 300, 320, 240});
-    ASSERT_TRUE(eventually([&] { return desktop.client(window.id()) == WindowRectangle{600, 300, 320, 240}; }));
-    const auto chosen = desktop.frame(window.id());
-    EXPECT_TRUE(actions.tiles(Command::right));
-    EXPECT_TRUE(isAt(window.id(), {640, 0, 640, 800}));
-    EXPECT_TRUE(actions.tiles(Command::untile));
-    EXPECT_TRUE(isAt(window.id(), chosen));
-    // A record of a monitor that is gone, or an invalid one, does not move the window off the screen.
-    for (const std::vector<std::uint32_t>& record :
-         {std::vector<std::uint32_t>{3000, 100, 500, 400, 0, 0, 640, 800, 0}, {1, 2, 3}}) {
-        window.set("_KINESTA_TILING_RECORD", XCB_ATOM_CARDINAL, record).send();
-        EXPECT_TRUE(actions.tiles(Command::untile));
-        EXPECT_TRUE(isAt(window.id(), {390, 200, 500, 400}));
-    }
-}
-
 TEST_F(WindowTiling, KeepsWindowsWithSizeLimitsOnTheScreen) {
     TestWindow wide(desktop, {50, 50, 800, 200});
+    wide.setProcess(getpid());  // our own windows are tiled like any other
     wide.setSizes({800, 100}, {32767, 32767}).show();
     EXPECT_TRUE(actions.tiles(Command::right));
     EXPECT_TRUE(eventually([&] { return desktop.frame(wide.id()).height == 800; }));
@@ -204,73 +205,30 @@ TEST_F(WindowTiling, KeepsWindowsWithSizeLimitsOnTheScreen) {
     EXPECT_TRUE(eventually([&] { return desktop.client(shadowed.id()) == WindowRectangle{630, -8, 662, 822}; }));
 }
 
-TEST_F(WindowTiling, TouchesNothingOnceThePersonHasGoneElsewhere) {
-    TestWindow first(desktop, {100, 100, 300, 200});
-    TestWindow stranger(desktop, {600, 100, 300, 200});
-    stranger.show();
-    first.show();
-    const auto before = desktop.frame(first.id());
-    const auto strangerBefore = desktop.frame(stranger.id());
-    EXPECT_FALSE(actions.tiles(Command::fill, [&] { desktop.activate(stranger.id()); }));
-    desktop.minimize(first.id());
-    desktop.minimize(stranger.id());
-    desktop.pretendActive(first.id());
-    EXPECT_FALSE(actions.tiles(Command::fill)) << "minimized";
-    for (const TestWindow* each : {&first, &stranger})
-        desktop.activate(each->id());
-    EXPECT_TRUE(isAt(first.id(), before));
-    EXPECT_TRUE(isAt(stranger.id(), strangerBefore));
-}
-
-TEST_F(WindowTiling, DoesNotWaitForProgramsAndWindowManagersThatHang) {
-    const auto program = desktop.start({"xterm", "-geometry", "40x10+50+50"});
-    const xcb_window_t terminal = desktop.awaitWindowOf(program->pid());
-    ASSERT_NE(terminal, 0U);
-    const auto isQuick = [&] {
-        const auto began = std::chrono::steady_clock::now();
-        EXPECT_TRUE(actions.tiles(Command::left));
-        EXPECT_TRUE(actions.closes());
-        return std::chrono::steady_clock::now() - began < std::chrono::seconds(1);
-    };
-    desktop.addState(terminal, kHorizontally, kVertically);
-    program->signal(SIGSTOP);
-    EXPECT_TRUE(isQuick());
-    EXPECT_TRUE(isAt(terminal, {0, 0, 640, 800}, 26));
-    desktop.addState(terminal, kHorizontally, kVertically);
-    desktop.windowManager().signal(SIGSTOP);
-    EXPECT_TRUE(isQuick());
-    desktop.windowManager().signal(SIGCONT);
-    program->signal(SIGKILL);
-}
-
 TEST(WindowTilingOnI3, TakesWindowsOutOfTheLayoutAndGivesThemBack) {
     TestDesktop desktop;
-    const std::string config = (folderOf("HOME") / "i3").string();
-    std::ofstream(config) << "# i3 config file (v4)\nfont pango:DejaVu Sans 8\n";
-    const auto i3 = desktop.start({"i3", "-c", config});
+    const std::string config = folderOf("HOME") / "i3";
+    writeText(config, "# i3 config file (v4)\nfont pango:DejaVu Sans 8\n");
+    ChildProcess i3("i3 -c " + config);
     ASSERT_TRUE(eventually([&] { return !desktop.property(desktop.root(), "_NET_SUPPORTING_WM_CHECK").empty(); }));
     DesktopActions actions;
     TestWindow other(desktop, {50, 50, 300, 200});
     TestWindow window(desktop, {50, 50, 300, 200});
     for (TestWindow* each : {&other, &window}) {
         each->show();
-        EXPECT_TRUE(eventually([&] { return desktop.active() == each->id(); }));
+        EXPECT_TRUE(desktop.becomesActive(each->id()));
     }
-    const auto isAt = [&](const TestWindow& of, const WindowRectangle& place) {
-        return eventually([&] { return desktop.frame(of.id()) == place; }, std::chrono::seconds(5));
-    };
-    EXPECT_TRUE(isAt(window, {640, 0, 640, 800})) << "in the layout";
+    EXPECT_TRUE(isAt(desktop, window.id(), kRight)) << "in the layout";
     EXPECT_TRUE(actions.tiles(Command::left));
-    EXPECT_TRUE(isAt(window, {0, 0, 640, 800}));
+    EXPECT_TRUE(isAt(desktop, window.id(), kLeft));
     EXPECT_TRUE(actions.tiles(Command::topAndBottom));
-    EXPECT_TRUE(isAt(window, {0, 0, 1280, 400}));
-    EXPECT_TRUE(isAt(other, {0, 400, 1280, 400}));
+    EXPECT_TRUE(isAt(desktop, window.id(), {0, 0, 1280, 400}));
+    EXPECT_TRUE(isAt(desktop, other.id(), {0, 400, 1280, 400}));
     EXPECT_TRUE(actions.tiles(Command::untile));
-    EXPECT_TRUE(isAt(window, TestWindow::kWholeScreen)) << "alone in the layout";
+    EXPECT_TRUE(isAt(desktop, window.id(), kWholeScreen)) << "alone in the layout";
     EXPECT_TRUE(actions.closes());
     EXPECT_EQ(window.next(), "close");
-    i3->signal(SIGKILL);
-    ASSERT_TRUE(i3->waitForEnd());
+    i3.end(SIGKILL);
     EXPECT_FALSE(actions.tiles(Command::left)) << "what it left on the root window is no window manager";
     EXPECT_FALSE(actions.closes());
 }

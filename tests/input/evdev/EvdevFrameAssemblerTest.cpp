@@ -114,6 +114,7 @@ own ids: x 100 y 0 id 7 mt x 200 y 0 id 1 mt / x 190 y 0 id 7 mt x 500 y 0 mt / 
 one id twice: x 100 y 0 id 2 mt x 200 y 0 id 2 mt x 300 y 0 id -4 mt / => 2 2@0.1,1 1@0.2,1 3@0.3,1
 beside a lifted one: x 8 y 0 mt / x 8 y 0 major 0 mt / x 8 y 0 major 0 mt x 9 y 0 mt / => 2 1@0.008,1; 3 no finger; 4 2@0.009,1
 listed after its lift: x 8 y 0 mt / x 8 y 0 major 0 mt / x 8 y 0 major 0 mt / => 2 1@0.008,1; 3 no finger
+a finger where one had lifted before: x 8 y 0 mt / x 8 y 0 major 0 mt / x 9 y 0 mt / => 2 1@0.008,1; 3 no finger; 4 2@0.009,1
 )");
     std::string crowd;
     for (int i = 0; i < 200; ++i)

@@ -7,70 +7,46 @@
 namespace kinesta {
 namespace {
 
-/// An input that after its beginning repeats one character for ever, or breaks, as a folder or a failing disk does.
-class ContinuedInput final : public std::streambuf {
-  public:
-    explicit ContinuedInput(std::string beginning, std::optional<char> rest = std::nullopt) : m_rest(rest) {
-        show(std::move(beginning));
-    }
-
-    std::size_t given = 0;
-
-  private:
-    void show(std::string piece) {
-        m_piece = std::move(piece);
-        setg(m_piece.data(), m_piece.data(), m_piece.data() + m_piece.size());
-    }
+/// An input without a buffer that never says how much it has, like that of a pipe shared with C. After its text it
+/// ends, or breaks, as a folder or a failing disk does.
+struct UnbufferedInput final : std::streambuf {
+    UnbufferedInput(std::string content, bool doesBreak) : text(std::move(content)), breaks(doesBreak) {}
     int_type underflow() override {
-        if (!m_rest)
-            throw 5;
-        given += m_piece.size();
-        show(std::string(5000, *m_rest));
-        return traits_type::to_int_type(*m_rest);
+        if (at < text.size())
+            return traits_type::to_int_type(text[at]);
+        return breaks ? throw 5 : traits_type::eof();
     }
+    int_type uflow() override { return at < text.size() ? traits_type::to_int_type(text[at++]) : underflow(); }
 
-    std::string m_piece;
-    std::optional<char> m_rest;
+    std::string text;
+    bool breaks;
+    std::size_t at = 0;
 };
 
-/// An input without a buffer that never says how much it has, like that of a pipe shared with C.
-class UnbufferedInput final : public std::streambuf {
-  public:
-    explicit UnbufferedInput(std::string text) : m_text(std::move(text)) {}
-
-  private:
-    int_type underflow() override { return byteAt(m_at); }
-    int_type uflow() override { return byteAt(m_at++); }
-    int_type byteAt(std::size_t at) const {
-        return at < m_text.size() ? traits_type::to_int_type(m_text[at]) : traits_type::eof();
-    }
-
-    std::string m_text;
-    std::size_t m_at = 0;
-};
-
+constexpr std::size_t kLimit = std::size_t{1} << 20;
 const std::string kHeader = R"({"kinesta":"recording","version":1})";
 
 std::string firstError(const std::string& lines) { return read(kHeader + "\n" + lines).error; }
 
-TEST(KinestaRecording, GivesItsEventsInOrder) {
-    const Reading reading = read(
-        "\xEF\xBB\xBF\r\n \t\n"
-        R"( {"later":{"x":[1,{"y":null}]},"version":1.0,"kinesta":"recording","device":"Pad \"7\" \u00e9\ud83d\ude00é",)"
-        R"("settings":{"gesturesEnabled":false,"tapWaitingInterval.v1":250.0,"cornerPalmRejectionEnabled.v1":true,)"
-        "\"cornerPalmRejectionSensitivity.v1\":1,\"later\":\"x\"}}\r\n\n"
-        "{\"t\":-1.5,\"touches\":[[-2147483648,0,1e0],[2147483647,0.25,-0.5],[3.0,1E-2,2e+1]]}\r\n"
-        R"({"touches":[],"received":-2,"\u0074":-1.5,"more":"\b\f\n\r\t\/\\"}
+const std::string kEveryLine =
+    "\xEF\xBB\xBF\r\n \t\n"
+    R"( {"later":{"x":[1,{"y":null}]},"version":1.0,"kinesta":"recording","device":"Pad \"7\" \u00e9\ud83d\ude00é",)"
+    R"("settings":{"gesturesEnabled":false,"tapWaitingInterval.v1":250.0,"cornerPalmRejectionEnabled.v1":true,)"
+    "\"cornerPalmRejectionSensitivity.v1\":1,\"later\":\"x\"}}\r\n\n"
+    "{\"t\":-1.5,\"touches\":[[-2147483648,0,1e0],[2147483647,0.25,-0.5],[3.0,1E-2,2e+1]]}\r\n"
+    R"({"touches":[],"received":-2,"\u0074":-1.5,"more":"\b\f\n\r\t\/\\"}
 
 {"t":0,"pointer":"down","received":"any"}
 { "t" : 0 , "pressure" : -9223372036854775808 }
 {"t":9.2e9,"settings":{}}
-{"t":9200000000,"pointer":"up"})");
-    EXPECT_EQ(reading.error, "");
+{"t":9200000000,"pointer":"up"})";
+
+TEST(KinestaRecording, GivesItsEventsInOrder) {
+    const Reading reading = read(kEveryLine);
     EXPECT_EQ(reading.header, (RecordingHeader{"Pad \"7\" \u00e9\U0001F600\u00e9", {false, 250, true, 1}}));
-    EXPECT_EQ(reading.texts(),
-              (Texts{"-1.5 -2147483648@0,1 2147483647@0.25,-0.5 3@0.01,20", "-1.5 no finger received -2", "0 down",
-                     "0 pressure -9223372036854775808", "9.2e+09 settings", "9.2e+09 up"}));
+    EXPECT_EQ(reading.text(), reading.header.device +
+                                  ": -1.5 -2147483648@0,1 2147483647@0.25,-0.5 3@0.01,20; -1.5 no finger received -2; "
+                                  "0 down; 0 pressure -9223372036854775808; 9.2e+09 settings; 9.2e+09 up");
     for (const int milliseconds : {150, 200, 250, 300, 400}) {
         const Reading own = read(R"({"kinesta":"recording","version":1,"settings":{"tapWaitingInterval.v1":)" +
                                  std::to_string(milliseconds) + "}}");
@@ -163,66 +139,54 @@ something follows the object => {"t":1,"pointer":"up"}x
 
 TEST(KinestaRecording, KeepsOneLineInMemory) {
     const std::string event = R"({"t":1,"pointer":"up"})";
-    constexpr std::size_t kLimit = std::size_t{1} << 20;
     const std::string longest = event + std::string(kLimit - event.size(), ' ');
     EXPECT_EQ(read(kHeader + "\n" + longest + "\n" + longest).events.size(), 2U);
     EXPECT_EQ(firstError(longest + " \n" + event), "x:2: the line is longer than 1 MiB");
     EXPECT_EQ(firstError(event + "\n" + longest + " "), "x:3: the line is longer than 1 MiB");
 
-    const auto crowd = [](int count, int last) {
-        std::string touches;
-        for (int id = 1; id <= count; ++id)
-            touches += "[" + std::to_string(id == count ? last : id) + ",0.123456789012345678,0.123456789012345678],";
-        touches.pop_back();
-        return kHeader + "\n{\"t\":1,\"touches\":[" + touches + "]}";
-    };
-    EXPECT_EQ(read(crowd(1000, 1000)).error, "");
-    for (const int count : {16, 17, 1000})
-        EXPECT_EQ(read(crowd(count, 3)).error, "x:2: \"touches\" holds an id twice") << count;
-
-    const auto expectError = [](const std::string& beginning, char rest, const std::string& error) {
-        ContinuedInput input(beginning, rest);
-        std::istream stream(&input);
-        EXPECT_EQ(read(stream).error, "x:" + error) << beginning;
-        EXPECT_LT(input.given, 2 * kLimit) << beginning;
-    };
-    expectError("{", 'a', "1: the line is longer than 1 MiB");
-    expectError("", '\n', "1048578: the input holds no recording");
-    expectError("", ' ', "1: the input holds no recording");
-    expectError(kHeader + "\n{\"t\":1,\"a\":\"", 'a', "2: the line is longer than 1 MiB");
-    expectError("# EVEMU 1.2\nN: ", 'a', "2: the line is longer than 1 MiB");
-    expectError("version: 1\nname: \"", '\n', "2: a value is longer than 1 MiB");
-    expectError("version: 1\nname: ", '[', "2: values are nested too deeply");
+    for (const auto& [count, last] : {std::pair(1000, 1000), {16, 3}, {17, 3}, {1000, 3}}) {
+        std::string touches = "[" + std::to_string(last) + ",0,0]";
+        for (int id = 1; id < count; ++id)
+            touches += ",[" + std::to_string(id) + ",0.123456789012345678,0.123456789012345678]";
+        EXPECT_EQ(firstError("{\"t\":1,\"touches\":[" + touches + "]}"),
+                  last == count ? "" : "x:2: \"touches\" holds an id twice")
+            << count;
+    }
 }
 
-TEST(Recordings, ReadAnyStream) {
-    for (const std::string name :
-         {"tip-tap-right.jsonl", "CyPS2-Cypress-Trackpad.two_finger_tap.events", "tap-and-click.yml"}) {
-        const Reading expected = read(exampleText(name));
-        EXPECT_FALSE(expected.events.empty());
-        UnbufferedInput input(exampleText(name));
+TEST(Recordings, EndWithTheirStreamAndAtWhatIsTooLong) {
+    const std::string broken = ": the input cannot be read", tooLong = ": the line is longer than 1 MiB";
+    for (const auto& [text, error] : {std::pair(exampleText("tip-tap-right.jsonl"), ""),
+                                      {exampleText("CyPS2-Cypress-Trackpad.two_finger_tap.events"), ""},
+                                      {exampleText("tap-and-click.yml"), ""},
+                                      {"", "x:1"},
+                                      {kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", "x:2"},
+                                      {"# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", "x:4"},
+                                      {"version: 1\n", "x:1"}}) {
+        const bool breaks = *error != 0;
+        UnbufferedInput input(text, breaks);
         std::istream stream(&input);
-        EXPECT_EQ(read(stream).events, expected.events) << name;
+        const Reading reading = read(stream);
+        EXPECT_EQ(reading.error, breaks ? error + broken : "") << text;
+        EXPECT_TRUE(breaks || (reading.events == read(text).events && !reading.events.empty())) << text;
     }
-    const auto expectBroken = [](const std::string& beginning, const std::string& line) {
-        ContinuedInput input(beginning);
-        std::istream stream(&input);
-        EXPECT_EQ(read(stream).error, "x:" + line + ": the input cannot be read") << beginning;
-    };
-    expectBroken("", "1");
-    expectBroken(kHeader + "\n{\"t\":1,\"pointer\":\"up\"}", "2");
-    expectBroken("# EVEMU 1.2\nA: 00 0 9\nA: 01 0 9\n", "4");
-    expectBroken("version: 1\n", "1");
+    for (const auto& [text, rest, error] : {std::tuple("{" + std::string(), 'a', "1" + tooLong),
+                                            {"", '\n', "1048578: the input holds no recording"},
+                                            {"", ' ', "1: the input holds no recording"},
+                                            {kHeader + "\n{\"t\":1,\"a\":\"", 'a', "2" + tooLong},
+                                            {"# EVEMU 1.2\nN: ", 'a', "2" + tooLong},
+                                            {"version: 1\nname: \"", '\n', "2: a value is longer than 1 MiB"},
+                                            {"version: 1\nname: ", '[', "2: values are nested too deeply"}}) {
+        std::istringstream stream(text + std::string(3 * kLimit, rest));
+        EXPECT_EQ(read(stream).error, "x:" + error) << text;
+        EXPECT_TRUE(stream && stream.tellg() - std::ssize(text) <= std::streamoff{2 * kLimit}) << text;
+    }
 }
 
 // A crash, a full disk or a broken copy can cut a file anywhere.
 TEST(Recordings, GiveTheEventsBeforeACut) {
-    const std::string own = kHeader + "\n" + R"({"t":0.5,"touches":[[1,0.25,0.5],[2,0.5,1e-1]]})" + "\n" +
-                            R"({"t":0.5,"pointer":"down"})" + "\n" + R"({"t":1.25,"touches":[],"received":1.5})" +
-                            "\n" + R"({"t":12.5,"settings":{"tapWaitingInterval.v1":150}})" + "\n" +
-                            R"({"t":20,"a":"é","pressure":2})" + "\n";
-    for (const std::string& text :
-         {own, exampleText("CyPS2-Cypress-Trackpad.three_finger_tap.events"), exampleText("tap-and-click.yml")}) {
+    for (const std::string& text : {kEveryLine, exampleText("CyPS2-Cypress-Trackpad.three_finger_tap.events"),
+                                    exampleText("tap-and-click.yml")}) {
         const Reading whole = read(text);
         EXPECT_EQ(whole.error, "");
         std::size_t most = 0;

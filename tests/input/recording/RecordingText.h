@@ -15,8 +15,6 @@
 
 namespace kinesta {
 
-using Texts = std::vector<std::string>;
-
 /// An event without its time: "5@0.25,0.75 6@0.5,0.5", "no finger", "down", "pressure 2", "settings".
 inline std::string contentText(const RecordingEvent& event) {
     const auto* pad = std::get_if<PadEvent>(&event);
@@ -44,11 +42,12 @@ struct Reading {
     std::vector<RecordingEvent> events;
     std::string error;
 
-    Texts texts() const {
-        Texts texts;
+    /// "device: event; event", and the error.
+    std::string text() const {
+        std::string text = header.device + ": ";
         for (const RecordingEvent& event : events)
-            texts.push_back(eventText(event));
-        return texts;
+            text += (&event == events.data() ? "" : "; ") + eventText(event);
+        return text + error;
     }
 };
 

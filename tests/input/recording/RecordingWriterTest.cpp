@@ -6,7 +6,6 @@
 #include <cmath>
 #include <limits>
 #include <random>
-#include <streambuf>
 
 #include "RecordingText.h"
 #include "input/recording/ReplayContactProvider.h"
@@ -16,47 +15,31 @@ namespace {
 
 using Limits = std::numeric_limits<double>;
 
-/// An output that counts its flushes and holds no more than a number of bytes.
-class CountingOutput final : public std::streambuf {
-  public:
-    explicit CountingOutput(std::size_t capacity = std::string::npos) : m_capacity(capacity) {}
-
-    std::string text;
-    int flushes = 0;
-
-  private:
-    std::streamsize xsputn(const char* data, std::streamsize size) override {
-        if (text.size() + static_cast<std::size_t>(size) > m_capacity)
-            return 0;
-        text.append(data, static_cast<std::size_t>(size));
-        return size;
-    }
-    int sync() override { return ++flushes, 0; }
-
-    std::size_t m_capacity;
-};
-
 RecordingEvent frame(Seconds time, std::initializer_list<TouchSample> samples, std::optional<Uptime> received = {}) {
     return PadEvent{time, PadFrame{TouchSamples(samples), received}};
 }
 
-TEST(RecordingWriter, WritesOneLineAnEvent) {
+std::string written(const RecordingHeader& header, const std::vector<RecordingEvent>& events) {
     std::ostringstream output;
     RecordingWriter writer(output);
-    ASSERT_TRUE(writer.writeHeader({.device = "Pad \"7\"\n\xFF", .settings = {.gesturesEnabled = true}}));
-    for (const RecordingEvent& event :
-         {frame(-0.5, {{1, {0.25, 1}}, {-2, {0.1, 1e-7}}}, 0.1), frame(-0.5, {}),
-          RecordingEvent(PadEvent{1, PadButton::down}), RecordingEvent(PadEvent{1, PadPressure{-1}}),
-          RecordingEvent(SettingsChange{1e5, {.tapWaitingMilliseconds = 400, .cornerPalmRejectionSensitivity = 0.5}})})
-        ASSERT_TRUE(writer.write(event));
-    EXPECT_EQ(output.str(),
-              R"({"kinesta":"recording","version":1,"device":"Pad \"7\"\n�","settings":{"gesturesEnabled":true}}
+    EXPECT_TRUE(writer.writeHeader(header));
+    for (const RecordingEvent& event : events)
+        EXPECT_TRUE(writer.write(event)) << eventText(event);
+    return output.str();
+}
+
+TEST(RecordingWriter, WritesOneLineAnEvent) {
+    const std::string text =
+        R"({"kinesta":"recording","version":1,"device":"Pad \"7\"\n�","settings":{"gesturesEnabled":true}}
 {"t":-0.5,"touches":[[1,0.25,1],[-2,0.1,1e-07]],"received":0.1}
 {"t":-0.5,"touches":[]}
 {"t":1,"pointer":"down"}
 {"t":1,"pressure":-1}
 {"t":1e+05,"settings":{"tapWaitingInterval.v1":400,"cornerPalmRejectionSensitivity.v1":0.5}}
-)");
+)";
+    Reading reading = read(text);
+    reading.header.device = "Pad \"7\"\n\xFF";  // not UTF-8
+    EXPECT_EQ(written(reading.header, reading.events), text);
 }
 
 TEST(RecordingWriter, WritesEveryBit) {
@@ -74,27 +57,25 @@ TEST(RecordingWriter, WritesEveryBit) {
     events.push_back(PadEvent{9.2e9, PadPressure{std::numeric_limits<std::int64_t>::min()}});
     events.push_back(SettingsChange{9.2e9, {false, 150, false, Limits::max()}});
     const RecordingHeader header{.device = "é\t\x01 \"\\", .settings = {true, 300, true, -0.0}};
-    std::stringstream stream;
-    RecordingWriter writer(stream);
-    ASSERT_TRUE(writer.writeHeader(header));
-    for (const RecordingEvent& event : events)
-        ASSERT_TRUE(writer.write(event));
-    const Reading reading = read(stream);
+    const Reading reading = read(written(header, events));
     EXPECT_EQ(reading.error, "");
     EXPECT_EQ(reading.header, header);
     EXPECT_TRUE(reading.events == events);
-    EXPECT_TRUE(reading.texts()[0].ends_with("@-0,0 received -9.2e+09")) << reading.texts()[0];
+    EXPECT_TRUE(eventText(reading.events.at(0)).ends_with("@-0,0 received -9.2e+09")) << eventText(reading.events[0]);
 }
 
 TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
-    CountingOutput output;
+    struct CountingOutput final : std::stringbuf {
+        int flushes = 0;
+        int sync() override { return ++flushes, 0; }
+    } output;
     std::ostream stream(&output);
     RecordingWriter writer(stream, RecordingWriter::Flush::everyLine);
     EXPECT_FALSE(writer.writeHeader({.device = "", .settings = {.tapWaitingMilliseconds = 251}}));
-    EXPECT_EQ(output.text, "");
+    EXPECT_EQ(output.str(), "");
     ASSERT_TRUE(writer.writeHeader({}));
     ASSERT_TRUE(writer.write(frame(5, {})));
-    const std::string before = output.text;
+    const std::string before = output.str();
     EXPECT_EQ(output.flushes, 2);
     for (const RecordingEvent& event :
          {frame(4.9, {}), frame(Limits::quiet_NaN(), {}), frame(9.3e9, {}), frame(6, {}, Limits::quiet_NaN()),
@@ -105,37 +86,37 @@ TEST(RecordingWriter, RefusesWhatTheReaderWouldRefuse) {
         const Outcome outcome = writer.write(event);
         EXPECT_TRUE(!outcome && outcome.error().message.starts_with("this cannot be recorded: ")) << eventText(event);
     }
-    EXPECT_EQ(output.text, before);
+    EXPECT_EQ(output.str(), before);
     EXPECT_TRUE(writer.write(frame(5, {}))) << "a refused event moved the time on";
 
-    CountingOutput full(40);
-    std::ostream fullStream(&full);
-    RecordingWriter unlucky(fullStream);
+    CountingOutput broken;
+    std::ostream brokenStream(&broken);
+    RecordingWriter unlucky(brokenStream);
     ASSERT_TRUE(unlucky.writeHeader({}));
+    brokenStream.setstate(std::ios::badbit);
     EXPECT_EQ(unlucky.write(frame(1, {})).error().message, "the recording cannot be written");
-    EXPECT_EQ(full.flushes, 0);
+    EXPECT_EQ(broken.flushes, 0);
 }
 
 TEST(ReplayContactProvider, DeliversWhileStarted) {
     ReplayContactProvider provider;
-    std::vector<Seconds> seen;
-    for (Seconds time = 0; time < 6; ++time) {
-        if (time == 1 || time == 4)
+    std::string seen;
+    for (int time = 0; time < 6; ++time) {
+        if (time == 2 || time == 4)
             provider.start();
-        if (time == 2)
-            provider.setFrameHandler([&](const TrackpadContactFrame& frame) { seen.push_back(frame.timestamp); });
-        if (time == 3)
-            provider.stop();
-        if (time == 4)  // a handler may stop the provider and replace itself
+        provider.deliver({{}, static_cast<Seconds>(time)});
+        if (time == 0)
             provider.setFrameHandler([&](const TrackpadContactFrame& frame) {
                 provider.stop();
-                provider.setFrameHandler({});
-                seen.push_back(frame.timestamp);
+                if (frame.timestamp == 4)
+                    provider.setFrameHandler({});  // replaces the handler that is running
+                seen += numberText(frame.timestamp) + " ";
             });
-        provider.deliver({{}, time});
     }
-    EXPECT_EQ(seen, (std::vector<Seconds>{2, 4}));
     EXPECT_EQ(provider.status(), TrackpadContactProviderStatus::stopped());
+    provider.start();
+    provider.deliver({{}, 6});
+    EXPECT_EQ(seen, "2 4 ");
 }
 
 }  // namespace

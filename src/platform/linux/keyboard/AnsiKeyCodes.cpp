@@ -3,11 +3,13 @@
 #include <linux/input-event-codes.h>
 
 #include <array>
+#include <string>
 
 namespace kinesta {
 namespace {
 
 constexpr std::uint16_t kNone = KEY_RESERVED;
+constexpr std::uint64_t kFunctionFlag = 0x800000;
 
 // Indexed by virtual key code, eight in a row. 127, the power key, is left out: no gesture should switch the machine
 // off.
@@ -32,12 +34,70 @@ constexpr std::array<std::uint16_t, 128> kKeys{
     // clang-format on
 };
 
+// What fn turns a key into. Keys that keyboards already report with fn applied stay as they are.
+std::optional<std::uint16_t> withFunction(std::uint16_t code) {
+    switch (code) {
+        case KEY_LEFT:
+            return KEY_HOME;
+        case KEY_RIGHT:
+            return KEY_END;
+        case KEY_UP:
+            return KEY_PAGEUP;
+        case KEY_DOWN:
+            return KEY_PAGEDOWN;
+        case KEY_BACKSPACE:
+            return KEY_DELETE;
+        case KEY_ENTER:
+            return KEY_KPENTER;
+        case KEY_HOME:
+        case KEY_END:
+        case KEY_PAGEUP:
+        case KEY_PAGEDOWN:
+        case KEY_DELETE:
+        case KEY_INSERT:
+        case KEY_F11:
+        case KEY_F12:
+            return code;
+        default:
+            break;
+    }
+    if ((code >= KEY_F1 && code <= KEY_F10) || (code >= KEY_F13 && code <= KEY_F20))
+        return code;
+    return std::nullopt;
+}
+
+/// Arrows with ⌃fn, ⌃⇧fn or ⌃⌥⇧fn. Tiling commands on letters need no check, because letters have no meaning with fn.
+bool isTiling(std::uint16_t ansiKeyCode, std::uint64_t flags) {
+    constexpr std::uint16_t kFirstArrow = 123;
+    constexpr std::uint16_t kLastArrow = 126;
+    return ansiKeyCode >= kFirstArrow && ansiKeyCode <= kLastArrow &&
+           (flags == 0xA40000 || flags == 0xA60000 || flags == 0xAE0000);
+}
+
 }  // namespace
 
 std::optional<std::uint16_t> evdevKeyCode(std::uint16_t ansiKeyCode) {
     if (ansiKeyCode >= kKeys.size() || kKeys[ansiKeyCode] == kNone)
         return std::nullopt;
     return kKeys[ansiKeyCode];
+}
+
+std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint64_t flags) {
+    const auto code = evdevKeyCode(ansiKeyCode);
+    if (!code || (flags & kFunctionFlag) == 0)
+        return code;
+    return withFunction(*code);
+}
+
+std::optional<Obstacle> obstacleToKey(std::uint16_t ansiKeyCode, std::uint64_t flags) {
+    if (isTiling(ansiKeyCode, flags))
+        return Obstacle{"The shortcut tiles windows, and that was not possible.", "See: kinesta doctor"};
+    if (keyForShortcut(ansiKeyCode, flags))
+        return std::nullopt;
+    const std::string key = "The key with code " + std::to_string(ansiKeyCode);
+    if (evdevKeyCode(ansiKeyCode))
+        return Obstacle{key + " has no meaning together with fn on this desktop.", "Choose another shortcut."};
+    return Obstacle{key + " is not on keyboards here.", "Choose another key."};
 }
 
 }  // namespace kinesta

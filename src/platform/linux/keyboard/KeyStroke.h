@@ -51,11 +51,6 @@ struct KeyStroke {
     InputTransitions up;
 };
 
-/// The key that a shortcut's virtual key code means here. With fn an arrow is Home, End, Page Up or Page Down, Delete
-/// deletes forward and Return is the keypad's Enter. Nothing if no key here does that: fn has no meaning with letters,
-/// and posting the bare letter would type into the person's text.
-std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint64_t flags);
-
 /// The modifiers for event flags (the masks of ShortcutKey::eventFlags()). ⌘ becomes `commandKey`, or Super if ⌃ is
 /// wanted too. Flags without a counterpart are ignored.
 DesktopModifiers modifiersForFlags(std::uint64_t flags, LinuxActionSettings::CommandKey commandKey);

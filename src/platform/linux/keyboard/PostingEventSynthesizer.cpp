@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "platform/linux/keyboard/KeyObstacle.h"
+#include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/settings/LinuxActionSettings.h"
 
 namespace kinesta {
@@ -51,11 +51,12 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
             code = keyForShortcut(keyCode, flags.value_or(0));
         const auto settings = LinuxActionSettings::read(m_defaults);
         const auto modifiers = flags ? std::optional(modifiersForFlags(*flags, settings.commandKey)) : std::nullopt;
-        if ((!code || !postKey(*code, transition, modifiers)) && transition == KeyTransition::down) {
-            m_log(obstacle ? obstacle->why + " " + obstacle->remedy
-                           : "The key with code " + std::to_string(keyCode) +
-                                 " is not on this keyboard. Choose another key.");
-        }
+        if ((code && postKey(*code, transition, modifiers)) || transition == KeyTransition::up)
+            return;
+        if (obstacle)
+            m_log(obstacle->why + " " + obstacle->remedy);
+        else if (m_poster.isAvailable())  // else the poster has told
+            m_log("The key with code " + std::to_string(keyCode) + " is not on this keyboard. Choose another key.");
     });
 }
 
@@ -80,7 +81,8 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeSystemDefinedEven
     const std::uint16_t code = key == SystemDefinedEvent::kSoundUp ? KEY_VOLUMEUP : KEY_VOLUMEDOWN;
     const auto transition = state == SystemDefinedEvent::kPressed ? KeyTransition::down : KeyTransition::up;
     return std::make_unique<Event>([this, code, transition](auto) {
-        if (!postKey(code, transition, DesktopModifiers{0}) && transition == KeyTransition::down)
+        if (!postKey(code, transition, DesktopModifiers{0}) && transition == KeyTransition::down &&
+            m_poster.isAvailable())
             m_log("The volume keys are not on this keyboard layout; choose one that has them.");
     });
 }

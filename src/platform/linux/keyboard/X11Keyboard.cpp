@@ -10,7 +10,9 @@
 namespace kinesta {
 namespace {
 
-constexpr Seconds kPatience = 0.5;
+constexpr Seconds kPatience = 0.15;
+/// A keymap takes the server and us several steps.
+constexpr Seconds kKeymapPatience = 0.5;
 constexpr std::uint16_t kCoreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
 }  // namespace
@@ -18,7 +20,11 @@ constexpr std::uint16_t kCoreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 X11Keyboard::X11Keyboard(X11Connection& connection)
     : m_connection(connection), m_context(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES)) {}
 
-const KeyboardLayoutCharacters* X11Keyboard::characters() { return update() ? &m_characters : nullptr; }
+const KeyboardLayoutCharacters* X11Keyboard::characters() {
+    // While the server hangs, the layout that it reported last is a better guess than the system's.
+    const bool isKnown = update() || (m_keymap && m_connection.xcb() != nullptr);
+    return isKnown ? &m_characters : nullptr;
+}
 
 std::vector<KeyboardLayoutCharacters> X11Keyboard::charactersOfGroups() {
     return update() ? kinesta::charactersOfGroups(m_keymap.get()) : std::vector<KeyboardLayoutCharacters>{};
@@ -42,12 +48,12 @@ std::optional<ModifierSituation> X11Keyboard::modifiersFor(std::uint16_t code) {
 
 /// One round trip.
 bool X11Keyboard::update() {
-    const auto deadline = deadlineIn(kPatience);
-    if (!m_connection.prepare(deadline))
+    if (!m_connection.prepare(deadlineIn(kPatience)))
         return false;
     xcb_connection_t* connection = m_connection.xcb();
-    if (m_generation != m_connection.generation() && !prepareConnection(deadlineIn(kPatience)))
+    if (m_generation != m_connection.generation() && !prepareConnection(deadlineIn(kKeymapPatience)))
         return false;
+    const auto deadline = deadlineIn(kPatience);
     const auto stateCookie = xcb_xkb_get_state(connection, kCoreKeyboard);
     const auto keysCookie = xcb_query_keymap(connection);
     const auto state = m_connection.reply<xcb_xkb_get_state_reply_t>(stateCookie, deadline);
@@ -62,7 +68,7 @@ bool X11Keyboard::update() {
     if (std::exchange(m_changes, m_connection.eventCount(m_firstXkbEvent)) != m_connection.eventCount(m_firstXkbEvent))
         m_keymap.reset();
     const bool isStale = m_keymap == nullptr;
-    if (isStale && !fetchKeymap(deadlineIn(kPatience)))
+    if (isStale && !fetchKeymap(deadlineIn(kKeymapPatience)))
         return false;
     if (isStale || state->group != m_group) {
         m_group = state->group;

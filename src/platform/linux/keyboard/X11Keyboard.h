@@ -23,7 +23,7 @@ class X11Keyboard {
     /// `connection` must outlive this.
     explicit X11Keyboard(X11Connection& connection);
 
-    /// What every key types in the current group; null without a server that has XKB.
+    /// What every key types in the current group, or typed before the server hung; null without a server that has XKB.
     const KeyboardLayoutCharacters* characters();
 
     /// The same for every group of the keymap.

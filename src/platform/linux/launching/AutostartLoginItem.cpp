@@ -10,8 +10,7 @@
 
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/launching/DesktopFile.h"
-#include "platform/linux/process/CurrentDesktop.h"
-#include "platform/linux/process/ExecutableSearch.h"
+#include "platform/linux/process/SessionEnvironment.h"
 #include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/settings/DurableFile.h"
 #include "support/SystemError.h"

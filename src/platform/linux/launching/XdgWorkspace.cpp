@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "platform/linux/launching/DesktopEntry.h"
-#include "platform/linux/process/ExecutableSearch.h"
+#include "platform/linux/process/SessionEnvironment.h"
 
 namespace kinesta {
 namespace {

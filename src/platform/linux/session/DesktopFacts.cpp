@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "platform/linux/process/ExecutableSearch.h"
 #include "platform/linux/process/FileDescriptor.h"
+#include "platform/linux/process/SessionEnvironment.h"
 
 namespace kinesta {
 namespace {
@@ -44,7 +44,7 @@ bool answersWayland() {
 
 DesktopFacts DesktopFacts::probeInput(X11Connection& connection, const std::string& uinputPath) {
     DesktopFacts facts;
-    facts.hasX = connection.answers();
+    facts.hasX = connection.isAnswering();
     facts.hasXTest = facts.hasX && connection.canPostInput();
     facts.hasWayland = answersWayland();
     facts.mayUseUinput =
@@ -60,6 +60,7 @@ LinuxActionSettings::InputRoute DesktopFacts::inputRoute(LinuxActionSettings::In
 }
 
 DesktopFacts DesktopFacts::probe(X11Connection& connection, MessageBus& bus, const std::string& uinputPath) {
+    connection.answers();
     DesktopFacts facts = probeInput(connection, uinputPath);
     facts.hasXdgOpen = isInSearchPath("xdg-open");
     facts.hasSessionBus = bus.open() != nullptr;

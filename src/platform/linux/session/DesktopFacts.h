@@ -41,7 +41,8 @@ struct DesktopFacts {
     /// through uinput, which is the only way left without any session. Never `automatic`.
     LinuxActionSettings::InputRoute inputRoute(LinuxActionSettings::InputRoute wish) const;
 
-    /// Checks what sending keys and clicks needs, in some milliseconds. Other fields keep their defaults.
+    /// Checks what sending keys and clicks needs. Does not ask the X server: it counts if it answered last time. Other
+    /// fields keep their defaults.
     static DesktopFacts probeInput(X11Connection& connection, const std::string& uinputPath);
 
     /// Checks everything but the window manager. Asks the services, which starts those that do not run yet, as their

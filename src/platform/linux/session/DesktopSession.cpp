@@ -24,7 +24,7 @@ DesktopSession::Kind DesktopSession::kind() const {
 }
 
 std::vector<DesktopFinding> DesktopSession::findings() const {
-    return {sendInput(), keyboardLayout(), windows(), open(), notify()};
+    return {sendInput(), keyboardLayout(), windows(), open(), notify(), cue()};
 }
 
 DesktopFinding DesktopSession::finding(DesktopCapability capability) const {
@@ -156,6 +156,30 @@ DesktopFinding DesktopSession::notify() const {
     } else {
         finding.works = true;
         finding.why = "The program that shows them runs and answers.";
+    }
+    return finding;
+}
+
+DesktopFinding DesktopSession::cue() const {
+    DesktopFinding finding{DesktopCapability::cue, "Showing the cue of an action", true, "", ""};
+    switch (kind()) {
+        case Kind::x11:
+            finding.why = "The application draws it above all windows.";
+            break;
+        case Kind::waylandWithX:
+            finding.why = "The application draws it above all windows, through XWayland.";
+            break;
+        case Kind::wayland:
+            finding.works = m_facts.notifications == BusService::answering;
+            finding.why = finding.works ? "Wayland lets no program place a window, so it comes as a notification."
+                                        : "Wayland lets no program place a window, and nothing shows notifications.";
+            finding.remedy = finding.works ? "" : "Switch XWayland on in your desktop.";
+            break;
+        case Kind::none:
+            finding.works = false;
+            finding.why = "There is no desktop session here to show it in.";
+            finding.remedy = kStartInSession;
+            break;
     }
     return finding;
 }

@@ -28,6 +28,7 @@ class DesktopSession {
     std::string windowManagerInWords() const;
     DesktopFinding open() const;
     DesktopFinding notify() const;
+    DesktopFinding cue() const;
 
     DesktopFacts m_facts;
     LinuxActionSettings::InputRoute m_wish;

@@ -10,7 +10,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "platform/linux/process/CurrentDesktop.h"
+#include "platform/linux/process/SessionEnvironment.h"
 #include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/touchpad/DconfDatabase.h"
 

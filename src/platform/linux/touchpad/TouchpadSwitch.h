@@ -4,7 +4,6 @@
 #include <string>
 
 #include "platform/linux/process/FileDescriptor.h"
-#include "platform/linux/touchpad/SendEventsMode.h"
 #include "platform/linux/touchpad/TouchpadScanner.h"
 #include "platform/linux/touchpad/X11TouchpadProperties.h"
 

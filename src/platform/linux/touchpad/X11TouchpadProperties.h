@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/linux/touchpad/SendEventsMode.h"
 #include "platform/linux/x11/X11Connection.h"
 
 namespace kinesta {
+
+/// What desktops let the user choose for a touchpad.
+enum class SendEventsMode { enabled, disabled, disabledWithExternalMouse };
 
 /// Whether an X server's input drivers have a touchpad switched off, by the desktop's settings, a key or a script. Has
 /// its own connection: the thread that reads the touchpad sleeps until this is readable.

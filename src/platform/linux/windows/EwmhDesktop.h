@@ -7,6 +7,7 @@
 
 #include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/windows/EwmhManager.h"
+#include "platform/linux/windows/EwmhMessages.h"
 #include "platform/linux/windows/EwmhSnapshot.h"
 #include "platform/linux/windows/I3Manager.h"
 #include "platform/linux/x11/X11Connection.h"
@@ -90,13 +91,11 @@ class EwmhDesktop {
 
   private:
     EwmhManagerQuery askManager();
-    void watch(EwmhWindowId window, std::uint32_t events);
     std::optional<I3Manager> i3() const;
-    void setFullscreen(EwmhWindowId window, bool isFullscreen);
-    void setMaximized(EwmhWindowId window, bool isHorizontal, bool isVertical, bool isMaximized);
     void tell(const EwmhRequest& request);
 
     X11Connection& m_connection;
+    EwmhMessages m_messages{m_connection};
     Observer m_observer;
     /// From the last query.
     std::optional<EwmhManager> m_manager;

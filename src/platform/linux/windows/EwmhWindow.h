@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 #include <vector>
 
@@ -79,6 +80,16 @@ struct EwmhWindow {
 
     bool isOn(std::uint32_t someDesktop) const { return desktop == kAllDesktops || desktop == someDesktop; }
     bool isZoomed() const { return isFullscreen || isMaximizedHorizontally || isMaximizedVertically; }
+
+    /// Whether its frame is where a request has put it. Window managers put some windows a few pixels away, and
+    /// terminals snap to their character cells.
+    bool isPlacedAt(const WindowRectangle& requested) const {
+        constexpr int kTolerance = 8;
+        const auto isNear = [](int a, int b, int step) { return std::abs(a - b) <= kTolerance + step; };
+        const WindowSize& step = limits.increment;
+        return isNear(frame.x, requested.x, step.width) && isNear(frame.y, requested.y, step.height) &&
+               isNear(frame.width, requested.width, step.width) && isNear(frame.height, requested.height, step.height);
+    }
 };
 
 }  // namespace kinesta

@@ -5,7 +5,6 @@
 #include <thread>
 
 #include "platform/linux/windows/TilingPlan.h"
-#include "platform/linux/windows/TilingRecord.h"
 
 namespace kinesta {
 namespace {
@@ -28,7 +27,7 @@ Outcome outcomeOf(const EwmhRequest& request, const EwmhWindow* window) {
         case Kind::close:
             break;
         case Kind::place:
-            if (TilingRecord{.tiledFrame = request.frame}.describes(*window))
+            if (window->isPlacedAt(request.frame))
                 return Outcome::done;
             return window->frame == request.before ? Outcome::ignored : Outcome::asked;
         case Kind::zoom:

@@ -69,7 +69,7 @@ bool WindowTiler::untile(const EwmhSnapshot& desktop, Deadline deadline) {
     if (windows.empty())
         return false;
     m_desktop.setTilingRecord(active.id, {});
-    if (record->wasInLayout && m_desktop.returnToLayout(windows[0].restored)) {
+    if (record->was(TilingRecord::inLayout) && m_desktop.returnToLayout(windows[0].restored)) {
         m_desktop.flush();
         return true;
     }
@@ -79,8 +79,8 @@ bool WindowTiler::untile(const EwmhSnapshot& desktop, Deadline deadline) {
     else  // Its monitor is gone.
         m_desktop.place(windows[0].restored,
                         centered(record->previousFrame.size(), desktop.monitorOf(windows[0].before.frame).workArea));
-    m_desktop.zoom(windows[0].restored, record->wasFullscreen, record->wasMaximizedHorizontally,
-                   record->wasMaximizedVertically);
+    m_desktop.zoom(windows[0].restored, record->was(TilingRecord::fullscreen),
+                   record->was(TilingRecord::maximizedHorizontally), record->was(TilingRecord::maximizedVertically));
     m_desktop.flush();
     return true;
 }

@@ -20,6 +20,8 @@ namespace {
 constexpr Seconds kConnecting = 0.25;
 constexpr Seconds kBeforeNextAttempt = 1;
 constexpr Seconds kAnswersStay = 0.05;
+/// How long to wait again for an answer that is overdue. An action asks two or three times.
+constexpr Seconds kOverdue = 0.001;
 constexpr Seconds kAtTheEnd = 0.5;
 
 using AtomReply = xcb_intern_atom_reply_t;
@@ -66,11 +68,9 @@ bool X11Connection::prepare(Deadline deadline) {
         return false;
     if (m_overdue) {
         void* late = nullptr;
-        xcb_generic_error_t* error = nullptr;
-        if (xcb_poll_for_reply(xcb(), *m_overdue, &late, &error) == 0)
+        if (!arrives(*m_overdue, std::min(deadline, deadlineIn(kOverdue)), late))
             return false;
         std::free(late);
-        std::free(error);
         m_overdue.reset();
     }
     takeEvents();
@@ -79,9 +79,6 @@ bool X11Connection::prepare(Deadline deadline) {
 
 bool X11Connection::answers(Seconds patience) {
     const auto deadline = deadlineIn(patience);
-    // Give a server that hung another chance, once for each action.
-    if (m_overdue)
-        awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline);
     if (!prepare(deadline))
         return false;
     return std::chrono::steady_clock::now() < m_lastAnswer + std::chrono::duration<Seconds>(kAnswersStay) ||
@@ -163,22 +160,27 @@ void X11Connection::disconnect() {
     m_ewmh = {};
 }
 
+bool X11Connection::arrives(unsigned sequence, Deadline deadline, void*& reply) {
+    xcb_generic_error_t* error = nullptr;
+    while (xcb_poll_for_reply(xcb(), sequence, &reply, &error) == 0)
+        if (!awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline))
+            return false;
+    std::free(error);
+    return true;
+}
+
 void* X11Connection::awaitReply(unsigned sequence, Deadline deadline) {
     void* reply = nullptr;
-    xcb_generic_error_t* error = nullptr;
     xcb_flush(xcb());
     if (const auto written = xcb_total_written(xcb()); std::exchange(m_bytesWritten, written) != written)
         ++m_roundTrips;
-    while (xcb_poll_for_reply(xcb(), sequence, &reply, &error) == 0) {
-        if (!awaitReady(xcb_get_file_descriptor(xcb()), POLLIN, deadline)) {
-            if (m_overdue)
-                xcb_discard_reply(xcb(), sequence);
-            else
-                m_overdue = sequence;
-            return nullptr;
-        }
+    if (!arrives(sequence, deadline, reply)) {
+        if (m_overdue)
+            xcb_discard_reply(xcb(), sequence);
+        else
+            m_overdue = sequence;
+        return nullptr;
     }
-    std::free(error);
     if (xcb_connection_has_error(xcb()) == 0)
         m_lastAnswer = std::chrono::steady_clock::now();
     return reply;

@@ -29,8 +29,9 @@ class X11Connection {
     /// Returns once the server has taken everything that was sent, or after half a second.
     ~X11Connection();
 
-    /// Whether requests can be sent now; connects if necessary. False at once while an answer is overdue, and for a
-    /// second after connecting has timed out: a server that hangs costs one timeout, not one for each request.
+    /// Whether requests can be sent now; connects if necessary. A server that hangs costs one timeout, not one for each
+    /// request: false within a millisecond while an answer is overdue, and at once for a second after connecting has
+    /// timed out.
     bool prepare(Deadline deadline);
 
     /// Whether the server answers now, or did in the last 50 ms; waits at most `patience` seconds.
@@ -107,6 +108,8 @@ class X11Connection {
   private:
     bool connect(Deadline deadline);
     bool setUp(int screenNumber);
+    /// Whether the answer to a request comes in time. `reply` is null if that is an error.
+    bool arrives(unsigned sequence, Deadline deadline, void*& reply);
     void* awaitReply(unsigned sequence, Deadline deadline);
     XcbPointer<xcb_generic_event_t> nextEvent();
 

@@ -55,7 +55,7 @@ TEST_F(DesktopEntryTest, ReadsItsOwnGroupAlone) {
     const std::string content =
         "# a comment = not a key\r\n\r\n[Desktop Entry]\r\n Type = Application \r\nExec=app %c\r\nExec=second\r\n"
         "Path=/some/where\r\nTerminal=true\r\nName=Plain\r\nName[de]=Deutsch\r\nName[de_AT]=Österreichisch\r\n"
-        "Name[sr@latin]=Srpski\r\n[Desktop Action new]\r\nExec=other\r\nTerminal=false\r\n";
+        "Name[sr@latin]=Srpski\r\n[Desktop Action new]\r\nExec=other\r\nTerminal=false\r\nName[fr]=Neu\r\n";
     const auto entry = read(content);
     ASSERT_TRUE(entry);
     EXPECT_EQ(entry->command, (Words{"app", "Plain"}));
@@ -66,6 +66,7 @@ TEST_F(DesktopEntryTest, ReadsItsOwnGroupAlone) {
         {"sr_RS.UTF-8@latin", "Srpski"},   {"sr_RS", "Plain"},         {"", "Plain"}};
     for (const auto& [locale, name] : names)
         EXPECT_EQ(read(content, locale)->command.back(), name) << locale;
+    EXPECT_EQ(read(content, "fr")->command.back(), "Plain") << "another group names it so";
 }
 
 TEST_F(DesktopEntryTest, SaysWhatIsWrong) {

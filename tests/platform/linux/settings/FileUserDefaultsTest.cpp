@@ -44,33 +44,6 @@ struct FileUserDefaultsTest : ::testing::Test {
     std::vector<std::string> problems;
 };
 
-/// Limits the size of files. Like a full disk, this cuts a write short.
-struct FullDisk {
-    FullDisk() {
-        ::getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit{64, before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &before);
-        ::signal(SIGXFSZ, handler);
-    }
-    rlimit before{};
-    sighandler_t handler = ::signal(SIGXFSZ, SIG_IGN);
-};
-
-/// Makes this process an ordinary user, who needs permissions, and the owner of some files.
-struct OrdinaryUser {
-    explicit OrdinaryUser(const Names& owned) {
-        for (const auto& file : owned)
-            EXPECT_TRUE(!isRoot || ::chown(file.c_str(), kUser, kUser) == 0) << file;
-        EXPECT_TRUE(!isRoot || ::seteuid(kUser) == 0);
-    }
-    ~OrdinaryUser() { EXPECT_TRUE(!isRoot || ::seteuid(0) == 0); }
-    static constexpr uid_t kUser = 65534;
-    bool isRoot = ::geteuid() == 0;
-};
-
 }  // namespace
 
 TEST_F(FileUserDefaultsTest, StoresEachChangeAtOnceForItsOwnerOnly) {
@@ -155,29 +128,39 @@ TEST_F(FileUserDefaultsTest, LeavesAloneWhatItCannotRead) {
     EXPECT_EQ(readText(path), "{\n  \"a\": 1,\n  \"b\": 2,\n  \"theirs\": true\n}\n");
 }
 
+// A limit of the size of files cuts a write short, like a full disk.
 TEST_F(FileUserDefaultsTest, AFullDiskLosesNothing) {
     open().setInteger("old", 1);
-    const std::string before = readText(path);
+    const std::string before = readText(path), text(1000, 'x');
     auto defaults = open();
-    {
-        const FullDisk full;
-        defaults.setString("long", std::string(1000, 'x'));
-        defaults.setInteger("short", 2);
-        EXPECT_EQ(readText(path), before);
-        EXPECT_EQ(files(), Names{"defaults.json"});
-        EXPECT_FALSE(defaults.reload());
-        EXPECT_EQ(defaults.string("long"), std::string(1000, 'x'));
-    }
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    const rlim_t unlimited = std::exchange(limit.rlim_cur, 64);
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    defaults.setString("long", text);
+    defaults.setInteger("short", 2);
+    EXPECT_EQ(readText(path), before);
+    EXPECT_EQ(files(), Names{"defaults.json"});
+    EXPECT_FALSE(defaults.reload());
+    EXPECT_EQ(defaults.string("long"), text);
+    limit.rlim_cur = unlimited;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
     EXPECT_TRUE(onlyProblem("File too large"));
     defaults.remove("old");
-    EXPECT_EQ(open().values(), (StoredValues{{"long", std::string(1000, 'x')}, {"short", std::int64_t{2}}}));
+    EXPECT_EQ(open().values(), (StoredValues{{"long", text}, {"short", std::int64_t{2}}}));
 }
 
 TEST_F(FileUserDefaultsTest, RespectsPermissions) {
     open().setInteger("a", 1);
-    fs::permissions(folder.path(), fs::perms::all);
-    fs::permissions(folder / "a", fs::perms::all);
-    const OrdinaryUser user({folder / "a/b", path, path + ".lock"});
+    for (const std::string& parent : {folder.path().string(), folder / "a"})
+        fs::permissions(parent, fs::perms::all);
+    // Root needs no permissions, so that it becomes an ordinary user.
+    constexpr uid_t kUser = 65534;
+    const bool isRoot = ::geteuid() == 0;
+    for (const auto& file : {folder / "a/b", path, path + ".lock"})
+        EXPECT_TRUE(!isRoot || ::chown(file.c_str(), kUser, kUser) == 0) << file;
+    EXPECT_TRUE(!isRoot || ::seteuid(kUser) == 0);
 
     fs::permissions(folder / "a/b", fs::perms(0500));
     open().setInteger("b", 2);
@@ -193,6 +176,7 @@ TEST_F(FileUserDefaultsTest, RespectsPermissions) {
     EXPECT_EQ(std::exchange(problems, {}).size(), 2U) << "neither read nor stored";
     fs::permissions(path, fs::perms(0600));
     EXPECT_EQ(readText(path), "damaged");
+    EXPECT_TRUE(!isRoot || ::seteuid(0) == 0);
 }
 
 TEST_F(FileUserDefaultsTest, SavesThroughSymbolicLinks) {

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <set>
+#include <sstream>
 
 #include "platform/linux/touchpad/TouchpadCandidate.h"
 #include "platform/linux/touchpad/TouchpadScanner.h"
+#include "support/TableRows.h"
 #include "support/TemporaryFolder.h"
 
 namespace kinesta {
@@ -40,89 +41,66 @@ TEST(TouchpadSelection, TakesTheNamedElseABuiltInElseTheFirst) {
         }
 }
 
-/// Empty folders for /dev/input and /sys/class/input, which a test fills.
-struct TouchpadScanning : ::testing::Test {
-    /// As sysfs shows it; at first an I2C pad with finger tools and BTN_LEFT.
-    struct Device {
-        std::string keys = "e520 10000 0 0 0 0";
-        std::string axes = "2e0800000000003";
-        std::string relativeAxes = "0";
-        std::string properties = "5";
-        std::string bus = "0018";
-    };
-
-    void add(int number, const Device& device) {
-        const std::string input = "devices/input" + std::to_string(number + 10) + "/";
-        const std::string event = "event" + std::to_string(number);
-        for (const std::string& path : {input + "capabilities", input + "id", "class/" + event, std::string("dev")})
+// Devices as sysfs shows them: how each differs from an I2C pad with finger tools and BTN_LEFT, with "," for a blank.
+TEST(TouchpadScanning, TellsTouchpadsAndMiceFromOtherDevices) {
+    const TemporaryFolder folder;
+    const TouchpadScanner scanner(folder / "dev", folder / "class", [&](const std::string& event, const char* key) {
+        const std::string file = folder / ("class/" + event + "/device/" + key);
+        return std::filesystem::exists(file) ? readText(file) : "";
+    });
+    EXPECT_TRUE(scanner.scan().empty()) << "without any folder";
+    int number = 0;
+    for (const auto& row : tableRows(R"(
+a pad: => built-in
+a keyboard: capabilities/key=402000007,ff9f207ac14057ff,febeffdfffefffff,fffffffffffffffe capabilities/abs=0 => none
+a touch screen: properties=2 => none
+a pen tablet: capabilities/key=1c23,10000,0,0,0,0 => none
+no multitouch: capabilities/abs=3 => built-in
+one axis: capabilities/abs=1 => none
+hidden from this container: hidden=1 => none
+nothing known: capabilities/key= capabilities/abs= properties= id/bustype= => none
+no number: capabilities/key=no,number => none
+PS/2: id/bustype=0011 => built-in
+USB: id/bustype=0003 => external
+Bluetooth: id/bustype=0005 => external
+virtual: id/bustype=0006 => external
+udev knows better: id/bustype=0011 ID_INPUT_TOUCHPAD_INTEGRATION=external => external
+udev knows better: id/bustype=0003 ID_INPUT_TOUCHPAD_INTEGRATION=internal => built-in
+to be ignored: LIBINPUT_IGNORE_DEVICE=1 => none
+not to be ignored: LIBINPUT_IGNORE_DEVICE=0 => built-in
+a pointing stick: mouse=1 properties=21 => none
+a mouse made by software: mouse=1 id/bustype=0006 => none
+without a button: mouse=1 capabilities/key=0 => none
+a wheel alone: mouse=1 capabilities/rel=100 => none
+a mouse: mouse=1 id/bustype=0005 => none, and a mouse is there
+)")) {
+        std::map<std::string, std::string> files{{"name", "Pad"},
+                                                 {"capabilities/key", "e520 10000 0 0 0 0"},
+                                                 {"capabilities/abs", "2e0800000000003"},
+                                                 {"capabilities/rel", "0"},
+                                                 {"properties", "5"},
+                                                 {"id/bustype", "0018"}};
+        std::istringstream changes(row[0].substr(row[0].find(':') + 1));
+        for (std::string word; changes >> word;) {
+            if (word == "mouse=1")
+                files = {{"capabilities/key", "70000 0 0 0 0"}, {"capabilities/rel", "903"}, {"id/bustype", "0003"}};
+            std::replace(word.begin(), word.end(), ',', ' ');
+            files[word.substr(0, word.find('='))] = word.substr(word.find('=') + 1);
+        }
+        const std::string event = "event" + std::to_string(number), input = "input" + std::to_string(++number);
+        for (const std::string& path : {input + "/capabilities", input + "/id", "class/" + event, std::string("dev")})
             std::filesystem::create_directories(folder / path);
         std::filesystem::create_directory_symlink(folder / input, folder / ("class/" + event + "/device"));
-        for (const auto& [name, content] : {std::pair<const char*, std::string>{"name", "Pad"},
-                                            {"capabilities/key", device.keys},
-                                            {"capabilities/abs", device.axes},
-                                            {"capabilities/rel", device.relativeAxes},
-                                            {"properties", device.properties},
-                                            {"id/bustype", device.bus}})
-            folder.write(input + name, content + "\n");
-        folder.write("dev/" + event, "");
-    }
-
-    /// The numbers of the pads, negative for those that are not built in.
-    std::set<int> scan() const {
-        std::set<int> found;
+        for (const auto& [name, content] : files)
+            folder.write(input + "/" + name, content);
+        if (!files.contains("hidden"))
+            folder.write("dev/" + event, "");
+        std::string found = "none";
         for (const TouchpadCandidate& pad : scanner.scan())
-            found.insert(std::stoi(pad.inputName.substr(5)) * (pad.isBuiltIn ? 1 : -1));
-        return found;
+            if (pad.inputName == input)
+                found = pad.isBuiltIn ? "built-in" : "external";
+        EXPECT_EQ(found + (scanner.hasExternalMouse() ? ", and a mouse is there" : ""), row[1]) << row[0];
     }
-
-    TemporaryFolder folder;
-    std::map<std::string, std::string> properties;
-    TouchpadScanner scanner{folder / "dev", folder / "class", [this](const std::string& eventName, const char* key) {
-                                const auto value = properties.find(eventName + ' ' + key);
-                                return value == properties.end() ? std::string() : value->second;
-                            }};
-};
-
-TEST_F(TouchpadScanning, DistinguishesTouchpadsFromOtherDevices) {
-    EXPECT_EQ(scan(), std::set<int>{}) << "without any folder";
-    add(0, {});
-    add(1, {.keys = "402000007 ff9f207ac14057ff febeffdfffefffff fffffffffffffffe", .axes = "0"});  // a keyboard
-    add(2, {.properties = "2"});                                                                    // a touch screen
-    add(3, {.keys = "1c23 10000 0 0 0 0"});                                                         // a pen tablet
-    add(4, {.axes = "3"});                                                                          // no multitouch
-    add(5, {.axes = "1"});
-    add(6, {});
-    std::filesystem::remove(folder / "dev/event6");  // hidden from this container
-    add(7, {.keys = "", .axes = "", .properties = "", .bus = ""});
-    add(8, {.keys = "no number"});
-    EXPECT_EQ(scan(), (std::set<int>{10, 14}));
-}
-
-TEST_F(TouchpadScanning, KnowsBuiltInPadsByUdevElseByTheBus) {
-    int number = 0;
-    for (const char* bus : {"0011", "0018", "0003", "0005", "0006"})
-        add(number++, {.bus = bus});
-    EXPECT_EQ(scan(), (std::set<int>{10, 11, -12, -13, -14}));
-    properties = {{"event0 ID_INPUT_TOUCHPAD_INTEGRATION", "external"},
-                  {"event1 LIBINPUT_IGNORE_DEVICE", "1"},
-                  {"event2 ID_INPUT_TOUCHPAD_INTEGRATION", "internal"},
-                  {"event3 LIBINPUT_IGNORE_DEVICE", "0"}};
-    EXPECT_EQ(scan(), (std::set<int>{-10, 12, -13, -14}));
-}
-
-TEST_F(TouchpadScanning, KnowsAMouseOfItsOwnCable) {
-    int number = 0;
-    const auto addMouse = [&](const char* relativeAxes, const char* bus, const char* property = "0",
-                              const char* keys = "70000 0 0 0 0") {
-        add(number++, {.keys = keys, .axes = "", .relativeAxes = relativeAxes, .properties = property, .bus = bus});
-    };
-    addMouse("3", "0003", "21");      // a pointing stick
-    addMouse("903", "0006");          // made by software
-    addMouse("3", "0003", "0", "0");  // no button
-    addMouse("100", "0003");          // a wheel alone
-    EXPECT_FALSE(scanner.hasExternalMouse());
-    addMouse("903", "0005");
-    EXPECT_TRUE(scanner.hasExternalMouse());
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QAbstractNativeEventFilter>
+#include <functional>
+
+#include "platform/linuxdesktop/ScreenSelection.h"
+
+namespace kinesta {
+
+/// Whether a compositor shows what lies behind translucent windows on X11. Qt has no call for it. Main thread only.
+class CompositorWatch final : public QAbstractNativeEventFilter {
+  public:
+    /// Needs the QGuiApplication. `onChange` is called when a compositor starts or ends.
+    explicit CompositorWatch(std::function<void()> onChange);
+    ~CompositorWatch() override;
+
+    bool isActive() const { return m_isActive; }
+
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+  private:
+    ScreenSelection m_selection{"_NET_WM_CM_S"};
+    std::function<void()> m_onChange;
+    bool m_isActive = false;
+    /// The number of the event that tells of a new owner; 0 if the server does not tell.
+    int m_ownerChanged = 0;
+};
+
+}  // namespace kinesta
