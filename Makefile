@@ -12,9 +12,9 @@ help: ## This list
 run: build ## Build Kinesta and watch it recognize real recordings
 	@$(KINESTA) demo
 
-build: ## Build the optimized program, build/release/bin/kinesta
+build: ## Build the optimized programs; build/release/bin/kinesta starts them all
 	@scripts/install-dependencies build
-	@scripts/build release kinesta
+	@scripts/build release programs
 
 test: ## Build and run every test
 	@scripts/install-dependencies test
