@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "rules/ActionTarget.h"
 #include "rules/GestureTypeChoice.h"
 #include "support/Text.h"
 
@@ -29,25 +30,8 @@ std::string slideSide(EdgeSlideSide side) {
     return side == EdgeSlideSide::both ? "both sides" : lowerCased(title(side));
 }
 
-std::string lastPart(std::string_view path) {
-    while (path.size() > 1 && path.ends_with('/'))
-        path.remove_suffix(1);
-    const std::size_t slash = path.rfind('/');
-    return std::string(slash == std::string_view::npos || path.size() == 1 ? path : path.substr(slash + 1));
-}
-
-std::string host(std::string_view address) {
-    const std::size_t scheme = address.find("://");
-    if (scheme == std::string_view::npos)
-        return std::string(address);
-    std::string_view rest = address.substr(scheme + 3);
-    rest = rest.substr(0, rest.find_first_of("/?#"));
-    // What precedes an @ can be made to look like a host.
-    rest = rest.substr(rest.rfind('@') + 1);
-    return std::string(rest.empty() ? address : rest);
-}
-
-std::string onOneLine(std::string text) {
+std::string onOneLine(std::string_view original) {
+    std::string text(original);
     std::ranges::replace_if(
         text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, ' ');
     return text;
@@ -116,12 +100,17 @@ std::string shortGesture(const GestureRule& rule) {
 }
 
 std::string shortAction(const GestureAction& action) {
-    std::string text = action.summary();
-    if (action.kind == ActionKind::openURL)
-        text = host(text);
-    else if (action.kind == ActionKind::openFileOrFolder || action.kind == ActionKind::launchApplication)
-        text = lastPart(text);
-    return onOneLine(std::move(text));
+    const std::string text = action.summary();
+    switch (action.kind) {
+        case ActionKind::openURL:
+            return onOneLine(hostOf(text));
+        case ActionKind::openFileOrFolder:
+            return onOneLine(lastPart(text));
+        case ActionKind::launchApplication:
+            return onOneLine(applicationName(text));
+        default:
+            return onOneLine(text);
+    }
 }
 
 std::optional<std::string> whatIsMissing(const GestureRule& rule) {

@@ -16,7 +16,8 @@ std::string capitalized(std::string text);
 /// The gesture of a rule in short: "3-finger double tap", "Tip-tap left", "2-finger slide, right", "Bottom left, L".
 std::string shortGesture(const GestureRule& rule);
 
-/// The action in one short line: an address by its host, a path by its last part, else the summary.
+/// The action in one short line: an address by its host, a path by its last part, an application by its name, else the
+/// summary.
 std::string shortAction(const GestureAction& action);
 
 /// What must still be chosen before the rule can be switched on, as a sentence; nothing if it is ready.

@@ -143,15 +143,13 @@ TEST(RuleWords, PutsARuleIntoOneLine) {
     GestureRule rule = makeRule(GestureKind::doubleTipTapLeft, 7, ActionKind::openURL);
     const auto line = [&] { return shortGesture(rule) + " · " + shortAction(rule.action); };
     rule.action.value = "https://kinesta.example@evil.example:80/a/b?c";
-    EXPECT_EQ(line(), "Double tip-tap left · evil.example:80");
+    EXPECT_EQ(line(), "Double tip-tap left · evil.example");
     rule = makeSlide(std::nullopt, std::nullopt);
     EXPECT_EQ(line(), "…-finger slide, both sides · Slide up/down to adjust volume");
     rule = makeDrawing(AnchorCorner::bottomLeft, DrawPattern::lShape);
     rule.action.kind = ActionKind::openFileOrFolder;
     rule.action.value = "/home/a\nb//";
     EXPECT_EQ(line(), "Bottom left, L · a b");
-    rule.action.value = "/";
-    EXPECT_EQ(line(), "Bottom left, L · /");
     rule = makeShellCommand({});
     EXPECT_EQ(line(), "3-finger tap · ls");
     EXPECT_EQ(whatIsMissing(rule), "Confirm the command to switch this rule on.");
