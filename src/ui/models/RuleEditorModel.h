@@ -34,7 +34,7 @@ struct RuleEditorContent {
     std::vector<ActionKind> actionKinds;
     /// The text of the cue if the rule had no label of its own.
     std::string cuePlaceholder;
-    /// Which other enabled rules want the same gesture, in the order of the list.
+    /// The other enabled rules that want the same gesture, in the order of the list: see kClashReason.
     std::vector<RuleReference> rivals;
     std::optional<SystemGestureWarning> systemWarning;
     /// What must be chosen before the rule can be switched on.

@@ -47,7 +47,7 @@ std::vector<RuleRow> ruleRows(std::span<const GestureRule> rules, const std::set
             row.reason = std::move(*missing);
         } else if (conflicts.contains(rule.id)) {
             row.mark = RuleMark::clash;
-            row.reason = "Another enabled rule uses this gesture. Only the first matching rule will run.";
+            row.reason = kClashReason;
         }
     }
     return rows;

@@ -2,10 +2,15 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "rules/GestureRule.h"
 
 namespace kinesta {
+
+/// What a clash of rules means.
+inline constexpr std::string_view kClashReason =
+    "Another enabled rule uses this gesture. Only the first matching rule will run.";
 
 /// The name of a rule as it is shown: "Untitled gesture" if it has none.
 std::string displayName(const GestureRule& rule);
