@@ -64,6 +64,7 @@ function(kinesta_qt_module name)
     cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS
         ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
+    list(FILTER sources EXCLUDE REGEX "/ui/models/")  # a module of its own, without Qt
     string(REPLACE "/" "_" target kinesta_${name})
     add_library(${target} STATIC ${sources})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)

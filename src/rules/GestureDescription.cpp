@@ -51,23 +51,29 @@ std::string describeConsequence(const GestureRule& rule) {
     return rule.name.empty() || rule.name == action ? action : action + "  (" + rule.name + ")";
 }
 
-std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected) {
+const GestureRule* ruleForGesture(std::span<const GestureRule> rules, const DetectedGesture& detected) {
     for (const GestureRule& rule : rules) {
         GestureRule completed = rule;
         completed.isEnabled = true;
         const bool isSlide = rule.gesture == GestureKind::edgeSlide;
         if (isSlide || !completed.action.isConfigured())
             completed.action.kind = isSlide ? ActionKind::adjustVolume : ActionKind::middleClick;
-        if (selectRule({&completed, 1}, detected, ShellCommands::allowed) == nullptr)
-            continue;
-        const std::string name = rule.name.empty() ? "a rule for it" : "the rule “" + rule.name + "”";
-        if (!rule.action.isConfigured())
-            return name + " has no complete action";
-        if (isSlide && rule.action.kind != ActionKind::adjustVolume)
-            return name + " has an action that a slide cannot run: it can only adjust the volume";
-        return name + (rule.isEnabled ? " runs a shell command, and those are switched off" : " is off");
+        if (selectRule({&completed, 1}, detected, ShellCommands::allowed) != nullptr)
+            return &rule;
     }
-    return "no rule is bound to it";
+    return nullptr;
+}
+
+std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected) {
+    const GestureRule* rule = ruleForGesture(rules, detected);
+    if (rule == nullptr)
+        return "no rule is bound to it";
+    const std::string name = rule->name.empty() ? "a rule for it" : "the rule “" + rule->name + "”";
+    if (!rule->action.isConfigured())
+        return name + " has no complete action";
+    if (rule->gesture == GestureKind::edgeSlide && rule->action.kind != ActionKind::adjustVolume)
+        return name + " has an action that a slide cannot run: it can only adjust the volume";
+    return name + (rule->isEnabled ? " runs a shell command, and those are switched off" : " is off");
 }
 
 }  // namespace kinesta

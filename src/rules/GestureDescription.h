@@ -19,6 +19,10 @@ std::string describeTrigger(const GestureRule& rule);
 /// What a rule does in words: its action, and its name if that adds something.
 std::string describeConsequence(const GestureRule& rule);
 
+/// The first rule that would run for a gesture if it were enabled, complete and permitted, or null. Points into
+/// `rules`.
+const GestureRule* ruleForGesture(std::span<const GestureRule> rules, const DetectedGesture& detected);
+
 /// Why no rule ran for a gesture: names the first rule that would match if it were enabled, complete or permitted, or
 /// says that there is none.
 std::string whyNoRule(std::span<const GestureRule> rules, const DetectedGesture& detected);

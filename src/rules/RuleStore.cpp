@@ -105,12 +105,16 @@ void RuleStore::disableAllRules() {
     change(std::move(rules));
 }
 
-void RuleStore::replaceRules(std::vector<GestureRule> rules) {
+void RuleStore::setRules(std::vector<GestureRule> rules) {
     // This also disables unacknowledged shell commands, which are never ready.
     for (GestureRule& rule : rules)
         disableUnlessReady(rule);
-    m_problem.clear();
     change(std::move(rules));
+}
+
+void RuleStore::replaceRules(std::vector<GestureRule> rules) {
+    m_problem.clear();
+    setRules(std::move(rules));
 }
 
 std::optional<RuleStore::Binding> RuleStore::binding(const Uuid& id) {

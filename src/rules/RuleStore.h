@@ -55,6 +55,8 @@ class RuleStore {
     bool canEnableAllRules() const;
     RuleEnablementResult enableAllRules();
     void disableAllRules();
+    /// Replaces the whole list in one edit; enabled rules that are not ready are switched off.
+    void setRules(std::vector<GestureRule> rules);
     /// Replaces the whole list, as an import does; enabled rules that are not ready are switched off. The caller must
     /// keep a copy of the previous list if it is needed.
     void replaceRules(std::vector<GestureRule> rules);

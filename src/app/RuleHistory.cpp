@@ -1,0 +1,205 @@
+#include "app/RuleHistory.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace kinesta {
+namespace {
+
+/// Fields of a rule that are only undone together.
+struct Part {
+    bool (*isSame)(const GestureRule& a, const GestureRule& b);
+    void (*copy)(const GestureRule& from, GestureRule& to);
+};
+
+template <auto... Fields>
+constexpr Part partOf() {
+    return {[](const GestureRule& a, const GestureRule& b) { return ((a.*Fields == b.*Fields) && ...); },
+            [](const GestureRule& from, GestureRule& to) { ((to.*Fields = from.*Fields), ...); }};
+}
+
+// Gesture and action are one part, because the gesture decides which actions there are.
+constexpr std::array<Part, 4> kParts{
+    partOf<&GestureRule::name>(),
+    partOf<&GestureRule::isEnabled>(),
+    partOf<&GestureRule::showsActionCue>(),
+    partOf<&GestureRule::gesture, &GestureRule::fingerCount, &GestureRule::edgeSlideSide, &GestureRule::anchorCorner,
+           &GestureRule::drawPattern, &GestureRule::action>(),
+};
+
+std::set<Uuid> idsOf(const std::vector<GestureRule>& rules) {
+    std::set<Uuid> ids;
+    for (const GestureRule& rule : rules)
+        ids.insert(rule.id);
+    return ids;
+}
+
+std::vector<Uuid> idsAmong(const std::vector<GestureRule>& rules, const std::set<Uuid>& wanted) {
+    std::vector<Uuid> ids;
+    for (const GestureRule& rule : rules)
+        if (wanted.contains(rule.id))
+            ids.push_back(rule.id);
+    return ids;
+}
+
+/// Puts the rules named in `order` into this order, in the places that they have together.
+void reorder(std::vector<GestureRule>& rules, const std::vector<Uuid>& order) {
+    const std::set<Uuid> ordered(order.begin(), order.end());
+    std::map<Uuid, GestureRule> moved;
+    for (const GestureRule& rule : rules)
+        if (ordered.contains(rule.id))
+            moved.emplace(rule.id, rule);
+    auto next = order.begin();
+    for (GestureRule& rule : rules) {
+        if (!ordered.contains(rule.id))
+            continue;
+        next = std::find_if(next, order.end(), [&](const Uuid& id) { return moved.contains(id); });
+        if (next == order.end())
+            return;
+        rule = moved.at(*next++);
+    }
+}
+
+}  // namespace
+
+RuleHistory::RuleHistory(RuleStore& store, const Clock& clock)
+    : m_store(store),
+      m_clock(clock),
+      m_known(store.rules().value()),
+      m_observer(store.rules().observe([this](const Rules& rules) { follow(rules); })) {}
+
+void RuleHistory::record(const std::function<void()>& change) {
+    endTyping();
+    keep(changeOf(change));
+}
+
+void RuleHistory::record(const std::function<void()>& change, const Uuid& rule, TypedField field) {
+    const Uptime now = m_clock.uptime();
+    const bool goesOn =
+        m_typing && m_typing->rule == rule && m_typing->field == field && now - m_typing->at < typingPause;
+    Step step = changeOf(change);
+    if (step.isEmpty())
+        return;
+    m_typing = Typing{rule, field, now};
+    if (!goesOn || m_done.empty() || m_done.back().edits.size() != 1 || step.edits.size() != 1) {
+        keep(std::move(step));
+        return;
+    }
+    Edit& edit = m_done.back().edits.front();
+    edit.after = std::move(step.edits.front().after);
+    if (edit.before == edit.after) {
+        m_done.pop_back();
+        endTyping();
+    }
+    publish();
+}
+
+void RuleHistory::undo() { move(m_done, m_undone, Direction::back); }
+
+void RuleHistory::redo() { move(m_undone, m_done, Direction::forth); }
+
+RuleHistory::Step RuleHistory::difference(const Rules& before, const Rules& after) {
+    std::map<Uuid, const GestureRule*> previous;
+    for (const GestureRule& rule : before)
+        previous.emplace(rule.id, &rule);
+    Step step;
+    std::set<Uuid> common;
+    for (const GestureRule& rule : after) {
+        const auto found = previous.find(rule.id);
+        if (found == previous.end() || !common.insert(rule.id).second)
+            continue;
+        if (*found->second != rule)
+            step.edits.push_back({*found->second, rule});
+    }
+    step.orderBefore = idsAmong(before, common);
+    step.orderAfter = idsAmong(after, common);
+    if (step.orderBefore == step.orderAfter) {
+        step.orderBefore.clear();
+        step.orderAfter.clear();
+    }
+    return step;
+}
+
+RuleHistory::Step RuleHistory::changeOf(const std::function<void()>& change) {
+    const Rules before = m_known;
+    m_isOwnChange = true;
+    change();
+    m_isOwnChange = false;
+    return difference(before, m_known);
+}
+
+void RuleHistory::keep(Step step) {
+    if (step.isEmpty())
+        return;
+    m_undone.clear();
+    m_done.push_back(std::move(step));
+    if (m_done.size() > maximumSteps)
+        m_done.erase(m_done.begin());
+    publish();
+}
+
+void RuleHistory::follow(const Rules& rules) {
+    const Rules before = std::exchange(m_known, rules);
+    if (m_isOwnChange)
+        return;
+    endTyping();
+    const Step change = difference(before, rules);
+    clearMeaningless(m_done, change, rules);
+    clearMeaningless(m_undone, change, rules);
+    publish();
+}
+
+void RuleHistory::clearMeaningless(std::vector<Step>& steps, const Step& change, const Rules& rules) {
+    const std::set<Uuid> present = idsOf(rules);
+    const auto isGone = [&](const Uuid& id) { return !present.contains(id); };
+    std::map<Uuid, const Edit*> changed;
+    for (const Edit& edit : change.edits)
+        changed.emplace(edit.after.id, &edit);
+    for (Step& step : steps) {
+        for (Edit& edit : step.edits)
+            if (const auto found = changed.find(edit.after.id); found != changed.end())
+                for (const Part& part : kParts)
+                    if (!part.isSame(found->second->before, found->second->after))
+                        part.copy(edit.before, edit.after);
+        std::erase_if(step.edits, [&](const Edit& edit) { return isGone(edit.after.id) || edit.before == edit.after; });
+        std::erase_if(step.orderBefore, isGone);
+        std::erase_if(step.orderAfter, isGone);
+        if (!change.orderBefore.empty() || step.orderBefore == step.orderAfter) {
+            step.orderBefore.clear();
+            step.orderAfter.clear();
+        }
+    }
+    std::erase_if(steps, [](const Step& step) { return step.isEmpty(); });
+}
+
+void RuleHistory::move(std::vector<Step>& from, std::vector<Step>& to, Direction direction) {
+    if (from.empty())
+        return;
+    endTyping();
+    Step step = std::move(from.back());
+    from.pop_back();
+    const bool isBack = direction == Direction::back;
+    Rules rules = m_known;
+    for (const Edit& edit : step.edits) {
+        const auto rule = std::ranges::find(rules, edit.after.id, &GestureRule::id);
+        for (const Part& part : kParts)
+            if (rule != rules.end() && !part.isSame(edit.before, edit.after))
+                part.copy(isBack ? edit.before : edit.after, *rule);
+    }
+    if (!step.orderBefore.empty())
+        reorder(rules, isBack ? step.orderBefore : step.orderAfter);
+    to.push_back(std::move(step));
+    changeOf([&] { m_store.setRules(std::move(rules)); });
+    publish();
+}
+
+void RuleHistory::publish() {
+    const Possibilities now{!m_done.empty(), !m_undone.empty()};
+    if (now != m_possibilities.value())
+        m_possibilities.set(now);
+}
+
+}  // namespace kinesta

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "feedback/GestureTestSession.h"
+#include "recognition/MultitouchService.h"
+#include "rules/RuleSelection.h"
+#include "rules/RuleStore.h"
+#include "support/Published.h"
+
+namespace kinesta {
+
+/// The last recognized gesture and what became of it.
+struct LastGesture {
+    DetectedGesture gesture;
+    /// "Detected 3-finger single tap"
+    std::string text;
+    /// "Ran “Middle click”", or why no rule ran.
+    std::string outcome;
+    /// The rule that ran, or that would have run if it were on or complete; none to make one for the gesture.
+    std::optional<Uuid> rule;
+    bool hasRun = false;
+    /// Until it disappears.
+    int secondsLeft = 0;
+
+    friend bool operator==(const LastGesture&, const LastGesture&) = default;
+};
+
+/// All that the overview shows.
+struct OverviewContent {
+    enum class State { listening, listeningWithoutRules, off, stopped, unavailable, firstLaunch };
+
+    State state = State::stopped;
+    std::string headline;
+    std::string statusLine;
+    bool isGestureEnabled = false;
+    std::size_t enabledCount = 0;
+    bool isPermissionMissing = false;
+    std::vector<std::string> notices;
+    std::optional<LastGesture> lastGesture;
+
+    friend bool operator==(const OverviewContent&, const OverviewContent&) = default;
+};
+
+/// The overview: whether gestures are recognized, and the last one. Main thread only.
+class OverviewModel {
+  public:
+    /// The referents must outlive the model.
+    struct Parts {
+        const RuleStore& store;
+        const MultitouchService& service;
+        const GestureTestSession& testSession;
+        std::function<bool()> isPermissionMissing;
+        /// The welcome stays until the second rule is made.
+        bool isFirstLaunch = false;
+    };
+
+    explicit OverviewModel(Parts parts);
+
+    /// Set only when something differs.
+    const Published<OverviewContent>& content() const { return m_content; }
+
+    /// Takes what GestureDispatcher tells its observer.
+    void gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule);
+    /// Sentences about what needs attention: a settings file that was set aside, a desktop without status icons.
+    void setNotices(std::vector<std::string> notices);
+    /// Reads everything again. To be called when the window comes to the front: the permission cannot be observed.
+    void refresh();
+
+  private:
+    using Change = std::function<void(OverviewContent&)>;
+
+    void update(const Change& change);
+    void describeState(OverviewContent& content) const;
+
+    Parts m_parts;
+    bool m_isWelcome;
+    Published<OverviewContent> m_content;
+    std::vector<Subscription> m_observers;
+};
+
+}  // namespace kinesta

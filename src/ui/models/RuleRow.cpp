@@ -1,0 +1,56 @@
+#include "ui/models/RuleRow.h"
+
+#include <algorithm>
+
+#include "rules/GestureDescription.h"
+#include "support/Text.h"
+#include "ui/models/RuleWords.h"
+
+namespace kinesta {
+namespace {
+
+std::vector<std::string> wordsOf(std::string_view text) {
+    std::vector<std::string> words;
+    const std::string wanted = lowerCased(text);
+    for (std::string_view rest = trimmed(wanted); !rest.empty();) {
+        const std::size_t end = std::min(rest.find(' '), rest.size());
+        words.emplace_back(rest.substr(0, end));
+        rest = trimmed(rest.substr(end));
+    }
+    return words;
+}
+
+bool hasAll(const GestureRule& rule, const std::vector<std::string>& words) {
+    const std::string text = lowerCased(displayName(rule) + "\n" + describeTrigger(rule) + "\n" + shortGesture(rule) +
+                                        "\n" + std::string(title(rule.action.kind)) + "\n" + rule.action.summary());
+    return std::ranges::all_of(words, [&](const std::string& word) { return text.find(word) != std::string::npos; });
+}
+
+}  // namespace
+
+std::vector<RuleRow> ruleRows(std::span<const GestureRule> rules, const std::set<Uuid>& conflicts,
+                              std::string_view filter) {
+    const std::vector<std::string> words = wordsOf(filter);
+    std::vector<RuleRow> rows;
+    for (std::size_t i = 0; i < rules.size(); ++i) {
+        const GestureRule& rule = rules[i];
+        if (!words.empty() && !hasAll(rule, words))
+            continue;
+        RuleRow& row = rows.emplace_back();
+        row.id = rule.id;
+        row.index = i;
+        row.name = displayName(rule);
+        row.detail = shortGesture(rule) + " · " + shortAction(rule.action);
+        row.isEnabled = rule.isEnabled;
+        if (auto missing = whatIsMissing(rule)) {
+            row.mark = RuleMark::unfinished;
+            row.reason = std::move(*missing);
+        } else if (conflicts.contains(rule.id)) {
+            row.mark = RuleMark::clash;
+            row.reason = kClashReason;
+        }
+    }
+    return rows;
+}
+
+}  // namespace kinesta

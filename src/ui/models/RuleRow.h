@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/GestureRule.h"
+
+namespace kinesta {
+
+/// What is wrong with a rule in the sidebar. A rule that is unfinished and clashes counts as unfinished.
+enum class RuleMark { none, unfinished, clash };
+
+/// One row of the sidebar.
+struct RuleRow {
+    Uuid id;
+    /// Its place in the whole list, for the picture of its gesture.
+    std::size_t index = 0;
+    /// "Untitled gesture" if the rule has no name.
+    std::string name;
+    /// Gesture and action in short.
+    std::string detail;
+    bool isEnabled = false;
+    RuleMark mark = RuleMark::none;
+    /// The reason of the mark, as sentences; empty without one.
+    std::string reason;
+
+    friend bool operator==(const RuleRow&, const RuleRow&) = default;
+};
+
+/// The rows of the rules that have every word of `filter` in name, gesture or action, regardless of the case of A–Z.
+std::vector<RuleRow> ruleRows(std::span<const GestureRule> rules, const std::set<Uuid>& conflicts,
+                              std::string_view filter);
+
+}  // namespace kinesta

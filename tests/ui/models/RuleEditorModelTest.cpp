@@ -1,0 +1,95 @@
+#include "ui/models/RuleEditorModel.h"
+
+#include <gtest/gtest.h>
+
+#include "rules/RuleMaking.h"
+#include "support/FakeUserDefaults.h"
+#include "support/VirtualClock.h"
+#include "support/VirtualMainThread.h"
+#include "ui/models/RuleWords.h"
+
+namespace kinesta::testing {
+namespace {
+
+struct Fixture {
+    explicit Fixture(GestureRule edited) {
+        store.setRules({makeRule(GestureKind::singleClick, 2), std::move(edited)});
+        history.emplace(store, clock);
+        model.emplace(RuleEditorModel::Parts{store, *history, session, GestureSystem::macOS},
+                      store.rules().value()[1].id);
+        model->onGone = [this] { ++timesGone; };
+    }
+
+    const GestureRule& rule() const { return store.rules().value().back(); }
+    const RuleEditorContent& content() const { return model->content().value(); }
+
+    FakeUserDefaults defaults;
+    RuleStore store{defaults};
+    VirtualMainThread mainThread;
+    VirtualClock clock{mainThread};
+    GestureTestSession session;
+    int timesGone = 0;
+    std::optional<RuleHistory> history;
+    std::optional<RuleEditorModel> model;
+};
+
+TEST(RuleEditorModel, ChangesWhatDependsOnTheTypeOfGesture) {
+    GestureRule original = makeRule(GestureKind::doubleTap, 3, ActionKind::closeWindow);
+    original.action.customCueLabel = "Bye";
+    Fixture f(original);
+    f.model->setActionKind(ActionKind::adjustVolume);  // for slides only
+    EXPECT_EQ(f.rule(), original);
+    f.model->setType(GestureTypeChoice::tipTapRight);
+    EXPECT_EQ(f.rule().gesture, GestureKind::doubleTipTapRight);
+    EXPECT_TRUE(f.rule().isEnabled && !f.rule().fingerCount);
+    f.model->setType(GestureTypeChoice::edgeSlide);
+    EXPECT_TRUE(f.content().wasSwitchedOffByEdit && !f.content().canTurnOn);
+    EXPECT_EQ(f.content().missing, "Choose how many fingers to switch this rule on.");
+    f.model->setActionKind(ActionKind::middleClick);
+    EXPECT_EQ(f.rule().action.kind, ActionKind::adjustVolume);
+    EXPECT_EQ(f.rule().edgeSlideSide, EdgeSlideSide::both);
+    f.model->setFingerCount(2);
+    EXPECT_EQ(f.content().systemWarning->title, "May also scroll onscreen content");
+    EXPECT_TRUE(f.content().canTurnOn);
+    f.model->setType(GestureTypeChoice::anchorDraw);
+    EXPECT_EQ(f.rule().action, GestureAction());
+    f.model->setCorner(AnchorCorner::topLeft);
+    f.model->setType(GestureTypeChoice::tap);
+    EXPECT_TRUE(!f.rule().anchorCorner && !f.rule().edgeSlideSide);
+    while (f.history->possibilities().value().undo)
+        f.history->undo();
+    EXPECT_EQ(f.rule(), original);
+}
+
+TEST(RuleEditorModel, FollowsTheStoreAndTakesAGesture) {
+    Fixture f(makeShellCommand(true));
+    f.model->setActionValue("rm");
+    EXPECT_TRUE(f.content().wasSwitchedOffByEdit && !f.rule().isEnabled);
+    f.model->setShellCommandAcknowledged(true);
+    EXPECT_TRUE(f.content().canTurnOn);
+    f.store.enableAllRules();  // elsewhere
+    EXPECT_FALSE(f.content().wasSwitchedOffByEdit);
+
+    f.model->setWaitsForGesture(true);
+    EXPECT_TRUE(f.session.isActive().value());
+    f.model->gestureRecognized(DetectedTap{2, GestureKind::singleForceClick});
+    f.model->gestureRecognized(DetectedTap{5, GestureKind::tripleTap});  // too late
+    EXPECT_FALSE(f.session.isActive().value() || f.content().waitsForGesture);
+    EXPECT_EQ(f.content().rivals, (std::vector<RuleReference>{{f.store.rules().value()[0].id, "Untitled gesture"}}));
+    f.model->setWaitsForGesture(true);
+    f.model->gestureRecognized(DetectedEdgeSlide{3, EdgeSlideSide::right, -2});
+    EXPECT_EQ(shortGesture(f.rule()) + ", " + f.rule().action.summary(),
+              "3-finger slide, right, Slide up/down to adjust volume");
+    EXPECT_TRUE(f.content().rivals.empty());
+
+    f.session.begin();
+    f.model->setWaitsForGesture(true);
+    f.store.deleteRules({f.rule().id});
+    EXPECT_TRUE(f.session.isActive().value());  // not the editor's session
+    f.model->setName("gone");
+    f.store.addRule();
+    EXPECT_EQ(f.timesGone, 1);
+}
+
+}  // namespace
+}  // namespace kinesta::testing
