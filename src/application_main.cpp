@@ -82,7 +82,8 @@ class Application {
 
     void run() {
         m_controller.applicationWillFinishLaunching();
-        m_service.emplace(sessionBus(), m_control, [this](const std::string& problem) { tell(problem); });
+        m_service.emplace(QDBusConnection::sessionBus(), m_control,
+                          [this](const std::string& problem) { tell(problem); });
         m_controller.applicationDidFinishLaunching(m_options.isInBackground
                                                        ? ApplicationController::LaunchKind::inBackground
                                                        : ApplicationController::LaunchKind::byPerson);
@@ -157,7 +158,17 @@ class Application {
                                                                             .clock = m_desktop.clock(),
                                                                             .defaults = m_defaults,
                                                                             .program = m_files.updater().string(),
-                                                                            .bundle = m_files.bundle().string()});
+                                                                            .bundle = m_files.bundle().string(),
+                                                                            .look = [this] { return updaterLook(); }});
+    }
+
+    QStringList updaterLook() const {
+        QStringList look;
+        if (m_appearance.appearance() == NamedAppearance::darkAqua)
+            look += QStringLiteral("--dark");
+        if (m_settings.contrast() == ThemeContrast::more)
+            look += QStringLiteral("--more-contrast");
+        return look;
     }
 
     QtMainThread& m_mainLoop;
@@ -171,7 +182,7 @@ class Application {
     QtConfigurationWindow m_window{
         m_events, [this] { return std::make_unique<StatusWindow>(m_controller, m_app.recognition().service()); }};
 
-    DesktopSettings m_settings{sessionBus()};
+    DesktopSettings m_settings{QDBusConnection::sessionBus()};
     DesktopAppearance m_appearance{m_settings};
     DesktopScreens m_screens{[this] { return m_desktop.monitors(); }};
     UserDefaults& m_defaults{defaultsThatTell()};
@@ -180,7 +191,7 @@ class Application {
     LaunchAtLoginManager m_login{m_desktop.loginItem()};
     SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
 
-    LinuxStatusItem m_statusItem{sessionBus()};
+    LinuxStatusItem m_statusItem{QDBusConnection::sessionBus()};
     QtTermination m_termination{m_mainLoop};
     QtActivationPolicy m_policy;
     ApplicationController m_controller{
@@ -213,9 +224,13 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Kinesta"));
     QApplication::setDesktopFileName(QStringLiteral("com.orvane.kinesta"));
     QApplication::setQuitOnLastWindowClosed(ApplicationController::applicationShouldTerminateAfterLastWindowClosed());
+    // Otherwise Qt loads GTK on many desktops: twice the memory and time, for colours that are our own here.
+    QApplication::setDesktopSettingsAware(false);
+    std::optional<SessionBusCheck> busCheck(std::in_place);
     std::optional<XWaylandPreference> preference(std::in_place);
     const QApplication qt(argc, argv);
     preference.reset();
+    busCheck.reset();
     const Options options = optionsIn(qt);
 
     QtMainThread mainLoop;
