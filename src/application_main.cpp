@@ -3,6 +3,7 @@
 #include <deque>
 #include <iostream>
 #include <optional>
+#include <utility>
 
 #include "app/App.h"
 #include "app/ApplicationControl.h"
@@ -72,6 +73,13 @@ class Application {
             showNotices();
         });
         m_testObserver = m_app.testSession().isActive().observe([this](bool) { m_control.refresh(); });
+        m_loginObserver = m_login.errorMessage().observe([this](const auto&) { tellLoginProblem(); });
+        tellLoginProblem();
+        m_statusObserver = m_app.recognition().service().status().observe([this](const auto& status) {
+            // The window shows it in its first line.
+            if (status.message != std::exchange(m_trackpadProblem, status.message) && !status.message.empty())
+                std::cerr << status.message << std::endl;
+        });
         applyAppearance();
     }
 
@@ -115,6 +123,18 @@ class Application {
         if (m_problems.size() > kMostProblems)
             m_problems.pop_front();
         showNotices();
+    }
+
+    /// Each refresh publishes the same problem again; one that is solved leaves the window.
+    void tellLoginProblem() {
+        const std::string problem = m_login.errorMessage().value().value_or("");
+        if (problem == m_loginProblem)
+            return;
+        std::erase(m_problems, std::exchange(m_loginProblem, problem));
+        if (problem.empty())
+            showNotices();
+        else
+            tell(problem);
     }
 
     UserDefaults& defaultsThatTell() {
@@ -175,6 +195,8 @@ class Application {
     LinuxDesktop& m_desktop;
     Options m_options;
     std::deque<std::string> m_problems;
+    std::string m_loginProblem;
+    std::string m_trackpadProblem;
     bool m_isTrayDue = false;
     ProgramFiles m_files = ProgramFiles::ofThisProcess();
     JsonBundleInformation m_bundle{m_files.bundle()};
@@ -213,6 +235,8 @@ class Application {
     Subscription m_settingsObserver;
     Subscription m_trayObserver;
     Subscription m_testObserver;
+    Subscription m_loginObserver;
+    Subscription m_statusObserver;
 };
 
 }  // namespace
