@@ -157,7 +157,7 @@ class Application {
         if (m_isTrayDue && m_statusItem.kind().value() == TrayKind::none)
             notices += QObject::tr(
                 "This desktop shows no status icons. Start Kinesta again to bring back this window; "
-                "closing it leaves gestures on.");
+                "closing it does not end Kinesta.");
         for (const std::string& problem : m_problems)
             notices += QString::fromStdString(problem);
         window->setNotices(notices);
