@@ -3,6 +3,7 @@
 #include <deque>
 #include <iostream>
 #include <optional>
+#include <utility>
 
 #include "app/App.h"
 #include "app/ApplicationControl.h"
@@ -72,6 +73,13 @@ class Application {
             showNotices();
         });
         m_testObserver = m_app.testSession().isActive().observe([this](bool) { m_control.refresh(); });
+        m_loginObserver = m_login.errorMessage().observe([this](const auto&) { tellLoginProblem(); });
+        tellLoginProblem();
+        m_statusObserver = m_app.recognition().service().status().observe([this](const auto& status) {
+            // The window shows it in its first line.
+            if (status.message != std::exchange(m_trackpadProblem, status.message) && !status.message.empty())
+                std::cerr << status.message << std::endl;
+        });
         applyAppearance();
     }
 
@@ -82,7 +90,8 @@ class Application {
 
     void run() {
         m_controller.applicationWillFinishLaunching();
-        m_service.emplace(sessionBus(), m_control, [this](const std::string& problem) { tell(problem); });
+        m_service.emplace(QDBusConnection::sessionBus(), m_control,
+                          [this](const std::string& problem) { tell(problem); });
         m_controller.applicationDidFinishLaunching(m_options.isInBackground
                                                        ? ApplicationController::LaunchKind::inBackground
                                                        : ApplicationController::LaunchKind::byPerson);
@@ -116,6 +125,18 @@ class Application {
         showNotices();
     }
 
+    /// Each refresh publishes the same problem again; one that is solved leaves the window.
+    void tellLoginProblem() {
+        const std::string problem = m_login.errorMessage().value().value_or("");
+        if (problem == m_loginProblem)
+            return;
+        std::erase(m_problems, std::exchange(m_loginProblem, problem));
+        if (problem.empty())
+            showNotices();
+        else
+            tell(problem);
+    }
+
     UserDefaults& defaultsThatTell() {
         m_desktop.onSettingsProblem(teller());
         return m_desktop.defaults();
@@ -136,7 +157,7 @@ class Application {
         if (m_isTrayDue && m_statusItem.kind().value() == TrayKind::none)
             notices += QObject::tr(
                 "This desktop shows no status icons. Start Kinesta again to bring back this window; "
-                "closing it leaves gestures on.");
+                "closing it does not end Kinesta.");
         for (const std::string& problem : m_problems)
             notices += QString::fromStdString(problem);
         window->setNotices(notices);
@@ -157,13 +178,25 @@ class Application {
                                                                             .clock = m_desktop.clock(),
                                                                             .defaults = m_defaults,
                                                                             .program = m_files.updater().string(),
-                                                                            .bundle = m_files.bundle().string()});
+                                                                            .bundle = m_files.bundle().string(),
+                                                                            .look = [this] { return updaterLook(); }});
+    }
+
+    QStringList updaterLook() const {
+        QStringList look;
+        if (m_appearance.appearance() == NamedAppearance::darkAqua)
+            look += QStringLiteral("--dark");
+        if (m_settings.contrast() == ThemeContrast::more)
+            look += QStringLiteral("--more-contrast");
+        return look;
     }
 
     QtMainThread& m_mainLoop;
     LinuxDesktop& m_desktop;
     Options m_options;
     std::deque<std::string> m_problems;
+    std::string m_loginProblem;
+    std::string m_trackpadProblem;
     bool m_isTrayDue = false;
     ProgramFiles m_files = ProgramFiles::ofThisProcess();
     JsonBundleInformation m_bundle{m_files.bundle()};
@@ -171,7 +204,7 @@ class Application {
     QtConfigurationWindow m_window{
         m_events, [this] { return std::make_unique<StatusWindow>(m_controller, m_app.recognition().service()); }};
 
-    DesktopSettings m_settings{sessionBus()};
+    DesktopSettings m_settings{QDBusConnection::sessionBus()};
     DesktopAppearance m_appearance{m_settings};
     DesktopScreens m_screens{[this] { return m_desktop.monitors(); }};
     UserDefaults& m_defaults{defaultsThatTell()};
@@ -180,7 +213,7 @@ class Application {
     LaunchAtLoginManager m_login{m_desktop.loginItem()};
     SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
 
-    LinuxStatusItem m_statusItem{sessionBus()};
+    LinuxStatusItem m_statusItem{QDBusConnection::sessionBus()};
     QtTermination m_termination{m_mainLoop};
     QtActivationPolicy m_policy;
     ApplicationController m_controller{
@@ -202,6 +235,8 @@ class Application {
     Subscription m_settingsObserver;
     Subscription m_trayObserver;
     Subscription m_testObserver;
+    Subscription m_loginObserver;
+    Subscription m_statusObserver;
 };
 
 }  // namespace
@@ -213,9 +248,13 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Kinesta"));
     QApplication::setDesktopFileName(QStringLiteral("com.orvane.kinesta"));
     QApplication::setQuitOnLastWindowClosed(ApplicationController::applicationShouldTerminateAfterLastWindowClosed());
+    // Otherwise Qt loads GTK on many desktops: twice the memory and time, for colours that are our own here.
+    QApplication::setDesktopSettingsAware(false);
+    std::optional<SessionBusCheck> busCheck(std::in_place);
     std::optional<XWaylandPreference> preference(std::in_place);
     const QApplication qt(argc, argv);
     preference.reset();
+    busCheck.reset();
     const Options options = optionsIn(qt);
 
     QtMainThread mainLoop;

@@ -9,17 +9,25 @@
 #include "platform/linuxupdates/UpdateDialog.h"
 #include "platform/qt/JsonBundleInformation.h"
 #include "platform/qt/QtMainThread.h"
+#include "platform/qt/ThemePalette.h"
 
-// Checks for updates: kinesta-updater BUNDLE.json [--scheduled]. A program of its own, because the libraries of the
-// network take memory that the application in the tray should not need all day. Exit status: 0 the feed was read, 1
-// not.
+// Checks for updates: kinesta-updater BUNDLE.json [--scheduled] [--dark] [--more-contrast]. A program of its own,
+// because the libraries of the network take memory that the application in the tray should not need all day. Exit
+// status: 0 the feed was read, 1 not.
 int main(int argc, char** argv) {
     using namespace kinesta;
     QApplication::setApplicationName(QStringLiteral("Kinesta"));
     QApplication::setDesktopFileName(QStringLiteral("com.orvane.kinesta"));
     QApplication::setQuitOnLastWindowClosed(false);
+    // Without GTK, which waits for a session bus that hangs.
+    QApplication::setDesktopSettingsAware(false);
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
+    const bool isDark = arguments.contains(QStringLiteral("--dark"));
+    const bool hasMoreContrast = arguments.contains(QStringLiteral("--more-contrast"));
+    QApplication::setPalette(
+        themePalette(AppTheme::of(isDark ? NamedAppearance::darkAqua : NamedAppearance::aqua,
+                                  hasMoreContrast ? ThemeContrast::more : ThemeContrast::standard)));
     const JsonBundleInformation bundle(arguments.value(1).toStdString());
     const auto configuration = SoftwareUpdateController::configuration(bundle);
     if (!configuration) {

@@ -41,7 +41,7 @@ struct UpdateChecking : ::testing::Test {
         publicKey.resize(crypto_sign_PUBLICKEYBYTES);
         secretKey.resize(crypto_sign_SECRETKEYBYTES);
         crypto_sign_keypair(publicKey.data(), secretKey.data());
-        answers["/kinesta.deb"] = ok(program);
+        answers["/kinesta_1.2.deb"] = ok(program);
     }
 
     QString path(const QString& file) const { return folder.filePath(file); }
@@ -69,7 +69,7 @@ struct UpdateChecking : ::testing::Test {
     QByteArray release(const QByteArray& version, const QByteArray& signedBy, const QByteArray& system = "linux",
                        const QByteArray& minimum = "2.36") const {
         return "<release version='" + version + "' system='" + system + "' architecture='x86_64' minimumSystem='" +
-               minimum + "' url='" + address("/kinesta.deb") + "' length='" + QByteArray::number(program.size()) +
+               minimum + "' url='" + address("/kinesta_1.2.deb") + "' length='" + QByteArray::number(program.size()) +
                "' signature='" + signedBy + "'/>";
     }
     static QByteArray feed(const QByteArray& releases) { return ok("<feed>" + releases + "</feed>"); }
@@ -126,9 +126,9 @@ TEST_F(UpdateChecking, KeepsTheNewestSignedReleaseOfThisSystem) {
         feed(release("1.10", genuine) + "<later/>" + release("1.9.9", genuine) + release("2", genuine, "macos") +
              release("3", genuine, "linux", "2.37") + release("1.11", "") + release("newest", genuine));
     answers["/feed"] = redirect(address("/old-feed"));
-    EXPECT_EQ(update(), "found 1.10; kept: kinesta.deb");
-    EXPECT_EQ(fileContent("downloads/kinesta.deb"), program);
-    EXPECT_EQ(update(), "found 1.10; kept: kinesta (2).deb, kinesta.deb");
+    EXPECT_EQ(update(), "found 1.10; kept: kinesta_1.2.deb");
+    EXPECT_EQ(fileContent("downloads/kinesta_1.2.deb"), program);
+    EXPECT_EQ(update(), "found 1.10; kept: kinesta_1.2 (2).deb, kinesta_1.2.deb");
     for (const char* told : {"Cookie", "?", "Mozilla", "1.9"})
         EXPECT_FALSE(requests.contains(told)) << told;
     EXPECT_EQ(requests.count("Accept-Language: en\r\n"), requests.count("GET "));
@@ -145,13 +145,13 @@ TEST_F(UpdateChecking, KeepsNothingThatIsNotRight) {
               "found 2; The update cannot be downloaded: Connection closed."},
              {release("2", genuine), ok(program + "x"),
               "found 2; The update cannot be downloaded: it is longer than it may be."},
-             {release("2", genuine), redirect("http://localhost/kinesta.deb"),
+             {release("2", genuine), redirect("http://localhost/kinesta_1.2.deb"),
               "found 2; The update cannot be downloaded: Insecure redirect."},
              {release("1.9", genuine), ok(program), "up to date"},
              {release("1.8.9", genuine), ok(program), "up to date"},
              {"", "", "up to date"}}) {
         answers["/feed"] = feed(releases);
-        answers["/kinesta.deb"] = file;
+        answers["/kinesta_1.2.deb"] = file;
         EXPECT_EQ(update(), result);
     }
     for (const auto& [text, problem] : std::vector<std::pair<QByteArray, std::string>>{

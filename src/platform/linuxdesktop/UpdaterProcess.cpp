@@ -43,7 +43,7 @@ void UpdaterProcess::check(const QStringList& options) {
     if (m_process.state() != QProcess::NotRunning)
         return;
     m_canCheck.set(false);
-    m_process.setArguments(QStringList(QString::fromStdString(m_environment.bundle)) + options);
+    m_process.setArguments(QStringList(QString::fromStdString(m_environment.bundle)) + m_environment.look() + options);
     m_process.start();
 }
 

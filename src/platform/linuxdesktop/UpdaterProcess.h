@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QProcess>
+#include <QStringList>
+#include <functional>
 #include <string>
 
 #include "app/SoftwareUpdater.h"
@@ -25,6 +27,8 @@ class UpdaterProcess final : public SoftwareUpdater {
         std::string program;
         /// The file of the build's information, for the program.
         std::string bundle;
+        /// How its window should look now, as its options say it.
+        std::function<QStringList()> look;
     };
 
     explicit UpdaterProcess(Environment environment);

@@ -31,11 +31,11 @@ QString fileNameFor(const SoftwareRelease& release) {
 
 /// `folder`/`name`, or with a number before the ending if that is taken.
 QString freePath(const QString& folder, const QString& name) {
-    const QFileInfo wanted(QDir(folder), name);
-    QString path = wanted.filePath();
+    QString path = QDir(folder).filePath(name);
+    // The last point: those before it belong to the version.
+    const qsizetype ending = name.contains(u'.') ? name.lastIndexOf(u'.') : name.size();
     for (int number = 2; QFileInfo::exists(path); ++number)
-        path = QDir(folder).filePath(
-            QStringLiteral("%1 (%2).%3").arg(wanted.baseName()).arg(number).arg(wanted.completeSuffix()));
+        path = QDir(folder).filePath(QString(name).insert(ending, QStringLiteral(" (%1)").arg(number)));
     return path;
 }
 

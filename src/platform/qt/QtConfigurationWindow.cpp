@@ -37,6 +37,7 @@ bool QtConfigurationWindow::eventFilter(QObject* watched, QEvent* event) {
             break;
         case QEvent::WindowActivate:
             m_events.post(ApplicationEvent::windowDidBecomeKey);
+            m_events.post(ApplicationEvent::didBecomeActive);  // an application here is active with its window
             break;
         case QEvent::Show:
         case QEvent::Hide:

@@ -21,8 +21,10 @@ class DesktopAppearance final : public AppearanceControl {
 
     const Published<AppTheme>& theme() const { return m_theme; }
 
-  private:
+    /// The one in force.
     NamedAppearance appearance() const;
+
+  private:
     void applyColours();
     void applyTextScale();
 

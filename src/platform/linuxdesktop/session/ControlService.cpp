@@ -26,6 +26,8 @@ ControlService::ControlService(QDBusConnection bus, ApplicationControl& control,
     new ActivationAdaptor(this, m_bus, control);
     // Before the name is requested: who sees the name may call at once.
     m_bus.registerObject(text(ControlNames::kPath), this, QDBusConnection::ExportAdaptors);
+    m_bus.connect({}, text("/org/freedesktop/DBus/Local"), text("org.freedesktop.DBus.Local"), text("Disconnected"),
+                  this, SLOT(tellOfEnd()));
     m_changes = control.state().observe([this](const ApplicationState& state) { announce(state); });
     requestName();
 }
@@ -52,6 +54,10 @@ void ControlService::requestName() {
                    reply.error().message().toStdString());
         call->deleteLater();
     });
+}
+
+void ControlService::tellOfEnd() {
+    m_tell("The session bus has ended: kinesta ctl and a second start of Kinesta cannot reach this one.");
 }
 
 void ControlService::announce(const ApplicationState& state) {

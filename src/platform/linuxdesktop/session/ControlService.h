@@ -21,6 +21,7 @@ class ControlService final : public QObject {
   private:
     void requestName();
     void announce(const ApplicationState& state);
+    Q_SLOT void tellOfEnd();
 
     QDBusConnection m_bus;
     ApplicationControl& m_control;

@@ -1,26 +1,33 @@
 #include "platform/linuxdesktop/session/SessionBus.h"
 
-#include <QByteArray>
+#include <QDBusConnection>
 
 #include "platform/linux/session/MessageBus.h"
 
 namespace kinesta {
+namespace {
 
-QDBusConnection sessionBus() {
-    constexpr const char* kAddress = "DBUS_SESSION_BUS_ADDRESS";
-    if (MessageBus probe; probe.open() != nullptr)
-        return QDBusConnection::sessionBus();
-    // Qt keeps its first connection for good, even one that failed. So let that one fail at once: Qt's accessibility
-    // uses it too, when the first window is shown. Programs that Kinesta starts get the true address.
-    const bool isSet = qEnvironmentVariableIsSet(kAddress);
-    const QByteArray address = qgetenv(kAddress);
+const char* const kAddress = "DBUS_SESSION_BUS_ADDRESS";
+
+}  // namespace
+
+SessionBusCheck::SessionBusCheck() : m_hidesBus(MessageBus().open() == nullptr) {
+    if (!m_hidesBus)
+        return;
+    if (qEnvironmentVariableIsSet(kAddress))
+        m_address = qgetenv(kAddress);
     qputenv(kAddress, "unix:path=/nonexistent");
-    QDBusConnection none = QDBusConnection::sessionBus();
-    if (isSet)
-        qputenv(kAddress, address);
+}
+
+SessionBusCheck::~SessionBusCheck() {
+    if (!m_hidesBus)
+        return;
+    // Qt keeps its first connection for good, even one that failed, and its accessibility uses it, too.
+    QDBusConnection::sessionBus();
+    if (m_address)
+        qputenv(kAddress, *m_address);
     else
         qunsetenv(kAddress);
-    return none;
 }
 
 }  // namespace kinesta

@@ -1,11 +1,24 @@
 #pragma once
 
-#include <QDBusConnection>
+#include <QByteArray>
+#include <optional>
 
 namespace kinesta {
 
-/// Qt's connection to the session bus; one that is not connected if no bus answers at once. Qt itself would wait half a
-/// minute for a bus that hangs, or start a bus that no other program of the session knows.
-QDBusConnection sessionBus();
+/// Lives while the QApplication is made. If no session bus answers, Qt and the libraries that it loads find none: Qt
+/// itself would wait half a minute for a bus that hangs, GTK for ever, and they may start a bus that no other program
+/// of the session knows.
+class SessionBusCheck {
+  public:
+    SessionBusCheck();
+    /// Programs that Kinesta starts get the true address.
+    ~SessionBusCheck();
+    SessionBusCheck(const SessionBusCheck&) = delete;
+    SessionBusCheck& operator=(const SessionBusCheck&) = delete;
+
+  private:
+    bool m_hidesBus;
+    std::optional<QByteArray> m_address;
+};
 
 }  // namespace kinesta

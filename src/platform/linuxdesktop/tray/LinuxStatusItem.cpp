@@ -28,8 +28,11 @@ void LinuxStatusItem::create(Handlers handlers) {
 }
 
 void LinuxStatusItem::setState(bool isEnabled, const std::string& accessibilityLabel) {
+    const QString description = QString::fromStdString(accessibilityLabel);
+    if (isEnabled == m_isEnabled && description == m_description)
+        return;  // most changes concern only the menu, and panels redraw at each signal
     m_isEnabled = isEnabled;
-    m_description = QString::fromStdString(accessibilityLabel);
+    m_description = description;
     showState();
     showTexts();
 }
