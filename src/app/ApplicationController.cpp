@@ -59,6 +59,7 @@ void ApplicationController::installObservers() {
         m_observers.push_back(m_ports.events.observe(event, [this, handler] { (this->*handler)(); }));
     };
     m_observers.push_back(m_ports.events.observe(ApplicationEvent::windowWillClose, [this] {
+        ++m_windowActivationGeneration;  // an attempt that waits would show it again
         // The window counts as visible until it has closed.
         m_afterClosing = m_ports.mainThread.after(std::chrono::nanoseconds::zero(),
                                                   [this] { hideFromAppSwitcherIfWindowIsClosed(); });

@@ -34,7 +34,7 @@ class BusPeer {
 
     /// Starts to pass calls to `answer`, with `self`.
     void serve(sd_bus_message_handler_t answer, void* self) {
-        EXPECT_GE(sd_bus_add_fallback(m_bus, nullptr, "/org", answer, self), 0);
+        EXPECT_GE(sd_bus_add_fallback(m_bus, nullptr, "/", answer, self), 0);
         m_thread = std::thread([this] {
             while (!m_hangs)
                 if (sd_bus_process(m_bus, nullptr) == 0)
