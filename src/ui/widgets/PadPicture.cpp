@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cmath>
 
+#include "ui/widgets/AccessibleParts.h"
 #include "ui/widgets/PadPainter.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
@@ -16,6 +17,7 @@ constexpr std::chrono::milliseconds kFrame{16};
 }  // namespace
 
 PadPicture::PadPicture(double width, QWidget* parent) : QWidget(parent), m_width(width) {
+    AccessibleParts::install();
     m_frames.setTimerType(Qt::PreciseTimer);
     connect(&m_frames, &QTimer::timeout, this, [this] {
         if (m_performance && static_cast<double>(m_since.elapsed()) >= m_performance->duration())
