@@ -1,6 +1,5 @@
 #include "platform/qt/PicturePainter.h"
 
-#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -14,28 +13,6 @@ using Kind = Segment::Kind;
 constexpr double kThinnestSlanted = 1.4;
 
 QPointF asQt(Point point) { return {point.x, point.y}; }
-
-QPainterPath painterPath(const Path& path) {
-    QPainterPath result;
-    for (const Segment& segment : path.segments) {
-        const QPointF first = asQt(segment.points[0]);
-        switch (segment.kind) {
-            case Kind::move:
-                result.moveTo(first);
-                break;
-            case Kind::line:
-                result.lineTo(first);
-                break;
-            case Kind::curve:
-                result.cubicTo(first, asQt(segment.points[1]), asQt(segment.points[2]));
-                break;
-            case Kind::close:
-                result.closeSubpath();
-                break;
-        }
-    }
-    return result;
-}
 
 /// Whether it has a line that pixels can show without steps.
 bool hasUprightLine(const Path& path) {
@@ -88,6 +65,28 @@ void draw(QPainter& painter, const Shape& shape, const QTransform& toPixels, dou
 }
 
 }  // namespace
+
+QPainterPath painterPath(const Path& path) {
+    QPainterPath result;
+    for (const Segment& segment : path.segments) {
+        const QPointF first = asQt(segment.points[0]);
+        switch (segment.kind) {
+            case Kind::move:
+                result.moveTo(first);
+                break;
+            case Kind::line:
+                result.lineTo(first);
+                break;
+            case Kind::curve:
+                result.cubicTo(first, asQt(segment.points[1]), asQt(segment.points[2]));
+                break;
+            case Kind::close:
+                result.closeSubpath();
+                break;
+        }
+    }
+    return result;
+}
 
 QImage image(const Picture& picture, QSize size, const QColor& colour) {
     QImage result(size, QImage::Format_ARGB32_Premultiplied);

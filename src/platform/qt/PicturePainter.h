@@ -3,11 +3,14 @@
 #include <QColor>
 #include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 #include <QRectF>
 
 #include "support/Picture.h"
 
 namespace kinesta::PicturePainter {
+
+QPainterPath painterPath(const Path& path);
 
 /// The picture as large as it fits into a transparent image of `size` pixels, in its middle. Straight strokes lie on
 /// whole pixels.

@@ -1,0 +1,64 @@
+#include "ui/widgets/TileGroup.h"
+
+#include <QEvent>
+#include <algorithm>
+
+#include "ui/widgets/Unit.h"
+
+namespace kinesta {
+namespace {
+
+constexpr double kGap = 6;
+
+}  // namespace
+
+TileGroup::TileGroup(const QString& name, int columns, QWidget* parent)
+    : ChoiceGroup(name, parent), m_columns(columns), m_arranged(columns), m_grid(new QGridLayout(this)) {
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setSpacing(Unit::of(kGap));
+    // The group itself says how narrow it may become.
+    m_grid->setSizeConstraint(QLayout::SetNoConstraint);
+}
+
+void TileGroup::addTile(int value, Tile* tile) {
+    tile->setParent(this);
+    add(value, tile);
+    arrange(m_arranged);
+}
+
+void TileGroup::arrange(int columns) {
+    m_arranged = columns;
+    for (int column = 0; column < m_columns; ++column)
+        m_grid->setColumnStretch(column, column < columns ? 1 : 0);
+    int index = 0;
+    for (QAbstractButton* button : buttons()) {
+        m_grid->removeWidget(button);
+        m_grid->addWidget(button, index / columns, index % columns);
+        ++index;
+    }
+    updateGeometry();
+}
+
+int TileGroup::widthFor(int columns) const {
+    int widest = 0;
+    for (const QAbstractButton* button : buttons())
+        widest = std::max(widest, button->minimumSizeHint().width());
+    return columns * widest + (columns - 1) * m_grid->spacing();
+}
+
+QSize TileGroup::minimumSizeHint() const { return {widthFor((m_columns + 1) / 2), m_grid->minimumSize().height()}; }
+
+void TileGroup::changeEvent(QEvent* event) {
+    ChoiceGroup::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        m_grid->setSpacing(Unit::of(kGap));
+}
+
+void TileGroup::resizeEvent(QResizeEvent* event) {
+    ChoiceGroup::resizeEvent(event);
+    const int columns = width() < widthFor(m_columns) ? (m_columns + 1) / 2 : m_columns;
+    if (columns != m_arranged)
+        arrange(columns);
+}
+
+}  // namespace kinesta

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QGridLayout>
+
+#include "ui/widgets/ChoiceGroup.h"
+#include "ui/widgets/Tile.h"
+
+namespace kinesta {
+
+/// Tiles of equal width in rows.
+class TileGroup final : public ChoiceGroup {
+    Q_OBJECT
+
+  public:
+    /// `columns` in a row; half as many as soon as a tile would be narrower than its word.
+    TileGroup(const QString& name, int columns, QWidget* parent = nullptr);
+
+    void addTile(int value, Tile* tile);
+    Tile* tile(std::size_t index) const { return static_cast<Tile*>(buttons().at(index)); }
+
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void arrange(int columns);
+    int widthFor(int columns) const;
+
+    int m_columns;
+    int m_arranged;
+    QGridLayout* m_grid;
+};
+
+}  // namespace kinesta
