@@ -24,6 +24,11 @@ struct Application : ::testing::Test {
             text += *line + "|";
         return text;
     }
+    /// Waits for its end. It may have told problems, such as that this machine has no trackpad.
+    static std::string exitStatus(ChildProcess& process) {
+        const std::string text = "|" + rest(process);
+        return text.substr(text.rfind('|', text.size() - 2) + 1);
+    }
     static std::string run(const std::string& arguments) { return rest(*start(arguments)); }
     /// What it says once it runs.
     static nlohmann::ordered_json status() {

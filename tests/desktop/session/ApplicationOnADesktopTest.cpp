@@ -44,7 +44,7 @@ struct ApplicationOnADesktop : Application {
     }
     void quit() {
         EXPECT_EQ(run("ctl quit"), "0|");
-        EXPECT_EQ(rest(*application), "0|");
+        EXPECT_EQ(exitStatus(*application), "0|");
     }
     static json ask(const std::string& call) {
         const std::string item = "org.kde.StatusNotifierItem-" + std::to_string(processOf()) + "-1 ";
@@ -160,7 +160,7 @@ TEST_F(ApplicationOnADesktop, ShowsItsStateInTheMenuAndDoesWhatIsChosen) {
     choose(5);
     choose(2);
     choose(7);
-    EXPECT_EQ(rest(*application), "0|");
+    EXPECT_EQ(exitStatus(*application), "0|");
 }
 
 TEST_F(ApplicationOnADesktop, ShowsItsWindowWhenThePersonWantsIt) {

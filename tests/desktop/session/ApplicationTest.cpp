@@ -23,7 +23,7 @@ TEST_F(Application, RunsOnceHoweverManyStartsRace) {
             ASSERT_EQ(status()["windowVisible"], true) << pair;
         }
         ASSERT_EQ(run("ctl quit"), "0|");
-        ASSERT_EQ(rest(*background) + rest(*shown), "0|0|") << pair;
+        ASSERT_EQ(exitStatus(*background) + exitStatus(*shown), "0|0|") << pair;
     }
 }
 
@@ -42,7 +42,7 @@ TEST_F(Application, TakesOverFromTheDaemonAndSurvivesEveryEnd) {
     for (const int moment : {0, 5, 20, 50, 100, 200}) {
         const pid_t process = processOf();
         kill(process, SIGKILL);
-        EXPECT_EQ(rest(*application), "Killed|137|");
+        EXPECT_EQ(exitStatus(*application), "137|");
         application = start("--background");
         eventually([] { return false; }, std::chrono::milliseconds(moment));
     }
@@ -58,7 +58,9 @@ TEST_F(Application, TakesOverFromTheDaemonAndSurvivesEveryEnd) {
     EXPECT_NE(run("").find("No session bus answers"), std::string::npos);
     EXPECT_NE(run("ctl quit").find("there is no session bus to reach it.|1|"), std::string::npos);
     kill(process, SIGTERM);
-    EXPECT_EQ(rest(*application), "0|");
+    const std::string said = rest(*application);
+    EXPECT_NE(said.find("|The session bus has ended: "), std::string::npos) << said;
+    EXPECT_TRUE(said.ends_with("|0|")) << said;
     desktop.stopServer();
     EXPECT_NE(run("").find("does not answer, so Kinesta cannot show its icon and window."), std::string::npos);
 }
@@ -110,7 +112,7 @@ TEST_F(Application, IsControlledFromOutside) {
     EXPECT_EQ(status()["windowVisible"], true);
     sd_bus_flush_close_unref(bus);
     EXPECT_EQ(run("ctl quit"), "0|");
-    EXPECT_EQ(rest(*application), "0|");
+    EXPECT_EQ(exitStatus(*application), "0|");
 }
 
 }  // namespace
