@@ -208,16 +208,17 @@ class Application {
     DesktopAppearance m_appearance{m_settings};
     DesktopScreens m_screens{[this] { return m_desktop.monitors(); }};
     UserDefaults& m_defaults{defaultsThatTell()};
-    ActionCuePresenter m_cue{{m_defaults, m_mainLoop, m_screens, m_settings}, makeActionCuePanel};
-    App m_app{desktopWithCue(), teller()};
-    LaunchAtLoginManager m_login{m_desktop.loginItem()};
-    SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
-
     LinuxStatusItem m_statusItem{QDBusConnection::sessionBus()};
     QtTermination m_termination{m_mainLoop};
     QtActivationPolicy m_policy;
     ApplicationController m_controller{
         {m_mainLoop, m_defaults, m_bundle, m_events, m_statusItem, m_window, m_policy, m_termination}};
+
+    // Recognition comes after what shows that it is starting.
+    ActionCuePresenter m_cue{{m_defaults, m_mainLoop, m_screens, m_settings}, makeActionCuePanel};
+    App m_app{desktopWithCue(), teller()};
+    LaunchAtLoginManager m_login{m_desktop.loginItem()};
+    SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
     ApplicationControl m_control{{.store = m_app.store(),
                                   .service = m_app.recognition().service(),
                                   .statusText = [this] { return m_controller.statusLine(); },
