@@ -7,10 +7,10 @@
 namespace kinesta {
 
 /// Stores and publishes a value that differs from the present one.
-template <typename T>
-void publishIfChanged(Published<T>& published, T value) {
+template <typename T, typename U = T>
+void publishIfChanged(Published<T>& published, U&& value) {
     if (!(value == published.value()))
-        published.set(std::move(value));
+        published.set(std::forward<U>(value));
 }
 
 }  // namespace kinesta
