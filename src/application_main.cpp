@@ -30,7 +30,7 @@
 namespace kinesta {
 namespace {
 
-/// How long a panel may take to accept the icon before the person is told that there is none.
+/// How long a panel may take to accept the icon before the window says that there is none.
 constexpr std::chrono::seconds kTrayPatience{2};
 constexpr std::size_t kMostProblems = 5;
 
@@ -111,7 +111,7 @@ class Application {
     }
 
   private:
-    /// Tells problems in the log and in the window.
+    /// Shows problems in the log and in the window.
     Desktop::Tell teller() {
         return [this](const std::string& problem) { tell(problem); };
     }

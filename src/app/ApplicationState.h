@@ -11,7 +11,7 @@ namespace kinesta {
 /// How the status item is shown.
 enum class TrayKind { statusNotifier, xembed, none };
 
-/// What the running application tells other processes about itself.
+/// What other processes can read about the running application.
 struct ApplicationState {
     bool isGestureEnabled = false;
     TrackpadContactProviderStatus::Kind status = TrackpadContactProviderStatus::Kind::stopped;

@@ -51,7 +51,7 @@ class Desktop {
     /// Turns this process into the graphical application with these arguments. Returns only if that is not possible:
     /// why.
     virtual Error becomeApplication(const std::vector<std::string>& arguments) = 0;
-    /// The application of this session, in another process.
+    /// The application that this person runs on this desktop, in another process.
     virtual RunningApplication& runningApplication() = 0;
     /// Makes this, a daemon, the one process that acts on gestures, until it ends. The error names the process that
     /// already does.

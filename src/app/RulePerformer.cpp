@@ -94,7 +94,7 @@ RulePerformer::Report RulePerformer::windowReport(WindowActionOutcomes::Kind kin
         case WindowActionOutcomes::Outcome::asked:
             return {Outcome::asked, kind == WindowActionOutcomes::Kind::close
                                         ? "The window is still open; it may be asking you something."
-                                        : "The window has not gone where it was told to, but moved."};
+                                        : "The window moved, but not to the place asked for."};
         case WindowActionOutcomes::Outcome::ignored:
             return {Outcome::failed, "The window manager was asked, and left the window as it was."};
         case WindowActionOutcomes::Outcome::nothingAsked:

@@ -80,7 +80,7 @@ Result<std::vector<GestureRule>> readRuleFile(const std::string& file, std::istr
 std::optional<std::string> problemOfStoredRules(const RuleStore& store) {
     if (store.problem().empty())
         return std::nullopt;
-    return "The stored rules cannot be read: " + store.problem() + ". They are kept; mend them, or import others.";
+    return "The stored rules cannot be read: " + store.problem() + ". They are kept; correct them, or import others.";
 }
 
 std::string ruleFileText(const RuleStore& store) {

@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// The port to the application that runs in this session, seen from another process. Each call waits for the answer,
+/// The port to the application that runs on this desktop, seen from another process. Each call waits for the answer,
 /// at most some seconds; the error says that it does not run, or why it does not do what it is asked. Main thread only.
 class RunningApplication {
   public:

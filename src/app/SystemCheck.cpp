@@ -72,7 +72,7 @@ void addTrackpad(std::vector<SystemFinding>& findings, const Rules& rules, Deskt
     const bool canTellPressure = isRead && chosen->canTellPressure;
     findings.push_back({"Force Click", canTellPressure,
                         !isRead           ? "Not known while no touchpad can be read."
-                        : canTellPressure ? "The touchpad tells pressure."
+                        : canTellPressure ? "The touchpad reports pressure."
                                           : "Impossible: the touchpad cannot tell pressure.",
                         canTellPressure || !isRead ? "" : "Bind those rules to a physical click of any pressure.",
                         anyEnabled(rules, [](const GestureRule& rule) {
@@ -82,10 +82,9 @@ void addTrackpad(std::vector<SystemFinding>& findings, const Rules& rules, Deskt
         return;
     for (const GestureRule& rule : rules)
         if (rule.isEnabled && usesFingerCount(rule.gesture) && rule.fingerCount.value_or(0) > chosen->fingers)
-            findings.push_back(
-                {inQuotes(rule), false,
-                 "The touchpad tells of " + std::to_string(chosen->fingers) + " fingers at once and no more.",
-                 "Choose a gesture with fewer fingers.", true});
+            findings.push_back({inQuotes(rule), false,
+                                "The touchpad reports at most " + std::to_string(chosen->fingers) + " fingers at once.",
+                                "Choose a gesture with fewer fingers.", true});
 }
 
 void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {

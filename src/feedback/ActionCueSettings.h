@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// The person's wishes about the cue. Each reader gives a value in range, whatever is stored.
+/// The person's wishes about the cue. Each reader returns a value in range, also for bad stored ones.
 struct ActionCueSettings {
     static constexpr std::string_view enabledKey = "actionCueEnabled.v1";
     static constexpr std::string_view positionKey = "actionCuePosition.v1";

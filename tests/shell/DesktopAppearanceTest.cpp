@@ -8,7 +8,7 @@
 namespace kinesta::testing {
 namespace {
 
-/// A settings portal. It hands out what it is told to, wrapped once more than in its signal, as real ones do.
+/// A settings portal. It returns what the test sets, wrapped once more than in its signal, as real ones do.
 class Portal final : public QDBusVirtualObject {
   public:
     explicit Portal(const QDBusConnection& bus) : m_bus(bus) {

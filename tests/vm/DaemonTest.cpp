@@ -190,7 +190,7 @@ TEST_F(Daemon, DoctorKnowsHowManyFingersThePadReports) {
     for (const int fingers : {2, 3}) {
         const VirtualTouchpad pad({.slots = 2, .fingers = fingers, .maximumPressure = 1000, .pressureResolution = 10});
         EXPECT_EQ(run("kinesta doctor > said"), fingers == 3);
-        EXPECT_EQ(run("grep 'tells of 2 fingers at once and no more.' said"), fingers == 2);
+        EXPECT_EQ(run("grep 'reports at most 2 fingers at once.' said"), fingers == 2);
     }
 }
 

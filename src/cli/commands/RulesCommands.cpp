@@ -121,7 +121,7 @@ ExitStatus importRules(const Console& console, Desktop& desktop, const std::stri
     console.out << "Imported " << counted(imported->count, "rule") << ", " << imported->enabled << " of them on.\n";
     if (imported->leftOff > 0)
         console.out << counted(imported->leftOff, "rule")
-                    << " came enabled but incomplete or not acknowledged, and stays off until that is mended.\n";
+                    << " came enabled but incomplete or not acknowledged, and stays off until that is corrected.\n";
     console.out << "The list that was there before is kept in " << imported->copy.string() << '\n'
                 << "To undo: kinesta rules import " << imported->copy.string() << '\n';
     return ExitStatus::success;

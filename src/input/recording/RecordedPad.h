@@ -25,7 +25,7 @@ class RecordedPad final : public TrackpadContactProviding {
     enum class Source {
         /// Each is dropped when it is due: the recording goes on, as the fingers on a real pad do.
         file,
-        /// Each is dropped as soon as it is taken, so that nobody waits to write the next.
+        /// Each is dropped as soon as it is taken, so that no writer has to wait.
         live,
     };
 
@@ -48,7 +48,7 @@ class RecordedPad final : public TrackpadContactProviding {
 
     PointerEventMonitoring& pointerEvents() { return m_pointer; }
 
-    /// Tells when the event arrived that is being delivered, otherwise the time.
+    /// The time at which the event that is being delivered arrived, otherwise the present time.
     const Clock& clock() const { return m_arrival; }
 
     /// `handler` is called when the status has changed by itself. It may start and stop this.

@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// A selection of the X screen: whoever owns it serves the screen as the selection's name says.
+/// A selection of the X screen: its owner serves the screen as the selection's name says.
 class ScreenSelection {
   public:
     /// `name` goes before the number of the screen, such as "_NET_WM_CM_S".

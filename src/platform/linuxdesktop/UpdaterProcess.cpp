@@ -63,7 +63,7 @@ void UpdaterProcess::schedule() {
     const Seconds wait = std::clamp(last + kBetweenChecks - now, kAfterStart, kBetweenChecks);
     m_nextCheck = m_environment.mainThread.after(wholeNanoseconds(wait), [this] {
         check({QStringLiteral("--scheduled")});
-        // The next one in a day, whatever becomes of this one.
+        // The next one in a day, even if this one fails.
         m_nextCheck = m_environment.mainThread.after(wholeNanoseconds(kBetweenChecks), [this] { schedule(); });
     });
 }

@@ -27,7 +27,7 @@ QNetworkRequest requestFor(const std::string& url, std::chrono::milliseconds sil
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     request.setHeader(QNetworkRequest::UserAgentHeader, QByteArray("Kinesta"));
-    // Without this the person's language is told.
+    // By default Qt sends the person's language.
     request.setRawHeader("Accept-Language", "en");
     // What is sent is counted and kept as it is, so nothing unfolds to more.
     request.setRawHeader("Accept-Encoding", "identity");

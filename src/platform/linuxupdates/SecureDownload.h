@@ -11,7 +11,7 @@
 
 namespace kinesta {
 
-/// One file fetched over https, within limits of size, time and redirects. Tells the server nothing about the person:
+/// One file fetched over https, within limits of size, time and redirects. Sends nothing about the person:
 /// no cookies, no language, no version. Main thread only.
 class SecureDownload {
   public:

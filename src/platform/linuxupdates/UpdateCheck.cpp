@@ -126,7 +126,7 @@ void UpdateCheck::verify() {
     enter(Stage::verifying);
     if (m_verification.joinable())
         m_verification.join();
-    // Reading a large file twice takes too long for the main thread. Nobody else touches the file meanwhile.
+    // Reading a large file twice takes too long for the main thread. No other code touches the file meanwhile.
     m_verification =
         std::thread([this, self = std::weak_ptr(m_self), signature = m_progress.value().release.signature] {
             const bool isGenuine = isSignedBy(m_configuration.publicKey, *m_file, signature);

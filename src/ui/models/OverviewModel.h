@@ -64,7 +64,7 @@ class OverviewModel {
     /// Set only when something differs.
     const Published<OverviewContent>& content() const { return m_content; }
 
-    /// Takes what GestureDispatcher tells its observer.
+    /// Takes what GestureDispatcher passes to its observer.
     void gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule);
     /// Sentences about what needs attention: a settings file that was set aside, a desktop without status icons.
     void setNotices(std::vector<std::string> notices);

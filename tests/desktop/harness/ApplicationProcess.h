@@ -24,7 +24,7 @@ struct Application : ::testing::Test {
             text += *line + "|";
         return text;
     }
-    /// Waits for its end. It may have told problems, such as that this machine has no trackpad.
+    /// Waits for its end. It may have written problems before, such as that this machine has no trackpad.
     static std::string exitStatus(ChildProcess& process) {
         const std::string text = "|" + rest(process);
         return text.substr(text.rfind('|', text.size() - 2) + 1);

@@ -55,7 +55,7 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
             return;
         if (obstacle)
             m_log(obstacle->why + " " + obstacle->remedy);
-        else if (m_poster.isAvailable())  // else the poster has told
+        else if (m_poster.isAvailable())  // else the poster has reported it
             m_log("The key with code " + std::to_string(keyCode) + " is not on this keyboard. Choose another key.");
     });
 }

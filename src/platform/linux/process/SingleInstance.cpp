@@ -36,7 +36,7 @@ FileDescriptor openOwn(const std::filesystem::path& path, int creation) {
     return file;
 }
 
-/// The holder marks its role by locking one byte: the system then tells everybody its process number, which is never
+/// The holder marks its role by locking one byte: any process can then ask the system for its number, which is never
 /// that of an earlier holder.
 struct flock mark(SingleInstance::Role role) {
     struct flock byte {};

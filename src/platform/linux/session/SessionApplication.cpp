@@ -163,7 +163,7 @@ SessionApplication::Answer SessionApplication::call(const char* interface, const
         sd_bus_message_new_method_call(bus, &made, ControlNames::kService, ControlNames::kPath, interface, method) < 0)
         return std::nullopt;
     const BusMessagePointer question(made);
-    // The bus must not start an application only to be told to hide or to quit.
+    // The bus must not start an application only to hide it or to end it.
     sd_bus_message_set_auto_start(question.get(), 0);
     if ((text != nullptr && sd_bus_message_append(question.get(), "s", text) < 0) ||
         (flag && sd_bus_message_append(question.get(), "b", *flag ? 1 : 0) < 0))

@@ -10,7 +10,7 @@
 
 namespace kinesta {
 
-/// The application of this session, reached over the session bus. Whether it runs is decided by its lock: it takes the
+/// The application on this desktop, reached over the session bus. Whether it runs is decided by its lock: it takes the
 /// lock first and comes to the bus a moment later.
 class SessionApplication final : public RunningApplication {
   public:

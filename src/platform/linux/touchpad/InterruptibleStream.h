@@ -18,7 +18,7 @@ class InterruptibleStream final : private std::streambuf {
     /// Opens `path` without waiting for a writer. The error is the reason, without the path.
     Outcome open(const std::string& path);
 
-    /// A writer learns that nobody reads any more.
+    /// Its writers then get a broken pipe.
     void close() { m_file = {}; }
 
     /// Whether everything is there already, as in a file.

@@ -120,7 +120,7 @@ double DesktopSettings::textScale() const {
 }
 
 bool DesktopSettings::reducesTransparency() const {
-    // No desktop has a switch of its own for it; whoever asks for contrast wants no picture behind words.
+    // No desktop has a switch of its own for it. A person who asks for contrast wants no picture behind words.
     return contrast() == ThemeContrast::more;
 }
 

@@ -22,7 +22,7 @@ class CompositorWatch final : public QAbstractNativeEventFilter {
     ScreenSelection m_selection{"_NET_WM_CM_S"};
     std::function<void()> m_onChange;
     bool m_isActive = false;
-    /// The number of the event that tells of a new owner; 0 if the server does not tell.
+    /// The number of the event for a new owner; 0 if the server has no such event.
     int m_ownerChanged = 0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace kinesta {
 
-/// The panel that this session can show: a window above all others, or a notification where no program may place one.
+/// The panel that this desktop can show: a window above all others, or a notification where no program may place one.
 std::unique_ptr<ActionCuePanel> makeActionCuePanel();
 
 /// While it lives, a QApplication that is made uses the X server of a Wayland session: through Wayland itself no

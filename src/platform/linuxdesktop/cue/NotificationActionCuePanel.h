@@ -37,7 +37,7 @@ class NotificationActionCuePanel final : public QObject, public ActionCuePanel {
     bool m_isVisible = false;
     /// Whether the desktop does not show what it should.
     bool m_isOutdated = false;
-    /// Only the answer to a notification tells how to replace it, so the next one waits for that.
+    /// Only the answer to a notification has the number to replace it, so the next one waits for it.
     bool m_isUnanswered = false;
     uint m_shown = 0;
 };

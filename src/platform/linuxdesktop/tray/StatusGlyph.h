@@ -9,7 +9,7 @@ namespace kinesta {
 class StatusGlyph {
   public:
     /// Light on a dark ground and dark on a light one, with a faint edge in the opposite colour: the ground may be
-    /// another than its owner told, or a wallpaper.
+    /// another colour than its owner set, or a wallpaper.
     static QImage onGround(bool isEnabled, QSize size, bool isDarkGround);
     /// In the very colour that the panel asks for.
     static QImage inColour(bool isEnabled, QSize size, const QColor& colour);

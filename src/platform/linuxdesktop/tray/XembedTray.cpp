@@ -28,7 +28,8 @@ XembedTray::XembedTray(xcb_connection_t* connection, xcb_screen_t* screen, int s
       m_opcode(atom("_NET_SYSTEM_TRAY_OPCODE")),
       m_visual(atom("_NET_SYSTEM_TRAY_VISUAL")),
       m_colours(atom("_NET_SYSTEM_TRAY_COLORS")) {
-    // A new tray tells the clients that listen at the root window. The mask is that of the whole connection.
+    // A new tray sends a message to the clients that listen at the root window. The mask is that of the whole
+    // connection.
     const XcbPointer<xcb_get_window_attributes_reply_t> attributes(
         xcb_get_window_attributes_reply(connection, xcb_get_window_attributes(connection, screen->root), nullptr));
     const std::uint32_t present = attributes ? attributes->your_event_mask : 0;

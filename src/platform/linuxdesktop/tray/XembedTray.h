@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// The tray of an X11 panel: whoever owns the selection _NET_SYSTEM_TRAY_Sn. Only passes on what the server says; its
+/// The tray of an X11 panel: the owner of the selection _NET_SYSTEM_TRAY_Sn. Only passes on what the server says; its
 /// owner hands in the events. Main thread only.
 class XembedTray {
   public:
