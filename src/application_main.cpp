@@ -8,10 +8,13 @@
 #include "app/App.h"
 #include "app/ApplicationControl.h"
 #include "app/ApplicationController.h"
+#include "app/RulePerformer.h"
 #include "feedback/ActionCuePresenter.h"
 #include "platform/linux/LinuxDesktop.h"
+#include "platform/linux/launching/DesktopApplications.h"
 #include "platform/linux/process/ProgramFiles.h"
 #include "platform/linux/process/SignalBlock.h"
+#include "platform/linuxdesktop/DoctorReport.h"
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
@@ -25,7 +28,9 @@
 #include "platform/qt/QtConfigurationWindow.h"
 #include "platform/qt/QtMainThread.h"
 #include "platform/qt/QtTermination.h"
-#include "ui/StatusWindow.h"
+#include "support/Translation.h"
+#include "ui/widgets/WindowTheme.h"
+#include "ui/window/KinestaWindow.h"
 
 namespace kinesta {
 namespace {
@@ -55,8 +60,10 @@ class Application {
     Application(QtMainThread& mainLoop, LinuxDesktop& desktop, Options options)
         : m_mainLoop(mainLoop), m_desktop(desktop), m_options(std::move(options)) {
         m_statusItem.setPanelIsDark(m_settings.appearance() == NamedAppearance::darkAqua);
-        m_settingsObserver = m_settings.observe(
-            [this] { m_statusItem.setPanelIsDark(m_settings.appearance() == NamedAppearance::darkAqua); });
+        m_settingsObserver = m_settings.observe([this] {
+            m_statusItem.setPanelIsDark(m_settings.appearance() == NamedAppearance::darkAqua);
+            showTheme();
+        });
         m_controller.configureWindowOpening([this] {
             m_window.open();
             showNotices();
@@ -64,8 +71,8 @@ class Application {
         m_controller.configureRuntime(m_app.store(), m_app.recognition().service(), m_login, m_updates);
         m_controller.onChange = [this] {
             m_control.refresh();
-            if (auto* window = statusWindow())
-                window->update();
+            if (auto* window = configurationWindow())
+                window->refresh();
         };
         m_app.onToggleConfigurationWindow = [this] { m_controller.toggleConfigurationWindow(); };
         m_trayObserver = m_statusItem.kind().observe([this](TrayKind) {
@@ -80,7 +87,13 @@ class Application {
             if (status.message != std::exchange(m_trackpadProblem, status.message) && !status.message.empty())
                 std::cerr << status.message << std::endl;
         });
+        m_app.dispatcher().setObserver([this](const DetectedGesture& gesture, const GestureRule* rule) {
+            if (auto* window = configurationWindow())
+                window->gestureDispatched(gesture, rule);
+        });
+        m_themeObserver = m_appearance.theme().observe([this](const AppTheme&) { showTheme(); });
         applyAppearance();
+        showTheme();
     }
 
     // The window and the icon change once more as they go, after the control.
@@ -147,20 +160,51 @@ class Application {
         return m_desktop;
     }
 
-    StatusWindow* statusWindow() const { return static_cast<StatusWindow*>(m_window.widget()); }
+    KinestaWindow* configurationWindow() const { return static_cast<KinestaWindow*>(m_window.widget()); }
+
+    std::unique_ptr<QWidget> makeWindow() {
+        ActionExecutor& actions = m_app.executor();
+        return std::make_unique<KinestaWindow>(
+            WindowParts{.desktop = m_desktop,
+                        .store = m_app.store(),
+                        .service = m_app.recognition().service(),
+                        .testSession = m_app.testSession(),
+                        .cue = m_cue,
+                        .launchAtLogin = m_login,
+                        .updates = m_updates,
+                        .report = m_report,
+                        .applications = m_applications,
+                        .runAction =
+                            [&actions](const GestureRule& rule) {
+                                performRule(actions, rule, rule.action.kind == ActionKind::adjustVolume ? 1 : 0);
+                            },
+                        .requestAccessibilityPermission = [&actions] { actions.requestAccessibilityPermission(); },
+                        .isPermissionMissing = [&actions] { return !actions.hasAccessibilityPermission(); },
+                        .applyAppearance = [this] { applyAppearance(); },
+                        .reloadSettings =
+                            [this] {
+                                m_app.reload();
+                                applyAppearance();
+                            },
+                        .version = KINESTA_VERSION,
+                        .isFirstLaunch = m_controller.isFirstLaunch()});
+    }
+
+    void showTheme() const {
+        WindowTheme::setReducesMotion(m_settings.reducesMotion());
+        WindowTheme::set(m_appearance.theme().value());
+    }
 
     void showNotices() {
-        auto* window = statusWindow();
+        auto* window = configurationWindow();
         if (window == nullptr)
             return;
-        QStringList notices;
+        std::vector<std::string> notices;
         if (m_isTrayDue && m_statusItem.kind().value() == TrayKind::none)
-            notices += QObject::tr(
-                "This desktop shows no status icons. Start Kinesta again to bring back this window; "
-                "closing it does not end Kinesta.");
-        for (const std::string& problem : m_problems)
-            notices += QString::fromStdString(problem);
-        window->setNotices(notices);
+            notices.push_back(
+                translated("This desktop shows no status icons. Start Kinesta again to come back to this window."));
+        notices.insert(notices.end(), m_problems.begin(), m_problems.end());
+        window->setNotices(std::move(notices));
     }
 
     /// Someone who has started the program by hand must see something of it.
@@ -201,8 +245,7 @@ class Application {
     ProgramFiles m_files = ProgramFiles::ofThisProcess();
     JsonBundleInformation m_bundle{m_files.bundle()};
     ApplicationEvents m_events;
-    QtConfigurationWindow m_window{
-        m_events, [this] { return std::make_unique<StatusWindow>(m_controller, m_app.recognition().service()); }};
+    QtConfigurationWindow m_window{m_events, [this] { return makeWindow(); }};
 
     DesktopSettings m_settings{QDBusConnection::sessionBus()};
     DesktopAppearance m_appearance{m_settings};
@@ -219,6 +262,8 @@ class Application {
     App m_app{desktopWithCue(), teller()};
     LaunchAtLoginManager m_login{m_desktop.loginItem()};
     SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
+    DoctorReport m_report{m_mainLoop, m_files.program().string()};
+    DesktopApplications m_applications;
     ApplicationControl m_control{{.store = m_app.store(),
                                   .service = m_app.recognition().service(),
                                   .statusText = [this] { return m_controller.statusLine(); },
@@ -234,6 +279,7 @@ class Application {
     std::optional<SessionEvents> m_session;
     DelayedTask m_trayCheck;
     Subscription m_settingsObserver;
+    Subscription m_themeObserver;
     Subscription m_trayObserver;
     Subscription m_testObserver;
     Subscription m_loginObserver;

@@ -22,6 +22,7 @@ class App {
     std::function<void()> onAllRulesDisabled;
 
     RuleStore& store() { return m_store; }
+    ActionExecutor& executor() { return m_executor; }
     /// While it is active, no rule runs.
     GestureTestSession& testSession() { return m_testSession; }
     GestureDispatcher& dispatcher() { return m_dispatcher; }

@@ -6,7 +6,7 @@
 namespace kinesta {
 
 /// A framed column of rows with hairlines between them. Notices in it lie on a ground of their own.
-class Card final : public QWidget {
+class Card : public QWidget {
     Q_OBJECT
 
   public:

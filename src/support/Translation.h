@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kinesta {
+
+/// Marks a text in a table: it is shown through translated().
+#define TRANSLATABLE(text) text
+
+/// Gives the text of the person's language for an English one. The application sets it once, before anything is shown;
+/// without one, as in the command line, all texts stay English. Main thread only.
+void setTranslator(std::function<std::string(std::string_view english)> translator);
+
+/// A text in the person's language.
+std::string translated(std::string_view english);
+
+/// A text with %1, %2 … replaced by the arguments, which stay as they are.
+std::string translated(std::string_view english, const std::vector<std::string>& arguments);
+
+}  // namespace kinesta

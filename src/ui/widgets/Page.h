@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace kinesta {
+
+/// A column of cards, centred at any width, that scrolls upward and downward.
+class Page : public QScrollArea {
+    Q_OBJECT
+
+  public:
+    explicit Page(QWidget* parent = nullptr);
+
+    /// Takes the widget in below the others.
+    void add(QWidget* part);
+    /// The heading above the next card, with a link or button at its end.
+    void addHeading(const QString& text, QWidget* atEnd = nullptr);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void measure();
+
+    QWidget* m_ground;
+    QVBoxLayout* m_column;
+};
+
+}  // namespace kinesta
