@@ -60,7 +60,7 @@ class LinuxDesktop final : public Desktop {
     std::filesystem::path examplesFolder() const override { return m_places.examples; }
     GestureSystem gestureSystem() const override { return m_places.gestureSystem; }
 
-    void onSettingsProblem(Tell tell) override { m_onSettingsProblem = std::move(tell); }
+    Tell onSettingsProblem(Tell tell) override { return std::exchange(m_onSettingsProblem, std::move(tell)); }
     UserDefaults& defaults() override { return fileDefaults(); }
     bool reloadDefaults() override { return fileDefaults().reload(); }
     Outcome checkSaving() override { return fileDefaults().checkSaving(); }
