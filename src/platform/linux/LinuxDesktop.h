@@ -65,6 +65,8 @@ class LinuxDesktop final : public Desktop {
     bool reloadDefaults() override { return fileDefaults().reload(); }
     Outcome checkSaving() override { return fileDefaults().checkSaving(); }
     Outcome lastSaving() override { return fileDefaults().lastSaving(); }
+    /// Changes of settings no longer wait for the disk: for the window, where each keystroke is one.
+    void saveInBackground() { fileDefaults().saveInBackground(m_mainLoop); }
     bool watchDefaults(std::function<void()> onChange) override;
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
