@@ -13,6 +13,7 @@ struct ConfigurationWindow : Application {
     ConfigurationWindow() : Application(TestDesktop::openbox) {
         setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1);
         application = start("");
+        EXPECT_TRUE(status().is_object());  // waits until it runs
         EXPECT_EQ(run("ctl show"), "0|");
         program.emplace("Kinesta");
         program->await("frame", "Kinesta");
