@@ -32,8 +32,8 @@ class PalmsCard final : public Card {
     Switch* m_palms;
     PalmPicture* m_picture;
     MeasuredSlider* m_size;
-    QWidget* m_panel;
     QBoxLayout* m_columns = nullptr;
+    QWidget* m_panel;
 };
 
 }  // namespace kinesta
