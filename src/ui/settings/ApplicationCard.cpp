@@ -4,8 +4,15 @@
 #include "ui/settings/ControlLine.h"
 #include "ui/settings/SettingsPictures.h"
 #include "ui/settings/WheelGuard.h"
+#include "ui/widgets/Unit.h"
 
 namespace kinesta {
+namespace {
+
+/// A combo box with longer words elides them where they do not fit.
+constexpr double kNarrowCombo = 96;
+
+}  // namespace
 
 ApplicationCard::ApplicationCard(SettingsModel& model)
     : m_model(model),
@@ -55,6 +62,7 @@ void ApplicationCard::addPlatform() {
             combo->addItem(QString::fromStdString(one.title));
         auto* row = new Row(QString::fromStdString(choice.name));
         combo->setAccessibleName(QString::fromStdString(choice.name));
+        combo->setMinimumWidth(Unit::of(kNarrowCombo));
         WheelGuard::install(*combo);
         row->setControl(combo);
         add(row);

@@ -9,7 +9,8 @@ namespace kinesta {
 namespace {
 
 constexpr double kGap = 20;
-constexpr double kPadding = 16;
+/// Below the panel, besides what a row keeps free.
+constexpr double kBottom = 6;
 constexpr double kSmallGap = 4;
 /// A narrower card has the slider below the picture.
 constexpr double kNarrow = 440;
@@ -28,7 +29,10 @@ PalmsCard::PalmsCard(SettingsModel& model)
                           tr("Where a palm or the ball of the thumb comes to rest."));
     palms->setControl(m_palms);
     add(palms);
-    add(m_panel);
+    auto* panel = new Row({});
+    panel->title().hide();
+    panel->setWideControl(m_panel);
+    add(panel);
     place();
     connect(m_palms, &Switch::clicked, this, [&model](bool isOn) { model.setIgnoresPalms(isOn); });
     connect(m_size, &MeasuredSlider::moved, m_picture,
@@ -82,8 +86,7 @@ void PalmsCard::resizeEvent(QResizeEvent* event) {
 void PalmsCard::place() {
     m_columns->setDirection(width() < Unit::of(kNarrow) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     m_columns->setSpacing(Unit::of(kGap));
-    const int padding = Unit::of(kPadding);
-    m_columns->setContentsMargins(Row::inset(), padding, Row::inset(), padding);
+    m_columns->setContentsMargins(0, 0, 0, Unit::of(kBottom));
 }
 
 }  // namespace kinesta

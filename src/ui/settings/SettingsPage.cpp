@@ -5,12 +5,14 @@
 
 #include "app/Desktop.h"
 #include "feedback/ActionCuePresenter.h"
+#include "ui/pictures/WindowSymbol.h"
 #include "ui/settings/ApplicationCard.h"
 #include "ui/settings/ControlLine.h"
 #include "ui/settings/CueCard.h"
 #include "ui/settings/PalmsCard.h"
 #include "ui/settings/RecognitionCard.h"
 #include "ui/widgets/Row.h"
+#include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -76,7 +78,7 @@ SettingsPage::~SettingsPage() {
 }
 
 void SettingsPage::addCue(ActionCuePresenter& cue) {
-    auto* preview = new QPushButton(tr("Preview"));
+    auto* preview = new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::play)), tr("Preview"));
     connect(preview, &QPushButton::clicked, this, [this, &cue] {
         m_cue->settle();
         cue.preview();
