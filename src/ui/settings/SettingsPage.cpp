@@ -50,9 +50,7 @@ SettingsPage::SettingsPage(const WindowParts& parts, WindowCommands& commands)
       m_shell(new Switch(tr("Let rules run shell commands"))),
       m_application(new ApplicationCard(m_model)),
       m_transferProblem(new Notice(Notice::Kind::error, {}, {})) {
-    auto* title = new Words(tr("Settings"), Words::Size::title);
-    title->setContentsMargins(Unit::of(kTitleInset), 0, Unit::of(kTitleInset), Unit::of(kBelowTitle));
-    add(title);
+    addTitle();
     add(m_recognition);
     addHeading(tr("Palms"));
     add(m_palms);
@@ -75,6 +73,14 @@ SettingsPage::SettingsPage(const WindowParts& parts, WindowCommands& commands)
 SettingsPage::~SettingsPage() {
     settle();
     m_observers.clear();
+}
+
+void SettingsPage::addTitle() {
+    auto* heading = new QWidget;
+    m_heading = new QHBoxLayout(heading);
+    m_heading->setContentsMargins(Unit::of(kTitleInset), 0, Unit::of(kTitleInset), Unit::of(kBelowTitle));
+    m_heading->addWidget(new Words(tr("Settings"), Words::Size::title), 1);
+    add(heading);
 }
 
 void SettingsPage::addCue(ActionCuePresenter& cue) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QHBoxLayout>
 
 #include "ui/WindowCommands.h"
 #include "ui/WindowParts.h"
@@ -30,10 +31,13 @@ class SettingsPage final : public Page {
     /// Reads what cannot be observed: the stored settings have changed behind the page.
     void refresh() { m_model.refresh(); }
 
+    void setBackButton(QWidget* button) override { m_heading->insertWidget(0, button); }
+
   protected:
     void showEvent(QShowEvent* event) override;
 
   private:
+    void addTitle();
     void addCue(ActionCuePresenter& cue);
     void addShellCommands();
     void addRules(const std::string& version, WindowCommands& commands);
@@ -41,6 +45,7 @@ class SettingsPage final : public Page {
     void settle();
 
     SettingsModel m_model;
+    QHBoxLayout* m_heading = nullptr;
     RecognitionCard* m_recognition;
     PalmsCard* m_palms;
     CueCard* m_cue;
