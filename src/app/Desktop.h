@@ -11,6 +11,7 @@
 #include "actions/ActionPorts.h"
 #include "app/DesktopFindings.h"
 #include "app/LiveTrackpad.h"
+#include "app/PlatformSettings.h"
 #include "app/RunningApplication.h"
 #include "app/WindowActionOutcomes.h"
 #include "rules/SystemGestureWarningChecker.h"
@@ -84,6 +85,7 @@ class Desktop {
     virtual std::string howToSet(std::string_view key, const std::string& value) const = 0;
     /// The folder of the settings, for files that belong to them. Created if it is missing.
     virtual Result<std::filesystem::path> settingsFolder() = 0;
+    virtual PlatformSettings platformSettings() const = 0;
 
     // The trackpad
 

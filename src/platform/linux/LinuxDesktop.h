@@ -70,6 +70,7 @@ class LinuxDesktop final : public Desktop {
     bool watchDefaults(std::function<void()> onChange) override;
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
+    PlatformSettings platformSettings() const override;
 
     void useStream(std::string path) override { m_stream = std::move(path); }
     LiveTrackpad& trackpad() override;
