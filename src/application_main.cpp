@@ -17,6 +17,7 @@
 #include "platform/linuxdesktop/DoctorReport.h"
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
+#include "platform/linuxdesktop/cue/CompositorWatch.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
 #include "platform/linuxdesktop/cue/DesktopScreens.h"
 #include "platform/linuxdesktop/session/ControlService.h"
@@ -30,6 +31,7 @@
 #include "platform/qt/QtTermination.h"
 #include "platform/qt/Translations.h"
 #include "support/Translation.h"
+#include "ui/style/KinestaStyle.h"
 #include "ui/widgets/WindowTheme.h"
 #include "ui/window/KinestaWindow.h"
 
@@ -166,6 +168,7 @@ class Application {
 
     std::unique_ptr<QWidget> makeWindow() {
         ActionExecutor& actions = m_app.executor();
+        QApplication::setStyle(new KinestaStyle(CompositorWatch::blendsWindows));
         return std::make_unique<KinestaWindow>(
             WindowParts{.desktop = m_desktop,
                         .store = m_app.store(),
