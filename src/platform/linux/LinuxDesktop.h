@@ -88,6 +88,8 @@ class LinuxDesktop final : public Desktop {
     const HomeFolders& homeFolders() const override { return m_homeFolders; }
     std::optional<Obstacle> obstacleToKey(std::uint16_t keyCode, std::uint64_t flags) override;
     bool typesLetterOf(std::uint16_t keyCode, const std::string& name) override;
+    bool tilesWindows() override { return actions().tilesWindows(); }
+    KeyRecording& keyRecording() override { return actions().keyRecording(); }
     std::optional<Obstacle> obstacleToLaunching(const std::string& application) override;
 
   private:
