@@ -28,6 +28,7 @@
 #include "platform/qt/QtConfigurationWindow.h"
 #include "platform/qt/QtMainThread.h"
 #include "platform/qt/QtTermination.h"
+#include "platform/qt/Translations.h"
 #include "support/Translation.h"
 #include "ui/widgets/WindowTheme.h"
 #include "ui/window/KinestaWindow.h"
@@ -152,6 +153,7 @@ class Application {
 
     UserDefaults& defaultsThatTell() {
         m_desktop.onSettingsProblem(teller());
+        m_desktop.saveInBackground();
         return m_desktop.defaults();
     }
 
@@ -303,6 +305,7 @@ int main(int argc, char** argv) {
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);
+    installTranslations(ProgramFiles::ofThisProcess().translations());
 
     QtMainThread mainLoop;
     LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());
