@@ -25,6 +25,8 @@ struct DesktopFinding {
     std::string remedy;
     /// The command line that the remedy ends with, to be run in a terminal; empty if there is none.
     std::string command = {};
+    /// Whether the remedy is to change a setting.
+    bool isSetting = false;
 };
 
 }  // namespace kinesta

@@ -67,6 +67,7 @@ SystemFinding findingAbout(const ConnectedTrackpads& trackpads) {
     if (chosen == nullptr) {
         finding.why = trackpads.whenNoneIsChosen.why;
         finding.remedy = trackpads.whenNoneIsChosen.remedy;
+        finding.isSetting = !trackpads.all.empty();
         return finding;
     }
     finding.works = chosen->problem.empty();
@@ -112,6 +113,7 @@ void addTrackpad(std::vector<SystemFinding>& findings, const Rules& rules, Deskt
              .works = false,
              .why = "It is switched off in the settings.",
              .remedy = "To switch it on " + desktop.howToSet(MultitouchService::enabledStorageKey, "true"),
+             .isSetting = true,
              .rulesInNeed = enabled});
     const bool isRead = chosen != nullptr && chosen->axes;
     const bool canTellPressure = isRead && chosen->canTellPressure;
@@ -145,6 +147,7 @@ void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Deskto
                             .why = std::move(finding.why),
                             .remedy = std::move(finding.remedy),
                             .command = std::move(finding.command),
+                            .isSetting = finding.isSetting,
                             .rulesInNeed = inNeed});
     }
 }
@@ -159,6 +162,7 @@ void addShellCommands(std::vector<SystemFinding>& findings, const Rules& rules, 
          .remedy = isOn ? ""
                         : "If you trust every rule that runs one: " +
                               desktop.howToSet(ShellCommandSettings::enabledKey, "true"),
+         .isSetting = !isOn,
          .rulesInNeed = countEnabled(
              rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
 }

@@ -40,6 +40,8 @@ struct SystemFinding {
     std::string remedy = {};
     /// The command line that the remedy ends with, to be run in a terminal; empty if there is none.
     std::string command = {};
+    /// Whether the remedy is to change a setting: a window shows its Settings instead.
+    bool isSetting = false;
     /// How many enabled rules need it.
     std::size_t rulesInNeed = 0;
     /// The single rule that it is about.

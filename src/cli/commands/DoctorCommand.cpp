@@ -22,6 +22,7 @@ void printJson(const Console& console, const std::vector<SystemFinding>& finding
                          {"why", finding.why},
                          {"remedy", finding.remedy},
                          {"command", finding.command},
+                         {"setting", finding.isSetting},
                          {"chosenName", finding.chosenName}});
     console.out << array.text(2) << '\n';
 }

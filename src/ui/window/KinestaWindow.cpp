@@ -1,10 +1,13 @@
 #include "ui/window/KinestaWindow.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "app/Desktop.h"
+#include "app/SystemReport.h"
 #include "ui/about/AboutSheet.h"
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/overview/OverviewPage.h"
@@ -83,7 +86,16 @@ void KinestaWindow::importRules() {}
 void KinestaWindow::exportRules() {}
 void KinestaWindow::resetSettings() {}
 void KinestaWindow::showAbout() { (new AboutSheet(m_parts, *this, this))->show(); }
-void KinestaWindow::copyReport() {}
+
+void KinestaWindow::copyReport() {
+    m_parts.report.request([window = QPointer(this)](const SystemReport::Result& result) {
+        if (!window)
+            return;
+        QGuiApplication::clipboard()->setText(QString::fromStdString(result.text));
+        window->showToast(tr("Copied the report."), {}, {});
+    });
+}
+
 void KinestaWindow::showToast(const QString& /*text*/, const QString& /*action*/, std::function<void()> /*onAction*/) {}
 
 void KinestaWindow::showSelected() {

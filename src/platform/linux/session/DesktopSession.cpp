@@ -47,6 +47,7 @@ DesktopFinding DesktopSession::sendInput() const {
         return finding;
     }
     finding.works = m_facts.hasXTest;
+    finding.isSetting = !m_facts.hasX || !m_facts.hasXTest || m_facts.hasWayland;
     if (!m_facts.hasX) {
         finding.why = "The settings ask for the X server, and none answers.";
         finding.remedy = std::string(kStartInSession) + " Or remove the setting " +
