@@ -6,6 +6,8 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 
+#include "ui/pictures/WindowSymbol.h"
+#include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -17,7 +19,7 @@ constexpr double kGap = 8;
 }  // namespace
 
 CommandField::CommandField(const QString& command, WindowCommands& commands, QWidget* parent)
-    : QWidget(parent), m_field(new QLineEdit(command)), m_copy(new QPushButton(tr("Copy"))) {
+    : QWidget(parent), m_field(new QLineEdit(command)), m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
     m_field->setReadOnly(true);
     m_field->setCursorPosition(0);
     // Commands read from left to right in every language.

@@ -7,6 +7,7 @@
 
 #include "platform/qt/PicturePainter.h"
 #include "platform/qt/ThemePalette.h"
+#include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -43,6 +44,7 @@ HeroStage::HeroStage(QWidget* parent)
     m_badge->setSymbol(WindowSymbol::caution, &AppTheme::caution, tr("Cannot be read"));
     m_badge->setDisc(&AppTheme::cautionSoft);
     m_play->setAutoRaise(true);
+    m_play->setIcon(SymbolIcon::of(windowSymbol(WindowSymbol::play)));
     m_play->setAccessibleName(tr("Show the gesture again"));
     m_play->setToolTip(m_play->accessibleName());
     connect(m_play, &QToolButton::clicked, this, &HeroStage::playPressed);

@@ -1,7 +1,9 @@
 #include "ui/overview/WelcomeSteps.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "ui/pictures/WindowSymbol.h"
 #include "ui/widgets/SymbolIcon.h"
 
 namespace kinesta {
