@@ -77,7 +77,7 @@ struct LinuxActions::Parts {
     DesktopPermission permission{poster, notificationsOnScreen, [this] {
                                      const auto facts = DesktopFacts::probeInput(connection, UinputDevice::kPath);
                                      const auto finding = session(facts).finding(DesktopCapability::sendInput);
-                                     return finding.why + " " + finding.remedy;
+                                     return finding.why + " " + finding.remedy + " " + finding.command;
                                  }};
     LinuxSystemVersion systemVersion;
     PosixHomeFolders homeFolders;
