@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QPainter>
 #include <QVBoxLayout>
 #include <QWidget>
+
+#include "app/AppTheme.h"
 
 namespace kinesta {
 
@@ -21,6 +24,8 @@ class Card : public QWidget {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// Paints below the parts, inside the shape of the card.
+    virtual void paintGround(QPainter& /*painter*/, const AppTheme& /*theme*/) {}
 
   private:
     QVBoxLayout* m_column;
