@@ -45,7 +45,9 @@ void Row::setControl(QWidget* control) {
 void Row::measure() {
     const int padding = Unit::of(kPadding);
     // A switch ends where other controls do; the room for its ring stands out.
-    const int atEnd = inset() - (qobject_cast<Switch*>(m_control) != nullptr ? FocusRing::room() : 0);
+    const bool endsWithSwitch = m_control != nullptr && (qobject_cast<Switch*>(m_control) != nullptr ||
+                                                         m_control->findChild<Switch*>() != nullptr);
+    const int atEnd = inset() - (endsWithSwitch ? FocusRing::room() : 0);
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     m_line->setContentsMargins(isMirrored ? atEnd : inset(), padding, isMirrored ? inset() : atEnd, padding);
     setMinimumHeight(Unit::of(kHeight));

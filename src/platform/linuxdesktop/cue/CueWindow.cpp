@@ -68,7 +68,8 @@ void CueWindow::showEvent(QShowEvent* event) {
 
 void CueWindow::paintEvent(QPaintEvent* /*event*/) {
     if (m_drawn.devicePixelRatio() != devicePixelRatioF() || m_drawn.isNull())
-        m_drawn = CuePainter::image(m_content, {m_groundOpacity, m_hasCompositor, layoutDirection()}, devicePixelRatioF());
+        m_drawn =
+            CuePainter::image(m_content, {m_groundOpacity, m_hasCompositor, layoutDirection()}, devicePixelRatioF());
     QPainter painter(this);
     painter.setOpacity(m_hasCompositor ? m_alpha : 1);
     painter.drawImage(QPointF(), m_drawn);
