@@ -152,6 +152,7 @@ class Application {
 
     UserDefaults& defaultsThatTell() {
         m_desktop.onSettingsProblem(teller());
+        m_desktop.saveInBackground();
         return m_desktop.defaults();
     }
 

@@ -68,8 +68,9 @@ class Desktop {
 
     // The settings
 
-    /// `tell` receives why settings cannot be read or stored. Must be called before defaults() is first used.
-    virtual void onSettingsProblem(Tell tell) = 0;
+    /// `tell` receives why settings cannot be read or stored, in place of the one that is returned. Must be called
+    /// before defaults() is first used.
+    virtual Tell onSettingsProblem(Tell tell) = 0;
     virtual UserDefaults& defaults() = 0;
     /// Reads the stored settings again. Returns whether another process has changed a value.
     virtual bool reloadDefaults() = 0;
