@@ -111,6 +111,16 @@ std::optional<FindingRow> WorksHereModel::rowOf(const SystemFinding& finding) co
                       ? translated("1 rule needs this")
                       : translated("%1 rules need this", {std::to_string(finding.rulesInNeed)});
     }
+    // The pad may have come meanwhile, or a recording takes its place.
+    if (finding.subject == FindingSubject::touchpad && !finding.works &&
+        m_parts.service.status().value().kind == TrackpadContactProviderStatus::Kind::listening) {
+        row.mark = Mark::works;
+        row.why = translated("It is being read.");
+        row.remedy.clear();
+        row.command.clear();
+        row.tag.clear();
+        return row;
+    }
     // The settings are in this window.
     if (finding.isSetting) {
         row.button = Button::openSettings;
