@@ -83,7 +83,8 @@ void AboutSheet::showLicences() {
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setWindowModality(Qt::WindowModal);
     sheet->setWindowTitle(tr("Licences"));
-    auto* text = new QPlainTextEdit(QString::fromUtf8(Licences::kOwn) + u'\n' + QString::fromUtf8(Licences::kLibraries));
+    auto* text =
+        new QPlainTextEdit(QString::fromUtf8(Licences::kOwn) + u'\n' + QString::fromUtf8(Licences::kLibraries));
     text->setReadOnly(true);
     // Tab leaves the text, and the keys move in it.
     text->setTabChangesFocus(true);
