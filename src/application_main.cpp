@@ -17,6 +17,7 @@
 #include "platform/linuxdesktop/DoctorReport.h"
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
+#include "platform/linuxdesktop/cue/CompositorWatch.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
 #include "platform/linuxdesktop/cue/DesktopScreens.h"
 #include "platform/linuxdesktop/session/ControlService.h"
@@ -28,7 +29,9 @@
 #include "platform/qt/QtConfigurationWindow.h"
 #include "platform/qt/QtMainThread.h"
 #include "platform/qt/QtTermination.h"
+#include "platform/qt/Translations.h"
 #include "support/Translation.h"
+#include "ui/style/KinestaStyle.h"
 #include "ui/widgets/WindowTheme.h"
 #include "ui/window/KinestaWindow.h"
 
@@ -165,6 +168,7 @@ class Application {
 
     std::unique_ptr<QWidget> makeWindow() {
         ActionExecutor& actions = m_app.executor();
+        QApplication::setStyle(new KinestaStyle(CompositorWatch::blendsWindows));
         return std::make_unique<KinestaWindow>(
             WindowParts{.desktop = m_desktop,
                         .store = m_app.store(),
@@ -306,6 +310,7 @@ int main(int argc, char** argv) {
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);
+    installTranslations(ProgramFiles::ofThisProcess().translations());
 
     QtMainThread mainLoop;
     LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());

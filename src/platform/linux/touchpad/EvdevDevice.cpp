@@ -88,6 +88,17 @@ EvdevDevice::EvdevDevice(FileDescriptor descriptor, std::unique_ptr<libevdev, Li
 
 EvdevDevice::~EvdevDevice() = default;
 
+double EvdevDevice::proportions() const {
+    const auto length = [this](unsigned axis) {
+        const input_absinfo* range = libevdev_get_abs_info(m_device.get(), axis);
+        return range && range->resolution > 0
+                   ? (range->maximum - static_cast<double>(range->minimum)) / range->resolution
+                   : 0;
+    };
+    const double height = length(ABS_Y);
+    return height > 0 ? length(ABS_X) / height : 0;
+}
+
 int EvdevDevice::fingers() const {
     // A report without slots can list any number of contacts.
     if (m_touchpad.slotCount == 0 && libevdev_has_event_code(m_device.get(), EV_ABS, ABS_MT_POSITION_X))
