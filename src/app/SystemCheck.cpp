@@ -178,11 +178,19 @@ std::optional<Obstacle> obstacleToLetter(const GestureAction& action, Desktop& d
                     "Add a layout with Latin letters, such as us, to those that you switch between."};
 }
 
+std::optional<Obstacle> obstacleToWindow(Desktop& desktop) {
+    if (desktop.runningApplication().report())
+        return std::nullopt;
+    return Obstacle{"Only the application has a window, and it does not run.", "Start Kinesta without a subcommand."};
+}
+
 void addObstacles(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
     for (const GestureRule& rule : rules) {
         if (!rule.isEnabled)
             continue;
-        auto obstacle = kinesta::obstacleTo(rule.action, desktop);
+        auto obstacle = rule.action.kind == ActionKind::toggleConfigurationWindow
+                            ? obstacleToWindow(desktop)
+                            : kinesta::obstacleTo(rule.action, desktop);
         if (!obstacle)
             obstacle = obstacleToLetter(rule.action, desktop);
         if (obstacle)
