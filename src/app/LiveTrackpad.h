@@ -69,8 +69,10 @@ struct ConnectedTrackpad {
     bool mayBeOff = false;
     /// How many fingers it reports at once; 0 if that is not known.
     int fingers = 0;
-    /// Why it cannot be read and what to do, as a sentence; empty if it can.
+    /// Why it cannot be read, as a sentence; empty if it can.
     std::string problem;
+    /// The command line that lets this person read it, if that is what is missing.
+    std::string command;
 };
 
 struct ConnectedTrackpads {

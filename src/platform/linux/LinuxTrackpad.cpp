@@ -46,6 +46,7 @@ ConnectedTrackpads LinuxTrackpad::connected(const UserDefaults& defaults, const 
         trackpad.mayBeOff = listed.mayBeOff;
         trackpad.fingers = listed.fingers;
         trackpad.problem = std::move(listed.problem);
+        trackpad.command = std::move(listed.command);
     }
     if (trackpads.chosen() == nullptr)
         trackpads.whenNoneIsChosen = {noTouchpadMessage(wanted),

@@ -24,7 +24,7 @@ constexpr unsigned kPropertyPressurePad = 0x07;
 Error openingError(const TouchpadCandidate& candidate, int error) {
     const std::string pad = "The trackpad \"" + candidate.name + "\" (" + candidate.path + ") ";
     if (error == EACCES || error == EPERM)
-        return {pad + "may not be read; to allow it, run: " + touchpadAccessCommand()};
+        return {pad + "may not be read" + touchpadAccessAdvice()};
     return {pad + "cannot be read: " + std::strerror(error) + "."};
 }
 
