@@ -48,6 +48,7 @@ class Tile final : public QAbstractButton {
   private:
     bool isPictureAbove() const;
     QSize pictureSize() const;
+    int side() const;
     QFont wordFont(bool isChosen) const;
 
     Form m_form;
