@@ -20,6 +20,7 @@ constexpr double kSmallGap = 5;
 constexpr double kTop = 9;
 constexpr double kTallHeight = 84;
 constexpr double kFlatHeight = 36;
+constexpr double kCardWidth = 104;
 constexpr double kSide = 4;
 constexpr double kTallSide = 2;
 
@@ -59,7 +60,7 @@ QFont Tile::wordFont(bool isChosen) const {
     return Unit::font(m_form == Form::tall ? 0.88 : 0.92, isChosen ? QFont::DemiBold : QFont::Medium);
 }
 
-bool Tile::isPictureAbove() const { return m_form == Form::tall || (m_isAbove && !text().isEmpty()); }
+bool Tile::isPictureAbove() const { return m_form != Form::flat || (m_isAbove && !text().isEmpty()); }
 
 void Tile::setPictureAbove(bool isAbove) {
     m_isAbove = isAbove;
@@ -77,7 +78,7 @@ QSize Tile::minimumSizeHint() const {
     const QSize picture = pictureSize();
     // Words break between lines, never inside.
     int widest = picture.width();
-    const auto words = text().split(QLatin1Char(' '));
+    const auto words = m_form == Form::card ? QStringList(text()) : text().split(QLatin1Char(' '));
     for (const QString& word : words)
         widest = std::max(widest, metrics.horizontalAdvance(word));
     const int width = widest + 2 * side();
@@ -91,6 +92,8 @@ QSize Tile::minimumSizeHint() const {
 
 QSize Tile::sizeHint() const {
     const QSize smallest = minimumSizeHint();
+    if (m_form == Form::card)
+        return {std::max(Unit::of(kCardWidth), smallest.width()), smallest.height()};
     return m_form == Form::tall ? smallest : QSize(widthBeside(), smallest.height());
 }
 
