@@ -139,6 +139,8 @@ void RuleEditorModel::edit(const Change& change, std::optional<TypedField> field
     // Known before the store publishes, which is when the content is made.
     if (before.isEnabled && !rule.isReady())
         m_wasSwitchedOffByEdit = true;
+    if (before.action.isShellCommandAcknowledged() && !rule.action.shellCommandAcknowledged)
+        m_mustConfirmAgain = true;
     const auto save = [&] { binding->set(std::move(rule)); };
     if (field)
         m_parts.history.record(save, m_id, *field);
@@ -162,6 +164,8 @@ void RuleEditorModel::follow(const std::vector<GestureRule>& rules) {
 
 void RuleEditorModel::publish(const std::vector<GestureRule>& rules, const GestureRule& rule) {
     m_wasSwitchedOffByEdit = m_wasSwitchedOffByEdit && !rule.isEnabled;
+    m_mustConfirmAgain =
+        m_mustConfirmAgain && rule.action.kind == ActionKind::shellCommand && !rule.action.isShellCommandAcknowledged();
     RuleEditorContent content{.rule = rule,
                               .type = gestureTypeChoice(rule.gesture),
                               .actionKinds = actionKindsFor(rule.gesture),
@@ -172,6 +176,7 @@ void RuleEditorModel::publish(const std::vector<GestureRule>& rules, const Gestu
     findRivals(content, rules);
     content.wasSwitchedOffByEdit = m_wasSwitchedOffByEdit;
     content.canTurnOn = m_wasSwitchedOffByEdit && !content.missing;
+    content.mustConfirmAgain = m_mustConfirmAgain;
     content.waitsForGesture = m_waitsForGesture;
     publishIfChanged(m_content, std::move(content));
 }

@@ -44,6 +44,8 @@ struct RuleEditorContent {
     /// An edit made the rule unready, so it was switched off. It can be turned on once nothing is missing.
     bool wasSwitchedOffByEdit = false;
     bool canTurnOn = false;
+    /// The shell command was confirmed before its text changed.
+    bool mustConfirmAgain = false;
     /// The next recognized gesture becomes that of the rule.
     bool waitsForGesture = false;
 
@@ -103,6 +105,9 @@ class RuleEditorModel {
     /// An empty label stands for none.
     void setCueLabel(const std::string& label);
 
+    /// The next keystroke begins a step of the history: a field has lost the focus.
+    void endTyping() { m_parts.history.endTyping(); }
+
   private:
     using Change = std::function<void(GestureRule&)>;
 
@@ -117,6 +122,7 @@ class RuleEditorModel {
     Uuid m_id;
     bool m_isGone = false;
     bool m_wasSwitchedOffByEdit = false;
+    bool m_mustConfirmAgain = false;
     bool m_waitsForGesture = false;
     bool m_hasBegunSession = false;
     DelayedTask m_rest;

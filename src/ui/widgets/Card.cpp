@@ -21,8 +21,8 @@ Card::Card(QWidget* parent) : QWidget(parent), m_column(new QVBoxLayout(this)) {
     m_column->setSpacing(0);
 }
 
-void Card::add(QWidget* part) {
-    m_column->addWidget(part);
+void Card::insert(int index, QWidget* part) {
+    m_column->insertWidget(index, part);
     part->installEventFilter(this);
 }
 

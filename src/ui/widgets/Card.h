@@ -19,7 +19,9 @@ class Card : public QWidget {
     explicit Card(QWidget* parent = nullptr);
 
     /// Takes the widget in below the others: a Row, a Notice or a part of a page.
-    void add(QWidget* part);
+    void add(QWidget* part) { insert(m_column->count(), part); }
+    /// Takes it in above the one at `index`.
+    void insert(int index, QWidget* part);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
