@@ -22,6 +22,7 @@ constexpr double kTallHeight = 84;
 constexpr double kFlatHeight = 36;
 constexpr double kCardWidth = 104;
 constexpr double kSide = 4;
+constexpr double kTallSide = 2;
 
 Tile::Paint gesturePaint(double width, const PadGesture& gesture) {
     return [width, gesture](QPainter& painter, QPointF at, const AppTheme& theme) {
@@ -53,6 +54,8 @@ void Tile::setGesture(double width, const PadGesture& gesture) { setPaint(gestur
 
 QSize Tile::pictureSize() const { return Unit::of(m_picture.width(), m_picture.height()); }
 
+int Tile::side() const { return Unit::of(m_form == Form::tall ? kTallSide : kSide); }
+
 QFont Tile::wordFont(bool isChosen) const {
     return Unit::font(m_form == Form::tall ? 0.88 : 0.92, isChosen ? QFont::DemiBold : QFont::Medium);
 }
@@ -78,7 +81,7 @@ QSize Tile::minimumSizeHint() const {
     const auto words = m_form == Form::card ? QStringList(text()) : text().split(QLatin1Char(' '));
     for (const QString& word : words)
         widest = std::max(widest, metrics.horizontalAdvance(word));
-    const int width = widest + 2 * Unit::of(kSide);
+    const int width = widest + 2 * side();
     if (!isPictureAbove())
         return {width, std::max(Unit::of(kFlatHeight), picture.height() + Unit::of(kGap))};
     const int lines = m_form == Form::tall ? 2 : 1;
@@ -112,8 +115,7 @@ void Tile::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(wordFont(isChecked()));
     const QFontMetrics metrics = painter.fontMetrics();
     const QSize picture = pictureSize();
-    const int side = Unit::of(kSide);
-    QRect words = rect().adjusted(side, 0, -side, 0);
+    QRect words = rect().adjusted(side(), 0, -side(), 0);
     QPoint at;
     int flags = Qt::TextWordWrap | Qt::AlignHCenter | Qt::AlignTop;
     if (isPictureAbove()) {
@@ -127,7 +129,7 @@ void Tile::paintEvent(QPaintEvent* /*event*/) {
         flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
         if (layoutDirection() == Qt::RightToLeft) {
             at.setX(width() - at.x() - picture.width());
-            words = QRect(side, 0, at.x() - gap - side, height());
+            words = QRect(side(), 0, at.x() - gap - side(), height());
             flags = Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine;
         }
     }

@@ -50,6 +50,7 @@ class Tile final : public QAbstractButton {
   private:
     bool isPictureAbove() const;
     QSize pictureSize() const;
+    int side() const;
     QFont wordFont(bool isChosen) const;
 
     Form m_form;
