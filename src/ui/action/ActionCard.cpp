@@ -181,8 +181,10 @@ void ActionCard::showPart(ActionKind kind) {
     if (!m_part)
         return;
     int index = 1;
-    for (QWidget* row : m_part->rows())
+    for (QWidget* row : m_part->rows()) {
         insert(index++, row);
+        row->show();
+    }
     orderTabs();
 }
 

@@ -1,7 +1,7 @@
 #include "ui/action/CommandField.h"
 
+#include <QFocusEvent>
 #include <QFontDatabase>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QTextBlock>
 #include <algorithm>
@@ -58,19 +58,6 @@ void CommandField::show(const QString& text) {
     m_isFollowing = false;
 }
 
-bool CommandField::event(QEvent* event) {
-    // The field's own steps come first. Without one, the window undoes its own.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        if ((key.matches(QKeySequence::Undo) && !document()->isUndoAvailable()) ||
-            (key.matches(QKeySequence::Redo) && !document()->isRedoAvailable())) {
-            event->ignore();
-            return false;
-        }
-    }
-    return QPlainTextEdit::event(event);
-}
-
 void CommandField::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
     if (event->reason() == Qt::PopupFocusReason)
@@ -101,8 +88,10 @@ void CommandField::fitHeight() {
     // The layout of plain text counts in lines.
     const int lines = std::clamp(static_cast<int>(std::ceil(document()->size().height())), kFewestLines, kMostLines);
     const QMargins margins = viewportMargins();
-    const double words = lines * QFontMetricsF(font()).lineSpacing() + 2 * document()->documentMargin();
-    setFixedHeight(static_cast<int>(std::ceil(words)) + margins.top() + margins.bottom());
+    const double line = std::ceil(QFontMetricsF(font()).lineSpacing());
+    const double words = lines * line + 2 * document()->documentMargin();
+    // Without the last pixel it would scroll.
+    setFixedHeight(static_cast<int>(std::ceil(words)) + margins.top() + margins.bottom() + 1);
 }
 
 }  // namespace kinesta

@@ -23,7 +23,6 @@ class CommandField final : public QPlainTextEdit {
     void refused();
 
   protected:
-    bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
