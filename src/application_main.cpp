@@ -17,6 +17,7 @@
 #include "platform/linuxdesktop/DoctorReport.h"
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
+#include "platform/linuxdesktop/appearance/IconFolders.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
 #include "platform/linuxdesktop/cue/DesktopScreens.h"
 #include "platform/linuxdesktop/session/ControlService.h"
@@ -301,6 +302,7 @@ int main(int argc, char** argv) {
     std::optional<SessionBusCheck> busCheck(std::in_place);
     std::optional<XWaylandPreference> preference(std::in_place);
     const QApplication qt(argc, argv);
+    useIconFolders();
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);

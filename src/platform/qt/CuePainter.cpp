@@ -23,6 +23,8 @@ constexpr double kLabelInset = 44;
 constexpr double kLabelEnd = 16;
 constexpr double kLabelPixels = 14;
 constexpr double kMostLabelPixels = 18;
+/// In characters, more than fit. To elide megabytes takes minutes.
+constexpr qsizetype kMostLabel = 200;
 /// The line height of the font in which the label has kLabelPixels.
 constexpr double kUnitHeight = 16;
 
@@ -103,7 +105,7 @@ QImage drawnWords(const ActionCueContent& content, Qt::LayoutDirection direction
     const QFont font = labelFont();
     painter.setFont(font);
     painter.setPen(kInk);
-    const QString text = QString::fromStdString(content.label).simplified();
+    const QString text = QString::fromStdString(content.label).left(kMostLabel).simplified();
     const Qt::Alignment side = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
     QTextOption option(side | Qt::AlignAbsolute | Qt::AlignVCenter);
     // From the text itself: the keys of a shortcut keep their order in every language.

@@ -18,8 +18,8 @@ constexpr int kMostLines = 8;
 constexpr double kPaddingX = 6;
 constexpr double kPaddingY = 2;
 constexpr double kSize = 0.92;
-/// A program gets no longer argument on Linux, in bytes.
-constexpr qsizetype kLongest = 131'071;
+/// Of a longer command only the beginning is shown: it cannot run, and the layout of megabytes takes minutes.
+constexpr qsizetype kShownOfTooLong = 2'000;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ CommandField::CommandField(const QString& name, QWidget* parent) : QPlainTextEdi
 }
 
 void CommandField::follow(const QString& stored) {
-    QString text = stored;
+    QString text = stored.size() > longest ? stored.left(kShownOfTooLong) : stored;
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QChar::Nbsp, QLatin1Char(' '));
     m_stored = cleanText(text, Lines::many);
     // Whoever has typed and not left yet goes on with that text.
@@ -78,7 +78,7 @@ void CommandField::insertFromMimeData(const QMimeData* source) {
     text = cleanText(text, Lines::many);
     // Part of a command can do something else, so nothing is cut off.
     const qsizetype remaining = document()->characterCount() - textCursor().selectedText().size();
-    if (text.size() + remaining > kLongest || text.toUtf8().size() + remaining > kLongest)
+    if (text.size() + remaining > longest || text.toUtf8().size() + remaining > longest)
         Q_EMIT refused();
     else
         textCursor().insertText(text);
