@@ -18,6 +18,7 @@
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
 #include "platform/linuxdesktop/cue/CompositorWatch.h"
+#include "platform/linuxdesktop/appearance/IconFolders.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
 #include "platform/linuxdesktop/cue/DesktopScreens.h"
 #include "platform/linuxdesktop/session/ControlService.h"
@@ -307,6 +308,7 @@ int main(int argc, char** argv) {
     std::optional<SessionBusCheck> busCheck(std::in_place);
     std::optional<XWaylandPreference> preference(std::in_place);
     const QApplication qt(argc, argv);
+    useIconFolders();
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);
