@@ -9,8 +9,8 @@ help: ## This list
 	@sed -nE 's/^([a-z-]+):.*## (.*)/\1|\2/p' $(MAKEFILE_LIST) | while IFS='|' read -r target text; do \
 		printf '  make %-14s %s\n' "$$target" "$$text"; done
 
-run: build ## Build Kinesta and watch it recognize real recordings
-	@$(KINESTA) demo
+run: build ## Build Kinesta and start it; without a display, watch it recognize real recordings
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then $(KINESTA); else $(KINESTA) demo; fi
 
 build: ## Build the optimized programs; build/release/bin/kinesta starts them all
 	@scripts/install-dependencies build

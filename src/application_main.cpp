@@ -29,6 +29,7 @@
 #include "platform/qt/QtConfigurationWindow.h"
 #include "platform/qt/QtMainThread.h"
 #include "platform/qt/QtTermination.h"
+#include "platform/qt/Translations.h"
 #include "support/Translation.h"
 #include "ui/style/KinestaStyle.h"
 #include "ui/widgets/WindowTheme.h"
@@ -154,6 +155,7 @@ class Application {
 
     UserDefaults& defaultsThatTell() {
         m_desktop.onSettingsProblem(teller());
+        m_desktop.saveInBackground();
         return m_desktop.defaults();
     }
 
@@ -202,11 +204,13 @@ class Application {
         auto* window = configurationWindow();
         if (window == nullptr)
             return;
-        std::vector<std::string> notices;
+        std::vector<OverviewNotice> notices;
+        for (const std::string& problem : m_problems)
+            notices.push_back({OverviewNotice::Kind::problem, problem});
         if (m_isTrayDue && m_statusItem.kind().value() == TrayKind::none)
             notices.push_back(
-                translated("This desktop shows no status icons. Start Kinesta again to come back to this window."));
-        notices.insert(notices.end(), m_problems.begin(), m_problems.end());
+                {OverviewNotice::Kind::remark,
+                 translated("This desktop shows no status icons. Start Kinesta again to come back to this window.")});
         window->setNotices(std::move(notices));
     }
 
@@ -265,7 +269,7 @@ class Application {
     App m_app{desktopWithCue(), teller()};
     LaunchAtLoginManager m_login{m_desktop.loginItem()};
     SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
-    DoctorReport m_report{m_mainLoop, m_files.program().string()};
+    DoctorReport m_report{m_files.program().string(), KINESTA_VERSION};
     DesktopApplications m_applications;
     ApplicationControl m_control{{.store = m_app.store(),
                                   .service = m_app.recognition().service(),
@@ -306,6 +310,7 @@ int main(int argc, char** argv) {
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);
+    installTranslations(ProgramFiles::ofThisProcess().translations());
 
     QtMainThread mainLoop;
     LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());

@@ -10,7 +10,9 @@
 
 #include "actions/ActionPorts.h"
 #include "app/DesktopFindings.h"
+#include "app/KeyRecording.h"
 #include "app/LiveTrackpad.h"
+#include "app/PlatformSettings.h"
 #include "app/RunningApplication.h"
 #include "app/WindowActionOutcomes.h"
 #include "rules/SystemGestureWarningChecker.h"
@@ -68,8 +70,9 @@ class Desktop {
 
     // The settings
 
-    /// `tell` receives why settings cannot be read or stored. Must be called before defaults() is first used.
-    virtual void onSettingsProblem(Tell tell) = 0;
+    /// `tell` receives why settings cannot be read or stored, in place of the one that is returned. Must be called
+    /// before defaults() is first used.
+    virtual Tell onSettingsProblem(Tell tell) = 0;
     virtual UserDefaults& defaults() = 0;
     /// Reads the stored settings again. Returns whether another process has changed a value.
     virtual bool reloadDefaults() = 0;
@@ -83,6 +86,7 @@ class Desktop {
     virtual std::string howToSet(std::string_view key, const std::string& value) const = 0;
     /// The folder of the settings, for files that belong to them. Created if it is missing.
     virtual Result<std::filesystem::path> settingsFolder() = 0;
+    virtual PlatformSettings platformSettings() const = 0;
 
     // The trackpad
 
@@ -119,6 +123,10 @@ class Desktop {
     /// Whether a shortcut with the key of this code and name reaches programs as the letter in its name. True if the
     /// name is not a letter.
     virtual bool typesLetterOf(std::uint16_t keyCode, const std::string& name) = 0;
+    /// Whether tiling commands can move windows here. May ask the window manager.
+    virtual bool tilesWindows() = 0;
+    /// Valid until finishActions().
+    virtual KeyRecording& keyRecording() = 0;
     /// Why the application at this absolute path cannot be started. The path must exist.
     virtual std::optional<Obstacle> obstacleToLaunching(const std::string& application) = 0;
 };

@@ -84,22 +84,56 @@ void RuleHistory::record(const std::function<void()>& change, const Uuid& rule, 
     if (step.isEmpty())
         return;
     m_typing = Typing{rule, field, now};
-    if (!goesOn || m_done.empty() || m_done.back().edits.size() != 1 || step.edits.size() != 1) {
+    if (goesOn && !m_done.empty() && m_done.back().isSingleEdit() && step.isSingleEdit())
+        m_done.back().edits.front().after = std::move(step.edits.front().after);
+    else
         keep(std::move(step));
-        return;
-    }
-    Edit& edit = m_done.back().edits.front();
-    edit.after = std::move(step.edits.front().after);
-    if (edit.before == edit.after) {
-        m_done.pop_back();
-        endTyping();
-    }
+    dropWhatCancelsOut();
     publish();
 }
 
-void RuleHistory::undo() { move(m_done, m_undone, Direction::back); }
+void RuleHistory::recordReplacement(const std::function<void()>& change) {
+    endTyping();
+    Rules before = m_known;
+    changeOf(change);
+    if (before == m_known)
+        return;
+    Step step;
+    step.lists.emplace(std::move(before), m_known);
+    keep(std::move(step));
+}
 
-void RuleHistory::redo() { move(m_undone, m_done, Direction::forth); }
+void RuleHistory::recordOther(std::function<void()> back, std::function<void()> forth) {
+    endTyping();
+    Step step;
+    step.back = std::move(back);
+    step.forth = std::move(forth);
+    keep(std::move(step));
+}
+
+std::optional<Uuid> RuleHistory::undo() { return move(m_done, m_undone, Direction::back); }
+
+std::optional<Uuid> RuleHistory::redo() { return move(m_undone, m_done, Direction::forth); }
+
+/// A field has an undo of its own, which arrives as typing: it takes back what was typed, so nothing is left to undo.
+void RuleHistory::dropWhatCancelsOut() {
+    if (m_done.empty() || !m_done.back().isSingleEdit())
+        return;
+    const Edit& last = m_done.back().edits.front();
+    if (last.before == last.after) {
+        m_done.pop_back();
+        endTyping();
+        return;
+    }
+    if (m_done.size() < 2 || !m_done[m_done.size() - 2].isSingleEdit())
+        return;
+    const Edit& previous = m_done[m_done.size() - 2].edits.front();
+    if (previous.before == last.after && previous.after == last.before) {
+        m_done.pop_back();
+        m_done.pop_back();
+        endTyping();
+    }
+}
 
 RuleHistory::Step RuleHistory::difference(const Rules& before, const Rules& after) {
     std::map<Uuid, const GestureRule*> previous;
@@ -146,6 +180,9 @@ void RuleHistory::follow(const Rules& rules) {
     if (m_isOwnChange)
         return;
     endTyping();
+    if (before != rules)
+        for (auto* steps : {&m_done, &m_undone})
+            std::erase_if(*steps, [](const Step& step) { return step.lists.has_value(); });
     const Step change = difference(before, rules);
     clearMeaningless(m_done, change, rules);
     clearMeaningless(m_undone, change, rules);
@@ -175,14 +212,26 @@ void RuleHistory::clearMeaningless(std::vector<Step>& steps, const Step& change,
     std::erase_if(steps, [](const Step& step) { return step.isEmpty(); });
 }
 
-void RuleHistory::move(std::vector<Step>& from, std::vector<Step>& to, Direction direction) {
+std::optional<Uuid> RuleHistory::move(std::vector<Step>& from, std::vector<Step>& to, Direction direction) {
     if (from.empty())
-        return;
+        return std::nullopt;
     endTyping();
-    Step step = std::move(from.back());
+    to.push_back(std::move(from.back()));
     from.pop_back();
-    const bool isBack = direction == Direction::back;
+    const Step step = to.back();  // what is called may change the list of steps
+    apply(step, direction == Direction::back);
+    publish();
+    return step.edits.empty() ? std::nullopt : std::optional(step.edits.front().after.id);
+}
+
+void RuleHistory::apply(const Step& step, bool isBack) {
+    if (step.back) {
+        isBack ? step.back() : step.forth();
+        return;
+    }
     Rules rules = m_known;
+    if (step.lists)
+        rules = isBack ? step.lists->first : step.lists->second;
     for (const Edit& edit : step.edits) {
         const auto rule = std::ranges::find(rules, edit.after.id, &GestureRule::id);
         for (const Part& part : kParts)
@@ -191,9 +240,7 @@ void RuleHistory::move(std::vector<Step>& from, std::vector<Step>& to, Direction
     }
     if (!step.orderBefore.empty())
         reorder(rules, isBack ? step.orderBefore : step.orderAfter);
-    to.push_back(std::move(step));
     changeOf([&] { m_store.setRules(std::move(rules)); });
-    publish();
 }
 
 void RuleHistory::publish() {

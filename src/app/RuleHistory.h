@@ -21,8 +21,9 @@ enum class TypedField { name, cueLabel, value, arguments };
 /// - a rule that was deleted: its edits, and its part in changes of the order;
 /// - a rule that was changed (by an import, another process or an action): the edits of the same part of it. The parts
 ///   are the name, the switch, whether it shows a cue, and gesture with action;
-/// - rules in another order: all changes of the order.
-/// A rule that was added clears nothing.
+/// - rules in another order: all changes of the order;
+/// - anything: a replacement of the whole list.
+/// A rule that was added clears nothing else.
 class RuleHistory {
   public:
     /// A pause of this length between keystrokes ends a step.
@@ -46,12 +47,16 @@ class RuleHistory {
     void record(const std::function<void()>& change);
     /// The same for one keystroke in a field of a rule.
     void record(const std::function<void()>& change, const Uuid& rule, TypedField field);
+    /// Replaces the whole list with `change`, as one step.
+    void recordReplacement(const std::function<void()>& change);
+    /// Keeps a step of something else than rules, which has happened: how to take it back, and how to do it again.
+    void recordOther(std::function<void()> back, std::function<void()> forth);
     /// The next keystroke begins a step: the field has lost the focus.
     void endTyping() { m_typing.reset(); }
 
-    /// Each does nothing if it is not possible.
-    void undo();
-    void redo();
+    /// Each does nothing if it is not possible. Returns a rule that it changed, if there is one.
+    std::optional<Uuid> undo();
+    std::optional<Uuid> redo();
 
   private:
     using Rules = std::vector<GestureRule>;
@@ -66,8 +71,15 @@ class RuleHistory {
         /// The rules that both lists have in common; empty if their order is the same.
         std::vector<Uuid> orderBefore;
         std::vector<Uuid> orderAfter;
+        /// The whole list before and after, if it was replaced.
+        std::optional<std::pair<Rules, Rules>> lists;
+        /// Something else than rules.
+        std::function<void()> back;
+        std::function<void()> forth;
 
-        bool isEmpty() const { return edits.empty() && orderBefore.empty(); }
+        bool isEmpty() const { return edits.empty() && orderBefore.empty() && !lists && !back; }
+        /// One edit and nothing else.
+        bool isSingleEdit() const { return edits.size() == 1 && orderBefore.empty() && !lists && !back; }
     };
     struct Typing {
         Uuid rule;
@@ -80,8 +92,10 @@ class RuleHistory {
     static void clearMeaningless(std::vector<Step>& steps, const Step& change, const Rules& rules);
     Step changeOf(const std::function<void()>& change);
     void keep(Step step);
+    void dropWhatCancelsOut();
     void follow(const Rules& rules);
-    void move(std::vector<Step>& from, std::vector<Step>& to, Direction direction);
+    std::optional<Uuid> move(std::vector<Step>& from, std::vector<Step>& to, Direction direction);
+    void apply(const Step& step, bool isBack);
     void publish();
 
     RuleStore& m_store;

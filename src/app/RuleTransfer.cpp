@@ -104,9 +104,15 @@ Result<ImportedRules> importRules(Desktop& desktop, RuleStore& store, std::vecto
         return written.error();
 
     const std::size_t enabledInFile = enabledOf(rules);
-    desktop.onSettingsProblem({});  // it would announce a temporary change, but the change is undone here
+    // It would announce a temporary change, but the change is undone here.
+    Desktop::Tell tell = desktop.onSettingsProblem({});
+    const std::vector<GestureRule> previous = store.rules().value();
     store.replaceRules(std::move(rules));
-    if (const Outcome saved = desktop.lastSaving(); !saved) {
+    const Outcome saved = desktop.lastSaving();
+    if (!saved)
+        store.setRules(previous);
+    desktop.onSettingsProblem(std::move(tell));
+    if (!saved) {
         std::error_code ignored;
         std::filesystem::remove(imported.copy, ignored);
         return saved.error();

@@ -108,5 +108,35 @@ TEST(RuleHistory, ForgetsWhatOthersMadeMeaningless) {
     EXPECT_EQ(f.undo(), "N- C- other- ");
 }
 
+TEST(RuleHistory, CancelsTypingThatAFieldHasTakenBack) {
+    Fixture f;
+    f.disable(f.b);
+    f.type(f.a, "Ab");
+    f.type(f.a, "A", 5000);  // the field's own undo
+    EXPECT_EQ(f.undo(), "A B C >");
+}
+
+TEST(RuleHistory, TakesAReplacedListBackWithTheStepsAroundIt) {
+    Fixture f;
+    const auto import = [&] { f.store.replaceRules({f.store.rules().value().back()}); };
+    f.type(f.a, "x");
+    f.history.recordReplacement(import);
+    f.disable(f.store.rules().value().front().id);
+    EXPECT_EQ(f.text(), "C- <");
+    EXPECT_EQ(f.undo(2), "x B C <>");
+    EXPECT_EQ(f.undo(), "A B C >");
+    f.history.redo();
+    f.history.redo();
+    EXPECT_EQ(f.text(), "C <>");
+    f.store.addRule();  // the former list has no place for it
+    EXPECT_EQ(f.undo(), "C - >");
+    int settings = 1;
+    f.history.recordOther([&] { settings = 0; }, [&] { settings = 1; });
+    f.undo();
+    EXPECT_EQ(settings, 0);
+    f.history.redo();
+    EXPECT_EQ(settings, 1);
+}
+
 }  // namespace
 }  // namespace kinesta::testing

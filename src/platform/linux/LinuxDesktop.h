@@ -60,14 +60,17 @@ class LinuxDesktop final : public Desktop {
     std::filesystem::path examplesFolder() const override { return m_places.examples; }
     GestureSystem gestureSystem() const override { return m_places.gestureSystem; }
 
-    void onSettingsProblem(Tell tell) override { m_onSettingsProblem = std::move(tell); }
+    Tell onSettingsProblem(Tell tell) override { return std::exchange(m_onSettingsProblem, std::move(tell)); }
     UserDefaults& defaults() override { return fileDefaults(); }
     bool reloadDefaults() override { return fileDefaults().reload(); }
     Outcome checkSaving() override { return fileDefaults().checkSaving(); }
     Outcome lastSaving() override { return fileDefaults().lastSaving(); }
+    /// Changes of settings no longer wait for the disk: for the window, where each keystroke is one.
+    void saveInBackground() { fileDefaults().saveInBackground(m_mainLoop); }
     bool watchDefaults(std::function<void()> onChange) override;
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
+    PlatformSettings platformSettings() const override;
 
     void useStream(std::string path) override { m_stream = std::move(path); }
     LiveTrackpad& trackpad() override;
@@ -85,6 +88,8 @@ class LinuxDesktop final : public Desktop {
     const HomeFolders& homeFolders() const override { return m_homeFolders; }
     std::optional<Obstacle> obstacleToKey(std::uint16_t keyCode, std::uint64_t flags) override;
     bool typesLetterOf(std::uint16_t keyCode, const std::string& name) override;
+    bool tilesWindows() override { return actions().tilesWindows(); }
+    KeyRecording& keyRecording() override { return actions().keyRecording(); }
     std::optional<Obstacle> obstacleToLaunching(const std::string& application) override;
 
   private:

@@ -55,7 +55,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
             painter.fillRect(box, notice->ground(theme));
         if (!isFirst) {
             box.setHeight(1);
-            if (qobject_cast<const Row*>(part) != nullptr)
+            if (qobject_cast<const Row*>(part) != nullptr || part->property(kInsetLine).toBool())
                 layoutDirection() == Qt::RightToLeft ? box.setRight(box.right() - Row::inset())
                                                      : box.setLeft(box.left() + Row::inset());
             painter.fillRect(box, asQColor(theme.border));

@@ -10,6 +10,9 @@ class Card : public QWidget {
     Q_OBJECT
 
   public:
+    /// The property of a part whose line above it begins where its words do, as above a Row.
+    static constexpr const char* kInsetLine = "insetLine";
+
     explicit Card(QWidget* parent = nullptr);
 
     /// Takes the widget in below the others: a Row, a Notice or a part of a page.

@@ -43,6 +43,8 @@ void Page::addHeading(const QString& text, QWidget* atEnd) {
     add(heading);
 }
 
+void Page::setBackButton(QWidget* button) { m_column->insertWidget(0, button, 0, Qt::AlignLeading); }
+
 void Page::changeEvent(QEvent* event) {
     QScrollArea::changeEvent(event);
     if (event->type() == QEvent::FontChange)

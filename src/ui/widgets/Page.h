@@ -17,6 +17,9 @@ class Page : public QScrollArea {
     /// The heading above the next card, with a link or button at its end.
     void addHeading(const QString& text, QWidget* atEnd = nullptr);
 
+    /// The way back to the list, in a window of one pane: at the beginning of the page.
+    virtual void setBackButton(QWidget* button);
+
   protected:
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

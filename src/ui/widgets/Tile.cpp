@@ -20,6 +20,7 @@ constexpr double kSmallGap = 5;
 constexpr double kTop = 9;
 constexpr double kTallHeight = 84;
 constexpr double kFlatHeight = 36;
+constexpr double kCardWidth = 104;
 /// A narrower flat tile has its picture above the word.
 constexpr double kNarrow = 96;
 constexpr double kSide = 4;
@@ -58,14 +59,14 @@ QFont Tile::wordFont(bool isChosen) const {
     return Unit::font(m_form == Form::tall ? 0.88 : 0.92, isChosen ? QFont::DemiBold : QFont::Medium);
 }
 
-bool Tile::isPictureAbove() const { return m_form == Form::tall || (width() < Unit::of(kNarrow) && !text().isEmpty()); }
+bool Tile::isPictureAbove() const { return m_form != Form::flat || (width() < Unit::of(kNarrow) && !text().isEmpty()); }
 
 QSize Tile::minimumSizeHint() const {
     const QFontMetrics metrics(wordFont(true));
     const QSize picture = pictureSize();
     // Words break between lines, never inside.
     int widest = picture.width();
-    const auto words = text().split(QLatin1Char(' '));
+    const auto words = m_form == Form::card ? QStringList(text()) : text().split(QLatin1Char(' '));
     for (const QString& word : words)
         widest = std::max(widest, metrics.horizontalAdvance(word));
     const int width = widest + 2 * Unit::of(kSide);
@@ -82,6 +83,8 @@ QSize Tile::sizeHint() const {
     const QSize smallest = minimumSizeHint();
     if (m_form == Form::tall)
         return smallest;
+    if (m_form == Form::card)
+        return {std::max(Unit::of(kCardWidth), smallest.width()), smallest.height()};
     const int words = text().isEmpty() ? 0 : Unit::of(kGap) + metrics.horizontalAdvance(text());
     return {pictureSize().width() + words + 2 * Unit::of(kGap), smallest.height()};
 }

@@ -20,6 +20,8 @@ class Tile final : public QAbstractButton {
     enum class Form {
         /// The picture above two lines of small words.
         tall,
+        /// The picture above one word, as wide as a card of its own.
+        card,
         /// The picture beside the word.
         flat
     };

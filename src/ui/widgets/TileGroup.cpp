@@ -46,6 +46,14 @@ int TileGroup::widthFor(int columns) const {
     return columns * widest + (columns - 1) * m_grid->spacing();
 }
 
+QSize TileGroup::sizeHint() const {
+    // All columns, also while there is no room for them: the room may come back.
+    int widest = 0;
+    for (const QAbstractButton* button : buttons())
+        widest = std::max(widest, button->sizeHint().width());
+    return {m_columns * widest + (m_columns - 1) * m_grid->spacing(), m_grid->sizeHint().height()};
+}
+
 QSize TileGroup::minimumSizeHint() const { return {widthFor((m_columns + 1) / 2), m_grid->minimumSize().height()}; }
 
 void TileGroup::changeEvent(QEvent* event) {

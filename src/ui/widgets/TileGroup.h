@@ -18,6 +18,7 @@ class TileGroup final : public ChoiceGroup {
     void addTile(int value, Tile* tile);
     Tile* tile(std::size_t index) const { return static_cast<Tile*>(buttons().at(index)); }
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
   protected:

@@ -1,19 +1,44 @@
 #include "ui/window/KinestaWindow.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "app/Desktop.h"
+#include "app/SystemReport.h"
 #include "ui/about/AboutSheet.h"
 #include "ui/editor/RuleEditorPage.h"
+#include "ui/models/RuleEditing.h"
 #include "ui/overview/OverviewPage.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sidebar/Sidebar.h"
 #include "ui/trying/TestSheet.h"
+#include "ui/widgets/AccessibleParts.h"
 #include "ui/widgets/Unit.h"
+#include "ui/window/FieldUndo.h"
+#include "ui/window/Panes.h"
+#include "ui/window/RuleFiles.h"
+#include "ui/window/StepAside.h"
+#include "ui/window/Toast.h"
 
 namespace kinesta {
+namespace {
+
+/// The rule file that is dragged; empty if something else is.
+QString draggedFile(const QMimeData& data) {
+    const auto urls = data.urls();
+    return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
+}
+
+}  // namespace
 
 KinestaWindow::KinestaWindow(WindowParts parts)
     : m_parts(std::move(parts)),
@@ -24,24 +49,75 @@ KinestaWindow::KinestaWindow(WindowParts parts)
                        .testSession = m_parts.testSession,
                        .isPermissionMissing = m_parts.isPermissionMissing,
                        .isFirstLaunch = m_parts.isFirstLaunch}),
-      m_splitter(new QSplitter(this)),
+      m_place(m_parts.desktop.defaults()),
       m_sidebar(new Sidebar(m_list, *this)),
-      m_pages(new QStackedWidget) {
+      m_pages(new QStackedWidget),
+      m_panes(new Panes(m_sidebar, m_pages)),
+      m_toast(new Toast(m_pages)),
+      m_files(new RuleFiles(m_parts, m_history, *this, this)) {
+    AccessibleParts::install();
+    setAcceptDrops(true);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
-    all->addWidget(m_splitter);
-    m_splitter->addWidget(m_sidebar);
-    m_splitter->addWidget(m_pages);
-    m_splitter->setStretchFactor(1, 1);
-    m_splitter->setChildrenCollapsible(false);
-    m_splitter->setSizes({Unit::of(284), Unit::of(696)});
+    all->addWidget(m_panes);
     setMinimumSize(Unit::of(400, 420));
     resize(Unit::of(980, 700));
-    m_selectionObserver = m_list.selection().observe([this](const auto&) { showSelected(); });
-    showSelected();
+    if (const auto sidebar = m_place.restore(*this))
+        m_panes->setSidebarWidth(*sidebar);
+    connect(m_sidebar, &Sidebar::opened, this, [this] {
+        m_panes->setPageInFront(true);
+        if (m_panes->isOnePane())
+            focusPage();
+    });
+    connect(m_sidebar, &Sidebar::nameWanted, this, [this] {
+        m_panes->setPageInFront(true);
+        if (m_editor != nullptr)
+            m_editor->focusName();
+    });
+    connect(m_files, &RuleFiles::problemChanged, this, [this](const QString& problem) {
+        if (m_settings != nullptr)
+            m_settings->setTransferProblem(problem);
+    });
+    addKeys();
+    m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
+    m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismiss(); }));
+    followSelection();
 }
 
-KinestaWindow::~KinestaWindow() = default;
+KinestaWindow::~KinestaWindow() {
+    qApp->removeEventFilter(this);
+    // They observe the members.
+    while (!children().isEmpty())
+        delete children().front();
+}
+
+void KinestaWindow::addKeys() {
+    addKey(QKeySequence::New, &KinestaWindow::addRule);
+    addKey(Qt::CTRL | Qt::Key_D, &KinestaWindow::duplicate);
+    addKey(QKeySequence::Find, &KinestaWindow::filter);
+    addKey(Qt::CTRL | Qt::Key_1, &KinestaWindow::showOverview);
+    addKey(Qt::CTRL | Qt::Key_Comma, &KinestaWindow::showSettings);
+    addKey(Qt::CTRL | Qt::Key_T, &KinestaWindow::tryGesture);
+    addKey(Qt::Key_F1, &KinestaWindow::showAbout);
+    addKey(QKeySequence::Undo, &KinestaWindow::undo);
+    addKey(QKeySequence::Redo, &KinestaWindow::redo);
+    addKey(Qt::CTRL | Qt::Key_Return, &KinestaWindow::runSelected);
+    addKey(Qt::CTRL | Qt::Key_Enter, &KinestaWindow::runSelected);
+    addKey(Qt::Key_F6, &KinestaWindow::switchPane);
+    addKey(Qt::ALT | Qt::Key_Left, &KinestaWindow::goBack);
+    auto* close = new QAction(this);
+    close->setShortcut(QKeySequence::Close);
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    addAction(close);
+    qApp->installEventFilter(new FieldUndo(this));
+}
+
+void KinestaWindow::addKey(const QKeySequence& keys, void (KinestaWindow::*act)()) {
+    auto* action = new QAction(this);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, act);
+    addAction(action);
+}
 
 void KinestaWindow::gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule) {
     m_overviewModel.gestureDispatched(gesture, rule);
@@ -53,16 +129,31 @@ void KinestaWindow::gestureDispatched(const DetectedGesture& gesture, const Gest
 
 void KinestaWindow::refresh() { m_overviewModel.refresh(); }
 
-void KinestaWindow::select(const WindowSelection& selection) { m_list.select(selection); }
-
-void KinestaWindow::addRule() {
-    if (!m_list.addRule())
-        m_sidebar->showAddHelp();
-    else if (m_editor != nullptr)
-        m_editor->focusName();
+void KinestaWindow::select(const WindowSelection& selection) {
+    m_list.select(selection);
+    m_panes->setPageInFront(true);
 }
 
-void KinestaWindow::addRuleForLastGesture() { addRule(); }
+void KinestaWindow::addRule() {
+    if (!m_list.addRule()) {
+        m_sidebar->showAddHelp();
+        return;
+    }
+    m_panes->setPageInFront(true);
+    m_editor->focusName();
+}
+
+void KinestaWindow::addRuleForLastGesture() {
+    const auto last = m_overviewModel.content().value().lastGesture;
+    addRule();
+    const GestureRule* selected = m_list.selectedRule();
+    if (!last || selected == nullptr || selected->gesture != GestureKind::unconfigured)
+        return;
+    GestureRule rule = *selected;
+    takeGesture(rule, last->gesture);
+    if (const auto binding = m_parts.store.binding(rule.id))
+        m_history.record([&] { binding->set(rule); });
+}
 
 void KinestaWindow::tryGesture() {
     if (!m_testSheet) {
@@ -70,45 +161,185 @@ void KinestaWindow::tryGesture() {
         m_testSheet->setAttribute(Qt::WA_DeleteOnClose);
     }
     m_testSheet->show();
+    m_testSheet->raise();
+    m_testSheet->activateWindow();
 }
 
-void KinestaWindow::runAction(const Uuid& rule) {
+void KinestaWindow::runAction(const Uuid& id) {
     const auto& rules = m_parts.store.rules().value();
-    if (const auto found = std::ranges::find(rules, rule, &GestureRule::id); found != rules.end())
-        m_parts.runAction(GestureRule(*found));
+    const auto found = std::ranges::find(rules, id, &GestureRule::id);
+    if (found == rules.end() || !found->action.isConfigured())
+        return;
+    const auto run = [this, rule = *found] { m_parts.runAction(rule); };
+    switch (found->action.kind) {
+        case ActionKind::adjustVolume:
+        case ActionKind::disableAllRules:
+        case ActionKind::toggleConfigurationWindow:
+            run();
+            break;
+        default:
+            stepAside(*this, run);
+    }
 }
 
-void KinestaWindow::deleteRules() { m_list.deleteSelectedRule(); }
-void KinestaWindow::importRules() {}
-void KinestaWindow::exportRules() {}
-void KinestaWindow::resetSettings() {}
-void KinestaWindow::showAbout() { (new AboutSheet(m_parts, *this, this))->show(); }
-void KinestaWindow::copyReport() {}
-void KinestaWindow::showToast(const QString& /*text*/, const QString& /*action*/, std::function<void()> /*onAction*/) {}
+void KinestaWindow::runSelected() {
+    if (const GestureRule* rule = m_list.selectedRule())
+        runAction(Uuid(rule->id));
+}
 
-void KinestaWindow::showSelected() {
+void KinestaWindow::importRules() { m_files->import(); }
+
+void KinestaWindow::exportRules() { m_files->exportAll(); }
+
+void KinestaWindow::resetSettings() {}
+
+void KinestaWindow::showAbout() {
+    auto* about = new AboutSheet(m_parts, *this, this);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->open();
+}
+
+void KinestaWindow::copyReport() {
+    m_parts.report.request([this, still = QPointer<KinestaWindow>(this)](const SystemReport::Result& result) {
+        if (!still)
+            return;
+        if (result.problem.empty())
+            QGuiApplication::clipboard()->setText(QString::fromStdString(result.text));
+        showToast(result.problem.empty() ? tr("Report copied") : QString::fromStdString(result.problem), {}, {});
+    });
+}
+
+void KinestaWindow::showToast(const QString& text, const QString& action, std::function<void()> onAction) {
+    m_toast->tell(text, action, std::move(onAction));
+}
+
+void KinestaWindow::showChanged(const std::optional<Uuid>& rule) {
+    if (rule)
+        select(WindowSelection::rule(*rule));
+}
+
+void KinestaWindow::duplicate() {
+    const GestureRule* rule = m_list.selectedRule();
+    if (rule == nullptr)
+        return;
+    m_list.duplicateRule(Uuid(rule->id));
+    m_panes->setPageInFront(true);
+    m_editor->focusName();
+}
+
+void KinestaWindow::filter() {
+    m_panes->setPageInFront(false);
+    m_sidebar->focusFilter();
+}
+
+void KinestaWindow::switchPane() {
+    const bool isInSidebar = m_sidebar->isAncestorOf(focusWidget());
+    m_panes->setPageInFront(isInSidebar);
+    isInSidebar ? focusPage() : m_sidebar->focusList();
+}
+
+void KinestaWindow::goBack() {
+    if (!m_panes->isOnePane() || m_panes->isListShown())
+        return;
+    m_panes->setPageInFront(false);
+    m_sidebar->focusList();
+}
+
+void KinestaWindow::focusPage() {
+    QWidget* first = m_pages->currentWidget();
+    for (QWidget* next = first->nextInFocusChain(); next != first; next = next->nextInFocusChain())
+        if (first->isAncestorOf(next) && next->isVisible() && next->isEnabled() &&
+            (next->focusPolicy() & Qt::TabFocus) != 0) {
+            next->setFocus(Qt::TabFocusReason);
+            return;
+        }
+}
+
+void KinestaWindow::followSelection() {
     const WindowSelection selection = m_list.selection().value();
     const bool isRule = selection.kind == WindowSelection::Kind::rule;
-    if (m_editor != nullptr && !(isRule && selection.ruleId == m_editedRule)) {
-        m_pages->removeWidget(m_editor);
-        std::exchange(m_editor, nullptr)->deleteLater();
-    }
+    RuleEditorPage* former = nullptr;
+    if (m_editor != nullptr && !(isRule && selection.ruleId == m_editedRule))
+        former = std::exchange(m_editor, nullptr);
     if (isRule) {
         if (m_editor == nullptr) {
             m_editedRule = selection.ruleId;
             m_editor = new RuleEditorPage(selection.ruleId, m_list, m_history, m_parts, *this);
-            m_pages->addWidget(m_editor);
         }
-        m_pages->setCurrentWidget(m_editor);
+        show(m_editor);
     } else if (selection.kind == WindowSelection::Kind::settings) {
         if (m_settings == nullptr)
-            m_pages->addWidget(m_settings = new SettingsPage(m_parts, *this));
-        m_pages->setCurrentWidget(m_settings);
+            m_settings = new SettingsPage(m_parts, *this);
+        show(m_settings);
     } else {
         if (m_overview == nullptr)
-            m_pages->addWidget(m_overview = new OverviewPage(m_overviewModel, m_parts, *this));
-        m_pages->setCurrentWidget(m_overview);
+            m_overview = new OverviewPage(m_overviewModel, m_parts, *this);
+        show(m_overview);
     }
+    if (former != nullptr) {
+        m_pages->removeWidget(former);
+        former->deleteLater();  // one of its own buttons may have changed the selection
+    }
+}
+
+void KinestaWindow::show(Page* page) {
+    if (m_pages->indexOf(page) < 0) {
+        giveBackButton(*page);
+        m_pages->addWidget(page);
+    }
+    m_pages->setCurrentWidget(page);
+    m_toast->raise();
+}
+
+void KinestaWindow::giveBackButton(Page& page) {
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setArrowType(layoutDirection() == Qt::RightToLeft ? Qt::RightArrow : Qt::LeftArrow);
+    button->setAccessibleName(tr("Back"));
+    button->setToolTip(tr("Back"));
+    button->setFixedSize(Unit::of(28, 28));
+    page.setBackButton(button);
+    button->setVisible(m_panes->isOnePane());
+    connect(button, &QToolButton::clicked, this, &KinestaWindow::goBack);
+    connect(m_panes, &Panes::arranged, button, [this, button] { button->setVisible(m_panes->isOnePane()); });
+}
+
+bool KinestaWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate)
+        refresh();
+    else if (event->type() == QEvent::Hide || event->type() == QEvent::Close)
+        savePlace();
+    return QWidget::event(event);
+}
+
+void KinestaWindow::savePlace() { m_place.save(*this, m_panes->sidebarWidth()); }
+
+void KinestaWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (m_toast->isVisible())
+        m_toast->dismiss();
+    else if (!m_panes->isListShown())
+        goBack();
+    else
+        close();
+}
+
+void KinestaWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedFile(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void KinestaWindow::dropEvent(QDropEvent* event) {
+    const QString file = draggedFile(*event->mimeData());
+    if (file.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // The program from which the file comes waits until the drop has ended.
+    QMetaObject::invokeMethod(
+        this, [this, file] { m_files->importFile(file); }, Qt::QueuedConnection);
 }
 
 }  // namespace kinesta

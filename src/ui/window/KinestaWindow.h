@@ -1,10 +1,8 @@
 #pragma once
 
 #include <QPointer>
-#include <QSplitter>
 #include <QStackedWidget>
 #include <QWidget>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,15 +11,19 @@
 #include "ui/WindowParts.h"
 #include "ui/models/OverviewModel.h"
 #include "ui/models/RuleListModel.h"
+#include "ui/window/WindowPlace.h"
 
 namespace kinesta {
 
-class AboutSheet;
 class OverviewPage;
+class Page;
+class Panes;
 class RuleEditorPage;
+class RuleFiles;
 class SettingsPage;
 class Sidebar;
 class TestSheet;
+class Toast;
 
 /// The configuration window: the sidebar and the page that it selects. Pages are made when they are first shown.
 class KinestaWindow final : public QWidget, public WindowCommands {
@@ -35,8 +37,8 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     /// Takes what GestureDispatcher passes to its observer.
     void gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule);
     /// What is missing or went wrong, as sentences; the last ones come last.
-    void setNotices(std::vector<std::string> notices) { m_overviewModel.setNotices(std::move(notices)); }
-    /// Reads what cannot be observed.
+    void setNotices(std::vector<OverviewNotice> notices) { m_overviewModel.setNotices(std::move(notices)); }
+    /// Reads what cannot be observed: settings that another process has changed, the permission.
     void refresh();
 
     void select(const WindowSelection& selection) override;
@@ -44,7 +46,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void addRuleForLastGesture() override;
     void tryGesture() override;
     void runAction(const Uuid& rule) override;
-    void deleteRules() override;
+    void deleteRules() override { m_list.deleteSelectedRule(); }
     void importRules() override;
     void exportRules() override;
     void resetSettings() override;
@@ -52,22 +54,47 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void copyReport() override;
     void showToast(const QString& text, const QString& action, std::function<void()> onAction) override;
 
+  protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
   private:
-    void showSelected();
+    void addKeys();
+    void addKey(const QKeySequence& keys, void (KinestaWindow::*act)());
+    void undo() { showChanged(m_history.undo()); }
+    void redo() { showChanged(m_history.redo()); }
+    void showChanged(const std::optional<Uuid>& rule);
+    void duplicate();
+    void filter();
+    void showOverview() { select(WindowSelection::overview()); }
+    void showSettings() { select(WindowSelection::settings()); }
+    void runSelected();
+    void switchPane();
+    void goBack();
+    void followSelection();
+    void show(Page* page);
+    void giveBackButton(Page& page);
+    void focusPage();
+    void savePlace();
 
     WindowParts m_parts;
     RuleHistory m_history;
     RuleListModel m_list;
     OverviewModel m_overviewModel;
-    QSplitter* m_splitter;
+    WindowPlace m_place;
     Sidebar* m_sidebar;
     QStackedWidget* m_pages;
+    Panes* m_panes;
+    Toast* m_toast;
+    RuleFiles* m_files;
     OverviewPage* m_overview = nullptr;
     SettingsPage* m_settings = nullptr;
     RuleEditorPage* m_editor = nullptr;
     Uuid m_editedRule;
     QPointer<TestSheet> m_testSheet;
-    Subscription m_selectionObserver;
+    std::vector<Subscription> m_observers;
 };
 
 }  // namespace kinesta

@@ -20,6 +20,11 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds kLongestWait(2);
 constexpr int kMostLinks = 40;  // as many as the kernel follows
 
+// Names of the content on its way into the file.
+constexpr const char* kBeingWritten = ".new";
+constexpr const char* kStaged = ".next";
+constexpr const char* kOnItsWay = ".tmp";
+
 Error failure(const std::string& path, int reason) { return {path + ": " + systemErrorText(reason)}; }
 
 std::string folderOf(const std::string& path) {
@@ -143,22 +148,60 @@ Result<FileDescriptor> DurableFile::lock() const {
 }
 
 Outcome DurableFile::replace(std::string_view content) const {
+    const Outcome staged = stage(content);
+    return staged ? commit() : staged;
+}
+
+Outcome DurableFile::stage(std::string_view content) const {
     // One name is enough, because only the holder of the lock writes. If the file already exists, a killed process has
     // left it.
-    const std::string temporary = m_path + ".tmp";
+    const std::string temporary = m_path + kBeingWritten;
     ::unlink(temporary.c_str());
     const FileDescriptor file(
         ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!file)
         return failure(temporary, errno);
     int reason = writeAll(file.number(), content);
-    if (reason == 0 && (::fsync(file.number()) != 0 || ::rename(temporary.c_str(), m_path.c_str()) != 0))
+    if (reason == 0 && ::rename(temporary.c_str(), (m_path + kStaged).c_str()) != 0)
         reason = errno;
-    if (reason != 0) {
+    if (reason == 0)
+        return success();
+    ::unlink(temporary.c_str());
+    return failure(m_path, reason);
+}
+
+Outcome DurableFile::commit() const {
+    // A name of its own: another content may be staged while this one is on its way.
+    const std::string temporary = m_path + kOnItsWay;
+    if (::rename((m_path + kStaged).c_str(), temporary.c_str()) != 0)
+        return errno == ENOENT ? success() : failure(m_path, errno);
+    const FileDescriptor file(::open(temporary.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    if (!file || ::fsync(file.number()) != 0 || ::rename(temporary.c_str(), m_path.c_str()) != 0) {
+        const int reason = errno;
         ::unlink(temporary.c_str());
         return failure(m_path, reason);
     }
     return synchronizeFolder(m_folder);
+}
+
+bool DurableFile::hasStaged() const {
+    const auto exists = [this](const char* suffix) { return ::access((m_path + suffix).c_str(), F_OK) == 0; };
+    return exists(kStaged) || exists(kOnItsWay) || exists(kBeingWritten);
+}
+
+Outcome DurableFile::recover(const std::function<bool(const std::string& content)>& isWhole) const {
+    ::unlink((m_path + kBeingWritten).c_str());
+    for (const char* suffix : {kStaged, kOnItsWay}) {  // the newest first
+        const std::string name = m_path + suffix;
+        const auto content = DurableFile(name).read();
+        if (content && *content && isWhole(**content)) {
+            if (::rename(name.c_str(), (m_path + kStaged).c_str()) != 0)
+                return failure(name, errno);
+            return commit();
+        }
+        ::unlink(name.c_str());
+    }
+    return success();
 }
 
 Result<std::string> DurableFile::setAside() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,10 +29,23 @@ class DurableFile {
     /// itself.
     Result<FileDescriptor> lock() const;
 
-    /// Replaces the content and waits until it is on the disk. After an error the old content is still there and the
-    /// temporary file is gone; only if the folder cannot be synchronized at the end, the new content stays. Needs the
-    /// lock.
+    /// Replaces the content and waits until it is on the disk: stage() and commit(). After an error the old content is
+    /// still there and no temporary file; only if the folder cannot be synchronized at the end, the new content stays.
+    /// Needs the lock.
     Outcome replace(std::string_view content) const;
+
+    /// Keeps the new content beside the file, in place of one that was staged before, without waiting for the disk: it
+    /// survives this process, but not a power cut. Needs the lock.
+    Outcome stage(std::string_view content) const;
+    /// Brings the staged content, if there is any, onto the disk and then in place of the file. Needs the lock, of the
+    /// process. May run on another thread while stage() runs.
+    Outcome commit() const;
+
+    /// Whether a process has died, or is busy, between stage() and commit().
+    bool hasStaged() const;
+    /// Commits what a process that died has staged, if `isWhole` says that a power cut has left it whole; else removes
+    /// it. Needs the lock.
+    Outcome recover(const std::function<bool(const std::string& content)>& isWhole) const;
 
     /// Renames the file to a free name that ends in ".damaged-" and a number, and returns that name. Needs the lock.
     Result<std::string> setAside() const;

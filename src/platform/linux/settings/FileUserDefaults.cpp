@@ -8,6 +8,8 @@
 namespace kinesta {
 namespace {
 
+constexpr std::string_view kNotStored = "Changed settings could not be stored and last only until Kinesta quits";
+
 Error notSetAside(const Error& damage, const Error& reason) {
     return {damage.message + ", and it cannot be set aside: " + reason.message};
 }
@@ -20,11 +22,14 @@ FileUserDefaults::FileUserDefaults(std::string path, ProblemHandler problemHandl
 }
 
 bool FileUserDefaults::reload() {
+    // Nobody else writes meanwhile, and the file is older than the values.
+    if (m_background.isBusy())
+        return std::exchange(m_hasMerged, false);
     const StoredValues before = values();
     const auto file = DurableFile::at(m_path);
     const auto content = file ? file->read() : file.error();
     settle(content ? merge(*content) : content.error(), "The settings were changed elsewhere but could not be read");
-    return values() != before;
+    return std::exchange(m_hasMerged, false) || values() != before;
 }
 
 Outcome FileUserDefaults::checkSaving() const {
@@ -37,16 +42,29 @@ Outcome FileUserDefaults::checkSaving() const {
 
 std::string FileUserDefaults::defaultPath() { return configurationFolder() + "/kinesta/defaults.json"; }
 
+const Outcome& FileUserDefaults::lastSaving() {
+    if (m_mainThread != nullptr && m_lastSaving) {
+        static_cast<void>(m_background.wait());
+        settleBackground();
+    }
+    return m_lastSaving;
+}
+
 void FileUserDefaults::didChange(std::string_view key) {
     m_unsaved.emplace(key);
     m_lastSaving = save();
-    settle(m_lastSaving, "Changed settings could not be stored and last only until Kinesta quits");
+    settle(m_lastSaving, kNotStored);
 }
 
 Outcome FileUserDefaults::load() {
     const auto file = DurableFile::at(m_path);
     if (!file)
         return file.error();
+    if (file->hasStaged()) {
+        const auto lock = file->lock();
+        if (lock)
+            static_cast<void>(recover(*file));  // if that fails, the older content is there
+    }
     const auto content = file->read();
     if (!content)
         return content.error();
@@ -57,21 +75,69 @@ Outcome FileUserDefaults::load() {
     return lock ? mergeLocked(*file) : notSetAside(merged.error(), lock.error());
 }
 
+Outcome FileUserDefaults::recover(const DurableFile& file) {
+    return file.recover([](const std::string& content) { return decodeDefaults(content).isValue(); });
+}
+
 Outcome FileUserDefaults::save() {
-    const auto file = DurableFile::at(m_path);
+    std::string content;
+    if (m_background.isBusy()) {
+        content = encodeDefaults(values());
+        if (const auto staged = m_background.join(content)) {
+            if (*staged)
+                nowOnItsWay(std::move(content));
+            return *staged;
+        }
+    }
+    auto file = DurableFile::at(m_path);
     if (!file)
         return file.error();
-    const auto lock = file->lock();
+    auto lock = file->lock();
     if (!lock)
         return lock.error();
+    if (file->hasStaged())
+        if (Outcome outcome = recover(*file); !outcome)
+            return outcome;
+    const StoredValues own = values();
     if (Outcome outcome = mergeLocked(*file); !outcome)
         return outcome;
-    std::string content = encodeDefaults(values());
-    if (Outcome outcome = file->replace(content); !outcome)
+    m_hasMerged = m_hasMerged || values() != own;
+    content = encodeDefaults(values());
+    if (Outcome outcome = write(std::move(*file), std::move(*lock), content); !outcome)
         return outcome;
-    m_content = std::move(content);
-    m_unsaved.clear();
+    nowOnItsWay(std::move(content));
     return success();
+}
+
+void FileUserDefaults::nowOnItsWay(std::string content) {
+    m_content = std::move(content);
+    m_onTheirWay.merge(m_unsaved);
+    m_unsaved.clear();
+}
+
+Outcome FileUserDefaults::write(DurableFile file, FileDescriptor lock, const std::string& content) {
+    if (m_mainThread == nullptr)
+        return file.replace(content);
+    if (Outcome staged = file.stage(content); !staged)
+        return staged;
+    m_background.begin(std::move(file), std::move(lock), [mainThread = m_mainThread, self = std::weak_ptr(m_self)] {
+        mainThread->post([self] {
+            if (const auto defaults = self.lock())
+                (*defaults)->settleBackground();
+        });
+    });
+    return success();
+}
+
+void FileUserDefaults::settleBackground() {
+    if (m_background.isBusy())
+        return;  // with a later change, whose end comes, too
+    const Outcome outcome = m_background.wait();
+    if (!outcome)
+        m_unsaved.merge(m_onTheirWay);
+    m_onTheirWay.clear();
+    m_lastSaving = outcome;
+    settle(outcome, kNotStored);
 }
 
 /// Reads the file; sets a damaged one aside, so that saving can go on.

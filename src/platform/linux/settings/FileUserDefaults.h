@@ -1,13 +1,16 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 
+#include "platform/linux/settings/DeferredCommit.h"
 #include "platform/linux/settings/DurableFile.h"
 #include "support/InMemoryUserDefaults.h"
+#include "support/MainThread.h"
 
 namespace kinesta {
 
@@ -26,15 +29,20 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     /// Loads the file at `path`; it need not exist, nor its folder.
     FileUserDefaults(std::string path, ProblemHandler problemHandler);
 
-    /// Reads what other processes have stored and returns whether a value has changed. If the file is unreadable or
+    /// From now on a change does not wait for the disk: it survives the end of this process at once, and reaches the
+    /// disk soon after. A person who types does not feel it. `mainThread` must outlive this.
+    void saveInBackground(MainThread& mainThread) { m_mainThread = &mainThread; }
+
+    /// Reads what other processes have stored and returns whether a value has changed, by this or by an own change that
+    /// brought in what others had stored. If the file is unreadable or
     /// damaged, the values stay.
     bool reload();
 
     /// Whether changes can be stored, as far as that can be known before one is: creates the folder and locks the file.
     Outcome checkSaving() const;
 
-    /// Whether the last change was stored, and why not.
-    const Outcome& lastSaving() const { return m_lastSaving; }
+    /// Whether the last change was stored, and why not. Waits for the disk.
+    const Outcome& lastSaving();
 
     /// Where the user's settings are kept: kinesta/defaults.json in $XDG_CONFIG_HOME, or in ~/.config when that is not
     /// set or not absolute.
@@ -44,8 +52,14 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     void didChange(std::string_view key) override;
 
   private:
+    using Keys = std::set<std::string, std::less<>>;
+
     Outcome load();
     Outcome save();
+    Outcome recover(const DurableFile& file);
+    Outcome write(DurableFile file, FileDescriptor lock, const std::string& content);
+    void nowOnItsWay(std::string content);
+    void settleBackground();
     Outcome mergeLocked(const DurableFile& file);
     Outcome merge(const std::optional<std::string>& content);
     void settle(const Outcome& outcome, std::string_view consequence);
@@ -53,10 +67,15 @@ class FileUserDefaults final : public InMemoryUserDefaults {
 
     std::string m_path;
     ProblemHandler m_problemHandler;
-    std::optional<std::string> m_content;          // of the file when it last matched the values
-    std::set<std::string, std::less<>> m_unsaved;  // keys changed since the last successful save
+    std::optional<std::string> m_content;  // of the file when it last matched the values
+    Keys m_unsaved;                        // changed since the last successful save
+    Keys m_onTheirWay;                     // staged, and not known to be on the disk
+    bool m_hasMerged = false;              // others' changes that reload() has not returned yet
     std::string m_lastProblem;
     Outcome m_lastSaving = success();
+    MainThread* m_mainThread = nullptr;
+    std::shared_ptr<FileUserDefaults*> m_self = std::make_shared<FileUserDefaults*>(this);
+    DeferredCommit m_background;
 };
 
 }  // namespace kinesta

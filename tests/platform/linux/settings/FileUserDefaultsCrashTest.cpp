@@ -9,6 +9,7 @@
 
 #include "platform/linux/settings/DefaultsFileCoding.h"
 #include "platform/linux/settings/FileUserDefaults.h"
+#include "support/RunLoop.h"
 #include "support/TemporaryFolder.h"
 
 using namespace kinesta;
@@ -79,9 +80,66 @@ TEST(FileUserDefaultsCrash, LeavesTheOldOrTheNewContentAtEveryStep) {
             EXPECT_EQ(found(path), encodeDefaults(next.values()));
             EXPECT_EQ(fs::is_symlink(path), start == "link");
             for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
-                EXPECT_NE(entry.path().extension(), ".tmp");
+                EXPECT_TRUE(entry.path().filename() == "kinesta" || !entry.path().has_extension() ||
+                            entry.path().extension() == ".json" || entry.path().extension() == ".lock" ||
+                            entry.path().extension() == ".damaged-1")
+                    << entry.path();
         }
         EXPECT_EQ(seen, outcomes) << start;
         EXPECT_GT(stop, 2 * 12) << start << ": fewer system calls cannot have saved it";
+    }
+}
+
+// A power cut may leave an empty file or a part in place of what was not yet on the disk.
+TEST(FileUserDefaultsCrash, TakesWhatADeadProcessStagedIfItIsWhole) {
+    const std::string old = "{\n  \"a\": 1\n}\n", newer = "{\n  \"a\": 2\n}\n", newest = "{\n  \"a\": 3\n}\n";
+    struct Case {
+        std::string onItsWay, staged, expected;
+    };
+    for (const Case& c : {Case{newer, "-", newer}, Case{newer, newest, newest}, Case{newer, "{\n  \"a\"", newer},
+                          Case{"", std::string(9, '\0'), old}, Case{"-", newest, newest}}) {
+        for (const bool isRunning : {false, true}) {
+            const TemporaryFolder folder;
+            const std::string path = folder / "defaults.json";
+            writeText(path, old);
+            FileUserDefaults running(path, {});
+            if (c.onItsWay != "-")
+                writeText(path + ".tmp", c.onItsWay);
+            if (c.staged != "-")
+                writeText(path + ".next", c.staged);
+            writeText(path + ".new", "{");
+            if (isRunning)
+                running.setInteger("b", 1);
+            EXPECT_EQ(found(path).substr(0, 10), c.expected.substr(0, 10)) << c.staged;
+            for (const char* suffix : {".new", ".next", ".tmp"})
+                EXPECT_FALSE(fs::exists(path + suffix));
+        }
+    }
+}
+
+TEST(FileUserDefaultsCrash, LosesNoChangeInTheBackground) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "defaults.json";
+    constexpr int kChanges = 50;
+    const auto change = [&](bool isKilled) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            RunLoop loop;
+            FileUserDefaults defaults(path, {});
+            defaults.saveInBackground(loop);
+            for (int i = 0; i < kChanges; ++i)
+                defaults.setInteger(std::to_string(i), i);
+            if (isKilled)
+                ::raise(SIGKILL);  // wherever the disk is
+            ::_exit(defaults.lastSaving() && !defaults.reload() && defaults.values().size() == kChanges ? 0 : 1);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return status;
+    };
+    for (const bool isKilled : {true, false, true}) {
+        fs::remove(path);
+        EXPECT_EQ(change(isKilled), isKilled ? SIGKILL : 0);
+        EXPECT_EQ(FileUserDefaults(path, {}).values().size(), std::size_t{kChanges});
     }
 }

@@ -70,6 +70,7 @@ TEST_F(FileUserDefaultsTest, MergesWhatOthersStoredAndKeepsWhatItDoesNotKnow) {
     two.setInteger("two", 2);
     one.setInteger("both", 1);
     two.remove("one");  // which it has not seen before
+    EXPECT_TRUE(two.reload()) << "its own change has brought in what others stored";
     EXPECT_FALSE(two.reload());
     EXPECT_TRUE(one.reload());
     EXPECT_FALSE(one.reload());
@@ -79,6 +80,7 @@ TEST_F(FileUserDefaultsTest, MergesWhatOthersStoredAndKeepsWhatItDoesNotKnow) {
     EXPECT_EQ(readText(path), "{\n  \"both\": {\"new\":\"form\"},\n  \"later\": [1,null],\n  \"one\": 3\n}\n");
     EXPECT_TRUE(one.contains("both") && !one.integer("both"));
     fs::remove(path);
+    EXPECT_TRUE(one.reload());
     EXPECT_FALSE(one.reload());
     one.remove("later");
     EXPECT_EQ(readText(path), "{\n  \"both\": {\"new\":\"form\"},\n  \"one\": 3\n}\n");

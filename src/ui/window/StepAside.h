@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+namespace kinesta {
+
+/// Hides the window, runs `act` once another program has the focus or after a moment, and shows the window again
+/// behind what came up.
+void stepAside(QWidget& window, std::function<void()> act);
+
+}  // namespace kinesta

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QVariantAnimation>
+#include <QWidget>
+#include <functional>
+
+namespace kinesta {
+
+/// Says for a moment at the lower edge of the page what was done, with one button. Stays as long as the pointer or the
+/// focus rests on it.
+class Toast final : public QWidget {
+    Q_OBJECT
+
+  public:
+    static constexpr int lifetime = 6000;  // milliseconds
+
+    /// Lies over the lower edge of `page`.
+    explicit Toast(QWidget* page);
+
+    /// Shows the text in place of the one before. `action` is the word on the button; empty for no button.
+    void tell(const QString& text, const QString& action, std::function<void()> onAction);
+    void dismiss();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void place();
+    void wait();
+    void fade(bool isAppearing);
+
+    QLabel* m_text;
+    QPushButton* m_button;
+    std::function<void()> m_onAction;
+    QTimer m_lifetime;
+    QVariantAnimation m_fade;
+    double m_opacity = 1;
+};
+
+}  // namespace kinesta
