@@ -13,6 +13,8 @@ struct InstalledApplication {
     std::string path;
     /// A name of the icon theme or an absolute path; may be empty.
     std::string icon;
+
+    friend bool operator==(const InstalledApplication&, const InstalledApplication&) = default;
 };
 
 /// The port to the installed programs. Main thread only.
@@ -22,7 +24,7 @@ class InstalledApplications {
 
     /// All that the desktop would show in its menu, by name. Reads the disk.
     virtual std::vector<InstalledApplication> all() const = 0;
-    /// What stands at this path, or nothing if it is no program.
+    /// What stands at this path, or nothing if it is no program. A "~" at its start is the home folder.
     virtual std::optional<InstalledApplication> at(const std::string& path) const = 0;
 };
 

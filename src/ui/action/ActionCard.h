@@ -1,9 +1,18 @@
 #pragma once
 
-#include "ui/WindowCommands.h"
+#include <QComboBox>
+#include <QPushButton>
+#include <memory>
+#include <optional>
+
 #include "ui/WindowParts.h"
-#include "ui/models/RuleEditorModel.h"
+#include "ui/action/ActionPart.h"
+#include "ui/action/CuePicture.h"
+#include "ui/action/Remark.h"
+#include "ui/action/TextField.h"
 #include "ui/widgets/Card.h"
+#include "ui/widgets/Row.h"
+#include "ui/widgets/Switch.h"
 
 namespace kinesta {
 
@@ -13,7 +22,36 @@ class ActionCard final : public Card {
 
   public:
     /// All must outlive this.
-    ActionCard(RuleEditorModel& model, const WindowParts& parts, WindowCommands& commands);
+    explicit ActionCard(const ActionEditing& editing);
+    ActionCard(RuleEditorModel& model, const WindowParts& parts, WindowCommands& commands)
+        : ActionCard({model, parts.desktop, parts.applications, commands}) {}
+
+  protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void addCueRows();
+    void addLastRow();
+    void follow(const RuleEditorContent& content);
+    void followKinds(const RuleEditorContent& content);
+    void followCue(const GestureRule& rule, const std::string& placeholder);
+    void showPart(ActionKind kind);
+    void orderTabs();
+
+    ActionEditing m_editing;
+    QComboBox* m_kind;
+    Row* m_kindRow;
+    std::vector<ActionKind> m_kinds;
+    std::optional<ActionKind> m_partKind;
+    std::unique_ptr<ActionPart> m_part;
+    Row* m_cueRow;
+    CuePicture* m_cuePicture;
+    Switch* m_showsCue;
+    TextField* m_cueText;
+    Remark* m_missing;
+    QPushButton* m_run;
+    Subscription m_observer;
 };
 
 }  // namespace kinesta

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/overview/CommandField.h"
+#include "ui/overview/CommandToCopy.h"
 #include "ui/overview/SymbolMark.h"
 #include "ui/overview/Tag.h"
 
@@ -80,7 +80,7 @@ MarkedRow* FindingList::rowOf(const FindingRow& finding) {
     MarkedRow* row = sentence(finding.mark, asQString(finding.what), {});
     row->setWords(asQString(finding.what), asQString(finding.why), asQString(finding.remedy));
     if (!finding.command.empty())
-        row->addBelow(new CommandField(asQString(finding.command), m_commands));
+        row->addBelow(new CommandToCopy(asQString(finding.command), m_commands));
     if (QWidget* atEnd = atEndOf(finding))
         row->setAtEnd(atEnd);
     return row;

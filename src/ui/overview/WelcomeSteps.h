@@ -6,7 +6,7 @@
 #include "ui/WindowParts.h"
 #include "ui/models/OverviewModel.h"
 #include "ui/models/WorksHereModel.h"
-#include "ui/overview/CommandField.h"
+#include "ui/overview/CommandToCopy.h"
 #include "ui/overview/MarkedRow.h"
 #include "ui/overview/StepNumber.h"
 #include "ui/widgets/Card.h"
@@ -28,7 +28,7 @@ class WelcomeSteps final : public Card {
     WindowCommands& m_commands;
     StepNumber* m_numbers[3];
     MarkedRow* m_read;
-    CommandField* m_command = nullptr;
+    CommandToCopy* m_command = nullptr;
     QPushButton* m_allow;
     QPushButton* m_try;
 };

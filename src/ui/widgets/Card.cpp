@@ -1,7 +1,6 @@
 #include "ui/widgets/Card.h"
 
 #include <QEvent>
-#include <QPainter>
 #include <QPainterPath>
 
 #include "platform/qt/ThemePalette.h"
@@ -22,8 +21,8 @@ Card::Card(QWidget* parent) : QWidget(parent), m_column(new QVBoxLayout(this)) {
     m_column->setSpacing(0);
 }
 
-void Card::add(QWidget* part) {
-    m_column->addWidget(part);
+void Card::insert(int index, QWidget* part) {
+    m_column->insertWidget(index, part);
     part->installEventFilter(this);
 }
 
@@ -45,6 +44,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
     shape.addRoundedRect(frame, radius, radius);
     painter.fillPath(shape, asQColor(theme.surface));
     painter.setClipPath(shape);
+    paintGround(painter, theme);
     bool isFirst = true;
     for (int i = 0; i < m_column->count(); ++i) {
         const QWidget* part = m_column->itemAt(i)->widget();

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QPainter>
 #include <QVBoxLayout>
 #include <QWidget>
+
+#include "app/AppTheme.h"
 
 namespace kinesta {
 
@@ -16,11 +19,15 @@ class Card : public QWidget {
     explicit Card(QWidget* parent = nullptr);
 
     /// Takes the widget in below the others: a Row, a Notice or a part of a page.
-    void add(QWidget* part);
+    void add(QWidget* part) { insert(m_column->count(), part); }
+    /// Takes it in above the one at `index`.
+    void insert(int index, QWidget* part);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// Paints below the parts, inside the shape of the card.
+    virtual void paintGround(QPainter& /*painter*/, const AppTheme& /*theme*/) {}
 
   private:
     QVBoxLayout* m_column;

@@ -35,6 +35,11 @@ class Tile final : public QAbstractButton {
     void setPaint(Paint paint);
     void setGesture(double width, const PadGesture& gesture);
 
+    /// How wide a flat tile must be for its picture beside the word.
+    int widthBeside() const;
+    /// Puts the picture of a flat tile above the word.
+    void setPictureAbove(bool isAbove);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -50,6 +55,7 @@ class Tile final : public QAbstractButton {
     Form m_form;
     QSizeF m_picture;
     Paint m_paint;
+    bool m_isAbove = false;
     FocusRing m_ring;
 };
 

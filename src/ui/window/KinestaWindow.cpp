@@ -156,6 +156,8 @@ void KinestaWindow::addRuleForLastGesture() {
 }
 
 void KinestaWindow::tryGesture() {
+    if (m_editor != nullptr)
+        m_editor->stopWaiting();  // its session would end that of the sheet
     if (!m_testSheet) {
         m_testSheet = new TestSheet(m_parts, this);
         m_testSheet->setAttribute(Qt::WA_DeleteOnClose);

@@ -3,8 +3,6 @@
 #include <optional>
 #include <utility>
 
-#include "platform/linux/launching/DesktopFile.h"
-
 namespace kinesta {
 namespace {
 
@@ -38,17 +36,21 @@ Result<DesktopEntry> DesktopEntry::read(const std::string& path, const std::stri
     const auto file = DesktopFile::read(path);
     if (!file)
         return Error{path + " cannot be read; choose the application again."};
-    const auto words = DesktopFile::words(file->value("Exec"));
-    if (file->value("Type") != "Application" || !words || words->empty())
+    return of(*file, path, locale);
+}
+
+Result<DesktopEntry> DesktopEntry::of(const DesktopFile& file, const std::string& path, const std::string& locale) {
+    const auto words = DesktopFile::words(file.value("Exec"));
+    if (file.value("Type") != "Application" || !words || words->empty())
         return Error{path + " does not say how to start an application; choose another file."};
 
     DesktopEntry entry;
-    entry.workingDirectory = file->value("Path");
-    entry.runsInTerminal = file->value("Terminal") == "true";
-    const std::string name = file->localizedValue("Name", locale);
+    entry.workingDirectory = file.value("Path");
+    entry.runsInTerminal = file.value("Terminal") == "true";
+    const std::string name = file.localizedValue("Name", locale);
     for (const std::string& word : *words) {
         if (word == "%i") {
-            if (const std::string icon = file->value("Icon"); !icon.empty())
+            if (const std::string icon = file.value("Icon"); !icon.empty())
                 entry.command.insert(entry.command.end(), {"--icon", icon});
         } else if (auto text = expanded(word, name, path)) {
             entry.command.push_back(std::move(*text));

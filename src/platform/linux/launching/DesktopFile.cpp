@@ -1,6 +1,7 @@
 #include "platform/linux/launching/DesktopFile.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <utility>
 
@@ -74,6 +75,13 @@ std::string DesktopFile::localizedValue(const std::string& key, std::string_view
         if (const auto found = m_keys.find(key + "[" + candidate + "]"); found != m_keys.end())
             return found->second;
     return value(key);
+}
+
+std::string DesktopFile::messageLocale() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const char* value = std::getenv(name); value != nullptr && value[0] != '\0')
+            return value;
+    return "C";
 }
 
 std::optional<std::vector<std::string>> DesktopFile::words(std::string_view commandLine) {

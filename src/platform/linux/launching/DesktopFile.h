@@ -18,6 +18,8 @@ class DesktopFile {
     std::string value(std::string_view key) const;
     /// The value for a locale lang_COUNTRY.ENCODING@MODIFIER; the closest match wins.
     std::string localizedValue(const std::string& key, std::string_view locale) const;
+    /// The locale for messages, as the C library finds it.
+    static std::string messageLocale();
     /// All keys and values.
     const std::map<std::string, std::string, std::less<>>& keys() const { return m_keys; }
 

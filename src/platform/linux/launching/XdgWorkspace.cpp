@@ -2,11 +2,11 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <utility>
 
 #include "platform/linux/launching/DesktopEntry.h"
+#include "platform/linux/launching/DesktopFile.h"
 #include "platform/linux/process/SessionEnvironment.h"
 
 namespace kinesta {
@@ -18,14 +18,6 @@ std::string absolutePath(const std::string& path) {
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
     return error ? path : absolute.string();
-}
-
-// The locale for messages, as the C library finds it.
-std::string messageLocale() {
-    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
-        if (const char* value = std::getenv(name); value != nullptr && value[0] != '\0')
-            return value;
-    return "C";
 }
 
 }  // namespace
@@ -58,7 +50,7 @@ void XdgWorkspace::launchApplication(const std::string& path, const std::vector<
         m_launcher.launch(file, arguments);
         return;
     }
-    const auto entry = DesktopEntry::read(file, messageLocale());
+    const auto entry = DesktopEntry::read(file, DesktopFile::messageLocale());
     if (!entry) {
         m_log(entry.error().message);
         return;

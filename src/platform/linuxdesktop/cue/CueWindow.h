@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// The window of the cue: a capsule with a symbol and a line of text, the same in light and dark. It takes neither
+/// The window of the cue: as CuePainter draws it. It takes neither
 /// focus nor clicks.
 class CueWindow final : public QWidget {
     Q_OBJECT
@@ -31,14 +31,8 @@ class CueWindow final : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    bool isSolid() const { return !m_hasCompositor || m_groundOpacity >= 1; }
     void redraw();
     void cut();
-    QImage layer() const;
-    QImage drawnWindow() const;
-    void drawGround(QPainter& painter) const;
-    QImage drawnWords() const;
-    QImage haloOf(const QImage& words) const;
 
     ActionCueContent m_content;
     double m_groundOpacity = 1;

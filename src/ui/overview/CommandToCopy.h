@@ -9,11 +9,11 @@
 namespace kinesta {
 
 /// A command line for a terminal, with a button that copies it.
-class CommandField final : public QWidget {
+class CommandToCopy final : public QWidget {
     Q_OBJECT
 
   public:
-    CommandField(const QString& command, WindowCommands& commands, QWidget* parent = nullptr);
+    CommandToCopy(const QString& command, WindowCommands& commands, QWidget* parent = nullptr);
 
   protected:
     void changeEvent(QEvent* event) override;

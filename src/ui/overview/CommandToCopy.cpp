@@ -1,4 +1,4 @@
-#include "ui/overview/CommandField.h"
+#include "ui/overview/CommandToCopy.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -18,10 +18,8 @@ constexpr double kGap = 8;
 
 }  // namespace
 
-CommandField::CommandField(const QString& command, WindowCommands& commands, QWidget* parent)
-    : QWidget(parent),
-      m_field(new QLineEdit(command)),
-      m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
+CommandToCopy::CommandToCopy(const QString& command, WindowCommands& commands, QWidget* parent)
+    : QWidget(parent), m_field(new QLineEdit(command)), m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
     m_field->setReadOnly(true);
     m_field->setCursorPosition(0);
     // Commands read from left to right in every language.
@@ -39,13 +37,13 @@ CommandField::CommandField(const QString& command, WindowCommands& commands, QWi
     measure();
 }
 
-void CommandField::changeEvent(QEvent* event) {
+void CommandToCopy::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         measure();
 }
 
-void CommandField::measure() {
+void CommandToCopy::measure() {
     QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     mono.setPixelSize(Unit::font(kMonoFactor).pixelSize());
     m_field->setFont(mono);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace kinesta {
+
+enum class Lines { one, many };
+
+/// Text from outside, of the same length: control characters, and in one line its ends, become blanks; halves of
+/// characters become U+FFFD, and in many lines so does what would show them in another order.
+QString cleanText(QString text, Lines lines);
+
+}  // namespace kinesta

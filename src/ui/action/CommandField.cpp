@@ -1,0 +1,108 @@
+#include "ui/action/CommandField.h"
+
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextBlock>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/action/CleanText.h"
+#include "ui/widgets/Unit.h"
+
+namespace kinesta {
+namespace {
+
+constexpr int kFewestLines = 2;
+constexpr int kMostLines = 8;
+constexpr double kPaddingX = 6;
+constexpr double kPaddingY = 2;
+constexpr double kSize = 0.92;
+/// A program gets no longer argument on Linux, in bytes.
+constexpr qsizetype kLongest = 131'071;
+
+}  // namespace
+
+CommandField::CommandField(const QString& name, QWidget* parent) : QPlainTextEdit(parent) {
+    setAccessibleName(name);
+    setTabChangesFocus(true);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    setLayoutDirection(Qt::LeftToRight);
+    setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase | Qt::ImhMultiLine);
+    QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    mono.setPixelSize(Unit::font(kSize).pixelSize());
+    setFont(mono);
+    document()->setDocumentMargin(4);
+    setViewportMargins(Unit::of(kPaddingX), Unit::of(kPaddingY), Unit::of(kPaddingX), Unit::of(kPaddingY));
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        fitHeight();
+        if (!m_isFollowing)
+            Q_EMIT typed(toPlainText());
+    });
+    fitHeight();
+}
+
+void CommandField::follow(const QString& stored) {
+    QString text = stored;
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QChar::Nbsp, QLatin1Char(' '));
+    m_stored = cleanText(text, Lines::many);
+    // Whoever has typed and not left yet goes on with that text.
+    if (toPlainText() != m_stored && !(hasFocus() && document()->isUndoAvailable()))
+        show(m_stored);
+}
+
+void CommandField::show(const QString& text) {
+    m_isFollowing = true;
+    setPlainText(text);
+    m_isFollowing = false;
+}
+
+bool CommandField::event(QEvent* event) {
+    // The field's own steps come first. Without one, the window undoes its own.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if ((key.matches(QKeySequence::Undo) && !document()->isUndoAvailable()) ||
+            (key.matches(QKeySequence::Redo) && !document()->isRedoAvailable())) {
+            event->ignore();
+            return false;
+        }
+    }
+    return QPlainTextEdit::event(event);
+}
+
+void CommandField::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (event->reason() == Qt::PopupFocusReason)
+        return;
+    if (toPlainText() != m_stored)
+        show(m_stored);
+    Q_EMIT left();
+}
+
+void CommandField::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    fitHeight();
+}
+
+void CommandField::insertFromMimeData(const QMimeData* source) {
+    QString text = source->text();
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    text = cleanText(text, Lines::many);
+    // Part of a command can do something else, so nothing is cut off.
+    const qsizetype remaining = document()->characterCount() - textCursor().selectedText().size();
+    if (text.size() + remaining > kLongest || text.toUtf8().size() + remaining > kLongest)
+        Q_EMIT refused();
+    else
+        textCursor().insertText(text);
+}
+
+void CommandField::fitHeight() {
+    // The layout of plain text counts in lines.
+    const int lines = std::clamp(static_cast<int>(std::ceil(document()->size().height())), kFewestLines, kMostLines);
+    const QMargins margins = viewportMargins();
+    const double words = lines * QFontMetricsF(font()).lineSpacing() + 2 * document()->documentMargin();
+    setFixedHeight(static_cast<int>(std::ceil(words)) + margins.top() + margins.bottom());
+}
+
+}  // namespace kinesta

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/action/ActionPart.h"
+#include "ui/action/ShortcutRecorder.h"
+#include "ui/widgets/Row.h"
+
+namespace kinesta {
+
+/// The recorder of a keyboard shortcut.
+class ShortcutPart final : public ActionPart {
+    Q_OBJECT
+
+  public:
+    explicit ShortcutPart(const ActionEditing& editing);
+
+    std::vector<QWidget*> rows() const override { return {m_row}; }
+    void follow(const RuleEditorContent& content) override;
+
+  private:
+    void showDetail();
+
+    ActionEditing m_editing;
+    Row* m_row;
+    ShortcutRecorder* m_recorder;
+    QString m_hint;
+};
+
+}  // namespace kinesta

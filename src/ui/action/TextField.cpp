@@ -1,0 +1,70 @@
+#include "ui/action/TextField.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QValidator>
+
+#include "ui/action/CleanText.h"
+#include "ui/widgets/Unit.h"
+
+namespace kinesta {
+namespace {
+
+constexpr double kWidth = 300;
+
+/// Accepts all text once it is clean.
+class Cleaning final : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& /*position*/) const override {
+        text = cleanText(text, Lines::one);
+        return Acceptable;
+    }
+};
+
+}  // namespace
+
+TextField::TextField(const QString& name, Form form, QWidget* parent) : QLineEdit(parent) {
+    setAccessibleName(name);
+    setValidator(new Cleaning(this));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    if (form == Form::code) {
+        setLayoutDirection(Qt::LeftToRight);
+        setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+    }
+    connect(this, &QLineEdit::textEdited, this, [this] { Q_EMIT typed(text()); });
+}
+
+void TextField::follow(const QString& stored) {
+    m_stored = cleanText(stored.left(maxLength()), Lines::one);
+    // Whoever has typed and not left yet goes on with that text.
+    if (text() != m_stored && !(hasFocus() && isUndoAvailable()))
+        setText(m_stored);
+}
+
+QSize TextField::sizeHint() const { return {Unit::of(kWidth), QLineEdit::sizeHint().height()}; }
+
+bool TextField::event(QEvent* event) {
+    // The field's own steps come first. Without one, the window undoes its own.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if ((key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
+            (key.matches(QKeySequence::Redo) && !isRedoAvailable())) {
+            event->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void TextField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::PopupFocusReason)
+        return;
+    if (text() != m_stored)
+        setText(m_stored);
+    Q_EMIT left();
+}
+
+}  // namespace kinesta
