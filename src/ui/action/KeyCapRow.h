@@ -30,8 +30,9 @@ class KeyCapRow final : public QWidget {
   private:
     enum class Content { signsAndWords, words, signs };
 
+    static int gap(Content content);
     QString textOf(const KeyCap& cap, Content content) const;
-    int widthOf(const QString& text) const;
+    int widthOf(const KeyCap& cap, Content content) const;
     int wholeWidth(Content content) const;
     Content fittingContent() const;
 
