@@ -100,8 +100,11 @@ class Application {
         showTheme();
     }
 
-    // The window and the icon change once more as they go, after the control.
-    ~Application() { m_controller.onChange = {}; }
+    ~Application() {
+        m_window.discard();  // it may still have something to store
+        // The icon changes once more as it goes, after the control.
+        m_controller.onChange = {};
+    }
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
@@ -125,6 +128,8 @@ class Application {
             return;
         m_app.reload();
         applyAppearance();
+        if (auto* window = configurationWindow())
+            window->refresh();
     }
 
   private:
