@@ -269,7 +269,7 @@ class Application {
     App m_app{desktopWithCue(), teller()};
     LaunchAtLoginManager m_login{m_desktop.loginItem()};
     SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
-    DoctorReport m_report{m_files.program().string(), KINESTA_VERSION};
+    DoctorReport m_report{m_mainLoop, m_files.program().string(), KINESTA_VERSION};
     DesktopApplications m_applications;
     ApplicationControl m_control{{.store = m_app.store(),
                                   .service = m_app.recognition().service(),

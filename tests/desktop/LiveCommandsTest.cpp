@@ -225,7 +225,7 @@ TEST_F(LiveCommands, DoctorSaysWhatTheRulesMissAndWhatToDo) {
         {shortcut(14, 16), kRule, "Choose another shortcut."},
         {action("launchApplication", missing), kRule, "Choose the application again."},
         {action("launchApplication", application), kRule, "Install that program"},
-        {kShowWindow, kRule, "Choose another action."},
+        {kShowWindow, kRule, "Start Kinesta without a subcommand."},
         {action("openFileOrFolder", "~/../" + missing), kRule, "Choose the file or folder again."},
         {action("openURL", "ftp://kinesta.test/"), kRule, "Write the whole address"},
     };

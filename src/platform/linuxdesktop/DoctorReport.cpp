@@ -5,8 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <csignal>
 #include <algorithm>
+#include <csignal>
 #include <optional>
 #include <utility>
 
@@ -22,17 +22,17 @@ std::string textIn(const QJsonObject& object, const char* key) {
 std::optional<SystemFinding> findingIn(const QJsonObject& object) {
     const auto subject = findingSubject(textIn(object, "subject"));
     const QJsonValue works = object.value(QLatin1String("works"));
-    SystemFinding finding{.subject = subject.value_or(FindingSubject::rule),
-                          .what = textIn(object, "what"),
-                          .works = works.toBool(),
-                          .why = textIn(object, "why"),
-                          .remedy = textIn(object, "remedy"),
-                          .command = textIn(object, "command"),
-                          .isSetting = object.value(QLatin1String("setting")).toBool(),
-                          .rulesInNeed = static_cast<std::size_t>(
-                              std::max(object.value(QLatin1String("rulesInNeed")).toInt(), 0)),
-                          .rule = Uuid::parse(textIn(object, "rule")),
-                          .chosenName = textIn(object, "chosenName")};
+    SystemFinding finding{
+        .subject = subject.value_or(FindingSubject::rule),
+        .what = textIn(object, "what"),
+        .works = works.toBool(),
+        .why = textIn(object, "why"),
+        .remedy = textIn(object, "remedy"),
+        .command = textIn(object, "command"),
+        .isSetting = object.value(QLatin1String("setting")).toBool(),
+        .rulesInNeed = static_cast<std::size_t>(std::max(object.value(QLatin1String("rulesInNeed")).toInt(), 0)),
+        .rule = Uuid::parse(textIn(object, "rule")),
+        .chosenName = textIn(object, "chosenName")};
     if (!subject || finding.what.empty() || !works.isBool())
         return std::nullopt;
     return finding;
@@ -52,15 +52,9 @@ std::vector<SystemFinding> findingsIn(const QByteArray& output) {
 
 }  // namespace
 
-DoctorReport::DoctorReport(std::string program, std::string version, std::chrono::milliseconds patience)
-    : m_program(std::move(program)), m_version(std::move(version)) {
-    m_deadline.setSingleShot(true);
-    m_deadline.setInterval(patience);
-    QObject::connect(&m_deadline, &QTimer::timeout, &m_deadline, [this] {
-        end();
-        answer({.findings = {}, .text = {}, .problem = m_program + " did not answer in time. Try again later."});
-    });
-}
+DoctorReport::DoctorReport(MainThread& mainThread, std::string program, std::string version,
+                           std::chrono::milliseconds patience)
+    : m_mainThread(mainThread), m_program(std::move(program)), m_version(std::move(version)), m_patience(patience) {}
 
 DoctorReport::~DoctorReport() {
     end();
@@ -97,13 +91,16 @@ void DoctorReport::start() {
     };
     // Queued, as start() may fail at once.
     QObject::connect(process, &QProcess::errorOccurred, process, onError, Qt::QueuedConnection);
-    m_deadline.start();
+    m_deadline = m_mainThread.after(m_patience, [this] {
+        end();
+        answer({.findings = {}, .text = {}, .problem = m_program + " did not answer in time. Try again later."});
+    });
     process->start(QString::fromStdString(m_program), {QStringLiteral("doctor"), QStringLiteral("--json")},
                    QIODevice::ReadOnly);
 }
 
 void DoctorReport::end() {
-    m_deadline.stop();
+    m_deadline.cancel();
     if (auto* process = std::exchange(m_process, nullptr))
         process->kill();  // deletes itself when it has ended
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QProcess>
-#include <QTimer>
 #include <chrono>
 #include <string>
 #include <vector>
 
 #include "app/SystemReport.h"
+#include "support/MainThread.h"
 
 namespace kinesta {
 
@@ -17,8 +17,10 @@ class DoctorReport final : public SystemReport {
     /// The program gives up by itself on services that do not answer, long before this.
     static constexpr std::chrono::seconds kPatience{20};
 
-    /// `program` is the path of the command line program, `version` ours, for the text.
-    DoctorReport(std::string program, std::string version, std::chrono::milliseconds patience = kPatience);
+    /// `program` is the path of the command line program, `version` ours, for the text. The main thread must outlive
+    /// this.
+    DoctorReport(MainThread& mainThread, std::string program, std::string version = {},
+                 std::chrono::milliseconds patience = kPatience);
     ~DoctorReport() override;
 
     void request(Receive receive) override;
@@ -29,13 +31,15 @@ class DoctorReport final : public SystemReport {
     void ended(int status, QProcess::ExitStatus exit);
     void answer(Result result);
 
+    MainThread& m_mainThread;
     std::string m_program;
     std::string m_version;
+    std::chrono::milliseconds m_patience;
     std::vector<Receive> m_waiting;
     /// Owns the process and those that were ended for a newer one and are not gone yet.
     QObject m_processes;
     QProcess* m_process = nullptr;
-    QTimer m_deadline;
+    DelayedTask m_deadline;
 };
 
 }  // namespace kinesta

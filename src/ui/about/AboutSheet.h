@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
+#include <QVBoxLayout>
 
 #include "ui/WindowCommands.h"
 #include "ui/WindowParts.h"
@@ -13,6 +15,16 @@ class AboutSheet final : public QDialog {
 
   public:
     AboutSheet(const WindowParts& parts, WindowCommands& commands, QWidget* parent);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void showLicences();
+    void measure();
+
+    QVBoxLayout* m_column;
+    QLabel* m_place;
 };
 
 }  // namespace kinesta

@@ -108,6 +108,8 @@ std::string shortAction(const GestureAction& action) {
             return onOneLine(lastPart(text));
         case ActionKind::launchApplication:
             return onOneLine(applicationName(text));
+        case ActionKind::adjustVolume:
+            return "Volume";
         default:
             return onOneLine(text);
     }

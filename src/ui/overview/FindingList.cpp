@@ -4,9 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/overview/CommandField.h"
-#include "ui/overview/SymbolMark.h"
 #include "ui/overview/Tag.h"
+#include "ui/overview/TerminalCommand.h"
 
 namespace kinesta {
 namespace {
@@ -43,11 +42,14 @@ void FindingList::rebuild() {
     };
     const auto isMissing = [&](const FindingRow& row) { return isShown(row) && row.mark == Mark::missing; };
     if (content.state == State::looking) {
-        m_rows.push_back(sentence(Mark::absent, tr("Looking…"), {}));
+        m_rows.push_back(row(WindowSymbol::search, &AppTheme::text2, {}, tr("Looking…")));
     } else if (content.state == State::failed) {
-        m_rows.push_back(sentence(Mark::missing, tr("What works here could not be found out"), asQString(content.problem)));
+        const QString what = tr("What works here could not be found out.");
+        MarkedRow* row = sentence(Mark::missing, what);
+        row->setWords(what, asQString(content.problem));
+        m_rows.push_back(row);
     } else if (!content.isDetailed && std::ranges::none_of(content.rows, isMissing)) {
-        MarkedRow* row = sentence(Mark::works, tr("Everything your rules need works here."), {});
+        MarkedRow* row = sentence(Mark::works, tr("Everything your rules need works here."));
         auto* details = new QPushButton(tr("Details"));
         details->setProperty("link", true);
         connect(details, &QPushButton::clicked, this, [this] { m_model.showDetails(); });
@@ -62,24 +64,27 @@ void FindingList::rebuild() {
         add(row);
 }
 
-MarkedRow* FindingList::sentence(Mark mark, const QString& what, const QString& why) {
-    auto* symbol = new SymbolMark(kSymbol);
-    if (mark == Mark::works)
-        symbol->setSymbol(WindowSymbol::works, &AppTheme::positive, tr("Works"));
-    else if (mark == Mark::missing)
-        symbol->setSymbol(WindowSymbol::caution, &AppTheme::caution, tr("Missing"));
-    else
-        symbol->setSymbol(WindowSymbol::fails, &AppTheme::text2, tr("Does not work, and no rule needs it"));
-    auto* row = new MarkedRow(symbol, kRowHeight);
-    row->setWords(what, why);
+MarkedRow* FindingList::row(WindowSymbol symbol, SymbolMark::Ink ink, const QString& meaning, const QString& what) {
+    auto* mark = new SymbolMark(kSymbol);
+    mark->setSymbol(symbol, ink, meaning);
+    auto* row = new MarkedRow(mark, kRowHeight);
+    row->setWords(what, {});
     return row;
 }
 
+MarkedRow* FindingList::sentence(Mark mark, const QString& what) {
+    if (mark == Mark::works)
+        return row(WindowSymbol::works, &AppTheme::positive, tr("Works"), what);
+    if (mark == Mark::missing)
+        return row(WindowSymbol::caution, &AppTheme::caution, tr("Missing"), what);
+    return row(WindowSymbol::fails, &AppTheme::text2, tr("Does not work, and no rule needs it"), what);
+}
+
 MarkedRow* FindingList::rowOf(const FindingRow& finding) {
-    MarkedRow* row = sentence(finding.mark, asQString(finding.what), {});
+    MarkedRow* row = sentence(finding.mark, asQString(finding.what));
     row->setWords(asQString(finding.what), asQString(finding.why), asQString(finding.remedy));
     if (!finding.command.empty())
-        row->addBelow(new CommandField(asQString(finding.command), m_commands));
+        row->addBelow(new TerminalCommand(asQString(finding.command), m_commands));
     if (QWidget* atEnd = atEndOf(finding))
         row->setAtEnd(atEnd);
     return row;

@@ -7,6 +7,7 @@
 #include "ui/WindowParts.h"
 #include "ui/models/WorksHereModel.h"
 #include "ui/overview/MarkedRow.h"
+#include "ui/overview/SymbolMark.h"
 #include "ui/widgets/Card.h"
 
 namespace kinesta {
@@ -25,7 +26,8 @@ class FindingList final : public Card {
     void rebuild();
     MarkedRow* rowOf(const FindingRow& finding);
     QWidget* atEndOf(const FindingRow& finding);
-    MarkedRow* sentence(FindingRow::Mark mark, const QString& what, const QString& why);
+    static MarkedRow* row(WindowSymbol symbol, SymbolMark::Ink ink, const QString& meaning, const QString& what);
+    static MarkedRow* sentence(FindingRow::Mark mark, const QString& what);
 
     WorksHereModel& m_model;
     const WindowParts& m_parts;

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QEvent>
-#include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
 
@@ -57,7 +56,7 @@ HeroCard::HeroCard(const WindowParts& parts, WindowCommands& commands, QWidget* 
     add(m_last);
     add(m_moreLine);
     connect(m_stage, &HeroStage::playPressed, this, &HeroCard::performWelcome);
-    connect(m_switch, &Switch::toggled, this, [this](bool isOn) { m_parts.service.setGestureEnabled(isOn); });
+    connect(m_switch, &Switch::clicked, this, [this](bool isOn) { m_parts.service.setGestureEnabled(isOn); });
     connect(m_try, &QPushButton::clicked, this, [this] { m_commands.tryGesture(); });
     connect(m_lastLink, &QPushButton::clicked, this, [this] {
         if (!m_content.lastGesture)
@@ -84,11 +83,16 @@ QWidget* HeroCard::makeTop() {
     m_switchLine->addWidget(m_switch);
     m_switchLine->addWidget(m_switchName, 1);
     m_switchName->setBuddy(m_switch);
+    m_lines = new QVBoxLayout;
     for (QWidget* words : {m_headline, m_welcome, m_status})
-        m_words->addWidget(words);
+        m_lines->addWidget(words);
+    m_tryLine = new QHBoxLayout;
+    m_tryLine->addWidget(m_try);
+    m_tryLine->addStretch();
+    m_words->addLayout(m_lines);
     m_words->addLayout(m_switchLine);
     m_words->addStretch(1);
-    m_words->addWidget(m_try, 0, Qt::AlignLeading);
+    m_words->addLayout(m_tryLine);
     m_top->addWidget(m_stage);
     m_top->addLayout(m_words, 1);
     return top;
@@ -96,8 +100,8 @@ QWidget* HeroCard::makeTop() {
 
 void HeroCard::show(const OverviewContent& content) {
     const bool hasOtherNotices = content.notices != m_content.notices;
-    const bool hasOtherGesture =
-        (content.lastGesture ? content.lastGesture->text : "") != (m_content.lastGesture ? m_content.lastGesture->text : "");
+    const bool hasOtherGesture = (content.lastGesture ? content.lastGesture->text : "") !=
+                                 (m_content.lastGesture ? m_content.lastGesture->text : "");
     m_content = content;
     m_headline->setText(asQString(content.headline));
     m_welcome->setText(asQString(content.welcome));
@@ -105,10 +109,7 @@ void HeroCard::show(const OverviewContent& content) {
     m_status->setText(asQString(content.statusLine));
     // The steps of the welcome have that button.
     m_try->setVisible(content.state != OverviewContent::State::firstLaunch);
-    {
-        const QSignalBlocker blocker(m_switch);
-        m_switch->setChecked(content.isGestureEnabled);
-    }
+    m_switch->setChecked(content.isGestureEnabled);
     m_stage->show(content);
     showLastGesture(content.lastGesture);
     if (hasOtherGesture && content.lastGesture) {
@@ -175,10 +176,20 @@ void HeroCard::measure() {
     m_top->setContentsMargins(0, 0, 0, 0);
     m_top->setSpacing(0);
     const int side = Unit::of(isAbove ? 16 : 24);
-    m_words->setContentsMargins(side, side, side, Unit::of(isAbove ? 16 : 20));
-    m_words->setSpacing(Unit::of(4));
-    m_switchLine->setContentsMargins(-FocusRing::room(), Unit::of(12), 0, Unit::of(12));
-    m_switchLine->setSpacing(Unit::of(8));
+    // The switch begins where the words do; the room for its ring stands out.
+    const int room = FocusRing::room();
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const auto indent = [isMirrored](QLayout* part, int by, int above, int below) {
+        part->setContentsMargins(isMirrored ? 0 : by, above, isMirrored ? by : 0, below);
+    };
+    const int leading = side - room;
+    m_words->setContentsMargins(isMirrored ? side : leading, side, isMirrored ? leading : side, side);
+    m_words->setSpacing(0);
+    indent(m_lines, room, 0, 0);
+    m_lines->setSpacing(Unit::of(4));
+    indent(m_switchLine, 0, Unit::of(16), Unit::of(12));
+    m_switchLine->setSpacing(Unit::of(12) - room);
+    indent(m_tryLine, room, 0, 0);
     m_moreLine->layout()->setContentsMargins(Row::inset(), Unit::of(4), Row::inset(), Unit::of(4));
 }
 

@@ -43,7 +43,9 @@ class HeroCard final : public Card {
     HeroStage* m_stage;
     QBoxLayout* m_top = nullptr;
     QBoxLayout* m_words = nullptr;
+    QBoxLayout* m_lines = nullptr;
     QBoxLayout* m_switchLine = nullptr;
+    QBoxLayout* m_tryLine = nullptr;
     Words* m_headline;
     Words* m_welcome;
     Words* m_status;

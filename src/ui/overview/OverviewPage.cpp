@@ -24,7 +24,9 @@ OverviewPage::OverviewPage(OverviewModel& model, const WindowParts& parts, Windo
     auto* steps = new QVBoxLayout(m_steps);
     steps->setContentsMargins(0, Unit::of(20), 0, 0);
     steps->setSpacing(Unit::of(8));
-    steps->addWidget(new Words(tr("Three steps"), Words::Size::section));
+    auto* heading = new Words(tr("Three steps"), Words::Size::section);
+    heading->setMargin(Unit::of(2));
+    steps->addWidget(heading);
     steps->addWidget(m_stepsCard);
     add(m_steps);
     auto* copy = new QPushButton(tr("Copy report"));

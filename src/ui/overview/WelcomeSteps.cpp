@@ -65,7 +65,7 @@ void WelcomeSteps::showReading(const FindingRow& touchpad) {
     if (touchpad.command.empty())
         return m_read->setWords(tr("Let Kinesta read the touchpad"), why, remedy);
     m_read->setWords(tr("Let Kinesta read the touchpad"), remedy);
-    m_command = new CommandField(QString::fromStdString(touchpad.command), m_commands);
+    m_command = new TerminalCommand(QString::fromStdString(touchpad.command), m_commands);
     m_read->addBelow(m_command);
 }
 

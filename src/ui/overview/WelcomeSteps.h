@@ -6,9 +6,9 @@
 #include "ui/WindowParts.h"
 #include "ui/models/OverviewModel.h"
 #include "ui/models/WorksHereModel.h"
-#include "ui/overview/CommandField.h"
 #include "ui/overview/MarkedRow.h"
 #include "ui/overview/StepNumber.h"
+#include "ui/overview/TerminalCommand.h"
 #include "ui/widgets/Card.h"
 
 namespace kinesta {
@@ -28,7 +28,7 @@ class WelcomeSteps final : public Card {
     WindowCommands& m_commands;
     StepNumber* m_numbers[3];
     MarkedRow* m_read;
-    CommandField* m_command = nullptr;
+    TerminalCommand* m_command = nullptr;
     QPushButton* m_allow;
     QPushButton* m_try;
 };

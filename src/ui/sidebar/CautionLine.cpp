@@ -81,7 +81,7 @@ QRect CautionLine::wordsIn(const QRect& line) const {
 }
 
 int CautionLine::room(int width) const {
-    const QRect words = wordsIn({0, 0, width - 2 * RowPainter::inset(), kHighest});
+    const QRect words = wordsIn({0, 0, width, kHighest});
     const QRect needed =
         QFontMetrics(Unit::font(kWords)).boundingRect(words, Qt::AlignTop | Qt::TextWordWrap, accessibleName());
     const double whole = needed.height() + Unit::of(2 * kPaddingAbove + kAbove + kBelow);
@@ -89,7 +89,7 @@ int CautionLine::room(int width) const {
 }
 
 void CautionLine::place(const QRect& line, const QRect& clip) {
-    const QRect inner = line.adjusted(RowPainter::inset(), Unit::of(kAbove), -RowPainter::inset(), -Unit::of(kBelow));
+    const QRect inner = line.adjusted(0, Unit::of(kAbove), 0, -Unit::of(kBelow));
     const QRect seen = inner & clip;
     m_line = inner.translated(-seen.topLeft());
     setGeometry(seen);

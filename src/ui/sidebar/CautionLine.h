@@ -17,7 +17,7 @@ class CautionLine final : public QWidget {
     void tell(const QString& sentence);
     void dismiss();
     bool isTelling() const { return m_staying.isActive(); }
-    /// The height that it takes now in a list of this width.
+    /// The height that it takes now at this width.
     int room(int width) const;
     /// Lies in `line`, shown only where that is inside of `clip`.
     void place(const QRect& line, const QRect& clip);

@@ -13,6 +13,7 @@ constexpr double kRadius = 8;
 constexpr double kInset = 8;
 constexpr double kBar = 3;
 constexpr double kBarInset = 10;
+constexpr char16_t kFirstStrongIsolate = 0x2068;
 
 }  // namespace
 
@@ -43,8 +44,10 @@ void paintWords(QPainter& painter, const QRect& line, const QFont& font, const Q
                 Qt::LayoutDirection way) {
     const Qt::Alignment alignment = QStyle::visualAlignment(way, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
     painter.setFont(font);
-    painter.drawText(line, static_cast<int>(alignment) | Qt::TextSingleLine,
-                     QFontMetrics(font).elidedText(words, Qt::ElideRight, line.width(), Qt::TextSingleLine));
+    // A name keeps its own direction, also of its last full stop.
+    const QString shown = QChar(kFirstStrongIsolate) +
+                          QFontMetrics(font).elidedText(words, Qt::ElideRight, line.width(), Qt::TextSingleLine);
+    painter.drawText(line, static_cast<int>(alignment) | Qt::TextSingleLine, shown);
 }
 
 }  // namespace kinesta::RowPainter

@@ -30,8 +30,14 @@ constexpr double kSwitchWidth = 31;
 constexpr double kSwitchHeight = 17;
 constexpr double kSwitchArea = 44;
 constexpr double kDetail = 0.92;
+constexpr double kNameLine = 18;
+constexpr double kDetailLine = 16;
 /// Beside a scroll bar, which takes most of the inset.
 constexpr int kLeastInset = 2;
+
+int nameHeight(const QFontMetrics& metrics) { return std::max(Unit::of(kNameLine), metrics.height()); }
+
+int detailHeight(const QFontMetrics& metrics) { return std::max(Unit::of(kDetailLine), metrics.height()); }
 
 QFont nameFont(bool isStrong) { return Unit::font(1, isStrong ? QFont::DemiBold : QFont::Medium); }
 
@@ -59,7 +65,7 @@ struct RuleDelegate::Parts {
 RuleDelegate::RuleDelegate(Sources sources, QObject* parent) : QAbstractItemDelegate(parent), m_sources(sources) {}
 
 int RuleDelegate::rowHeight() {
-    const int words = QFontMetrics(nameFont(true)).height() + QFontMetrics(Unit::font(kDetail)).height();
+    const int words = nameHeight(QFontMetrics(nameFont(true))) + detailHeight(QFontMetrics(Unit::font(kDetail)));
     return std::max(Unit::of(kHeight), words + Unit::of(kPadding));
 }
 
@@ -102,19 +108,21 @@ RuleDelegate::Parts RuleDelegate::partsOf(const QStyleOptionViewItem& option, co
     const QFontMetrics detailMetrics(Unit::font(kDetail));
     const int left = parts.pad.right() + 1 + Unit::of(kGap);
     const int width = std::max(0, parts.toggle.left() - Unit::of(kGap) - left);
-    const int top = parts.row.top() + (parts.row.height() - nameMetrics.height() - detailMetrics.height()) / 2;
-    parts.nameLine = {left, top, width, nameMetrics.height()};
-    parts.detailLine = {left, parts.nameLine.bottom() + 1, width, detailMetrics.height()};
+    const int top = parts.row.top() + (parts.row.height() - nameHeight(nameMetrics) - detailHeight(detailMetrics)) / 2;
+    parts.nameLine = {left, top, width, nameHeight(nameMetrics)};
+    parts.detailLine = {left, parts.nameLine.bottom() + 1, width, detailHeight(detailMetrics)};
 
     const int markRoom = row.mark == RuleMark::none ? 0 : Unit::of(kMarkGap + kMark);
-    parts.name = isolated(row.name);
+    parts.name = QString::fromStdString(row.name);
     const int nameWidth = nameMetrics.horizontalAdvance(parts.name) + 1;
     parts.nameLine.setWidth(std::min(width - markRoom, nameWidth));
     const int side = Unit::of(kMark);
     parts.mark = {left + parts.nameLine.width() + Unit::of(kMarkGap),
                   parts.nameLine.top() + (parts.nameLine.height() - side) / 2, side, side};
 
-    parts.detail = RuleItemModel::tr("%1 · %2").arg(isolated(row.gesture), isolated(row.action));
+    parts.detail = option.direction == Qt::LeftToRight
+                       ? RuleItemModel::detail(row)
+                       : RuleItemModel::tr("%1 · %2").arg(isolated(row.gesture), isolated(row.action));
     parts.isElided = parts.nameLine.width() < nameWidth || detailMetrics.horizontalAdvance(parts.detail) > width;
     for (QRect* part : {&parts.pad, &parts.nameLine, &parts.detailLine, &parts.mark, &parts.toggle})
         *part = QStyle::visualRect(option.direction, parts.row, *part);

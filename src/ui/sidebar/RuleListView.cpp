@@ -52,6 +52,11 @@ RuleListView::RuleListView(RuleListModel& rules, WindowCommands& commands, QWidg
     followSelection();
 }
 
+QRect RuleListView::rowOf(const Uuid& rule) const {
+    const QModelIndex index = m_rows->indexOf(rule);
+    return index.isValid() ? m_delegate->rowBox(optionFor(index)) : QRect();
+}
+
 void RuleListView::setRoomBelow(const Uuid& rule, int room) {
     m_delegate->setRoomBelow(m_rows->indexOf(rule), room);
     scheduleDelayedItemsLayout();

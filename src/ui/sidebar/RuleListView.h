@@ -24,8 +24,8 @@ class RuleListView final : public QListView {
     /// Both must outlive this.
     RuleListView(RuleListModel& rules, WindowCommands& commands, QWidget* parent = nullptr);
 
-    /// The row of a rule with its room below, in the viewport; empty without a row.
-    QRect itemOf(const Uuid& rule) const { return visualRect(m_rows->indexOf(rule)); }
+    /// The row of a rule in the viewport, without the room below it; empty for a rule without a row.
+    QRect rowOf(const Uuid& rule) const;
     void showWhole(const Uuid& rule) { scrollTo(m_rows->indexOf(rule)); }
     /// Leaves room below the row of a rule.
     void setRoomBelow(const Uuid& rule, int room);

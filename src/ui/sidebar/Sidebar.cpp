@@ -99,7 +99,7 @@ void Sidebar::connectParts(WindowCommands& commands) {
     connect(m_list, &RuleListView::refused, this, &Sidebar::showRefusal);
     connect(m_list, &RuleListView::arranged, this, &Sidebar::placeRefusal);
     connect(m_refusal, &CautionLine::roomChanged, this,
-            [this] { m_list->setRoomBelow(m_refused, m_refusal->room(m_list->viewport()->width())); });
+            [this] { m_list->setRoomBelow(m_refused, m_refusal->room(m_list->rowOf(m_refused).width())); });
     connect(m_refusal, &CautionLine::dismissed, this, [this] { m_list->setRoomBelow(m_refused, 0); });
 }
 
@@ -121,7 +121,7 @@ void Sidebar::changeEvent(QEvent* event) {
 void Sidebar::measure() {
     const int padding = Unit::of(kPadding);
     m_top->setContentsMargins(padding, padding, padding, m_filter->isHidden() ? 0 : Unit::of(kBelowFilter));
-    m_bottom->setContentsMargins(padding, 2 * padding, padding, padding);
+    m_bottom->setContentsMargins(padding, padding, padding, padding);
     m_filter->setFixedHeight(Unit::of(kFilterHeight));
 }
 
@@ -196,8 +196,8 @@ void Sidebar::showRefusal(const Uuid& rule) {
 void Sidebar::placeRefusal() {
     if (!m_refusal->isTelling())
         return;
-    QRect line = m_list->itemOf(m_refused);
-    line.setTop(line.bottom() + 1 - m_refusal->room(m_list->viewport()->width()));
+    const QRect row = m_list->rowOf(m_refused);
+    const QRect line(row.left(), row.bottom() + 1, row.width(), m_refusal->room(row.width()));
     const QPoint origin = m_list->viewport()->mapTo(m_middle, QPoint());
     m_refusal->place(line.translated(origin), m_list->viewport()->rect().translated(origin));
 }

@@ -28,12 +28,15 @@ Switch::Switch(const QString& name, QWidget* parent) : QAbstractButton(parent) {
         m_position = position.toDouble();
         update();
     });
-    connect(this, &QAbstractButton::toggled, this, &Switch::move);
 }
 
-void Switch::move(bool isOn) {
+/// Also when signals are blocked.
+void Switch::checkStateSet() {
+    QAbstractButton::checkStateSet();
     m_motion.stop();
-    const double target = isOn ? 1 : 0;
+    const double target = isChecked() ? 1 : 0;
+    if (m_position == target)
+        return;
     if (!isVisible() || WindowTheme::reducesMotion()) {
         m_position = target;
         return update();

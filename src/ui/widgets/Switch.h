@@ -30,14 +30,13 @@ class Switch final : public QAbstractButton {
 
   protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+    void checkStateSet() override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void move(bool isOn);
-
     FocusRing m_ring;
     QVariantAnimation m_motion;
     double m_position = 0;

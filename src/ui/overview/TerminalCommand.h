@@ -9,11 +9,11 @@
 namespace kinesta {
 
 /// A command line for a terminal, with a button that copies it.
-class CommandField final : public QWidget {
+class TerminalCommand final : public QWidget {
     Q_OBJECT
 
   public:
-    CommandField(const QString& command, WindowCommands& commands, QWidget* parent = nullptr);
+    TerminalCommand(const QString& command, WindowCommands& commands, QWidget* parent = nullptr);
 
   protected:
     void changeEvent(QEvent* event) override;

@@ -1,4 +1,4 @@
-#include "ui/overview/CommandField.h"
+#include "ui/overview/TerminalCommand.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -18,8 +18,10 @@ constexpr double kGap = 8;
 
 }  // namespace
 
-CommandField::CommandField(const QString& command, WindowCommands& commands, QWidget* parent)
-    : QWidget(parent), m_field(new QLineEdit(command)), m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
+TerminalCommand::TerminalCommand(const QString& command, WindowCommands& commands, QWidget* parent)
+    : QWidget(parent),
+      m_field(new QLineEdit(command)),
+      m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
     m_field->setReadOnly(true);
     m_field->setCursorPosition(0);
     // Commands read from left to right in every language.
@@ -37,13 +39,13 @@ CommandField::CommandField(const QString& command, WindowCommands& commands, QWi
     measure();
 }
 
-void CommandField::changeEvent(QEvent* event) {
+void TerminalCommand::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         measure();
 }
 
-void CommandField::measure() {
+void TerminalCommand::measure() {
     QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     mono.setPixelSize(Unit::font(kMonoFactor).pixelSize());
     m_field->setFont(mono);
