@@ -18,6 +18,7 @@
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
 #include "platform/linuxdesktop/appearance/IconFolders.h"
+#include "platform/linuxdesktop/cue/CompositorWatch.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
 #include "platform/linuxdesktop/cue/DesktopScreens.h"
 #include "platform/linuxdesktop/session/ControlService.h"
@@ -29,7 +30,9 @@
 #include "platform/qt/QtConfigurationWindow.h"
 #include "platform/qt/QtMainThread.h"
 #include "platform/qt/QtTermination.h"
+#include "platform/qt/Translations.h"
 #include "support/Translation.h"
+#include "ui/style/KinestaStyle.h"
 #include "ui/widgets/WindowTheme.h"
 #include "ui/window/KinestaWindow.h"
 
@@ -166,6 +169,7 @@ class Application {
 
     std::unique_ptr<QWidget> makeWindow() {
         ActionExecutor& actions = m_app.executor();
+        QApplication::setStyle(new KinestaStyle(CompositorWatch::blendsWindows));
         return std::make_unique<KinestaWindow>(
             WindowParts{.desktop = m_desktop,
                         .store = m_app.store(),
@@ -201,11 +205,13 @@ class Application {
         auto* window = configurationWindow();
         if (window == nullptr)
             return;
-        std::vector<std::string> notices;
+        std::vector<OverviewNotice> notices;
+        for (const std::string& problem : m_problems)
+            notices.push_back({OverviewNotice::Kind::problem, problem});
         if (m_isTrayDue && m_statusItem.kind().value() == TrayKind::none)
             notices.push_back(
-                translated("This desktop shows no status icons. Start Kinesta again to come back to this window."));
-        notices.insert(notices.end(), m_problems.begin(), m_problems.end());
+                {OverviewNotice::Kind::remark,
+                 translated("This desktop shows no status icons. Start Kinesta again to come back to this window.")});
         window->setNotices(std::move(notices));
     }
 
@@ -264,7 +270,7 @@ class Application {
     App m_app{desktopWithCue(), teller()};
     LaunchAtLoginManager m_login{m_desktop.loginItem()};
     SoftwareUpdateController m_updates{m_bundle, [this](const UpdateConfiguration&) { return makeUpdater(); }};
-    DoctorReport m_report{m_mainLoop, m_files.program().string()};
+    DoctorReport m_report{m_files.program().string(), KINESTA_VERSION};
     DesktopApplications m_applications;
     ApplicationControl m_control{{.store = m_app.store(),
                                   .service = m_app.recognition().service(),
@@ -306,6 +312,7 @@ int main(int argc, char** argv) {
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);
+    installTranslations(ProgramFiles::ofThisProcess().translations());
 
     QtMainThread mainLoop;
     LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());

@@ -10,6 +10,7 @@
 #include "platform/qt/JsonBundleInformation.h"
 #include "platform/qt/QtMainThread.h"
 #include "platform/qt/ThemePalette.h"
+#include "platform/qt/Translations.h"
 
 // Checks for updates: kinesta-updater BUNDLE.json [--scheduled] [--dark] [--more-contrast]. A program of its own,
 // because the libraries of the network take memory that the application in the tray should not need all day. Exit
@@ -28,6 +29,8 @@ int main(int argc, char** argv) {
     QApplication::setPalette(
         themePalette(AppTheme::of(isDark ? NamedAppearance::darkAqua : NamedAppearance::aqua,
                                   hasMoreContrast ? ThemeContrast::more : ThemeContrast::standard)));
+    installTranslations(
+        (QApplication::applicationDirPath() + QStringLiteral("/../../share/kinesta/translations")).toStdString());
     const JsonBundleInformation bundle(arguments.value(1).toStdString());
     const auto configuration = SoftwareUpdateController::configuration(bundle);
     if (!configuration) {

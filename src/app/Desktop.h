@@ -10,7 +10,9 @@
 
 #include "actions/ActionPorts.h"
 #include "app/DesktopFindings.h"
+#include "app/KeyRecording.h"
 #include "app/LiveTrackpad.h"
+#include "app/PlatformSettings.h"
 #include "app/RunningApplication.h"
 #include "app/WindowActionOutcomes.h"
 #include "rules/SystemGestureWarningChecker.h"
@@ -84,6 +86,7 @@ class Desktop {
     virtual std::string howToSet(std::string_view key, const std::string& value) const = 0;
     /// The folder of the settings, for files that belong to them. Created if it is missing.
     virtual Result<std::filesystem::path> settingsFolder() = 0;
+    virtual PlatformSettings platformSettings() const = 0;
 
     // The trackpad
 
@@ -120,6 +123,10 @@ class Desktop {
     /// Whether a shortcut with the key of this code and name reaches programs as the letter in its name. True if the
     /// name is not a letter.
     virtual bool typesLetterOf(std::uint16_t keyCode, const std::string& name) = 0;
+    /// Whether tiling commands can move windows here. May ask the window manager.
+    virtual bool tilesWindows() = 0;
+    /// Valid until finishActions().
+    virtual KeyRecording& keyRecording() = 0;
     /// Why the application at this absolute path cannot be started. The path must exist.
     virtual std::optional<Obstacle> obstacleToLaunching(const std::string& application) = 0;
 };

@@ -23,6 +23,10 @@ struct DesktopFinding {
     std::string why;
     /// What the user can do about it; empty if nothing needs to be done.
     std::string remedy;
+    /// The command line that the remedy ends with, to be run in a terminal; empty if there is none.
+    std::string command = {};
+    /// Whether the remedy is to change a setting.
+    bool isSetting = false;
 };
 
 }  // namespace kinesta

@@ -22,6 +22,8 @@ class LiveTrackpad {
         std::string name;
         std::string path;
         bool canTellPressure = false;
+        /// Width to height; 0 if that is not known.
+        double proportions = 0;
     };
 
     virtual ~LiveTrackpad() = default;
@@ -41,8 +43,8 @@ class LiveTrackpad {
     /// Calls `handler` when the status of contacts() has changed by itself. It may start and stop contacts().
     virtual void onStatusChange(std::function<void()> handler) = 0;
 
-    /// Calls `watcher` on the main thread with every event of the pad, in addition to the frame handler that contacts()
-    /// has now. Must be called before contacts() starts.
+    /// Calls `watcher` on the main thread with every event of the pad from now on, in their order, in place of the
+    /// watcher before it. An empty one ends the watching. At any time; nobody who watches costs nothing.
     virtual void watch(std::function<void(const PadEvent&)> watcher) = 0;
 };
 
@@ -67,8 +69,10 @@ struct ConnectedTrackpad {
     bool mayBeOff = false;
     /// How many fingers it reports at once; 0 if that is not known.
     int fingers = 0;
-    /// Why it cannot be read and what to do, as a sentence; empty if it can.
+    /// Why it cannot be read, as a sentence; empty if it can.
     std::string problem;
+    /// The command line that lets this person read it, if that is what is missing.
+    std::string command;
 };
 
 struct ConnectedTrackpads {

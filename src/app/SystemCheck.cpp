@@ -1,6 +1,7 @@
 #include "app/SystemCheck.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -15,6 +16,8 @@
 namespace kinesta {
 namespace {
 
+constexpr const char* kAllowReading =
+    "Run this once in a terminal. It opens the touchpad, and nothing else, to whoever sits at this computer.";
 constexpr const char* kReadWhileOff = " Kinesta also reads it while this desktop has it switched off.";
 
 bool needs(const GestureAction& action, DesktopCapability capability) {
@@ -43,66 +46,125 @@ bool needs(const GestureAction& action, DesktopCapability capability) {
 
 using Rules = std::vector<GestureRule>;
 
-bool anyEnabled(const Rules& rules, const std::function<bool(const GestureRule&)>& needs) {
-    return std::ranges::any_of(rules, [&](const GestureRule& rule) { return rule.isEnabled && needs(rule); });
+std::size_t countEnabled(const Rules& rules, const std::function<bool(const GestureRule&)>& needs) {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(rules, [&](const GestureRule& rule) { return rule.isEnabled && needs(rule); }));
 }
 
-std::string inQuotes(const GestureRule& rule) {
-    return "Rule “" + describeTrigger(rule) + "  →  " + describeConsequence(rule) + "”";
+SystemFinding obstacleTo(const GestureRule& rule, std::string why, std::string remedy) {
+    return {.subject = FindingSubject::rule,
+            .what = "Rule “" + describeTrigger(rule) + "  →  " + describeConsequence(rule) + "”",
+            .works = false,
+            .why = std::move(why),
+            .remedy = std::move(remedy),
+            .rulesInNeed = 1,
+            .rule = rule.id};
+}
+
+SystemFinding findingAbout(const ConnectedTrackpads& trackpads) {
+    SystemFinding finding{.subject = FindingSubject::touchpad, .what = "Touchpad", .works = false, .why = {}};
+    const ConnectedTrackpad* chosen = trackpads.chosen();
+    if (chosen == nullptr) {
+        finding.why = trackpads.whenNoneIsChosen.why;
+        finding.remedy = trackpads.whenNoneIsChosen.remedy;
+        finding.isSetting = !trackpads.all.empty();
+        return finding;
+    }
+    finding.works = chosen->problem.empty();
+    finding.why = finding.works ? chosen->name + " at " + chosen->path + "." + (chosen->mayBeOff ? kReadWhileOff : "")
+                                : chosen->problem;
+    if (!chosen->command.empty()) {
+        finding.remedy = kAllowReading;
+        finding.command = chosen->command;
+    }
+    if (!chosen->isBuiltIn)
+        finding.chosenName = chosen->name;
+    return finding;
+}
+
+FindingSubject subjectOf(DesktopCapability capability) {
+    switch (capability) {
+        case DesktopCapability::sendInput:
+            return FindingSubject::sendInput;
+        case DesktopCapability::keyboardLayout:
+            return FindingSubject::keyboardLayout;
+        case DesktopCapability::windows:
+            return FindingSubject::windows;
+        case DesktopCapability::open:
+            return FindingSubject::open;
+        case DesktopCapability::notify:
+            return FindingSubject::notify;
+        case DesktopCapability::cue:
+            break;
+    }
+    return FindingSubject::cue;
 }
 
 void addTrackpad(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
     const ConnectedTrackpads trackpads = desktop.connectedTrackpads();
     const ConnectedTrackpad* chosen = trackpads.chosen();
-    const bool isNeeded = anyEnabled(rules, [](const GestureRule&) { return true; });
-    if (chosen == nullptr)
-        findings.push_back(
-            {"Touchpad", false, trackpads.whenNoneIsChosen.why, trackpads.whenNoneIsChosen.remedy, isNeeded});
-    else
-        findings.push_back({"Touchpad", chosen->problem.empty(),
-                            chosen->problem.empty()
-                                ? chosen->name + " at " + chosen->path + "." + (chosen->mayBeOff ? kReadWhileOff : "")
-                                : chosen->problem,
-                            "", isNeeded});
+    const std::size_t enabled = countEnabled(rules, [](const GestureRule&) { return true; });
+    findings.push_back(findingAbout(trackpads));
+    findings.back().rulesInNeed = enabled;
     if (!storedGestureEnabled(desktop.defaults()))
-        findings.push_back({"Gesture recognition", false, "It is switched off in the settings.",
-                            "To switch it on " + desktop.howToSet(MultitouchService::enabledStorageKey, "true"),
-                            isNeeded});
+        findings.push_back(
+            {.subject = FindingSubject::gestureRecognition,
+             .what = "Gesture recognition",
+             .works = false,
+             .why = "It is switched off in the settings.",
+             .remedy = "To switch it on " + desktop.howToSet(MultitouchService::enabledStorageKey, "true"),
+             .isSetting = true,
+             .rulesInNeed = enabled});
     const bool isRead = chosen != nullptr && chosen->axes;
     const bool canTellPressure = isRead && chosen->canTellPressure;
-    findings.push_back({"Force Click", canTellPressure,
-                        !isRead           ? "Not known while no touchpad can be read."
-                        : canTellPressure ? "The touchpad reports pressure."
-                                          : "Impossible: the touchpad cannot tell pressure.",
-                        canTellPressure || !isRead ? "" : "Bind those rules to a physical click of any pressure.",
-                        anyEnabled(rules, [](const GestureRule& rule) {
-                            return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
-                        })});
+    findings.push_back(
+        {.subject = FindingSubject::forceClick,
+         .what = "Force Click",
+         .works = canTellPressure,
+         .why = !isRead           ? "Not known while no touchpad can be read."
+                : canTellPressure ? "The touchpad reports pressure."
+                                  : "Impossible: the touchpad cannot tell pressure.",
+         .remedy = canTellPressure || !isRead ? "" : "Bind those rules to a physical click of any pressure.",
+         .rulesInNeed = countEnabled(rules, [](const GestureRule& rule) {
+             return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
+         })});
     if (!isRead || chosen->fingers == 0)
         return;
     for (const GestureRule& rule : rules)
         if (rule.isEnabled && usesFingerCount(rule.gesture) && rule.fingerCount.value_or(0) > chosen->fingers)
-            findings.push_back({inQuotes(rule), false,
-                                "The touchpad reports at most " + std::to_string(chosen->fingers) + " fingers at once.",
-                                "Choose a gesture with fewer fingers.", true});
+            findings.push_back(
+                obstacleTo(rule, "The touchpad reports at most " + std::to_string(chosen->fingers) + " fingers at once.",
+                           "Choose a gesture with fewer fingers."));
 }
 
 void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
     for (DesktopFinding& finding : desktop.findings()) {
-        const bool isNeeded =
-            anyEnabled(rules, [&](const GestureRule& rule) { return needs(rule.action, finding.capability); });
-        findings.push_back(
-            {std::move(finding.what), finding.works, std::move(finding.why), std::move(finding.remedy), isNeeded});
+        const std::size_t inNeed =
+            countEnabled(rules, [&](const GestureRule& rule) { return needs(rule.action, finding.capability); });
+        findings.push_back({.subject = subjectOf(finding.capability),
+                            .what = std::move(finding.what),
+                            .works = finding.works,
+                            .why = std::move(finding.why),
+                            .remedy = std::move(finding.remedy),
+                            .command = std::move(finding.command),
+                            .isSetting = finding.isSetting,
+                            .rulesInNeed = inNeed});
     }
 }
 
 void addShellCommands(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
     const bool isOn = ShellCommandSettings::isEnabled(desktop.defaults());
     findings.push_back(
-        {"Shell commands", isOn, isOn ? "Switched on." : "Switched off, as they are at first.",
-         isOn ? ""
-              : "If you trust every rule that runs one: " + desktop.howToSet(ShellCommandSettings::enabledKey, "true"),
-         anyEnabled(rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
+        {.subject = FindingSubject::shellCommands,
+         .what = "Shell commands",
+         .works = isOn,
+         .why = isOn ? "Switched on." : "Switched off, as they are at first.",
+         .remedy = isOn ? ""
+                        : "If you trust every rule that runs one: " +
+                              desktop.howToSet(ShellCommandSettings::enabledKey, "true"),
+         .isSetting = !isOn,
+         .rulesInNeed = countEnabled(
+             rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
 }
 
 std::optional<Obstacle> obstacleToLetter(const GestureAction& action, Desktop& desktop) {
@@ -120,15 +182,29 @@ void addObstacles(std::vector<SystemFinding>& findings, const Rules& rules, Desk
     for (const GestureRule& rule : rules) {
         if (!rule.isEnabled)
             continue;
-        auto obstacle = obstacleTo(rule.action, desktop);
+        auto obstacle = kinesta::obstacleTo(rule.action, desktop);
         if (!obstacle)
             obstacle = obstacleToLetter(rule.action, desktop);
         if (obstacle)
-            findings.push_back({inQuotes(rule), false, obstacle->why, obstacle->remedy, true});
+            findings.push_back(obstacleTo(rule, std::move(obstacle->why), std::move(obstacle->remedy)));
     }
 }
 
+/// In the order of the enumeration.
+constexpr std::array<std::string_view, 11> kSubjects{"touchpad", "gestureRecognition", "forceClick", "sendInput",
+                                                     "keyboardLayout", "windows", "open", "notify", "cue",
+                                                     "shellCommands", "rule"};
+
 }  // namespace
+
+std::string_view rawValue(FindingSubject subject) { return kSubjects.at(static_cast<std::size_t>(subject)); }
+
+std::optional<FindingSubject> findingSubject(std::string_view raw) {
+    const auto found = std::ranges::find(kSubjects, raw);
+    if (found == kSubjects.end())
+        return std::nullopt;
+    return static_cast<FindingSubject>(found - kSubjects.begin());
+}
 
 std::vector<SystemFinding> checkSystem(Desktop& desktop, const std::vector<GestureRule>& rules) {
     std::vector<SystemFinding> findings;

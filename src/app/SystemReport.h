@@ -13,16 +13,18 @@ class SystemReport {
   public:
     struct Result {
         std::vector<SystemFinding> findings;
-        /// The report as text, to copy: nothing personal in it.
+        /// The report as text, to copy: versions, and the findings without anything personal. Also if there are none.
         std::string text;
-        /// Why there is no report; empty if there is one.
+        /// Why there are no findings, as a sentence; empty if there are.
         std::string problem;
     };
+    using Receive = std::function<void(const Result&)>;
 
     virtual ~SystemReport() = default;
 
-    /// Calls `receive` once, later, on the main thread. A second request meanwhile replaces the first.
-    virtual void request(std::function<void(const Result&)> receive) = 0;
+    /// Calls `receive` once, later, on the main thread. A request while another one is being answered starts over: both
+    /// get the newer result.
+    virtual void request(Receive receive) = 0;
 };
 
 }  // namespace kinesta

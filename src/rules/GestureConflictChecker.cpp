@@ -1,23 +1,18 @@
 #include "rules/GestureConflictChecker.h"
 
 #include <array>
-#include <compare>
 #include <cstddef>
 #include <map>
 #include <optional>
+#include <tuple>
 
 namespace kinesta {
 namespace {
 
 // Rules compete only if they have this in common. All pressures of a click count share one group.
-struct Group {
-    GestureKind gesture;
-    std::optional<std::int64_t> fingerCount;
-    std::optional<AnchorCorner> corner;
-    std::optional<DrawPattern> pattern;
-
-    friend auto operator<=>(const Group&, const Group&) = default;
-};
+// A tuple: std::optional has no <=> in libc++ 16.
+using Group =
+    std::tuple<GestureKind, std::optional<std::int64_t>, std::optional<AnchorCorner>, std::optional<DrawPattern>>;
 
 // Within a group, a rule takes everything (any pressure, both sides) or one of two disjoint halves.
 enum class Share { everything, firstHalf, secondHalf };
@@ -27,16 +22,11 @@ using Counts = std::array<std::size_t, 3>;  // rules of a group by share
 bool isChecked(const GestureRule& rule) { return rule.isEnabled && isConfigured(rule.gesture); }
 
 Group group(const GestureRule& rule) {
-    Group group{rule.gesture, std::nullopt, std::nullopt, std::nullopt};
-    if (const auto count = physicalClickCount(rule.gesture))
-        group.gesture = *physicalClickGesture(*count, std::nullopt);
-    if (usesFingerCount(rule.gesture))
-        group.fingerCount = rule.fingerCount;
-    if (rule.gesture == GestureKind::anchorDraw) {
-        group.corner = rule.anchorCorner;
-        group.pattern = rule.drawPattern;
-    }
-    return group;
+    const auto count = physicalClickCount(rule.gesture);
+    const bool isDrawn = rule.gesture == GestureKind::anchorDraw;
+    return {count ? *physicalClickGesture(*count, std::nullopt) : rule.gesture,
+            usesFingerCount(rule.gesture) ? rule.fingerCount : std::nullopt, isDrawn ? rule.anchorCorner : std::nullopt,
+            isDrawn ? rule.drawPattern : std::nullopt};
 }
 
 Share share(const GestureRule& rule) {

@@ -15,7 +15,8 @@ Json asJson(const ConnectedTrackpad& trackpad) {
                 {"builtIn", trackpad.isBuiltIn},
                 {"chosen", trackpad.isChosen},
                 {"readable", trackpad.problem.empty()},
-                {"problem", trackpad.problem.empty() ? Json(nullptr) : Json(trackpad.problem)}};
+                {"problem", trackpad.problem.empty() ? Json(nullptr) : Json(trackpad.problem)},
+                {"command", trackpad.command.empty() ? Json(nullptr) : Json(trackpad.command)}};
     if (trackpad.axes) {
         object.set("x", range(trackpad.axes->x));
         object.set("y", range(trackpad.axes->y));
@@ -43,7 +44,11 @@ void printForPeople(const Console& console, const ConnectedTrackpads& trackpads)
         console.out << '\n' << console.warning(printable(trackpads.whenNoneIsChosen.why)) << '\n';
     for (const ConnectedTrackpad& trackpad : trackpads.all)
         if (!trackpad.problem.empty())
-            console.out << '\n' << console.warning(printable(trackpad.problem)) << '\n';
+            console.out << '\n'
+                        << console.warning(printable(trackpad.problem +
+                                                     (trackpad.command.empty() ? "" : " To allow it, run:")))
+                        << '\n'
+                        << (trackpad.command.empty() ? "" : trackpad.command + "\n");
 }
 
 }  // namespace

@@ -13,22 +13,30 @@ namespace {
 void printJson(const Console& console, const std::vector<SystemFinding>& findings) {
     Json array = Json::array();
     for (const SystemFinding& finding : findings)
-        array.push_back({{"what", printable(finding.what)},
+        array.push_back({{"subject", rawValue(finding.subject)},
+                         {"what", printable(finding.what)},
                          {"works", finding.works},
-                         {"needed", finding.isNeeded},
+                         {"needed", finding.isNeeded()},
+                         {"rulesInNeed", finding.rulesInNeed},
+                         {"rule", finding.rule ? Json(finding.rule->toString()) : Json(nullptr)},
                          {"why", finding.why},
-                         {"remedy", finding.remedy}});
+                         {"remedy", finding.remedy},
+                         {"command", finding.command},
+                         {"setting", finding.isSetting},
+                         {"chosenName", finding.chosenName}});
     console.out << array.text(2) << '\n';
 }
 
 void printForPeople(const Console& console, const std::vector<SystemFinding>& findings, bool isMissing) {
     for (const SystemFinding& finding : findings) {
         const std::string mark = finding.works      ? console.good("✓")
-                                 : finding.isNeeded ? console.warning("✗")
+                                 : finding.isNeeded() ? console.warning("✗")
                                                     : console.dim("–");
         console.out << mark << ' ' << console.bold(printable(finding.what)) << ": " << printable(finding.why) << '\n';
         if (!finding.works && !finding.remedy.empty())
             console.out << "    " << finding.remedy << '\n';
+        if (!finding.works && !finding.command.empty())
+            console.out << "        " << finding.command << '\n';
     }
     console.out << '\n'
                 << (isMissing ? "Something that your rules need is missing (✗)." : "All that your rules need is there.")

@@ -105,8 +105,8 @@ void RecordedPad::deliver(const PadEvent& recorded) {
         m_pointer.deliver(event);
     }
     m_arrival.clearUptime();
-    if (m_watcher)
-        m_watcher(event);
+    if (const auto watcher = m_watcher)  // a copy: it may end the watching
+        watcher(event);
 }
 
 void RecordedPad::finish() {

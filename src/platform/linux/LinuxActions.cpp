@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "actions/KeyboardLayoutResolver.h"
+#include "platform/linux/keyboard/LinuxKeyRecording.h"
 #include "platform/linux/keyboard/PostingEventSynthesizer.h"
 #include "platform/linux/keyboard/UinputDevice.h"
 #include "platform/linux/keyboard/X11Keyboard.h"
@@ -57,6 +58,7 @@ struct LinuxActions::Parts {
     X11Connection connection;
     X11Keyboard keyboard{connection};
     XkbKeyboardLayout layout{keyboard};
+    LinuxKeyRecording keyRecording{layout, defaults};
     MessageBus bus;
     DesktopPortal portal{bus};
     PosixProcessLauncher launcher;
@@ -75,7 +77,7 @@ struct LinuxActions::Parts {
     DesktopPermission permission{poster, notificationsOnScreen, [this] {
                                      const auto facts = DesktopFacts::probeInput(connection, UinputDevice::kPath);
                                      const auto finding = session(facts).finding(DesktopCapability::sendInput);
-                                     return finding.why + " " + finding.remedy;
+                                     return finding.why + " " + finding.remedy + " " + finding.command;
                                  }};
     LinuxSystemVersion systemVersion;
     PosixHomeFolders homeFolders;
@@ -120,6 +122,13 @@ bool LinuxActions::typesLetterOf(std::uint16_t keyCode, const std::string& name)
                return posted < characters.size() && lowerCased(characters[posted]) == letter;
            });
 }
+
+bool LinuxActions::tilesWindows() {
+    const auto snapshot = answersWayland() ? std::nullopt : m_parts->desktop.snapshot();
+    return snapshot && snapshot->movesWindows;
+}
+
+KeyRecording& LinuxActions::keyRecording() { return m_parts->keyRecording; }
 
 void LinuxActions::letDesktopCatchUp() {
     if (m_parts->poster.usesVirtualDevice() && m_parts->poster.isAvailable())

@@ -7,6 +7,7 @@
 
 #include "actions/ActionPorts.h"
 #include "actions/InProcessNotifications.h"
+#include "app/KeyRecording.h"
 #include "app/LoginItemService.h"
 #include "platform/linux/launching/PosixProcessLauncher.h"
 #include "platform/linux/session/DesktopSession.h"
@@ -49,6 +50,10 @@ class LinuxActions {
     /// layout of the keyboard types that letter with the key that is posted. True for keys that name no letter, and if
     /// no layout is known.
     bool typesLetterOf(std::uint16_t keyCode, const std::string& name);
+
+    /// Whether the window manager moves windows for other programs.
+    bool tilesWindows();
+    KeyRecording& keyRecording();
 
     /// How often we have waited for the X server so far.
     unsigned roundTrips() const;

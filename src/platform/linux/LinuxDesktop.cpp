@@ -13,6 +13,7 @@
 #include "platform/linux/process/ProgramFiles.h"
 #include "platform/linux/process/SessionEnvironment.h"
 #include "platform/linux/session/DesktopFacts.h"
+#include "platform/linux/settings/LinuxActionSettings.h"
 #include "platform/linux/x11/X11Connection.h"
 #include "support/SystemError.h"
 
@@ -153,6 +154,10 @@ Result<std::filesystem::path> LinuxDesktop::settingsFolder() {
     if (problem)
         return Error{folder.string() + ": " + systemErrorText(problem.value())};
     return folder;
+}
+
+PlatformSettings LinuxDesktop::platformSettings() const {
+    return {LinuxActionSettings::choices(), LinuxTrackpad::kSettingKey};
 }
 
 LiveTrackpad& LinuxDesktop::trackpad() {

@@ -70,6 +70,7 @@ class LinuxDesktop final : public Desktop {
     bool watchDefaults(std::function<void()> onChange) override;
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
+    PlatformSettings platformSettings() const override;
 
     void useStream(std::string path) override { m_stream = std::move(path); }
     LiveTrackpad& trackpad() override;
@@ -87,6 +88,8 @@ class LinuxDesktop final : public Desktop {
     const HomeFolders& homeFolders() const override { return m_homeFolders; }
     std::optional<Obstacle> obstacleToKey(std::uint16_t keyCode, std::uint64_t flags) override;
     bool typesLetterOf(std::uint16_t keyCode, const std::string& name) override;
+    bool tilesWindows() override { return actions().tilesWindows(); }
+    KeyRecording& keyRecording() override { return actions().keyRecording(); }
     std::optional<Obstacle> obstacleToLaunching(const std::string& application) override;
 
   private:

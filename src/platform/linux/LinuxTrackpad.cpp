@@ -14,36 +14,21 @@ std::array<int, 2> range(const EvdevAxisRange& axis) { return {axis.minimum, axi
 }  // namespace
 
 LinuxTrackpad::LinuxTrackpad(MainThread& mainThread, const Clock& clock, const UserDefaults& defaults)
-    : m_mainThread(mainThread),
-      m_clock(clock),
+    : m_clock(clock),
       m_defaults(defaults),
+      m_relay(mainThread, clock),
       m_provider(mainThread, {.device = chosenIn(defaults), .pressure = {}}) {
-    m_provider.setPointerHandler([this](const PadEvent& event) {
-        if (m_watcher)
-            m_watcher(event);
-        m_pointer.deliver(event);
-    });
+    m_provider.setPointerHandler([this](const PadEvent& event) { m_pointer.deliver(event); });
+    m_provider.setEventHandler([this](const PadEvent& event) { m_relay.offer(event); });
 }
 
 LiveTrackpad::Identity LinuxTrackpad::identity() const {
     const auto& state = m_provider.state();
-    return {state.name, state.path, state.canTellPressure};
+    return {state.name, state.path, state.canTellPressure, state.proportions};
 }
 
 void LinuxTrackpad::choose(const std::string& wanted) {
     m_provider.setDevice(wanted.empty() ? chosenIn(m_defaults) : wanted);
-}
-
-void LinuxTrackpad::watch(std::function<void(const PadEvent&)> watcher) {
-    m_watcher = std::move(watcher);
-    // Frames arrive on the provider's thread; each one is posted to the main thread.
-    m_provider.setFrameHandler([this, recognize = m_provider.frameHandler()](const TrackpadContactFrame& frame) {
-        if (recognize)
-            recognize(frame);
-        m_mainThread.post([this, frame, received = m_clock.uptime()] {
-            m_watcher({frame.timestamp, PadFrame{frame.samples, received}});
-        });
-    });
 }
 
 ConnectedTrackpads LinuxTrackpad::connected(const UserDefaults& defaults, const std::string& howToChoose) {
@@ -61,6 +46,7 @@ ConnectedTrackpads LinuxTrackpad::connected(const UserDefaults& defaults, const 
         trackpad.mayBeOff = listed.mayBeOff;
         trackpad.fingers = listed.fingers;
         trackpad.problem = std::move(listed.problem);
+        trackpad.command = std::move(listed.command);
     }
     if (trackpads.chosen() == nullptr)
         trackpads.whenNoneIsChosen = {noTouchpadMessage(wanted),

@@ -3,10 +3,12 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/LiveTrackpad.h"
 #include "input/PointerEventBroadcaster.h"
 #include "platform/linux/touchpad/EvdevContactProvider.h"
+#include "platform/linux/touchpad/PadEventRelay.h"
 #include "support/Clock.h"
 #include "support/UserDefaults.h"
 
@@ -28,17 +30,16 @@ class LinuxTrackpad final : public LiveTrackpad {
     Identity identity() const override;
     void choose(const std::string& wanted) override;
     void onStatusChange(std::function<void()> handler) override { m_provider.setStatusHandler(std::move(handler)); }
-    void watch(std::function<void(const PadEvent&)> watcher) override;
+    void watch(std::function<void(const PadEvent&)> watcher) override { m_relay.setWatcher(std::move(watcher)); }
 
     /// All touchpads, each opened for a moment. `howToChoose` says how a person chooses another one.
     static ConnectedTrackpads connected(const UserDefaults& defaults, const std::string& howToChoose);
 
   private:
-    MainThread& m_mainThread;
     const Clock& m_clock;
     const UserDefaults& m_defaults;
     PointerEventBroadcaster m_pointer;
-    std::function<void(const PadEvent&)> m_watcher;
+    PadEventRelay m_relay;  // before the provider, whose thread uses it
     EvdevContactProvider m_provider;
 };
 

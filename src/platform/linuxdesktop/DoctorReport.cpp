@@ -1,13 +1,128 @@
 #include "platform/linuxdesktop/DoctorReport.h"
 
+#include <sys/prctl.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <csignal>
+#include <algorithm>
+#include <optional>
 #include <utility>
 
-namespace kinesta {
+#include "platform/linuxdesktop/ReportText.h"
 
-void DoctorReport::request(std::function<void(const Result&)> receive) {
-    m_mainThread.post([program = m_program, receive = std::move(receive)] {
-        receive({.findings = {}, .text = {}, .problem = program + " was not asked."});
+namespace kinesta {
+namespace {
+
+std::string textIn(const QJsonObject& object, const char* key) {
+    return object.value(QLatin1String(key)).toString().toStdString();
+}
+
+std::optional<SystemFinding> findingIn(const QJsonObject& object) {
+    const auto subject = findingSubject(textIn(object, "subject"));
+    const QJsonValue works = object.value(QLatin1String("works"));
+    SystemFinding finding{.subject = subject.value_or(FindingSubject::rule),
+                          .what = textIn(object, "what"),
+                          .works = works.toBool(),
+                          .why = textIn(object, "why"),
+                          .remedy = textIn(object, "remedy"),
+                          .command = textIn(object, "command"),
+                          .isSetting = object.value(QLatin1String("setting")).toBool(),
+                          .rulesInNeed = static_cast<std::size_t>(
+                              std::max(object.value(QLatin1String("rulesInNeed")).toInt(), 0)),
+                          .rule = Uuid::parse(textIn(object, "rule")),
+                          .chosenName = textIn(object, "chosenName")};
+    if (!subject || finding.what.empty() || !works.isBool())
+        return std::nullopt;
+    return finding;
+}
+
+/// The findings in the output of the program; none if it is not what this version writes.
+std::vector<SystemFinding> findingsIn(const QByteArray& output) {
+    std::vector<SystemFinding> findings;
+    for (const QJsonValue& value : QJsonDocument::fromJson(output).array()) {
+        auto finding = findingIn(value.toObject());
+        if (!finding)
+            return {};
+        findings.push_back(std::move(*finding));
+    }
+    return findings;
+}
+
+}  // namespace
+
+DoctorReport::DoctorReport(std::string program, std::string version, std::chrono::milliseconds patience)
+    : m_program(std::move(program)), m_version(std::move(version)) {
+    m_deadline.setSingleShot(true);
+    m_deadline.setInterval(patience);
+    QObject::connect(&m_deadline, &QTimer::timeout, &m_deadline, [this] {
+        end();
+        answer({.findings = {}, .text = {}, .problem = m_program + " did not answer in time. Try again later."});
     });
+}
+
+DoctorReport::~DoctorReport() {
+    end();
+    for (auto* process : m_processes.findChildren<QProcess*>())
+        process->waitForFinished();
+}
+
+void DoctorReport::request(Receive receive) {
+    m_waiting.push_back(std::move(receive));
+    end();
+    start();
+}
+
+void DoctorReport::start() {
+    auto* process = m_process = new QProcess(&m_processes);
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    // It only reads, so it may end at any moment: also with us, however we end.
+    process->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    QObject::connect(process, &QProcess::finished, process, [this, process](int status, QProcess::ExitStatus exit) {
+        if (process == m_process)
+            ended(status, exit);
+    });
+    const auto onError = [this, process](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return;
+        process->deleteLater();
+        if (process != m_process)
+            return;
+        const std::string why = process->errorString().toStdString();
+        end();
+        answer({.findings = {}, .text = {}, .problem = m_program + " cannot be started: " + why + "."});
+    };
+    // Queued, as start() may fail at once.
+    QObject::connect(process, &QProcess::errorOccurred, process, onError, Qt::QueuedConnection);
+    m_deadline.start();
+    process->start(QString::fromStdString(m_program), {QStringLiteral("doctor"), QStringLiteral("--json")},
+                   QIODevice::ReadOnly);
+}
+
+void DoctorReport::end() {
+    m_deadline.stop();
+    if (auto* process = std::exchange(m_process, nullptr))
+        process->kill();  // deletes itself when it has ended
+}
+
+void DoctorReport::ended(int status, QProcess::ExitStatus exit) {
+    Result result;
+    // 1 says that something is missing.
+    if (exit == QProcess::NormalExit && (status == 0 || status == 1))
+        result.findings = findingsIn(m_process->readAllStandardOutput());
+    if (result.findings.empty())
+        result.problem = m_program + " doctor gave no report. Run it in a terminal to see why.";
+    end();
+    answer(std::move(result));
+}
+
+void DoctorReport::answer(Result result) {
+    result.text = reportText(result, m_version);
+    for (const Receive& receive : std::exchange(m_waiting, {}))
+        receive(result);
 }
 
 }  // namespace kinesta

@@ -1,5 +1,6 @@
 #include "ui/models/GestureDeletionRequest.h"
 
+#include "support/Translation.h"
 #include "ui/models/RuleWords.h"
 
 namespace kinesta {
@@ -15,8 +16,10 @@ GestureDeletionRequest GestureDeletionRequest::of(std::span<const GestureRule> r
 }
 
 std::string GestureDeletionRequest::title() const {
-    return names.size() == 1 ? "Delete “" + names.front() + "”?"
-                             : "Delete " + std::to_string(names.size()) + " gestures?";
+    return names.size() == 1 ? translated("Delete “%1”?", {names.front()})
+                             : translated("Delete %1 gestures?", {std::to_string(names.size())});
 }
+
+std::string GestureDeletionRequest::message() { return translated("This action cannot be undone."); }
 
 }  // namespace kinesta

@@ -18,7 +18,7 @@ struct GestureDeletionRequest {
     static GestureDeletionRequest of(std::span<const GestureRule> rules, const std::set<Uuid>& wanted);
 
     std::string title() const;
-    static std::string message() { return "This action cannot be undone."; }
+    static std::string message();
 
     friend bool operator==(const GestureDeletionRequest&, const GestureDeletionRequest&) = default;
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "rules/GestureDescription.h"
+#include "support/Translation.h"
 #include "ui/models/PublishIfChanged.h"
 #include "ui/models/RuleWords.h"
 
@@ -15,19 +16,29 @@ using State = OverviewContent::State;
 std::string headline(State state) {
     switch (state) {
         case State::listening:
-            return "Ready for your gestures";
+            return translated("Ready for your gestures");
         case State::listeningWithoutRules:
-            return "Listening, with no rule on";
+            return translated("Listening, with no rule on");
         case State::off:
-            return "Gestures are off";
+            return translated("Gestures are off");
         case State::stopped:
-            return "The trackpad is not being read";
+            return translated("The trackpad is not being read");
         case State::unavailable:
-            return "The trackpad cannot be read";
+            return translated("The trackpad cannot be read");
         case State::firstLaunch:
             break;
     }
-    return "Welcome to Kinesta";
+    return translated("Welcome to Kinesta");
+}
+
+std::string welcome(const std::vector<GestureRule>& rules) {
+    const GestureRule& recommended = GestureRule::recommendedDefault();
+    if (rules.size() == 1 && rules[0].isEnabled && rules[0].gesture == recommended.gesture &&
+        rules[0].fingerCount == recommended.fingerCount && rules[0].action.kind == recommended.action.kind)
+        return translated(
+            "Your first gesture is set up: touch the pad with three fingers together and lift. It does a middle "
+            "click.");
+    return translated("Fingers on the pad do what you choose: add a gesture, then say what happens.");
 }
 
 }  // namespace
@@ -50,23 +61,25 @@ OverviewModel::OverviewModel(Parts parts) : m_parts(std::move(parts)), m_isWelco
 
 void OverviewModel::gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule) {
     const std::vector<GestureRule>& rules = m_parts.store.rules().value();
-    LastGesture last{.gesture = gesture, .text = "Detected " + describe(gesture), .outcome = {}, .rule = {}};
+    LastGesture last{.gesture = gesture, .text = translated("Detected %1", {describe(gesture)}), .outcome = {}, .rule = {}};
     last.secondsLeft = m_parts.service.gestureCountdown().value().value_or(0);
     last.hasRun = rule != nullptr;
-    if (rule != nullptr)
-        last.outcome = "Ran “" + displayName(*rule) + "”";
+    if (rule == nullptr)
+        rule = ruleForGesture(rules, gesture);
+    if (last.hasRun)
+        last.outcome = translated("Ran “%1”", {displayName(*rule)});
     else if (m_parts.testSession.isActive().value())
-        last.outcome = "Actions are paused while gestures are tried";
-    else if ((rule = ruleForGesture(rules, gesture)) != nullptr)
+        last.outcome = translated("Actions are paused while gestures are tried");
+    else if (rule != nullptr)
         last.outcome = capitalized(whyNoRule(rules, gesture));
     else
-        last.outcome = "No rule uses it";
+        last.outcome = translated("No rule uses it");
     if (rule != nullptr)
         last.rule = rule->id;
     update([&](OverviewContent& content) { content.lastGesture = std::move(last); });
 }
 
-void OverviewModel::setNotices(std::vector<std::string> notices) {
+void OverviewModel::setNotices(std::vector<OverviewNotice> notices) {
     update([&](OverviewContent& content) { content.notices = std::move(notices); });
 }
 
@@ -87,24 +100,31 @@ void OverviewModel::describeState(OverviewContent& content) const {
     const TrackpadContactProviderStatus& status = m_parts.service.status().value();
     content.isGestureEnabled = m_parts.service.isGestureEnabled().value();
     content.enabledCount = static_cast<std::size_t>(std::ranges::count_if(rules, &GestureRule::isEnabled));
+    content.isListening = content.isGestureEnabled && status.kind == Kind::listening;
     content.isPermissionMissing = m_parts.isPermissionMissing();
     if (!content.isGestureEnabled) {
         content.state = State::off;
-        content.statusLine = "Turn gesture recognition on in Settings to use your rules.";
+        content.statusLine = translated("Turn gesture recognition on in Settings to use your rules.");
     } else if (status.kind == Kind::stopped) {
         content.state = State::stopped;
-        content.statusLine = "Open Settings to review gesture recognition.";
+        content.statusLine = translated("Open Settings to review gesture recognition.");
     } else if (status.kind == Kind::unavailable) {
         content.state = State::unavailable;
         content.statusLine = status.message;
     } else {
         content.state = content.enabledCount == 0 ? State::listeningWithoutRules : State::listening;
-        content.statusLine = content.enabledCount == 1
-                                 ? "Listening for 1 enabled gesture rule."
-                                 : "Listening for " + std::to_string(content.enabledCount) + " enabled gesture rules.";
+        content.statusLine =
+            content.enabledCount == 1
+                ? translated("Listening for 1 enabled gesture rule.")
+                : translated("Listening for %1 enabled gesture rules.", {std::to_string(content.enabledCount)});
     }
-    if (m_isWelcome)
+    content.welcome.clear();
+    if (m_isWelcome) {
         content.state = State::firstLaunch;
+        content.welcome = welcome(rules);
+        if (status.kind == Kind::unavailable && content.isGestureEnabled)
+            content.statusLine = translated("The touchpad may not be read yet.");
+    }
     content.headline = headline(content.state);
     // A deleted rule cannot be shown.
     if (auto& last = content.lastGesture;

@@ -30,17 +30,31 @@ struct LastGesture {
     friend bool operator==(const LastGesture&, const LastGesture&) = default;
 };
 
-/// All that the overview shows.
+/// A sentence about something that needs attention or is good to know.
+struct OverviewNotice {
+    enum class Kind { problem, remark };
+
+    Kind kind = Kind::remark;
+    std::string text;
+
+    friend bool operator==(const OverviewNotice&, const OverviewNotice&) = default;
+};
+
+/// All that the overview says of recognition.
 struct OverviewContent {
     enum class State { listening, listeningWithoutRules, off, stopped, unavailable, firstLaunch };
 
     State state = State::stopped;
     std::string headline;
     std::string statusLine;
+    /// How the first gesture is done; empty unless this is the first launch.
+    std::string welcome;
     bool isGestureEnabled = false;
     std::size_t enabledCount = 0;
     bool isPermissionMissing = false;
-    std::vector<std::string> notices;
+    /// Whether the trackpad is being read.
+    bool isListening = false;
+    std::vector<OverviewNotice> notices;
     std::optional<LastGesture> lastGesture;
 
     friend bool operator==(const OverviewContent&, const OverviewContent&) = default;
@@ -66,8 +80,7 @@ class OverviewModel {
 
     /// Takes what GestureDispatcher passes to its observer.
     void gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule);
-    /// Sentences about what needs attention: a settings file that was set aside, a desktop without status icons.
-    void setNotices(std::vector<std::string> notices);
+    void setNotices(std::vector<OverviewNotice> notices);
     /// Reads everything again. To be called when the window comes to the front: the permission cannot be observed.
     void refresh();
 

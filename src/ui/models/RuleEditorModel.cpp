@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 #include <utility>
 
 #include "feedback/ActionCueContent.h"
@@ -43,57 +42,33 @@ void RuleEditorModel::setType(GestureTypeChoice type) {
     edit([&](GestureRule& rule) { changeGesture(rule, gestureKind(type, repetitionCount(rule.gesture).value_or(1))); });
 }
 
-void RuleEditorModel::setRepetition(int repetition) {
-    edit([&](GestureRule& rule) { changeGesture(rule, gestureKind(gestureTypeChoice(rule.gesture), repetition)); });
-}
-
-void RuleEditorModel::setFingerCount(std::int64_t fingers) {
-    edit([&](GestureRule& rule) {
-        if (usesFingerCount(rule.gesture))
-            rule.fingerCount = fingers;
-    });
-}
-
-void RuleEditorModel::setSide(EdgeSlideSide side) {
-    edit([&](GestureRule& rule) {
-        if (rule.gesture == GestureKind::edgeSlide)
-            rule.edgeSlideSide = side;
-    });
-}
-
-void RuleEditorModel::setCorner(AnchorCorner corner) {
-    edit([&](GestureRule& rule) {
-        if (rule.gesture == GestureKind::anchorDraw)
-            rule.anchorCorner = corner;
-    });
-}
-
-void RuleEditorModel::setPattern(DrawPattern pattern) {
-    edit([&](GestureRule& rule) {
-        if (rule.gesture == GestureKind::anchorDraw)
-            rule.drawPattern = pattern;
-    });
+void RuleEditorModel::pick(GesturePicker picker, int value) {
+    edit([&](GestureRule& rule) { kinesta::pick(rule, picker, value); });
 }
 
 void RuleEditorModel::setWaitsForGesture(bool waits) {
-    if (m_waitsForGesture == waits || (waits && m_isGone))
+    if (waits && m_isGone)
         return;
-    m_waitsForGesture = waits;
+    m_rest = {};
+    if (!waits)
+        endSession();
     // A session that somebody else has begun goes on afterwards.
-    if (waits && !m_parts.testSession.isActive().value()) {
+    else if (!m_parts.testSession.isActive().value()) {
         m_hasBegunSession = true;
         m_parts.testSession.begin();
-    } else if (!waits) {
-        endSession();
     }
-    follow(m_parts.store.rules().value());
+    if (std::exchange(m_waitsForGesture, waits) != waits)
+        follow(m_parts.store.rules().value());
 }
 
 void RuleEditorModel::gestureRecognized(const DetectedGesture& gesture) {
-    if (!m_waitsForGesture)
-        return;
-    setWaitsForGesture(false);
-    edit([&](GestureRule& rule) { takeGesture(rule, gesture); });
+    if (std::exchange(m_waitsForGesture, false)) {
+        edit([&](GestureRule& rule) { takeGesture(rule, gesture); });
+        follow(m_parts.store.rules().value());  // nothing was saved if it is the gesture that the rule had
+    }
+    // The rest of a slide must not run the rule that it has just become the gesture of.
+    if (m_hasBegunSession)
+        m_rest = m_parts.mainThread.after(wholeNanoseconds(restAfterGesture), [this] { endSession(); });
 }
 
 void RuleEditorModel::setActionKind(ActionKind kind) {
@@ -193,12 +168,12 @@ void RuleEditorModel::publish(const std::vector<GestureRule>& rules, const Gestu
         m_mustConfirmAgain && rule.action.kind == ActionKind::shellCommand && !rule.action.isShellCommandAcknowledged();
     RuleEditorContent content{.rule = rule,
                               .type = gestureTypeChoice(rule.gesture),
-                              .repetition = repetitionCount(rule.gesture),
                               .actionKinds = actionKindsFor(rule.gesture),
                               .cuePlaceholder = cuePlaceholder(rule),
-                              .rivals = rivalsOf(rule, rules),
+                              .rivals = {},
                               .systemWarning = SystemGestureWarningChecker::warning(rule, m_parts.system),
                               .missing = whatIsMissing(rule)};
+    findRivals(content, rules);
     content.wasSwitchedOffByEdit = m_wasSwitchedOffByEdit;
     content.canTurnOn = m_wasSwitchedOffByEdit && !content.missing;
     content.mustConfirmAgain = m_mustConfirmAgain;
@@ -206,17 +181,16 @@ void RuleEditorModel::publish(const std::vector<GestureRule>& rules, const Gestu
     publishIfChanged(m_content, std::move(content));
 }
 
-std::vector<RuleReference> RuleEditorModel::rivalsOf(const GestureRule& rule,
-                                                     const std::vector<GestureRule>& rules) const {
-    std::vector<RuleReference> rivals;
-    const std::set<Uuid> conflicts = GestureConflictChecker::conflictingRuleIDs(rules);
-    if (!conflicts.contains(m_id))
-        return rivals;
-    for (const GestureRule& other : rules)
-        if (other.id != m_id && conflicts.contains(other.id) &&
-            !GestureConflictChecker::conflictingRuleIDs(std::array{rule, other}).empty())
-            rivals.push_back({other.id, displayName(other)});
-    return rivals;
+void RuleEditorModel::findRivals(RuleEditorContent& content, const std::vector<GestureRule>& rules) const {
+    bool hasPassed = false;
+    for (const GestureRule& other : rules) {
+        hasPassed = hasPassed || other.id == m_id;
+        if (other.id == m_id || GestureConflictChecker::conflictingRuleIDs(std::array{content.rule, other}).empty())
+            continue;
+        if (content.rivals.empty())
+            content.comesFirst = hasPassed;
+        content.rivals.push_back({other.id, displayName(other)});
+    }
 }
 
 }  // namespace kinesta

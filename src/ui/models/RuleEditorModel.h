@@ -12,7 +12,9 @@
 #include "rules/RuleSelection.h"
 #include "rules/RuleStore.h"
 #include "rules/SystemGestureWarningChecker.h"
+#include "support/MainThread.h"
 #include "support/Published.h"
+#include "ui/models/GesturePicker.h"
 
 namespace kinesta {
 
@@ -28,14 +30,14 @@ struct RuleReference {
 struct RuleEditorContent {
     GestureRule rule;
     GestureTypeChoice type = GestureTypeChoice::unconfigured;
-    /// 1 to 3; none for a gesture that does not repeat.
-    std::optional<int> repetition;
     /// The kinds of action that the gesture allows, in the order of their list.
     std::vector<ActionKind> actionKinds;
     /// The text of the cue if the rule had no label of its own.
     std::string cuePlaceholder;
     /// The other enabled rules that want the same gesture, in the order of the list: see kClashReason.
     std::vector<RuleReference> rivals;
+    /// Whether the rule comes before all of them.
+    bool comesFirst = false;
     std::optional<SystemGestureWarning> systemWarning;
     /// What must be chosen before the rule can be switched on.
     std::optional<std::string> missing;
@@ -59,6 +61,7 @@ class RuleEditorModel {
         RuleHistory& history;
         /// Active while the editor waits for a gesture, so that no rule runs.
         GestureTestSession& testSession;
+        MainThread& mainThread;
         GestureSystem system = GestureSystem::none;
     };
 
@@ -80,13 +83,12 @@ class RuleEditorModel {
 
     /// Keeps the repetition if the type has one.
     void setType(GestureTypeChoice type);
-    void setRepetition(int repetition);
-    void setFingerCount(std::int64_t fingers);
-    void setSide(EdgeSlideSide side);
-    void setCorner(AnchorCorner corner);
-    void setPattern(DrawPattern pattern);
+    /// Nothing happens if the gesture has no such picker.
+    void pick(GesturePicker picker, int value);
 
-    /// Waits for gestureRecognized(). The caller may give up with `false`.
+    /// How long the actions rest after the last gesture that was taken: its fingers may still be on their way.
+    static constexpr Seconds restAfterGesture = 1;
+    /// Waits for gestureRecognized(), with actions at rest. The caller may give up with `false`.
     void setWaitsForGesture(bool waits);
     /// Takes every recognized gesture, as from the observer of GestureDispatcher.
     void gestureRecognized(const DetectedGesture& gesture);
@@ -114,7 +116,7 @@ class RuleEditorModel {
     void edit(const Change& change, std::optional<TypedField> field);
     void follow(const std::vector<GestureRule>& rules);
     void publish(const std::vector<GestureRule>& rules, const GestureRule& rule);
-    std::vector<RuleReference> rivalsOf(const GestureRule& rule, const std::vector<GestureRule>& rules) const;
+    void findRivals(RuleEditorContent& content, const std::vector<GestureRule>& rules) const;
 
     Parts m_parts;
     Uuid m_id;
@@ -123,6 +125,7 @@ class RuleEditorModel {
     bool m_mustConfirmAgain = false;
     bool m_waitsForGesture = false;
     bool m_hasBegunSession = false;
+    DelayedTask m_rest;
     Published<RuleEditorContent> m_content;
     Subscription m_observer;
 };

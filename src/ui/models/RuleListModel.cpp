@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "rules/GestureConflictChecker.h"
+#include "support/Translation.h"
 #include "ui/models/PublishIfChanged.h"
 
 namespace kinesta {
@@ -14,11 +15,13 @@ RuleListModel::RuleListModel(RuleStore& store, RuleHistory& history)
     follow();
 }
 
-const GestureRule* RuleListModel::selectedRule() const {
-    if (m_selection.value().kind != WindowSelection::Kind::rule)
-        return nullptr;
-    const auto place = placeOf(m_selection.value().ruleId);
+const GestureRule* RuleListModel::rule(const Uuid& id) const {
+    const auto place = placeOf(id);
     return place ? &rules()[*place] : nullptr;
+}
+
+const GestureRule* RuleListModel::selectedRule() const {
+    return m_selection.value().kind == WindowSelection::Kind::rule ? rule(m_selection.value().ruleId) : nullptr;
 }
 
 void RuleListModel::select(const WindowSelection& selection) {
@@ -102,13 +105,34 @@ void RuleListModel::moveDown(const Uuid& id) {
         move({id}, *placeOf(id) + 2);
 }
 
+void RuleListModel::moveMarkedUp() {
+    if (const auto place = placeAboveMarked())
+        move(m_marked.value(), *place);
+}
+
+void RuleListModel::moveMarkedDown() {
+    if (const auto place = placeBelowMarked())
+        move(m_marked.value(), *place);
+}
+
+std::optional<std::size_t> RuleListModel::placeAboveMarked() const {
+    const std::set<std::size_t> places = placesOf(m_marked.value());
+    if (!m_commands.value().canReorder || places.empty() || *places.begin() == 0)
+        return std::nullopt;
+    return *places.begin() - 1;
+}
+
+std::optional<std::size_t> RuleListModel::placeBelowMarked() const {
+    const std::set<std::size_t> places = placesOf(m_marked.value());
+    if (!m_commands.value().canReorder || places.empty() || *places.rbegin() + 1 == rules().size())
+        return std::nullopt;
+    return *places.rbegin() + 2;
+}
+
 void RuleListModel::move(const std::set<Uuid>& ids, std::size_t place) {
     if (!m_commands.value().canReorder)
         return;
-    std::set<std::size_t> offsets;
-    for (std::size_t i = 0; i < rules().size(); ++i)
-        if (ids.contains(rules()[i].id))
-            offsets.insert(i);
+    const std::set<std::size_t> offsets = placesOf(ids);
     // Dropped where it was: nothing to save.
     if (offsets.empty() || (*offsets.rbegin() - *offsets.begin() + 1 == offsets.size() && place >= *offsets.begin() &&
                             place <= *offsets.rbegin() + 1))
@@ -120,6 +144,21 @@ RuleEnablementResult RuleListModel::setEnabled(const Uuid& id, bool enabled) {
     RuleEnablementResult result = RuleEnablementResult::unchanged;
     m_history.record([&] { result = m_store.setRuleEnabled(id, enabled); });
     return result;
+}
+
+std::set<Uuid> RuleListModel::setEnabled(const std::set<Uuid>& ids, bool enabled) {
+    std::set<Uuid> refused;
+    std::vector<GestureRule> changed = rules();
+    for (GestureRule& rule : changed)
+        if (ids.contains(rule.id)) {
+            if (enabled && !rule.isReady())
+                refused.insert(rule.id);
+            else
+                rule.isEnabled = enabled;
+        }
+    if (changed != rules())
+        m_history.record([&] { m_store.setRules(std::move(changed)); });
+    return refused;
 }
 
 void RuleListModel::enableAll() {
@@ -135,6 +174,14 @@ std::optional<std::size_t> RuleListModel::placeOf(const Uuid& id) const {
     if (found == rules().end())
         return std::nullopt;
     return static_cast<std::size_t>(std::distance(rules().begin(), found));
+}
+
+std::set<std::size_t> RuleListModel::placesOf(const std::set<Uuid>& ids) const {
+    std::set<std::size_t> places;
+    for (std::size_t i = 0; i < rules().size(); ++i)
+        if (ids.contains(rules()[i].id))
+            places.insert(i);
+    return places;
 }
 
 WindowSelection RuleListModel::selectionWithout(const std::set<Uuid>& ids) const {
@@ -170,13 +217,13 @@ void RuleListModel::updateRows() { publishIfChanged(m_rows, ruleRows(rules(), m_
 
 void RuleListModel::updateCommands() {
     RuleListCommands commands;
-    commands.addGestureHelp = "Add a new gesture rule";
+    commands.addGestureHelp = translated("Add a new gesture rule");
     if (const GestureRule* selected = selectedRule(); selected != nullptr && !selected->isReady()) {
         commands.canAddNewGesture = false;
-        commands.addGestureHelp = "Complete the current gesture and action before adding another rule.";
+        commands.addGestureHelp = translated("Complete the current gesture and action before adding another rule.");
     } else if (selected != nullptr && m_conflicts.contains(selected->id)) {
         commands.canAddNewGesture = false;
-        commands.addGestureHelp = "Resolve the current gesture clash before adding another rule.";
+        commands.addGestureHelp = translated("Resolve the current gesture clash before adding another rule.");
     }
     commands.canEnableAll = m_store.canEnableAllRules();
     commands.canDisableAll = std::ranges::any_of(rules(), &GestureRule::isEnabled);

@@ -50,6 +50,8 @@ class RuleListModel {
     /// While present, the window asks whether to delete.
     const Published<std::optional<GestureDeletionRequest>>& pendingDeletion() const { return m_pendingDeletion; }
 
+    /// The rule with this identifier, or null.
+    const GestureRule* rule(const Uuid& id) const;
     /// The rule of the selection, or null.
     const GestureRule* selectedRule() const;
 
@@ -76,17 +78,27 @@ class RuleListModel {
     bool canMoveDown(const Uuid& id) const;
     void moveUp(const Uuid& id);
     void moveDown(const Uuid& id);
+    /// The same for all marked rules, which stand together afterwards.
+    bool canMoveMarkedUp() const { return placeAboveMarked().has_value(); }
+    bool canMoveMarkedDown() const { return placeBelowMarked().has_value(); }
+    void moveMarkedUp();
+    void moveMarkedDown();
     /// Moves the rules before the one that is at `place` of the whole list; its length stands for the end.
     void move(const std::set<Uuid>& ids, std::size_t place);
 
     /// An unfinished rule stays off; its row has the reason.
     RuleEnablementResult setEnabled(const Uuid& id, bool enabled);
+    /// Switches the rules in one step. Returns those that stay off because they are unfinished.
+    std::set<Uuid> setEnabled(const std::set<Uuid>& ids, bool enabled);
     void enableAll();
     void disableAll();
 
   private:
     const std::vector<GestureRule>& rules() const { return m_store.rules().value(); }
     std::optional<std::size_t> placeOf(const Uuid& id) const;
+    std::set<std::size_t> placesOf(const std::set<Uuid>& ids) const;
+    std::optional<std::size_t> placeAboveMarked() const;
+    std::optional<std::size_t> placeBelowMarked() const;
     WindowSelection selectionWithout(const std::set<Uuid>& ids) const;
     void follow();
     void updateRows();

@@ -4,6 +4,7 @@
 
 #include "rules/GestureDescription.h"
 #include "support/Text.h"
+#include "support/Translation.h"
 #include "ui/models/RuleWords.h"
 
 namespace kinesta {
@@ -32,22 +33,22 @@ std::vector<RuleRow> ruleRows(std::span<const GestureRule> rules, const std::set
                               std::string_view filter) {
     const std::vector<std::string> words = wordsOf(filter);
     std::vector<RuleRow> rows;
-    for (std::size_t i = 0; i < rules.size(); ++i) {
-        const GestureRule& rule = rules[i];
+    rows.reserve(rules.size());
+    for (const GestureRule& rule : rules) {
         if (!words.empty() && !hasAll(rule, words))
             continue;
         RuleRow& row = rows.emplace_back();
         row.id = rule.id;
-        row.index = i;
         row.name = displayName(rule);
-        row.detail = shortGesture(rule) + " · " + shortAction(rule.action);
+        row.gesture = shortGesture(rule);
+        row.action = shortAction(rule.action);
         row.isEnabled = rule.isEnabled;
         if (auto missing = whatIsMissing(rule)) {
             row.mark = RuleMark::unfinished;
             row.reason = std::move(*missing);
         } else if (conflicts.contains(rule.id)) {
             row.mark = RuleMark::clash;
-            row.reason = kClashReason;
+            row.reason = translated(kClashReason);
         }
     }
     return rows;

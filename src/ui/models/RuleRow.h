@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <set>
 #include <span>
 #include <string>
@@ -17,12 +16,11 @@ enum class RuleMark { none, unfinished, clash };
 /// One row of the sidebar.
 struct RuleRow {
     Uuid id;
-    /// Its place in the whole list, for the picture of its gesture.
-    std::size_t index = 0;
     /// "Untitled gesture" if the rule has no name.
     std::string name;
-    /// Gesture and action in short.
-    std::string detail;
+    /// Gesture and action in short. Whatever the picture of the gesture shows is in its words.
+    std::string gesture;
+    std::string action;
     bool isEnabled = false;
     RuleMark mark = RuleMark::none;
     /// The reason of the mark, as sentences; empty without one.

@@ -1,7 +1,6 @@
 #include "ui/widgets/Card.h"
 
 #include <QEvent>
-#include <QPainter>
 #include <QPainterPath>
 
 #include "platform/qt/ThemePalette.h"
@@ -45,6 +44,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
     shape.addRoundedRect(frame, radius, radius);
     painter.fillPath(shape, asQColor(theme.surface));
     painter.setClipPath(shape);
+    paintGround(painter, theme);
     bool isFirst = true;
     for (int i = 0; i < m_column->count(); ++i) {
         const QWidget* part = m_column->itemAt(i)->widget();
@@ -55,7 +55,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
             painter.fillRect(box, notice->ground(theme));
         if (!isFirst) {
             box.setHeight(1);
-            if (qobject_cast<const Row*>(part) != nullptr)
+            if (qobject_cast<const Row*>(part) != nullptr || part->property(kInsetLine).toBool())
                 layoutDirection() == Qt::RightToLeft ? box.setRight(box.right() - Row::inset())
                                                      : box.setLeft(box.left() + Row::inset());
             painter.fillRect(box, asQColor(theme.border));

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QPainter>
 #include <QVBoxLayout>
 #include <QWidget>
+
+#include "app/AppTheme.h"
 
 namespace kinesta {
 
@@ -10,6 +13,9 @@ class Card : public QWidget {
     Q_OBJECT
 
   public:
+    /// The property of a part whose line above it begins where its words do, as above a Row.
+    static constexpr const char* kInsetLine = "insetLine";
+
     explicit Card(QWidget* parent = nullptr);
 
     /// Takes the widget in below the others: a Row, a Notice or a part of a page.
@@ -20,6 +26,8 @@ class Card : public QWidget {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// Paints below the parts, inside the shape of the card.
+    virtual void paintGround(QPainter& /*painter*/, const AppTheme& /*theme*/) {}
 
   private:
     QVBoxLayout* m_column;

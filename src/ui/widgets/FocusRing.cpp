@@ -12,11 +12,19 @@ constexpr int kGap = 2;
 }  // namespace
 
 void FocusRing::follow(const QFocusEvent& event) {
-    const Qt::FocusReason reason = event.reason();
-    if (event.lostFocus())
-        m_isShown = false;
-    else if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
-        m_isShown = true;
+    switch (event.reason()) {
+        case Qt::TabFocusReason:
+        case Qt::BacktabFocusReason:
+        case Qt::ShortcutFocusReason:
+            m_isShown = event.gotFocus();
+            break;
+        case Qt::ActiveWindowFocusReason:
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            break;  // the focus comes back as it went
+        default:
+            m_isShown = false;
+    }
 }
 
 void FocusRing::paint(QPainter& painter, const QRectF& box, double radius) const {

@@ -17,6 +17,14 @@ constexpr double kHeight = 52;
 /// The words keep at least this share of the row beside their control.
 constexpr double kWordsShare = 0.4;
 
+/// Whether the control is a switch, or several of which the last one is.
+bool endsWithSwitch(const QWidget* control) {
+    const QLayout* several = control != nullptr ? control->layout() : nullptr;
+    if (several != nullptr && several->count() > 0)
+        control = several->itemAt(several->count() - 1)->widget();
+    return qobject_cast<const Switch*>(control) != nullptr;
+}
+
 }  // namespace
 
 Row::Row(const QString& title, const QString& detail, QWidget* parent)
@@ -45,9 +53,7 @@ void Row::setControl(QWidget* control) {
 void Row::measure() {
     const int padding = Unit::of(kPadding);
     // A switch ends where other controls do; the room for its ring stands out.
-    const bool endsWithSwitch = m_control != nullptr && (qobject_cast<Switch*>(m_control) != nullptr ||
-                                                         m_control->findChild<Switch*>() != nullptr);
-    const int atEnd = inset() - (endsWithSwitch ? FocusRing::room() : 0);
+    const int atEnd = inset() - (endsWithSwitch(m_control) ? FocusRing::room() : 0);
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     m_line->setContentsMargins(isMirrored ? atEnd : inset(), padding, isMirrored ? inset() : atEnd, padding);
     setMinimumHeight(Unit::of(kHeight));

@@ -72,17 +72,45 @@ class Segment final : public QAbstractButton {
 
 }  // namespace
 
-Segments::Segments(const QString& name, QWidget* parent) : ChoiceGroup(name, parent) {
-    new QHBoxLayout(this);
+Segments::Segments(const QString& name, QWidget* parent) : ChoiceGroup(name, parent), m_combo(new QComboBox) {
+    auto* line = new QHBoxLayout(this);
+    // The group itself says how narrow it may become.
+    line->setSizeConstraint(QLayout::SetNoConstraint);
+    line->addWidget(m_combo);
+    m_combo->setAccessibleName(name);
+    m_combo->hide();
+    connect(m_combo, &QComboBox::activated, this, [this](int index) {
+        const int value = m_combo->itemData(index).toInt();
+        setChosen(value);
+        Q_EMIT chose(value);
+    });
     measure();
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void Segments::measure() {
-    const int inset = Unit::of(kInset);
+    const bool isCombo = width() < sizeHint().width();
+    const int inset = isCombo ? 0 : Unit::of(kInset);
     layout()->setContentsMargins(inset, inset, inset, inset);
-    layout()->setSpacing(inset);
+    layout()->setSpacing(Unit::of(kInset));
+    if (isCombo == m_combo->isVisibleTo(this))
+        return;
+    for (QAbstractButton* segment : buttons())
+        segment->setVisible(!isCombo);
+    m_combo->setVisible(isCombo);
+    update();
 }
+
+QSize Segments::sizeHint() const {
+    const int inset = Unit::of(kInset);
+    QSize size(inset, 0);
+    for (const QAbstractButton* segment : buttons())
+        size = {size.width() + segment->sizeHint().width() + inset,
+                std::max(size.height(), segment->sizeHint().height())};
+    return {size.width(), size.height() + 2 * inset};
+}
+
+QSize Segments::minimumSizeHint() const { return {m_combo->minimumSizeHint().width(), sizeHint().height()}; }
 
 void Segments::changeEvent(QEvent* event) {
     ChoiceGroup::changeEvent(event);
@@ -90,13 +118,26 @@ void Segments::changeEvent(QEvent* event) {
         measure();
 }
 
+void Segments::resizeEvent(QResizeEvent* event) {
+    ChoiceGroup::resizeEvent(event);
+    measure();
+}
+
 void Segments::addSegment(int value, const QString& word) {
     auto* segment = new Segment(word);
     layout()->addWidget(segment);
+    const int index = m_combo->count();
+    m_combo->addItem(word, value);
+    connect(segment, &QAbstractButton::toggled, m_combo, [this, index](bool isOn) {
+        if (isOn)
+            m_combo->setCurrentIndex(index);
+    });
     add(value, segment);
 }
 
 void Segments::paintEvent(QPaintEvent* /*event*/) {
+    if (m_combo->isVisible())
+        return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QComboBox>
+
 #include "ui/widgets/ChoiceGroup.h"
 
 namespace kinesta {
 
-/// A few short words side by side, one of them chosen.
+/// A few short words side by side, one of them chosen; a combo box where they do not fit.
 class Segments final : public ChoiceGroup {
     Q_OBJECT
 
@@ -13,12 +15,18 @@ class Segments final : public ChoiceGroup {
 
     void addSegment(int value, const QString& word);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
   protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     void measure();
+
+    QComboBox* m_combo;
 };
 
 }  // namespace kinesta

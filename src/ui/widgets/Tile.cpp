@@ -20,8 +20,7 @@ constexpr double kSmallGap = 5;
 constexpr double kTop = 9;
 constexpr double kTallHeight = 84;
 constexpr double kFlatHeight = 36;
-/// A narrower flat tile has its picture above the word.
-constexpr double kNarrow = 96;
+constexpr double kCardWidth = 104;
 constexpr double kSide = 4;
 
 Tile::Paint gesturePaint(double width, const PadGesture& gesture) {
@@ -58,14 +57,25 @@ QFont Tile::wordFont(bool isChosen) const {
     return Unit::font(m_form == Form::tall ? 0.88 : 0.92, isChosen ? QFont::DemiBold : QFont::Medium);
 }
 
-bool Tile::isPictureAbove() const { return m_form == Form::tall || (width() < Unit::of(kNarrow) && !text().isEmpty()); }
+bool Tile::isPictureAbove() const { return m_form != Form::flat || (m_isAbove && !text().isEmpty()); }
+
+void Tile::setPictureAbove(bool isAbove) {
+    m_isAbove = isAbove;
+    updateGeometry();
+    update();
+}
+
+int Tile::widthBeside() const {
+    const int words = text().isEmpty() ? 0 : Unit::of(kGap) + QFontMetrics(wordFont(true)).horizontalAdvance(text());
+    return pictureSize().width() + words + 2 * Unit::of(kGap);
+}
 
 QSize Tile::minimumSizeHint() const {
     const QFontMetrics metrics(wordFont(true));
     const QSize picture = pictureSize();
     // Words break between lines, never inside.
     int widest = picture.width();
-    const auto words = text().split(QLatin1Char(' '));
+    const auto words = m_form == Form::card ? QStringList(text()) : text().split(QLatin1Char(' '));
     for (const QString& word : words)
         widest = std::max(widest, metrics.horizontalAdvance(word));
     const int width = widest + 2 * Unit::of(kSide);
@@ -78,12 +88,10 @@ QSize Tile::minimumSizeHint() const {
 }
 
 QSize Tile::sizeHint() const {
-    const QFontMetrics metrics(wordFont(true));
     const QSize smallest = minimumSizeHint();
-    if (m_form == Form::tall)
-        return smallest;
-    const int words = text().isEmpty() ? 0 : Unit::of(kGap) + metrics.horizontalAdvance(text());
-    return {pictureSize().width() + words + 2 * Unit::of(kGap), smallest.height()};
+    if (m_form == Form::card)
+        return {std::max(Unit::of(kCardWidth), smallest.width()), smallest.height()};
+    return m_form == Form::tall ? smallest : QSize(widthBeside(), smallest.height());
 }
 
 bool Tile::event(QEvent* event) {
@@ -91,8 +99,6 @@ bool Tile::event(QEvent* event) {
         m_ring.follow(*static_cast<QFocusEvent*>(event));
         update();
     }
-    if (event->type() == QEvent::Resize)
-        updateGeometry();
     return QAbstractButton::event(event);
 }
 

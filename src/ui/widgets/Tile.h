@@ -20,6 +20,8 @@ class Tile final : public QAbstractButton {
     enum class Form {
         /// The picture above two lines of small words.
         tall,
+        /// The picture above one word, as wide as a card of its own.
+        card,
         /// The picture beside the word.
         flat
     };
@@ -32,6 +34,11 @@ class Tile final : public QAbstractButton {
                            const PadGesture& gesture);
     void setPaint(Paint paint);
     void setGesture(double width, const PadGesture& gesture);
+
+    /// How wide a flat tile must be for its picture beside the word.
+    int widthBeside() const;
+    /// Puts the picture of a flat tile above the word.
+    void setPictureAbove(bool isAbove);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -48,6 +55,7 @@ class Tile final : public QAbstractButton {
     Form m_form;
     QSizeF m_picture;
     Paint m_paint;
+    bool m_isAbove = false;
     FocusRing m_ring;
 };
 

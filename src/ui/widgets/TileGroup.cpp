@@ -46,19 +46,43 @@ int TileGroup::widthFor(int columns) const {
     return columns * widest + (columns - 1) * m_grid->spacing();
 }
 
+QSize TileGroup::sizeHint() const {
+    // All columns, also while there is no room for them: the room may come back.
+    int widest = 0;
+    for (const QAbstractButton* button : buttons())
+        widest = std::max(widest, button->sizeHint().width());
+    return {m_columns * widest + (m_columns - 1) * m_grid->spacing(), m_grid->sizeHint().height()};
+}
+
 QSize TileGroup::minimumSizeHint() const { return {widthFor((m_columns + 1) / 2), m_grid->minimumSize().height()}; }
 
 void TileGroup::changeEvent(QEvent* event) {
     ChoiceGroup::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        m_grid->setSpacing(Unit::of(kGap));
+    if (event->type() != QEvent::FontChange)
+        return;
+    m_grid->setSpacing(Unit::of(kGap));
+    fit();
 }
 
 void TileGroup::resizeEvent(QResizeEvent* event) {
     ChoiceGroup::resizeEvent(event);
+    fit();
+}
+
+void TileGroup::fit() {
     const int columns = width() < widthFor(m_columns) ? (m_columns + 1) / 2 : m_columns;
     if (columns != m_arranged)
         arrange(columns);
+    const int each = (width() - (columns - 1) * m_grid->spacing()) / columns;
+    bool isAbove = false;
+    for (std::size_t i = 0; i < buttons().size(); ++i)
+        isAbove = isAbove || tile(i)->widthBeside() > each;
+    if (isAbove == m_isAbove)
+        return;
+    m_isAbove = isAbove;
+    for (std::size_t i = 0; i < buttons().size(); ++i)
+        tile(i)->setPictureAbove(isAbove);
+    updateGeometry();
 }
 
 }  // namespace kinesta

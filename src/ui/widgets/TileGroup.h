@@ -7,7 +7,8 @@
 
 namespace kinesta {
 
-/// Tiles of equal width in rows.
+/// Tiles of equal width in rows. Flat tiles have their pictures above the words as soon as one of them does not fit
+/// beside its word.
 class TileGroup final : public ChoiceGroup {
     Q_OBJECT
 
@@ -18,6 +19,7 @@ class TileGroup final : public ChoiceGroup {
     void addTile(int value, Tile* tile);
     Tile* tile(std::size_t index) const { return static_cast<Tile*>(buttons().at(index)); }
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
   protected:
@@ -27,9 +29,11 @@ class TileGroup final : public ChoiceGroup {
   private:
     void arrange(int columns);
     int widthFor(int columns) const;
+    void fit();
 
     int m_columns;
     int m_arranged;
+    bool m_isAbove = false;
     QGridLayout* m_grid;
 };
 

@@ -18,6 +18,8 @@ Type typeOf(Words::Size size) {
             return {1.7, QFont::DemiBold};
         case Words::Size::result:
             return {1.38, QFont::DemiBold};
+        case Words::Size::heading:
+            return {1.3, QFont::DemiBold};
         case Words::Size::title:
             return {1.15, QFont::DemiBold};
         case Words::Size::section:

@@ -9,7 +9,7 @@ class Words final : public QLabel {
     Q_OBJECT
 
   public:
-    enum class Size { headline, result, title, section, body, rowTitle, detail, caption };
+    enum class Size { headline, result, heading, title, section, body, rowTitle, detail, caption };
 
     Words(const QString& text, Size size, QWidget* parent = nullptr);
 

@@ -21,6 +21,7 @@
 #include "ui/settings/SettingsPage.h"
 #include "ui/sidebar/Sidebar.h"
 #include "ui/trying/TestSheet.h"
+#include "ui/widgets/AccessibleParts.h"
 #include "ui/widgets/Unit.h"
 #include "ui/window/FieldUndo.h"
 #include "ui/window/Panes.h"
@@ -54,6 +55,7 @@ KinestaWindow::KinestaWindow(WindowParts parts)
       m_panes(new Panes(m_sidebar, m_pages)),
       m_toast(new Toast(m_pages)),
       m_files(new RuleFiles(m_parts, m_history, *this, this)) {
+    AccessibleParts::install();
     setAcceptDrops(true);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -154,6 +156,8 @@ void KinestaWindow::addRuleForLastGesture() {
 }
 
 void KinestaWindow::tryGesture() {
+    if (m_editor != nullptr)
+        m_editor->stopWaiting();  // its session would end that of the sheet
     if (!m_testSheet) {
         m_testSheet = new TestSheet(m_parts, this);
         m_testSheet->setAttribute(Qt::WA_DeleteOnClose);

@@ -69,7 +69,9 @@ void RuleFiles::importFile(const QString& file) {
     Q_EMIT copyKept(QFile::decodeName(imported.copy.c_str()));
     QString text = imported.count == 1 ? tr("Imported 1 rule") : tr("Imported %1 rules").arg(imported.count);
     if (imported.leftOff > 0)
-        text = tr("%1, of which %2 stay off until they are complete").arg(text).arg(imported.leftOff);
+        text = tr("Imported %1 rules; %2 of them stay off until they are complete")
+                   .arg(imported.count)
+                   .arg(imported.leftOff);
     m_commands.showToast(text, tr("Undo"), [this] { m_history.undo(); });
 }
 

@@ -9,13 +9,15 @@
 #include "ui/models/RuleWords.h"
 
 namespace kinesta::testing {
+using namespace std::chrono_literals;
+
 namespace {
 
 struct Fixture {
     explicit Fixture(GestureRule edited) {
         store.setRules({makeRule(GestureKind::singleClick, 2), std::move(edited)});
         history.emplace(store, clock);
-        model.emplace(RuleEditorModel::Parts{store, *history, session, GestureSystem::macOS},
+        model.emplace(RuleEditorModel::Parts{store, *history, session, mainThread, GestureSystem::macOS},
                       store.rules().value()[1].id);
         model->onGone = [this] { ++timesGone; };
     }
@@ -48,12 +50,12 @@ TEST(RuleEditorModel, ChangesWhatDependsOnTheTypeOfGesture) {
     f.model->setActionKind(ActionKind::middleClick);
     EXPECT_EQ(f.rule().action.kind, ActionKind::adjustVolume);
     EXPECT_EQ(f.rule().edgeSlideSide, EdgeSlideSide::both);
-    f.model->setFingerCount(2);
+    f.model->pick(GesturePicker::fingers, 2);
     EXPECT_EQ(f.content().systemWarning->title, "May also scroll onscreen content");
     EXPECT_TRUE(f.content().canTurnOn);
     f.model->setType(GestureTypeChoice::anchorDraw);
     EXPECT_EQ(f.rule().action, GestureAction());
-    f.model->setCorner(AnchorCorner::topLeft);
+    f.model->pick(GesturePicker::corner, static_cast<int>(AnchorCorner::topLeft));
     f.model->setType(GestureTypeChoice::tap);
     EXPECT_TRUE(!f.rule().anchorCorner && !f.rule().edgeSlideSide);
     while (f.history->possibilities().value().undo)
@@ -74,10 +76,19 @@ TEST(RuleEditorModel, FollowsTheStoreAndTakesAGesture) {
     EXPECT_TRUE(f.session.isActive().value());
     f.model->gestureRecognized(DetectedTap{2, GestureKind::singleForceClick});
     f.model->gestureRecognized(DetectedTap{5, GestureKind::tripleTap});  // too late
-    EXPECT_FALSE(f.session.isActive().value() || f.content().waitsForGesture);
+    EXPECT_EQ(f.rule().fingerCount, 2);
+    EXPECT_FALSE(f.content().waitsForGesture);
+    EXPECT_FALSE(f.content().comesFirst);
     EXPECT_EQ(f.content().rivals, (std::vector<RuleReference>{{f.store.rules().value()[0].id, "Untitled gesture"}}));
     f.model->setWaitsForGesture(true);
     f.model->gestureRecognized(DetectedEdgeSlide{3, EdgeSlideSide::right, -2});
+    // The fingers go on: their slide must not run the rule.
+    f.mainThread.advanceTo(f.mainThread.now() + 900ms);
+    f.model->gestureRecognized(DetectedEdgeSlide{3, EdgeSlideSide::right, -1});
+    f.mainThread.advanceTo(f.mainThread.now() + 900ms);
+    EXPECT_TRUE(f.session.isActive().value());
+    f.mainThread.advanceTo(f.mainThread.now() + 200ms);
+    EXPECT_FALSE(f.session.isActive().value());
     EXPECT_EQ(shortGesture(f.rule()) + ", " + f.rule().action.summary(),
               "3-finger slide, right, Slide up/down to adjust volume");
     EXPECT_TRUE(f.content().rivals.empty());

@@ -2,6 +2,7 @@
 
 #include <linux/input-event-codes.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -80,6 +81,13 @@ std::optional<std::uint16_t> evdevKeyCode(std::uint16_t ansiKeyCode) {
     if (ansiKeyCode >= kKeys.size() || kKeys[ansiKeyCode] == kNone)
         return std::nullopt;
     return kKeys[ansiKeyCode];
+}
+
+std::optional<std::uint16_t> ansiKeyCode(std::uint16_t evdevKeyCode) {
+    const auto* const key = std::ranges::find(kKeys, evdevKeyCode);
+    if (evdevKeyCode == kNone || key == kKeys.end())
+        return std::nullopt;
+    return static_cast<std::uint16_t>(key - kKeys.begin());
 }
 
 std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint64_t flags) {

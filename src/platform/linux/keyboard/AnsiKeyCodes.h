@@ -11,6 +11,9 @@ namespace kinesta {
 /// keyboards here have no key for, such as 63, the fn key.
 std::optional<std::uint16_t> evdevKeyCode(std::uint16_t ansiKeyCode);
 
+/// The virtual key code of the key with this kernel code; nothing if it has none.
+std::optional<std::uint16_t> ansiKeyCode(std::uint16_t evdevKeyCode);
+
 /// The key that a shortcut's virtual key code means here. With fn an arrow is Home, End, Page Up or Page Down, Delete
 /// deletes forward and Return is the keypad's Enter. Nothing if no key here does that: fn has no meaning with letters,
 /// and posting the bare letter would type into the person's text.

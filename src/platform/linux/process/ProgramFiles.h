@@ -17,6 +17,7 @@ struct ProgramFiles {
     std::filesystem::path updater() const { return prefix / "libexec" / "kinesta" / "kinesta-updater"; }
     /// What the build says about itself; missing in development builds.
     std::filesystem::path bundle() const { return prefix / "share" / "kinesta" / "bundle.json"; }
+    std::filesystem::path translations() const { return prefix / "share" / "kinesta" / "translations"; }
     std::filesystem::path examples() const { return prefix / "share" / "kinesta" / "examples"; }
 };
 

@@ -40,10 +40,14 @@ DesktopFinding DesktopSession::sendInput() const {
                             "hold yourself meanwhile count as part of a shortcut, so let go of them first."
                           : "Here they would go out through a virtual keyboard of the kernel's, but /dev/uinput "
                             "is missing or may not be opened.";
-        finding.remedy = finding.works ? "" : "Run once: " + uinputAccessCommand();
+        if (!finding.works) {
+            finding.remedy = "Run once in a terminal:";
+            finding.command = uinputAccessCommand();
+        }
         return finding;
     }
     finding.works = m_facts.hasXTest;
+    finding.isSetting = !m_facts.hasX || !m_facts.hasXTest || m_facts.hasWayland;
     if (!m_facts.hasX) {
         finding.why = "The settings ask for the X server, and none answers.";
         finding.remedy = std::string(kStartInSession) + " Or remove the setting " +
@@ -135,7 +139,8 @@ DesktopFinding DesktopSession::open() const {
         finding.why = m_facts.portal == BusService::silent
                           ? "There is no xdg-open, and the desktop's portal does not answer or cannot open things."
                           : "There is neither xdg-open nor a desktop portal.";
-        finding.remedy = "Install xdg-utils: sudo apt install xdg-utils";
+        finding.remedy = "Install xdg-utils:";
+        finding.command = "sudo apt install xdg-utils";
     }
     return finding;
 }
@@ -147,7 +152,8 @@ DesktopFinding DesktopSession::notify() const {
         finding.remedy = kStartInSession;
     } else if (m_facts.notifications == BusService::absent) {
         finding.why = "No program shows notifications here, so Kinesta cannot tell you when it may not do something.";
-        finding.remedy = "Install one: sudo apt install dunst";
+        finding.remedy = "Install one:";
+        finding.command = "sudo apt install dunst";
     } else if (m_facts.notifications == BusService::silent) {
         finding.why =
             "The program for notifications cannot be started or does not answer, so Kinesta cannot tell you when it "

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "app/PlatformSettings.h"
 #include "support/UserDefaults.h"
 
 namespace kinesta {
@@ -22,6 +25,9 @@ struct LinuxActionSettings {
     InputRoute inputRoute = InputRoute::automatic;
 
     static LinuxActionSettings read(const UserDefaults& defaults);
+
+    /// The same, described for the person.
+    static std::vector<PlatformChoice> choices();
 };
 
 }  // namespace kinesta

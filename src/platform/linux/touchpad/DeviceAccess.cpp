@@ -30,6 +30,8 @@ std::string touchpadAccessCommand() {
                    R"(SUBSYSTEM=="input", KERNEL=="event*", ENV{ID_INPUT_TOUCHPAD}=="1", TAG+="uaccess")", "input");
 }
 
+std::string touchpadAccessAdvice() { return "; to allow it, run: " + touchpadAccessCommand(); }
+
 std::string uinputAccessCommand() {
     return "sudo modprobe uinput && " +
            command("70-kinesta-uinput.rules",

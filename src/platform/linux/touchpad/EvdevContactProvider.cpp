@@ -55,6 +55,8 @@ void EvdevContactProvider::start() {
                     if (m_pointerHandler)
                         m_pointerHandler(event);
                 });
+            if (m_eventHandler)
+                m_eventHandler(event);
         },
         [this, run](const EvdevReader::State& state) {
             Run::post(m_mainThread, run, [this, state] {

@@ -19,7 +19,7 @@ namespace kinesta {
 class EvdevContactProvider final : public TrackpadContactProviding {
   public:
     using Settings = EvdevReader::Settings;
-    using PointerHandler = std::function<void(const PadEvent&)>;
+    using EventHandler = std::function<void(const PadEvent&)>;
 
     /// `mainThread` must outlive the provider.
     explicit EvdevContactProvider(MainThread& mainThread, Settings settings = {});
@@ -31,7 +31,10 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     /// `handler` receives button presses and releases (PadButton) and changes of the pressure stage (PadPressure) with
     /// their uptimes, on the main thread. The left and the right button are not distinguished. A frame that came with a
     /// press has been delivered before.
-    void setPointerHandler(PointerHandler handler) { m_pointerHandler = std::move(handler); }
+    void setPointerHandler(EventHandler handler) { m_pointerHandler = std::move(handler); }
+
+    /// `handler` receives every event on the provider's thread, after the frame handler. Set before start().
+    void setEventHandler(EventHandler handler) { m_eventHandler = std::move(handler); }
 
     /// `handler` is called on the main thread when status() has changed by itself: the touchpad was connected or
     /// disconnected, became readable, or was switched off or on. It may start or stop the provider, but not destroy it.
@@ -60,7 +63,8 @@ class EvdevContactProvider final : public TrackpadContactProviding {
     MainThread& m_mainThread;
     Settings m_settings;
     FrameHandlerSlot m_frameHandler;
-    PointerHandler m_pointerHandler;
+    EventHandler m_pointerHandler;
+    EventHandler m_eventHandler;
     std::function<void()> m_statusHandler;
     EvdevReader::State m_state;
     /// From start() to stop(). Tasks that the thread has posted to the main thread do nothing after the end of its run.

@@ -24,7 +24,7 @@ constexpr unsigned kPropertyPressurePad = 0x07;
 Error openingError(const TouchpadCandidate& candidate, int error) {
     const std::string pad = "The trackpad \"" + candidate.name + "\" (" + candidate.path + ") ";
     if (error == EACCES || error == EPERM)
-        return {pad + "may not be read; to allow it, run: " + touchpadAccessCommand()};
+        return {pad + "may not be read" + touchpadAccessAdvice()};
     return {pad + "cannot be read: " + std::strerror(error) + "."};
 }
 
@@ -87,6 +87,17 @@ EvdevDevice::EvdevDevice(FileDescriptor descriptor, std::unique_ptr<libevdev, Li
       }) {}
 
 EvdevDevice::~EvdevDevice() = default;
+
+double EvdevDevice::proportions() const {
+    const auto length = [this](unsigned axis) {
+        const input_absinfo* range = libevdev_get_abs_info(m_device.get(), axis);
+        return range && range->resolution > 0
+                   ? (range->maximum - static_cast<double>(range->minimum)) / range->resolution
+                   : 0;
+    };
+    const double height = length(ABS_Y);
+    return height > 0 ? length(ABS_X) / height : 0;
+}
 
 int EvdevDevice::fingers() const {
     // A report without slots can list any number of contacts.

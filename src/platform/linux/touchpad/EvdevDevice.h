@@ -36,6 +36,8 @@ class EvdevDevice {
     int fileDescriptor() const { return m_descriptor.number(); }
     const EvdevTouchpad& touchpad() const { return m_touchpad; }
     bool canTellPressure() const { return m_pressureRange.has_value(); }
+    /// Width to height; 0 if the pad does not tell its size.
+    double proportions() const;
     /// How many fingers it reports at once, with or without their positions; 0 if that is not known in advance.
     int fingers() const;
 

@@ -82,7 +82,8 @@ EvdevReader::State EvdevReader::look() {
     return {.status = TrackpadContactProviderStatus::listening(),
             .path = chosen->path,
             .name = chosen->name,
-            .canTellPressure = m_device->canTellPressure()};
+            .canTellPressure = m_device->canTellPressure(),
+            .proportions = m_device->proportions()};
 }
 
 void EvdevReader::liftAll() {

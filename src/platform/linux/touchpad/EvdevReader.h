@@ -29,6 +29,8 @@ class EvdevReader {
         std::string path;
         std::string name;
         bool canTellPressure = false;
+        /// Width to height; 0 if that is not known.
+        double proportions = 0;
 
         friend bool operator==(const State&, const State&) = default;
     };

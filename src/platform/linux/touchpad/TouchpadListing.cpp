@@ -1,5 +1,8 @@
 #include "platform/linux/touchpad/TouchpadListing.h"
 
+#include <utility>
+
+#include "platform/linux/touchpad/DeviceAccess.h"
 #include "platform/linux/touchpad/EvdevDevice.h"
 #include "platform/linux/touchpad/TouchpadScanner.h"
 #include "platform/linux/touchpad/TouchpadSwitch.h"
@@ -27,7 +30,12 @@ std::vector<ListedTouchpad> listTouchpads(const std::string& wanted) {
             listed.canTellPressure = device.value()->canTellPressure();
             listed.fingers = device.value()->fingers();
         } else {
-            listed.problem = device.error().message;
+            std::string problem = device.error().message;
+            if (const std::string advice = touchpadAccessAdvice(); problem.ends_with(advice)) {
+                listed.command = touchpadAccessCommand();
+                problem.replace(problem.size() - advice.size(), advice.size(), ".");
+            }
+            listed.problem = std::move(problem);
         }
     }
     return list;

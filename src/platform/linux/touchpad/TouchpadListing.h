@@ -21,8 +21,10 @@ struct ListedTouchpad {
     bool mayBeOff = false;
     /// How many fingers it reports at once; 0 if that is not known.
     int fingers = 0;
-    /// One sentence on why it cannot be read and what to do; empty if it can.
+    /// One sentence on why it cannot be read; empty if it can.
     std::string problem;
+    /// The command line that lets this person read it, if that is what is missing.
+    std::string command;
 };
 
 /// All touchpads. Opens each for a moment. `wanted` is the setting that names the one to read.

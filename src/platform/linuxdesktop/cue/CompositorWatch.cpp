@@ -27,6 +27,10 @@ CompositorWatch::CompositorWatch(std::function<void()> onChange) : m_onChange(st
 
 CompositorWatch::~CompositorWatch() = default;
 
+bool CompositorWatch::blendsWindows() {
+    return ScreenSelection::connection() == nullptr || ScreenSelection(kSelection).isOwned();
+}
+
 bool CompositorWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/) {
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
     if ((event->response_type & 0x7F) != m_ownerChanged)

@@ -15,11 +15,15 @@ class CompositorWatch final : public QAbstractNativeEventFilter {
     ~CompositorWatch() override;
 
     bool isActive() const { return m_isActive; }
+    /// Whether there is one at this moment, or a system that needs none.
+    static bool blendsWindows();
 
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
   private:
-    ScreenSelection m_selection{"_NET_WM_CM_S"};
+    static constexpr const char* kSelection = "_NET_WM_CM_S";
+
+    ScreenSelection m_selection{kSelection};
     std::function<void()> m_onChange;
     bool m_isActive = false;
     /// The number of the event for a new owner; 0 if the server has no such event.

@@ -1,0 +1,112 @@
+#include "ui/action/KeyCapRow.h"
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/ThemePalette.h"
+#include "ui/widgets/Unit.h"
+#include "ui/widgets/WindowTheme.h"
+
+namespace kinesta {
+namespace {
+
+constexpr double kHeight = 24;
+constexpr double kNarrowest = 26;
+constexpr double kSlot = 30;
+constexpr double kPadding = 8;
+constexpr double kGap = 6;
+constexpr double kRadius = 6;
+constexpr int kEdge = 1;
+constexpr int kLowerEdge = 2;
+
+QFont capFont() { return Unit::font(0.92, QFont::DemiBold); }
+
+}  // namespace
+
+KeyCapRow::KeyCapRow(QWidget* parent) : QWidget(parent) {
+    setLayoutDirection(Qt::LeftToRight);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void KeyCapRow::setCaps(std::vector<KeyCap> caps, Look look, End end) {
+    m_caps = std::move(caps);
+    m_look = look;
+    m_end = end;
+    updateGeometry();
+    update();
+}
+
+QString KeyCapRow::textOf(const KeyCap& cap, Words words) const {
+    const QString sign = QString::fromStdString(cap.sign);
+    const QString word = QString::fromStdString(cap.word);
+    const QFontMetrics metrics(capFont());
+    const auto characters = sign.toUcs4();
+    const bool isDrawable = std::all_of(characters.begin(), characters.end(),
+                                        [&](uint character) { return metrics.inFontUcs4(character); });
+    if (sign.isEmpty() || !isDrawable)
+        return word;
+    return cap.showsWord && words == Words::shown ? sign + QLatin1Char(' ') + word : sign;
+}
+
+int KeyCapRow::widthOf(const QString& text) const {
+    return std::max(Unit::of(kNarrowest), QFontMetrics(capFont()).horizontalAdvance(text) + 2 * Unit::of(kPadding));
+}
+
+int KeyCapRow::wholeWidth(Words words) const {
+    int width = m_end == End::emptySlot ? Unit::of(kSlot) + Unit::of(kGap) : 0;
+    for (const KeyCap& cap : m_caps)
+        width += widthOf(textOf(cap, words)) + Unit::of(kGap);
+    return std::max(0, width - Unit::of(kGap));
+}
+
+QSize KeyCapRow::sizeHint() const { return {wholeWidth(Words::shown), Unit::of(kHeight)}; }
+
+QSize KeyCapRow::minimumSizeHint() const { return {wholeWidth(Words::dropped), Unit::of(kHeight)}; }
+
+void KeyCapRow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+    QWidget::changeEvent(event);
+}
+
+void KeyCapRow::paintEvent(QPaintEvent* /*event*/) {
+    const AppTheme& theme = WindowTheme::current();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(capFont());
+    const bool isHeld = m_look == Look::held;
+    const QColor edge = asQColor(isHeld ? theme.accent : theme.line);
+    const QColor face = asQColor(isHeld ? theme.accent : theme.surface);
+    const QColor ink = asQColor(isHeld ? theme.onAccent : isEnabled() ? theme.text : theme.line);
+    const double radius = Unit::of(kRadius);
+    const int height = Unit::of(kHeight);
+    const Words words = wholeWidth(Words::shown) <= width() ? Words::shown : Words::dropped;
+    int x = 0;
+    for (const KeyCap& cap : m_caps) {
+        const QString text = textOf(cap, words);
+        const QRectF box(x, 0, widthOf(text), height);
+        const QRectF top = box.adjusted(kEdge, kEdge, -kEdge, -kLowerEdge);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(edge);
+        painter.drawRoundedRect(box, radius, radius);
+        painter.setBrush(face);
+        painter.drawRoundedRect(top, radius - kEdge, radius - kEdge);
+        painter.setPen(ink);
+        painter.drawText(top, Qt::AlignCenter | Qt::TextSingleLine, text);
+        x += static_cast<int>(box.width()) + Unit::of(kGap);
+    }
+    if (m_end == End::plain)
+        return;
+    constexpr double kPen = 1.5;
+    QPen pen(asQColor(theme.accent), kPen);
+    pen.setDashPattern({2, 2});
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(x, 0, Unit::of(kSlot), height).adjusted(kPen / 2, kPen / 2, -kPen / 2, -kPen / 2),
+                            radius, radius);
+}
+
+}  // namespace kinesta

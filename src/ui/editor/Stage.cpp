@@ -1,0 +1,100 @@
+#include "ui/editor/Stage.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/widgets/Unit.h"
+#include "ui/widgets/WindowTheme.h"
+
+namespace kinesta {
+namespace {
+
+constexpr double kPadWidth = 200;
+constexpr double kBeside = 24;
+constexpr double kAbove = 32;
+constexpr double kPlayFromEnd = 5;
+constexpr double kPlayFromBottom = 4;
+
+}  // namespace
+
+Stage::Stage(std::function<double()> tapWaitingInterval)
+    : m_tapWaitingInterval(std::move(tapWaitingInterval)),
+      m_pad(new PadPicture(kPadWidth, this)),
+      m_play(new PlayButton(this)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_pad, 0, Qt::AlignCenter);
+    connect(m_play, &PlayButton::clicked, this, [this] { show(m_gesture); });
+    setPadWidth(kPadWidth);
+}
+
+void Stage::setGesture(const PadGesture& gesture, const QString& name, const QString& sentence) {
+    m_pad->setAccessibleName(name);
+    m_pad->setAccessibleDescription(sentence);
+    if (gesture == m_gesture)
+        return;
+    m_gesture = gesture;
+    show(gesture);
+    placeControl();
+}
+
+void Stage::preview(const PadGesture& gesture) {
+    // What was just chosen is being performed already.
+    if (gesture != m_shown || !m_pad->isPerforming())
+        show(gesture);
+}
+
+void Stage::endPreview() {
+    m_shown = m_gesture;
+    m_pad->setGesture(m_gesture);
+    m_pad->rest();
+}
+
+void Stage::show(const PadGesture& gesture) {
+    m_shown = gesture;
+    m_pad->setGesture(gesture);
+    m_pad->perform(m_tapWaitingInterval());
+}
+
+void Stage::setPadWidth(double width) {
+    if (std::exchange(m_padWidth, width) == width)
+        return;
+    m_pad->setPadWidth(width);
+    measure();
+}
+
+void Stage::measure() {
+    setMinimumSize(m_pad->sizeHint() + Unit::of(2 * kBeside, 2 * kAbove));
+    placeControl();
+}
+
+void Stage::placeControl() {
+    m_play->setVisible(m_gesture.kind != GestureKind::unconfigured && !WindowTheme::reducesMotion());
+    m_play->resize(m_play->sizeHint());
+    const int fromEnd = Unit::of(kPlayFromEnd);
+    const int x = layoutDirection() == Qt::RightToLeft ? fromEnd : width() - fromEnd - m_play->width();
+    m_play->move(x, height() - Unit::of(kPlayFromBottom) - m_play->height());
+}
+
+void Stage::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        measure();
+    else if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::ActivationChange)
+        placeControl();  // the system's motion setting may have changed meanwhile
+}
+
+void Stage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    placeControl();
+}
+
+void Stage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    placeControl();
+    if (!event->spontaneous())
+        show(m_gesture);
+}
+
+}  // namespace kinesta

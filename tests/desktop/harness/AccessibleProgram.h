@@ -1,0 +1,197 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <systemd/sd-bus.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "desktop/harness/ChildProcess.h"
+
+namespace kinesta::testing {
+
+/// A program as screen readers see it, and a hand that points and types. Asks the accessibility bus itself.
+class AccessibleProgram {
+  public:
+    enum State { checked = 4, enabled = 8, focused = 12, selected = 23, showing = 25 };
+
+    struct Node {
+        std::string bus;
+        std::string path;
+        std::string role{};
+        std::string name{};
+        std::uint64_t states = 0;
+
+        bool has(State state) const { return (states >> state & 1U) != 0; }
+    };
+
+    /// Waits until the program is on the accessibility bus.
+    explicit AccessibleProgram(const std::string& name) {
+        const std::string address =
+            ChildProcess("busctl --user --json=short call org.a11y.Bus /org/a11y/bus org.a11y.Bus GetAddress")
+                .readLine()
+                .value_or("");
+        const std::size_t begin = address.find("unix:");
+        EXPECT_NE(begin, std::string::npos) << address;
+        sd_bus_new(&m_bus);
+        sd_bus_set_address(m_bus, address.substr(begin, address.find('"', begin) - begin).c_str());
+        sd_bus_set_bus_client(m_bus, 1);
+        EXPECT_GE(sd_bus_start(m_bus), 0);
+        EXPECT_TRUE(eventually([&] {
+            for (const Node& program : children({"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"}))
+                if (program.name == name)
+                    m_program = program;
+            return !m_program.bus.empty();
+        }));
+    }
+    ~AccessibleProgram() { sd_bus_flush_close_unref(m_bus); }
+    AccessibleProgram(const AccessibleProgram&) = delete;
+    AccessibleProgram& operator=(const AccessibleProgram&) = delete;
+
+    /// What is on the screen with this role and name; waits for it.
+    Node await(const std::string& role, const std::string& name) const {
+        std::optional<Node> found;
+        EXPECT_TRUE(eventually([&] { return (found = find(role, name)).has_value(); }))
+            << "no " << role << " “" << name << "” among:\n"
+            << outline();
+        return found.value_or(Node{});
+    }
+    bool awaitGone(const std::string& role, const std::string& name) const {
+        return eventually([&] { return !find(role, name); });
+    }
+    std::optional<Node> find(const std::string& role, const std::string& name) const {
+        return search(m_program, [&](const Node& node) { return node.role == role && node.name == name; });
+    }
+    /// Waits until the node is, or is not, in this state.
+    bool becomes(const Node& node, State state, bool wanted = true) const {
+        return eventually([&] { return read(node.bus, node.path).has(state) == wanted; });
+    }
+    std::optional<Node> focus() const {
+        return search(m_program, [](const Node& node) { return node.has(focused); });
+    }
+
+    /// Every part that is on the screen, an indented line each.
+    std::string outline() const {
+        std::string text;
+        outline(m_program, 0, text);
+        return text;
+    }
+
+    std::vector<Node> children(const Node& node) const {
+        std::vector<Node> nodes;
+        const auto reply = call(node, "org.a11y.atspi.Accessible", "GetChildren");
+        if (reply && sd_bus_message_enter_container(reply.get(), 'a', "(so)") >= 0) {
+            const char* bus = nullptr;
+            const char* path = nullptr;
+            while (sd_bus_message_read(reply.get(), "(so)", &bus, &path) > 0)
+                nodes.push_back(read(bus, path));
+        }
+        return nodes;
+    }
+
+    /// The text of a field.
+    std::string text(const Node& node) const {
+        const auto reply = call(node, "org.a11y.atspi.Text", "GetText", 0, -1);
+        const char* text = "";
+        if (reply)
+            sd_bus_message_read(reply.get(), "s", &text);
+        return text;
+    }
+    double value(const Node& node) const {
+        double value = 0;
+        sd_bus_get_property_trivial(m_bus, node.bus.c_str(), node.path.c_str(), "org.a11y.atspi.Value", "CurrentValue",
+                                    nullptr, 'd', &value);
+        return value;
+    }
+    std::string description(const Node& node) const { return property(node.bus, node.path, "Description"); }
+
+    /// The middle of the node on the screen.
+    std::tuple<int, int> middle(const Node& node) const {
+        const auto reply = call(node, "org.a11y.atspi.Component", "GetExtents", std::uint32_t{0});
+        int x = 0;
+        int y = 0;
+        int width = 0;
+        int height = 0;
+        if (reply)
+            sd_bus_message_read(reply.get(), "(iiii)", &x, &y, &width, &height);
+        return {x + width / 2, y + height / 2};
+    }
+    /// A real click. The node must be on the screen.
+    void click(const Node& node, int button = 1) const {
+        const auto [x, y] = middle(node);
+        hand("mousemove --sync " + std::to_string(x) + " " + std::to_string(y) + " click " + std::to_string(button));
+    }
+    void click(const std::string& role, const std::string& name) const { click(await(role, name)); }
+    static void press(const std::string& keys) { hand("key " + keys); }
+    static void type(const std::string& text) { hand("type --delay 2 '" + text + "'"); }
+    static void hand(const std::string& act) { EXPECT_TRUE(run("xdotool " + act)) << act; }
+
+  private:
+    struct Unref {
+        void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+    };
+    using Message = std::unique_ptr<sd_bus_message, Unref>;
+
+    static std::string types() { return {}; }
+    static std::string types(std::uint32_t) { return "u"; }
+    static std::string types(int, int) { return "ii"; }
+
+    template <typename... Arguments>
+    Message call(const Node& node, const char* interface, const char* member, Arguments... arguments) const {
+        sd_bus_message* reply = nullptr;
+        sd_bus_call_method(m_bus, node.bus.c_str(), node.path.c_str(), interface, member, nullptr, &reply,
+                           types(arguments...).c_str(), arguments...);
+        return Message(reply);
+    }
+    std::string property(const std::string& bus, const std::string& path, const char* name) const {
+        char* text = nullptr;
+        sd_bus_get_property_string(m_bus, bus.c_str(), path.c_str(), "org.a11y.atspi.Accessible", name, nullptr, &text);
+        const std::unique_ptr<char, decltype(&::free)> owned(text, &::free);
+        return text == nullptr ? "" : text;
+    }
+    Node read(const std::string& bus, const std::string& path) const {
+        Node node{bus, path, {}, property(bus, path, "Name")};
+        const char* role = "";
+        const auto named = call(node, "org.a11y.atspi.Accessible", "GetRoleName");
+        if (named)
+            sd_bus_message_read(named.get(), "s", &role);
+        node.role = role;
+        const auto states = call(node, "org.a11y.atspi.Accessible", "GetState");
+        std::uint32_t low = 0;
+        std::uint32_t high = 0;
+        if (states)
+            sd_bus_message_read(states.get(), "au", 2, &low, &high);
+        node.states = std::uint64_t{high} << 32U | low;
+        return node;
+    }
+    std::optional<Node> search(const Node& from, const std::function<bool(const Node&)>& fits) const {
+        for (const Node& child : children(from)) {
+            if (!child.has(showing))
+                continue;
+            if (fits(child))
+                return child;
+            if (auto found = search(child, fits))
+                return found;
+        }
+        return std::nullopt;
+    }
+    void outline(const Node& from, int depth, std::string& text) const {
+        for (const Node& child : children(from)) {
+            if (!child.has(showing))
+                continue;
+            text += std::string(static_cast<std::size_t>(2 * depth), ' ') + child.role + " “" + child.name + "”" +
+                    (child.has(focused) ? " *" : "") + "\n";
+            outline(child, depth + 1, text);
+        }
+    }
+
+    sd_bus* m_bus = nullptr;
+    Node m_program;
+};
+
+}  // namespace kinesta::testing
