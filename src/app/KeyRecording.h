@@ -75,9 +75,9 @@ class KeyRecording {
 
     /// What is printed on the keys that a stored shortcut with these modifiers presses.
     virtual KeyWords words(ShortcutModifiers modifiers) const = 0;
-    /// The name of the key that keyboards here have for fn and this key, such as "Home" for Left. Empty if there is
-    /// none.
-    virtual std::string nameWithFunction(std::uint16_t keyCode) const = 0;
+    /// The name of the one key that is pressed for a key with fn, such as "Home" for Left. Empty if there is none, or
+    /// these event flags make it something else.
+    virtual std::string nameWithFunction(std::uint16_t keyCode, std::uint64_t flags) const = 0;
     /// Whether programs here do what the title says when they get these keys.
     virtual bool works(const CommonMacShortcut& preset) const = 0;
 };

@@ -76,6 +76,7 @@ void KeyCapRow::paintEvent(QPaintEvent* /*event*/) {
     const AppTheme& theme = WindowTheme::current();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setLayoutDirection(Qt::LeftToRight);
     painter.setFont(capFont());
     const bool isHeld = m_look == Look::held;
     const QColor edge = asQColor(isHeld ? theme.accent : theme.line);

@@ -12,6 +12,7 @@ namespace kinesta {
 namespace {
 
 constexpr double kGap = 8;
+constexpr double kPadding = 4;
 constexpr double kKeyHeight = 28;
 constexpr double kKeysWidth = 140;
 constexpr int kKeysShown = 10;
@@ -88,8 +89,13 @@ void ShortcutMenus::addKeys() {
     // A press outside or Escape closes the menu around the list.
     connect(m_keyList, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { chooseKey(*item); });
     connect(m_keyList, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) { chooseKey(*item); });
+    auto* frame = new QWidget;
+    auto* inside = new QVBoxLayout(frame);
+    const int padding = Unit::of(kPadding);
+    inside->setContentsMargins(padding, padding, padding, padding);
+    inside->addWidget(m_keyList);
     auto* action = new QWidgetAction(m_keys);
-    action->setDefaultWidget(m_keyList);
+    action->setDefaultWidget(frame);
     m_keys->addAction(action);
 }
 

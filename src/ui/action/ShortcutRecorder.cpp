@@ -39,9 +39,7 @@ class RecorderInterface final : public QAccessibleWidget {
             return recorder().words();
         // Qt hands no value of a button to screen readers on Linux, but its description.
         if (text == QAccessible::Description)
-            return recorder().hint().isEmpty()
-                       ? recorder().words()
-                       : ShortcutRecorder::tr("%1. %2").arg(recorder().words(), recorder().hint());
+            return (recorder().words() + QLatin1Char('\n') + recorder().hint()).trimmed();
         return QAccessibleWidget::text(text);
     }
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
@@ -56,16 +54,10 @@ class RecorderInterface final : public QAccessibleWidget {
     ShortcutRecorder& recorder() const { return *static_cast<ShortcutRecorder*>(widget()); }
 };
 
-void installInterface() {
-    static const bool isInstalled = [] {
-        QAccessible::installFactory([](const QString& name, QObject* object) -> QAccessibleInterface* {
-            if (name != QLatin1String(ShortcutRecorder::staticMetaObject.className()))
-                return nullptr;
-            return new RecorderInterface(static_cast<ShortcutRecorder*>(object));
-        });
-        return true;
-    }();
-    static_cast<void>(isInstalled);
+QAccessibleInterface* makeInterface(const QString& name, QObject* object) {
+    if (name != QLatin1String(ShortcutRecorder::staticMetaObject.className()))
+        return nullptr;
+    return new RecorderInterface(static_cast<ShortcutRecorder*>(object));
 }
 
 NativeKey nativeKey(const QKeyEvent& event) {
@@ -91,10 +83,9 @@ ShortcutRecorder::ShortcutRecorder(Desktop& desktop, QWidget* parent)
       m_recording(desktop.keyRecording()),
       m_caps(new KeyCapRow(this)),
       m_clear(new QToolButton(this)) {
-    installInterface();
+    QAccessible::installFactory(&makeInterface);  // once, however often it is called
     setAccessibleName(tr("Record shortcut"));
     setFocusPolicy(Qt::StrongFocus);
-    setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     m_caps->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_clear->setAccessibleName(tr("Clear shortcut"));
@@ -102,7 +93,6 @@ ShortcutRecorder::ShortcutRecorder(Desktop& desktop, QWidget* parent)
     m_clear->setIcon(SymbolIcon::of(windowSymbol(WindowSymbol::clear)));
     m_clear->setAutoRaise(true);
     m_clear->setFocusPolicy(Qt::TabFocus);
-    m_clear->setCursor(Qt::ArrowCursor);
     auto* line = new QHBoxLayout(this);
     line->setSpacing(0);
     line->addWidget(m_caps);
@@ -128,6 +118,8 @@ void ShortcutRecorder::setShortcut(std::optional<std::uint16_t> keyCode, Shortcu
 }
 
 void ShortcutRecorder::start() {
+    if (!isEnabled())
+        return;
     setFocus(Qt::OtherFocusReason);
     m_recording.start();
     refresh();
@@ -142,7 +134,7 @@ QString ShortcutRecorder::words() const {
 
 QSize ShortcutRecorder::sizeHint() const {
     const QSize usual = Unit::of(kWidth, kHeight);
-    return {std::max(usual.width(), layout()->sizeHint().width()), usual.height()};
+    return {std::max(usual.width(), layout()->minimumSize().width()), usual.height()};
 }
 
 QSize ShortcutRecorder::minimumSizeHint() const { return {layout()->minimumSize().width(), Unit::of(kHeight)}; }
@@ -151,7 +143,7 @@ bool ShortcutRecorder::event(QEvent* event) {
     switch (event->type()) {
         case QEvent::ShortcutOverride:
             // Before the window's own shortcuts.
-            if (!isListening())
+            if (!isListening() && !isStillHeld(static_cast<QKeyEvent&>(*event)))
                 break;
             event->accept();
             return true;
@@ -162,7 +154,7 @@ bool ShortcutRecorder::event(QEvent* event) {
             event->accept();
             return true;
         case QEvent::KeyRelease:
-            if (!isListening())
+            if (!isListening() || static_cast<QKeyEvent&>(*event).isAutoRepeat())
                 break;
             m_recording.release(nativeKey(static_cast<QKeyEvent&>(*event)));
             refresh();
@@ -173,8 +165,16 @@ bool ShortcutRecorder::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+/// A key that was pressed while we listened must not go on to move the focus or to reach the window.
+bool ShortcutRecorder::isStillHeld(const QKeyEvent& event) const {
+    return event.isAutoRepeat() && event.nativeScanCode() == m_lastKey;
+}
+
 /// False if the key is none of ours.
 bool ShortcutRecorder::pressKey(const QKeyEvent& event) {
+    if (isStillHeld(event))
+        return true;
+    m_lastKey = isListening() ? event.nativeScanCode() : 0;
     if (isListening()) {
         if (!event.isAutoRepeat())
             m_recording.press(nativeKey(event), meaningOf(event));
@@ -188,7 +188,6 @@ bool ShortcutRecorder::pressKey(const QKeyEvent& event) {
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            // The key that was just recorded may still be held.
             if (!event.isAutoRepeat())
                 start();
             return true;

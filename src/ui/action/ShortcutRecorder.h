@@ -53,6 +53,7 @@ class ShortcutRecorder final : public QWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
+    bool isStillHeld(const QKeyEvent& event) const;
     bool pressKey(const QKeyEvent& event);
     void arrange();
     void refresh();
@@ -60,6 +61,8 @@ class ShortcutRecorder final : public QWidget {
     ShortcutRecording m_recording;
     KeyCapRow* m_caps;
     QToolButton* m_clear;
+    /// The key that was pressed last while we listened; 0 for none.
+    quint32 m_lastKey = 0;
     QString m_hint;
     QString m_announcedWords;
 };

@@ -33,7 +33,9 @@ std::vector<KeyCap> modifierCaps(ShortcutModifiers modifiers, const KeyWords& wo
 std::vector<KeyCap> shortcutCaps(const RecordedShortcut& shortcut, const KeyRecording& keyboard) {
     ShortcutModifiers modifiers = shortcut.modifiers;
     const std::string instead =
-        modifiers.contains(ShortcutModifiers::function) ? keyboard.nameWithFunction(shortcut.keyCode) : "";
+        modifiers.contains(ShortcutModifiers::function)
+            ? keyboard.nameWithFunction(shortcut.keyCode, ShortcutKey::eventFlags(shortcut.keyCode, modifiers))
+            : "";
     if (!instead.empty())
         modifiers.rawValue &= ~ShortcutModifiers::function.rawValue;
     auto caps = modifierCaps(modifiers, keyboard.words(modifiers));

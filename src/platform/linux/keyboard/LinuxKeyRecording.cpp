@@ -164,7 +164,9 @@ KeyWords LinuxKeyRecording::words(ShortcutModifiers modifiers) const {
             .standBesideSigns = true};
 }
 
-std::string LinuxKeyRecording::nameWithFunction(std::uint16_t keyCode) const {
+std::string LinuxKeyRecording::nameWithFunction(std::uint16_t keyCode, std::uint64_t flags) const {
+    if (obstacleToKey(keyCode, flags))  // it tiles windows
+        return {};
     const auto* const key = std::ranges::find(kFunctionKeys, keyCode, &FunctionKey::ansiKeyCode);
     return key == kFunctionKeys.end() ? std::string() : translated(key->name);
 }

@@ -25,7 +25,7 @@ class LinuxKeyRecording final : public KeyRecording {
     bool presses(std::uint16_t keyCode, std::uint64_t flags, const NativeKey& key, HeldModifiers held) const override;
     KeyboardLayout& layout() override { return m_layout; }
     KeyWords words(ShortcutModifiers modifiers) const override;
-    std::string nameWithFunction(std::uint16_t keyCode) const override;
+    std::string nameWithFunction(std::uint16_t keyCode, std::uint64_t flags) const override;
     bool works(const CommonMacShortcut& preset) const override;
 
   private:
