@@ -1,8 +1,4 @@
-<<<<<<<< HEAD:src/ui/overview/TerminalCommand.cpp
 #include "ui/overview/TerminalCommand.h"
-========
-#include "ui/overview/CommandToCopy.h"
->>>>>>>> wt/style:src/ui/overview/CommandToCopy.cpp
 
 #include <QClipboard>
 #include <QEvent>
@@ -22,11 +18,7 @@ constexpr double kGap = 8;
 
 }  // namespace
 
-<<<<<<<< HEAD:src/ui/overview/TerminalCommand.cpp
 TerminalCommand::TerminalCommand(const QString& command, WindowCommands& commands, QWidget* parent)
-========
-CommandToCopy::CommandToCopy(const QString& command, WindowCommands& commands, QWidget* parent)
->>>>>>>> wt/style:src/ui/overview/CommandToCopy.cpp
     : QWidget(parent),
       m_field(new QLineEdit(command)),
       m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
@@ -47,21 +39,13 @@ CommandToCopy::CommandToCopy(const QString& command, WindowCommands& commands, Q
     measure();
 }
 
-<<<<<<<< HEAD:src/ui/overview/TerminalCommand.cpp
 void TerminalCommand::changeEvent(QEvent* event) {
-========
-void CommandToCopy::changeEvent(QEvent* event) {
->>>>>>>> wt/style:src/ui/overview/CommandToCopy.cpp
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         measure();
 }
 
-<<<<<<<< HEAD:src/ui/overview/TerminalCommand.cpp
 void TerminalCommand::measure() {
-========
-void CommandToCopy::measure() {
->>>>>>>> wt/style:src/ui/overview/CommandToCopy.cpp
     QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     mono.setPixelSize(Unit::font(kMonoFactor).pixelSize());
     m_field->setFont(mono);
