@@ -1,9 +1,7 @@
 #include "ui/editor/NoticeStack.h"
 
-#include <QHBoxLayout>
 #include <algorithm>
 
-#include "ui/widgets/Row.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -11,7 +9,6 @@ namespace {
 
 using Topic = RuleEditorNotice::Topic;
 
-constexpr std::size_t kMost = 3;
 constexpr double kLongestName = 160;
 
 Notice::Kind kindOf(Topic topic) { return topic == Topic::pressure ? Notice::Kind::plain : Notice::Kind::caution; }
@@ -26,7 +23,7 @@ QString onButton(const QPushButton& button, const std::string& name) {
 }  // namespace
 
 NoticeStack::NoticeStack(Card& card, RuleEditorModel& model, WindowCommands& commands)
-    : QObject(&card), m_model(model), m_commands(commands), m_moreLine(new QWidget), m_more(new QPushButton) {
+    : QObject(&card), m_model(model), m_commands(commands) {
     for (const Topic topic : {Topic::clash, Topic::switchedOff, Topic::systemGesture, Topic::pressure}) {
         Entry& added = m_entries[topic];
         added.notice = new Notice(kindOf(topic), {}, {});
@@ -45,23 +42,11 @@ NoticeStack::NoticeStack(Card& card, RuleEditorModel& model, WindowCommands& com
             m_commands.select(WindowSelection::rule(rivals.front().id));
     });
     connect(entry(Topic::switchedOff).remedy, &QPushButton::clicked, this, [this] { m_model.setEnabled(true); });
-
-    auto* line = new QHBoxLayout(m_moreLine);
-    line->setContentsMargins(Row::inset(), Unit::of(4), Row::inset(), Unit::of(4));
-    line->addWidget(m_more);
-    line->addStretch(1);
-    m_more->setProperty("link", true);
-    m_moreLine->hide();
-    card.add(m_moreLine);
-    connect(m_more, &QPushButton::clicked, this, [this] {
-        m_showsAll = true;
-        arrange();
-    });
 }
 
 void NoticeStack::show(const RuleEditorContent& content, bool canTellPressure) {
-    m_notices = noticesOf(content, canTellPressure);
-    for (const RuleEditorNotice& notice : m_notices)
+    const std::vector<RuleEditorNotice> notices = noticesOf(content, canTellPressure);
+    for (const RuleEditorNotice& notice : notices)
         entry(notice.topic)
             .notice->setWords(QString::fromStdString(notice.title), QString::fromStdString(notice.detail));
     Entry& switchedOff = entry(Topic::switchedOff);
@@ -72,24 +57,13 @@ void NoticeStack::show(const RuleEditorContent& content, bool canTellPressure) {
         rival.setText(tr("Show “%1”").arg(onButton(rival, content.rivals.front().name)));
         rival.setToolTip(QString::fromStdString(content.rivals.front().name));
     }
-    if (m_notices.size() <= kMost)
-        m_showsAll = false;
-    arrange();
-}
-
-void NoticeStack::arrange() {
-    const std::size_t shown = m_showsAll ? m_notices.size() : std::min(kMost, m_notices.size());
     for (auto& [topic, entry] : m_entries) {
-        const auto end = m_notices.begin() + static_cast<std::ptrdiff_t>(shown);
-        const bool isShown =
-            std::any_of(m_notices.begin(), end, [topic = topic](const auto& n) { return n.topic == topic; });
+        const bool isShown = std::ranges::count(notices, topic, &RuleEditorNotice::topic) > 0;
         if (isShown && entry.notice->isHidden())
             entry.notice->slideIn();
         else if (!isShown)
             entry.notice->hide();
     }
-    m_more->setText(tr("Show %n more", nullptr, static_cast<int>(m_notices.size() - shown)));
-    m_moreLine->setVisible(shown < m_notices.size());
 }
 
 }  // namespace kinesta

@@ -12,7 +12,7 @@
 
 namespace kinesta {
 
-/// The notices at the end of the gesture card: the first three, and the rest on demand.
+/// The notices at the end of the gesture card. There are three at most: a rule that was switched off clashes with none.
 class NoticeStack final : public QObject {
     Q_OBJECT
 
@@ -29,15 +29,10 @@ class NoticeStack final : public QObject {
     };
 
     Entry& entry(RuleEditorNotice::Topic topic) { return m_entries.at(topic); }
-    void arrange();
 
     RuleEditorModel& m_model;
     WindowCommands& m_commands;
     std::map<RuleEditorNotice::Topic, Entry> m_entries;
-    std::vector<RuleEditorNotice> m_notices;
-    QWidget* m_moreLine;
-    QPushButton* m_more;
-    bool m_showsAll = false;
 };
 
 }  // namespace kinesta

@@ -6,6 +6,7 @@
 #include "support/FakeUserDefaults.h"
 #include "support/VirtualClock.h"
 #include "support/VirtualMainThread.h"
+#include "ui/models/RuleEditorNotice.h"
 #include "ui/models/RuleWords.h"
 
 namespace kinesta::testing {
@@ -53,6 +54,13 @@ TEST(RuleEditorModel, ChangesWhatDependsOnTheTypeOfGesture) {
     f.model->pick(GesturePicker::fingers, 2);
     EXPECT_EQ(f.content().systemWarning->title, "May also scroll onscreen content");
     EXPECT_TRUE(f.content().canTurnOn);
+    f.model->setType(GestureTypeChoice::forceClick);
+    std::string titles;
+    for (const RuleEditorNotice& notice : noticesOf(f.content(), false))
+        titles += notice.title + "\n";
+    EXPECT_EQ(titles,
+              "This rule was switched off.\nMay conflict with Secondary Click\n"
+              "This touchpad cannot tell how hard it is pressed, so no Force Click will come.\n");
     f.model->setType(GestureTypeChoice::anchorDraw);
     EXPECT_EQ(f.rule().action, GestureAction());
     f.model->pick(GesturePicker::corner, static_cast<int>(AnchorCorner::topLeft));
