@@ -17,6 +17,7 @@
 #include "platform/linuxdesktop/DoctorReport.h"
 #include "platform/linuxdesktop/UpdaterProcess.h"
 #include "platform/linuxdesktop/appearance/DesktopAppearance.h"
+#include "platform/linuxdesktop/appearance/IconFolders.h"
 #include "platform/linuxdesktop/cue/CompositorWatch.h"
 #include "platform/linuxdesktop/cue/DesktopActionCue.h"
 #include "platform/linuxdesktop/cue/DesktopScreens.h"
@@ -99,8 +100,11 @@ class Application {
         showTheme();
     }
 
-    // The window and the icon change once more as they go, after the control.
-    ~Application() { m_controller.onChange = {}; }
+    ~Application() {
+        m_window.discard();  // it may still have something to store
+        // The icon changes once more as it goes, after the control.
+        m_controller.onChange = {};
+    }
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
@@ -124,6 +128,8 @@ class Application {
             return;
         m_app.reload();
         applyAppearance();
+        if (auto* window = configurationWindow())
+            window->refresh();
     }
 
   private:
@@ -307,6 +313,7 @@ int main(int argc, char** argv) {
     std::optional<SessionBusCheck> busCheck(std::in_place);
     std::optional<XWaylandPreference> preference(std::in_place);
     const QApplication qt(argc, argv);
+    useIconFolders();
     preference.reset();
     busCheck.reset();
     const Options options = optionsIn(qt);

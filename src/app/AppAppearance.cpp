@@ -2,15 +2,17 @@
 
 #include <array>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 
 template <>
 std::span<const EnumRow<AppAppearance>> enumTable<AppAppearance>() {
     using enum AppAppearance;
     static constexpr std::array<EnumRow<AppAppearance>, 3> kTable{{
-        {system, "system", "System"},
-        {light, "light", "Light"},
-        {dark, "dark", "Dark"},
+        {system, "system", TRANSLATABLE("System")},
+        {light, "light", TRANSLATABLE("Light")},
+        {dark, "dark", TRANSLATABLE("Dark")},
     }};
     return kTable;
 }

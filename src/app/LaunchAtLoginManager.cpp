@@ -1,5 +1,7 @@
 #include "app/LaunchAtLoginManager.h"
 
+#include "support/Translation.h"
+
 namespace kinesta {
 
 LaunchAtLoginManager::LaunchAtLoginManager(LoginItemService& service) : m_service(service) { refresh(); }
@@ -9,7 +11,7 @@ void LaunchAtLoginManager::refresh() {
     m_isEnabled.set(status == LoginItemStatus::enabled);
     m_requiresApproval.set(status == LoginItemStatus::requiresApproval);
     if (!m_lastFailure && status == LoginItemStatus::notFound)
-        m_errorMessage.set("The login item starts a program that is no longer there. Switch it on again.");
+        m_errorMessage.set(translated("The login item starts a program that is no longer there. Switch it on again."));
     else
         m_errorMessage.set(m_lastFailure);
 }

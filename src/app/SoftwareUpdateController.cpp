@@ -2,6 +2,7 @@
 
 #include "actions/OpenTarget.h"
 #include "support/Base64.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -13,11 +14,11 @@ constexpr std::size_t kPublicKeyLength = 32;
 Result<UpdateConfiguration> SoftwareUpdateController::configuration(const BundleInformation& bundle) {
     const auto feed = bundle.string(feedKey);
     if (!feed || !isSecureWebAddress(*feed))
-        return Error{"The update feed is not configured in this build."};
+        return Error{translated("The update feed is not configured in this build.")};
     const auto encoded = bundle.string(publicKeyKey);
     const auto key = encoded ? fromBase64(*encoded) : std::nullopt;
     if (!key || key->size() != kPublicKeyLength)
-        return Error{"Update signing is not configured in this development build."};
+        return Error{translated("Update signing is not configured in this development build.")};
     return UpdateConfiguration{*feed, *key};
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "feedback/ActionCuePanel.h"
 #include "feedback/ActionCueSymbol.h"
@@ -22,6 +23,8 @@ constexpr double kLabelInset = 44;
 constexpr double kLabelEnd = 16;
 constexpr double kLabelPixels = 14;
 constexpr double kMostLabelPixels = 18;
+/// In characters, more than fit. To elide megabytes takes minutes.
+constexpr qsizetype kMostLabel = 200;
 /// The line height of the font in which the label has kLabelPixels.
 constexpr double kUnitHeight = 16;
 
@@ -50,12 +53,29 @@ QFont labelFont() {
 
 const QRectF kFrame(0, 0, ActionCuePanel::width, ActionCuePanel::height);
 
-QImage layer(double ratio) {
-    QImage image((kFrame.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    return image;
-}
+/// A layer of the cue in points. Painters know no ratio below 1, so each scales by itself.
+class Layer {
+  public:
+    explicit Layer(double ratio)
+        : m_image((kFrame.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied), m_ratio(ratio) {
+        m_image.fill(Qt::transparent);
+        m_painter.begin(&m_image);
+        m_painter.scale(ratio, ratio);
+    }
+
+    QPainter& painter() { return m_painter; }
+
+    QImage finished() && {
+        m_painter.end();
+        m_image.setDevicePixelRatio(m_ratio);
+        return std::move(m_image);
+    }
+
+  private:
+    QImage m_image;
+    double m_ratio;
+    QPainter m_painter;
+};
 
 bool isSolid(const CuePainter::Look& look) { return !look.hasCompositor || look.groundOpacity >= 1; }
 
@@ -72,8 +92,8 @@ void drawGround(QPainter& painter, const CuePainter::Look& look) {
 }
 
 QImage drawnWords(const ActionCueContent& content, Qt::LayoutDirection direction, double ratio) {
-    QImage words = layer(ratio);
-    QPainter painter(&words);
+    Layer words(ratio);
+    QPainter& painter = words.painter();
     const bool isMirrored = direction == Qt::RightToLeft;
     QRectF symbol(kSymbolInset, (kFrame.height() - kSymbolSide) / 2, kSymbolSide, kSymbolSide);
     QRectF label(kLabelInset, 0, kFrame.width() - kLabelInset - kLabelEnd, kFrame.height());
@@ -85,20 +105,20 @@ QImage drawnWords(const ActionCueContent& content, Qt::LayoutDirection direction
     const QFont font = labelFont();
     painter.setFont(font);
     painter.setPen(kInk);
-    const QString text = QString::fromStdString(content.label).simplified();
+    const QString text = QString::fromStdString(content.label).left(kMostLabel).simplified();
     const Qt::Alignment side = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
     QTextOption option(side | Qt::AlignAbsolute | Qt::AlignVCenter);
     // From the text itself: the keys of a shortcut keep their order in every language.
     option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     option.setWrapMode(QTextOption::NoWrap);
     painter.drawText(label, QFontMetricsF(font).elidedText(text, Qt::ElideRight, label.width()), option);
-    return words;
+    return std::move(words).finished();
 }
 
 QImage haloOf(const QImage& words, double ratio) {
     constexpr int kCopies = 16;
-    QImage halo = layer(ratio);
-    QPainter painter(&halo);
+    Layer halo(ratio);
+    QPainter& painter = halo.painter();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     for (int i = 0; i < kCopies; ++i) {
         const double angle = 2 * std::numbers::pi * i / kCopies;
@@ -106,7 +126,7 @@ QImage haloOf(const QImage& words, double ratio) {
     }
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(kFrame, kGround);
-    return halo;
+    return std::move(halo).finished();
 }
 
 }  // namespace
@@ -118,8 +138,8 @@ QPainterPath CuePainter::outline(double inset) {
 }
 
 QImage CuePainter::image(const ActionCueContent& content, const Look& look, double ratio) {
-    QImage cue = layer(ratio);
-    QPainter painter(&cue);
+    Layer cue(ratio);
+    QPainter& painter = cue.painter();
     painter.setRenderHint(QPainter::Antialiasing);
     drawGround(painter, look);
     const QImage words = drawnWords(content, look.direction, ratio);
@@ -130,7 +150,7 @@ QImage CuePainter::image(const ActionCueContent& content, const Look& look, doub
         painter.setOpacity(1);
     }
     painter.drawImage(QPointF(), words);
-    return cue;
+    return std::move(cue).finished();
 }
 
 }  // namespace kinesta

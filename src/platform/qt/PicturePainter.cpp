@@ -106,11 +106,10 @@ QImage image(const Picture& picture, QSize size, const QColor& colour) {
 
 void paint(QPainter& painter, const QRectF& box, const Picture& picture, const QColor& colour) {
     // Through an image: erasing must not reach what lies under the picture.
-    const double ratio = painter.device()->devicePixelRatioF();
     const QTransform& toDevice = painter.deviceTransform();
     const QRect pixels = toDevice.mapRect(box).toRect();
     QImage drawn = image(picture, pixels.size(), colour);
-    drawn.setDevicePixelRatio(ratio);
+    drawn.setDevicePixelRatio(toDevice.m11());
     painter.drawImage(toDevice.inverted().map(QPointF(pixels.topLeft())), drawn);
 }
 

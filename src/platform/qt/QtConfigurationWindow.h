@@ -20,6 +20,8 @@ class QtConfigurationWindow final : public QObject, public ConfigurationWindow {
 
     /// Makes it without showing it.
     void open();
+    /// Ends it, before what it shows goes.
+    void discard() { m_widget.reset(); }
     QWidget* widget() const { return m_widget.get(); }
 
     bool exists() const override { return m_widget != nullptr; }

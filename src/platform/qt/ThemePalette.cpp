@@ -21,7 +21,7 @@ QPalette themePalette(const AppTheme& theme) {
     set(QPalette::LinkVisited, theme.accent);
     set(QPalette::Mid, theme.border);
     set(QPalette::Dark, theme.line);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
         palette.setColor(QPalette::Disabled, role, asQColor(theme.line));
     return palette;
 }

@@ -10,6 +10,7 @@
 #include "support/Translation.h"
 #include "ui/action/AddressPart.h"
 #include "ui/action/ApplicationPart.h"
+#include "ui/action/CleanText.h"
 #include "ui/action/CommandPart.h"
 #include "ui/action/PathPart.h"
 #include "ui/action/ShortcutPart.h"
@@ -162,7 +163,7 @@ void ActionCard::followCue(const GestureRule& rule, const std::string& placehold
                             ? tr("A small label names what was done.")
                             : tr("Cues are switched off in Settings, so none is shown."));
     m_showsCue->setChecked(rule.shouldShowActionCue());
-    m_cueText->setPlaceholderText(QString::fromStdString(placeholder));
+    m_cueText->setPlaceholderText(shownText(placeholder));
     m_cueText->follow(QString::fromStdString(rule.action.customCueLabel.value_or("")));
 }
 
@@ -181,8 +182,10 @@ void ActionCard::showPart(ActionKind kind) {
     if (!m_part)
         return;
     int index = 1;
-    for (QWidget* row : m_part->rows())
+    for (QWidget* row : m_part->rows()) {
         insert(index++, row);
+        row->show();
+    }
     orderTabs();
 }
 

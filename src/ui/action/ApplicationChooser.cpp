@@ -36,6 +36,7 @@ ApplicationChooser::ApplicationChooser(const InstalledApplications& installed, Q
     m_list->setModel(m_found);
     m_list->setAccessibleName(tr("Applications"));
     m_list->setFrameShape(QFrame::NoFrame);
+    m_list->viewport()->setAutoFillBackground(false);
     m_list->setUniformItemSizes(true);
     m_list->setIconSize(Unit::of(kIcon, kIcon));
     m_list->setSpacing(2);

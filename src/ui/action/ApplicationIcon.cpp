@@ -1,27 +1,33 @@
 #include "ui/action/ApplicationIcon.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include "feedback/ActionCueSymbol.h"
 #include "ui/widgets/SymbolIcon.h"
 
 namespace kinesta {
+namespace {
+
+constexpr QSize kProbe(32, 32);
+
+}  // namespace
 
 QIcon applicationIcon(const QString& icon) {
     QIcon found;
     if (QDir::isAbsolutePath(icon)) {
         found = QIcon(icon);
-        if (found.availableSizes().isEmpty())
-            found = {};
     } else if (!icon.isEmpty()) {
         // Some files name a picture with its ending, which no theme does.
-        QString name = icon;
-        for (const char* ending : {".png", ".svg", ".xpm"})
-            if (name.endsWith(QLatin1String(ending)))
-                name.chop(4);
-        found = QIcon::fromTheme(name);
+        const QFileInfo file(icon);
+        const bool isFile =
+            QStringList{QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("xpm")}.contains(file.suffix());
+        found = QIcon::fromTheme(isFile ? file.completeBaseName() : icon);
     }
-    return found.isNull() ? SymbolIcon::of(actionCueSymbol(ActionKind::launchApplication)) : found;
+    // A file may be there that cannot be read as a picture.
+    if (found.pixmap(kProbe).isNull())
+        return SymbolIcon::of(actionCueSymbol(ActionKind::launchApplication));
+    return found;
 }
 
 }  // namespace kinesta

@@ -105,13 +105,13 @@ void ApplicationPart::showApplication(const GestureAction& action) {
     const auto found = m_editing.applications.at(action.value);
     m_icon->setPixmap(applicationIcon(QString::fromStdString(found ? found->icon : ""))
                           .pixmap(Unit::of(kIcon, kIcon), m_icon->devicePixelRatioF()));
-    m_name->setText(isChosen ? QString::fromStdString(found ? found->name : std::string(applicationName(action.value)))
+    m_name->setText(isChosen ? shownText(found ? found->name : std::string(applicationName(action.value)))
                              : tr("No application chosen"));
     // Paths run from left to right in every language.
-    m_path->setText(isChosen ? QChar(0x2066) + QString::fromStdString(action.value) + QChar(0x2069) : QString());
+    m_path->setText(isChosen ? QChar(0x2066) + shownText(action.value) + QChar(0x2069) : QString());
     m_path->setVisible(isChosen);
     const auto obstacle = isChosen ? obstacleTo(action, m_editing.desktop) : std::nullopt;
-    m_caution->setText(obstacle ? QString::fromStdString(obstacle->why) : QString());
+    m_caution->setText(obstacle ? shownText(obstacle->why) : QString());
 }
 
 void ApplicationPart::choose() {

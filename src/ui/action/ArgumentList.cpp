@@ -95,7 +95,7 @@ void ArgumentList::keyPressEvent(QKeyEvent* event) {
     else if (event->modifiers() == Qt::NoModifier &&
              (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace))
         remove(row);
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && state() == NoState && row >= 0)
         editItem(currentItem());
     else
         QListWidget::keyPressEvent(event);

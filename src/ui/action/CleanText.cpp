@@ -3,6 +3,8 @@
 namespace kinesta {
 namespace {
 
+constexpr qsizetype kMostShown = 1'000;
+
 bool isBlankedOut(QChar character, Lines lines) {
     if (lines == Lines::many && (character == QLatin1Char('\n') || character == QLatin1Char('\t')))
         return false;
@@ -30,6 +32,10 @@ QString cleanText(QString text, Lines lines) {
             text[i] = QLatin1Char(' ');
     }
     return text;
+}
+
+QString shownText(const std::string& stored) {
+    return cleanText(QString::fromStdString(stored).left(kMostShown), Lines::one);
 }
 
 }  // namespace kinesta

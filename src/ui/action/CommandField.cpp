@@ -1,7 +1,7 @@
 #include "ui/action/CommandField.h"
 
+#include <QFocusEvent>
 #include <QFontDatabase>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QTextBlock>
 #include <algorithm>
@@ -18,8 +18,8 @@ constexpr int kMostLines = 8;
 constexpr double kPaddingX = 6;
 constexpr double kPaddingY = 2;
 constexpr double kSize = 0.92;
-/// A program gets no longer argument on Linux, in bytes.
-constexpr qsizetype kLongest = 131'071;
+/// Of a longer command only the beginning is shown: it cannot run, and the layout of megabytes takes minutes.
+constexpr qsizetype kShownOfTooLong = 2'000;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ CommandField::CommandField(const QString& name, QWidget* parent) : QPlainTextEdi
 }
 
 void CommandField::follow(const QString& stored) {
-    QString text = stored;
+    QString text = stored.size() > longest ? stored.left(kShownOfTooLong) : stored;
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QChar::Nbsp, QLatin1Char(' '));
     m_stored = cleanText(text, Lines::many);
     // Whoever has typed and not left yet goes on with that text.
@@ -56,19 +56,6 @@ void CommandField::show(const QString& text) {
     m_isFollowing = true;
     setPlainText(text);
     m_isFollowing = false;
-}
-
-bool CommandField::event(QEvent* event) {
-    // The field's own steps come first. Without one, the window undoes its own.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        if ((key.matches(QKeySequence::Undo) && !document()->isUndoAvailable()) ||
-            (key.matches(QKeySequence::Redo) && !document()->isRedoAvailable())) {
-            event->ignore();
-            return false;
-        }
-    }
-    return QPlainTextEdit::event(event);
 }
 
 void CommandField::focusOutEvent(QFocusEvent* event) {
@@ -91,7 +78,7 @@ void CommandField::insertFromMimeData(const QMimeData* source) {
     text = cleanText(text, Lines::many);
     // Part of a command can do something else, so nothing is cut off.
     const qsizetype remaining = document()->characterCount() - textCursor().selectedText().size();
-    if (text.size() + remaining > kLongest || text.toUtf8().size() + remaining > kLongest)
+    if (text.size() + remaining > longest || text.toUtf8().size() + remaining > longest)
         Q_EMIT refused();
     else
         textCursor().insertText(text);
@@ -101,8 +88,10 @@ void CommandField::fitHeight() {
     // The layout of plain text counts in lines.
     const int lines = std::clamp(static_cast<int>(std::ceil(document()->size().height())), kFewestLines, kMostLines);
     const QMargins margins = viewportMargins();
-    const double words = lines * QFontMetricsF(font()).lineSpacing() + 2 * document()->documentMargin();
-    setFixedHeight(static_cast<int>(std::ceil(words)) + margins.top() + margins.bottom());
+    const double line = std::ceil(QFontMetricsF(font()).lineSpacing());
+    const double words = lines * line + 2 * document()->documentMargin();
+    // Without the last pixel it would scroll.
+    setFixedHeight(static_cast<int>(std::ceil(words)) + margins.top() + margins.bottom() + 1);
 }
 
 }  // namespace kinesta

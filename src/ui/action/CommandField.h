@@ -10,6 +10,9 @@ class CommandField final : public QPlainTextEdit {
     Q_OBJECT
 
   public:
+    /// A program gets no longer argument on Linux, in bytes.
+    static constexpr qsizetype longest = 131'071;
+
     explicit CommandField(const QString& name, QWidget* parent = nullptr);
 
     void follow(const QString& stored);
@@ -23,7 +26,6 @@ class CommandField final : public QPlainTextEdit {
     void refused();
 
   protected:
-    bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;

@@ -63,13 +63,17 @@ QWidget* CommandPart::makeConfirmation() {
 void CommandPart::follow(const RuleEditorContent& content) {
     const GestureAction& action = content.rule.action;
     m_field->follow(QString::fromStdString(action.value));
-    const bool hasCommand = !trimmed(action.value).empty();
+    const bool isTooLong = action.value.size() > CommandField::longest;
+    const bool canBeConfirmed = !trimmed(action.value).empty() && !isTooLong;
     m_confirmed->setChecked(action.isShellCommandAcknowledged());
-    m_confirmed->setEnabled(hasCommand);
-    m_confirmation->setEnabled(hasCommand);
-    m_remark->setText(content.mustConfirmAgain
-                          ? tr("The command changed, so it must be confirmed again. Until then the rule stays off.")
-                          : QString());
+    m_confirmed->setEnabled(canBeConfirmed);
+    m_confirmation->setEnabled(canBeConfirmed);
+    if (isTooLong)
+        m_remark->setText(tr("This command is too long to run, so only its beginning is shown."));
+    else
+        m_remark->setText(content.mustConfirmAgain ? tr("The command changed, so it must be confirmed again. Until "
+                                                        "then the rule stays off.")
+                                                   : QString());
     m_confirmed->setAccessibleDescription(m_remark->text());
     m_notice->setVisible(!ShellCommandSettings::isEnabled(m_editing.desktop.defaults()));
 }

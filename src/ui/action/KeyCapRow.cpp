@@ -17,7 +17,9 @@ constexpr double kHeight = 24;
 constexpr double kNarrowest = 26;
 constexpr double kSlot = 30;
 constexpr double kPadding = 8;
+constexpr double kTightPadding = 6;
 constexpr double kGap = 6;
+constexpr double kTightGap = 4;
 constexpr double kRadius = 6;
 constexpr int kEdge = 1;
 constexpr int kLowerEdge = 2;
@@ -39,7 +41,7 @@ void KeyCapRow::setCaps(std::vector<KeyCap> caps, Look look, End end) {
     update();
 }
 
-QString KeyCapRow::textOf(const KeyCap& cap, Words words) const {
+QString KeyCapRow::textOf(const KeyCap& cap, Content content) const {
     const QString sign = QString::fromStdString(cap.sign);
     const QString word = QString::fromStdString(cap.word);
     const QFontMetrics metrics(capFont());
@@ -48,23 +50,36 @@ QString KeyCapRow::textOf(const KeyCap& cap, Words words) const {
                                         [&](uint character) { return metrics.inFontUcs4(character); });
     if (sign.isEmpty() || !isDrawable)
         return word;
-    return cap.showsWord && words == Words::shown ? sign + QLatin1Char(' ') + word : sign;
+    if (!cap.showsWord || content == Content::signs)
+        return sign;
+    return content == Content::words ? word : sign + QLatin1Char(' ') + word;
 }
 
-int KeyCapRow::widthOf(const QString& text) const {
-    return std::max(Unit::of(kNarrowest), QFontMetrics(capFont()).horizontalAdvance(text) + 2 * Unit::of(kPadding));
+int KeyCapRow::gap(Content content) { return Unit::of(content == Content::signsAndWords ? kGap : kTightGap); }
+
+int KeyCapRow::widthOf(const KeyCap& cap, Content content) const {
+    const int padding = Unit::of(content == Content::signsAndWords ? kPadding : kTightPadding);
+    const int text = QFontMetrics(capFont()).horizontalAdvance(textOf(cap, content));
+    return std::max(Unit::of(kNarrowest), text + 2 * padding);
 }
 
-int KeyCapRow::wholeWidth(Words words) const {
-    int width = m_end == End::emptySlot ? Unit::of(kSlot) + Unit::of(kGap) : 0;
+int KeyCapRow::wholeWidth(Content content) const {
+    int width = m_end == End::emptySlot ? Unit::of(kSlot) + gap(content) : 0;
     for (const KeyCap& cap : m_caps)
-        width += widthOf(textOf(cap, words)) + Unit::of(kGap);
-    return std::max(0, width - Unit::of(kGap));
+        width += widthOf(cap, content) + gap(content);
+    return std::max(0, width - gap(content));
 }
 
-QSize KeyCapRow::sizeHint() const { return {wholeWidth(Words::shown), Unit::of(kHeight)}; }
+KeyCapRow::Content KeyCapRow::fittingContent() const {
+    for (const Content content : {Content::signsAndWords, Content::words})
+        if (wholeWidth(content) <= width())
+            return content;
+    return Content::signs;
+}
 
-QSize KeyCapRow::minimumSizeHint() const { return {wholeWidth(Words::dropped), Unit::of(kHeight)}; }
+QSize KeyCapRow::sizeHint() const { return {wholeWidth(Content::signsAndWords), Unit::of(kHeight)}; }
+
+QSize KeyCapRow::minimumSizeHint() const { return {wholeWidth(Content::signs), Unit::of(kHeight)}; }
 
 void KeyCapRow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange)
@@ -84,11 +99,11 @@ void KeyCapRow::paintEvent(QPaintEvent* /*event*/) {
     const QColor ink = asQColor(isHeld ? theme.onAccent : isEnabled() ? theme.text : theme.line);
     const double radius = Unit::of(kRadius);
     const int height = Unit::of(kHeight);
-    const Words words = wholeWidth(Words::shown) <= width() ? Words::shown : Words::dropped;
-    int x = 0;
+    const Content content = fittingContent();
+    const bool isMirrored = parentWidget() != nullptr && parentWidget()->layoutDirection() == Qt::RightToLeft;
+    int x = isMirrored ? width() - wholeWidth(content) : 0;
     for (const KeyCap& cap : m_caps) {
-        const QString text = textOf(cap, words);
-        const QRectF box(x, 0, widthOf(text), height);
+        const QRectF box(x, 0, widthOf(cap, content), height);
         const QRectF top = box.adjusted(kEdge, kEdge, -kEdge, -kLowerEdge);
         painter.setPen(Qt::NoPen);
         painter.setBrush(edge);
@@ -96,8 +111,8 @@ void KeyCapRow::paintEvent(QPaintEvent* /*event*/) {
         painter.setBrush(face);
         painter.drawRoundedRect(top, radius - kEdge, radius - kEdge);
         painter.setPen(ink);
-        painter.drawText(top, Qt::AlignCenter | Qt::TextSingleLine, text);
-        x += static_cast<int>(box.width()) + Unit::of(kGap);
+        painter.drawText(top, Qt::AlignCenter | Qt::TextSingleLine, textOf(cap, content));
+        x += static_cast<int>(box.width()) + gap(content);
     }
     if (m_end == End::plain)
         return;

@@ -7,7 +7,8 @@
 
 namespace kinesta {
 
-/// The keys of a shortcut, drawn as keys. Never mirrored; without room for the words the signs stand alone.
+/// The keys of a shortcut, drawn as keys. Never mirrored. Where signs and words have no room beside each other, the
+/// words stand alone, then the signs.
 class KeyCapRow final : public QWidget {
     Q_OBJECT
 
@@ -27,11 +28,13 @@ class KeyCapRow final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    enum class Words { shown, dropped };
+    enum class Content { signsAndWords, words, signs };
 
-    QString textOf(const KeyCap& cap, Words words) const;
-    int widthOf(const QString& text) const;
-    int wholeWidth(Words words) const;
+    static int gap(Content content);
+    QString textOf(const KeyCap& cap, Content content) const;
+    int widthOf(const KeyCap& cap, Content content) const;
+    int wholeWidth(Content content) const;
+    Content fittingContent() const;
 
     std::vector<KeyCap> m_caps;
     Look m_look = Look::printed;

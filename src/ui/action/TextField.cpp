@@ -1,7 +1,6 @@
 #include "ui/action/TextField.h"
 
-#include <QEvent>
-#include <QKeyEvent>
+#include <QFocusEvent>
 #include <QValidator>
 
 #include "ui/action/CleanText.h"
@@ -44,19 +43,6 @@ void TextField::follow(const QString& stored) {
 }
 
 QSize TextField::sizeHint() const { return {Unit::of(kWidth), QLineEdit::sizeHint().height()}; }
-
-bool TextField::event(QEvent* event) {
-    // The field's own steps come first. Without one, the window undoes its own.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        if ((key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
-            (key.matches(QKeySequence::Redo) && !isRedoAvailable())) {
-            event->ignore();
-            return false;
-        }
-    }
-    return QLineEdit::event(event);
-}
 
 void TextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);

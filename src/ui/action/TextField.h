@@ -24,7 +24,6 @@ class TextField final : public QLineEdit {
     void left();
 
   protected:
-    bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
   private:

@@ -95,7 +95,7 @@ void SettingsModel::readUpdates(SettingsContent& content) const {
     content.canCheckForUpdates = updates.canCheckForUpdates().value();
     content.checksForUpdates = updates.automaticallyChecksForUpdates().value();
     if (!content.hasUpdates)
-        content.updateMessage = translated(updates.configurationMessage().value().value_or(""));
+        content.updateMessage = updates.configurationMessage().value().value_or("");
     else if (!content.canCheckForUpdates)
         content.updateMessage = translated("Looking for an update…");
     else

@@ -1,6 +1,7 @@
 #include "ui/settings/SettingsPage.h"
 
 #include <QPushButton>
+#include <QTimer>
 #include <chrono>
 
 #include "app/Desktop.h"
@@ -132,8 +133,9 @@ void SettingsPage::addRules(const std::string& version, WindowCommands& commands
 void SettingsPage::setTransferProblem(const QString& problem) {
     m_transferProblem->setWords(problem, {});
     m_transferProblem->setVisible(!problem.isEmpty());
+    // It has its place once the layout has run.
     if (!problem.isEmpty())
-        ensureWidgetVisible(m_transferProblem);
+        QTimer::singleShot(0, this, [this] { ensureWidgetVisible(m_transferProblem); });
 }
 
 void SettingsPage::showEvent(QShowEvent* event) {

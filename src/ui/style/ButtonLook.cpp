@@ -136,10 +136,16 @@ void paintPushButton(QPainter& painter, const QStyleOptionButton& option, const 
     const bool isFlat = option.features.testFlag(QStyleOptionButton::Flat) && !state.isDown && !state.isHovered;
     if (Shapes::has(widget, "link") || isFlat)
         return;
-    const bool isPrimary = Shapes::has(widget, "primary") && option.state.testFlag(QStyle::State_Enabled);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool isPrimary = Shapes::has(widget, "primary") && isEnabled;
     const double corner = Unit::of(Shapes::kRadius);
-    Shapes::fill(painter, option.rect, corner,
-                 isPrimary ? primaryColour(state, theme) : Ground::controlColour(state, theme));
+    QColor colour = Ground::controlColour(state, theme);
+    if (isPrimary)
+        colour = primaryColour(state, theme);
+    else if (Shapes::has(widget, "destructive") && isEnabled && (state.isDown || state.isHovered))
+        // Danger could not be read on the grounds of other buttons.
+        colour = Shapes::mixed(asQColor(theme.danger), asQColor(theme.dangerSoft), state.isDown ? 0.08 : 0);
+    Shapes::fill(painter, option.rect, corner, colour);
     // What Return presses.
     if (option.features.testFlag(QStyleOptionButton::DefaultButton) && !isPrimary)
         Shapes::edge(painter, option.rect, corner, asQColor(theme.line));

@@ -127,7 +127,11 @@ void KinestaWindow::gestureDispatched(const DetectedGesture& gesture, const Gest
         m_testSheet->gestureRecognized(gesture);
 }
 
-void KinestaWindow::refresh() { m_overviewModel.refresh(); }
+void KinestaWindow::refresh() {
+    m_overviewModel.refresh();
+    if (m_settings != nullptr)
+        m_settings->refresh();
+}
 
 void KinestaWindow::select(const WindowSelection& selection) {
     m_list.select(selection);

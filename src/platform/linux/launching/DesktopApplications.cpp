@@ -14,16 +14,12 @@
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/process/PosixHomeFolders.h"
 #include "platform/linux/process/SessionEnvironment.h"
-#include "rules/ActionTarget.h"
 #include "support/Text.h"
 
 namespace kinesta {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Deeper folders are a loop of links.
-constexpr int kDeepest = 8;
 
 std::string variable(const char* name, const std::string& fallback) {
     const char* value = std::getenv(name);
@@ -84,7 +80,7 @@ std::optional<InstalledApplication> describe(const DesktopFile& file, const std:
         return std::nullopt;
     std::string name = file.localizedValue("Name", locale);
     if (!isUtf8(name) || trimmed(name).empty())
-        name = applicationName(path);
+        name = fs::path(path).stem();
     std::string icon = file.value("Icon");
     return InstalledApplication{std::move(name), path, isUtf8(icon) ? std::move(icon) : std::string()};
 }
@@ -92,7 +88,7 @@ std::optional<InstalledApplication> describe(const DesktopFile& file, const std:
 class Search {
   public:
     /// Takes in what no earlier folder has under the same name.
-    void add(const std::string& folder) { addFolder(folder + "/applications", "", 0); }
+    void add(const std::string& folder) { addFolder(folder + "/applications", ""); }
 
     std::vector<InstalledApplication> result() && {
         std::ranges::sort(m_found, [](const auto& a, const auto& b) {
@@ -103,20 +99,21 @@ class Search {
     }
 
   private:
-    void addFolder(const fs::path& folder, const std::string& prefix, int depth) {
+    void addFolder(const fs::path& folder, const std::string& prefix) {
         std::error_code error;
+        // Links may lead in a circle.
+        if (!m_folders.insert(fs::canonical(folder, error).string()).second)
+            return;
         for (auto entry = fs::directory_iterator(folder, error); !error && entry != fs::directory_iterator();
              entry.increment(error)) {
             const std::string path = entry->path().string();
             const std::string name = prefix + entry->path().filename().string();
             std::error_code ignored;
-            if (entry->is_directory(ignored)) {
-                if (depth < kDeepest)
-                    addFolder(path, name + "-", depth + 1);
-            } else if (name.ends_with(".desktop") && isUtf8(path) && entry->is_regular_file(ignored) &&
-                       m_names.insert(name).second) {
+            if (entry->is_directory(ignored))
+                addFolder(path, name + "-");
+            else if (name.ends_with(".desktop") && isUtf8(path) && entry->is_regular_file(ignored) &&
+                     m_names.insert(name).second)
                 addFile(path);
-            }
         }
     }
 
@@ -128,6 +125,7 @@ class Search {
             m_found.push_back(std::move(*application));
     }
 
+    std::set<std::string> m_folders;
     /// A file that hides its application hides those of later folders, too.
     std::set<std::string> m_names;
     std::vector<InstalledApplication> m_found;
@@ -151,7 +149,7 @@ std::optional<InstalledApplication> DesktopApplications::at(const std::string& p
     }
     if (!isProgram(file))
         return std::nullopt;
-    return InstalledApplication{std::string(applicationName(file)), file, {}};
+    return InstalledApplication{fs::path(file).filename(), file, {}};
 }
 
 }  // namespace kinesta
