@@ -38,7 +38,7 @@ struct ActionCardTest : QtTest {
     void edit(const GestureRule& rule) {
         store.setRules({rule});
         history.emplace(store, machine.clock());
-        model.emplace(RuleEditorModel::Parts{store, *history, session}, rule.id);
+        model.emplace(RuleEditorModel::Parts{store, *history, session, mainLoop}, rule.id);
         card = std::make_unique<ActionCard>(ActionEditing{*model, machine, applications, commands});
         card->resize(600, 500);
         card->show();

@@ -7,6 +7,9 @@
 
 #include "rules/RuleMaking.h"
 #include "ui/editor/Stage.h"
+#include "ui/widgets/Notice.h"
+#include "ui/widgets/Switch.h"
+#include "ui/widgets/Tile.h"
 #include "ui/widgets/WindowTheme.h"
 #include "window/WindowRig.h"
 
@@ -45,7 +48,7 @@ class RuleEditorTest : public WindowRig {
         page->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&*page));
     }
-    const GestureRule& rule() const { return app.store().rules().value().back(); }
+    const GestureRule& rule() { return app.store().rules().value().back(); }
     void changeBehind(const std::function<void(GestureRule&)>& change) {
         auto rules = app.store().rules().value();
         change(rules.back());
@@ -112,12 +115,12 @@ TEST_F(RuleEditorTest, ShowsWhatIsPointedAtAndReturns) {
         EXPECT_TRUE(eventually([&] { return stage->grab().toImage() == own; })) << name;
     }
     WindowTheme::setReducesMotion(false);
-    auto* pad = page->findChild<PadPicture*>();
-    EXPECT_FALSE(pad->isPerforming());
+    auto* picture = page->findChild<PadPicture*>();
+    EXPECT_FALSE(picture->isPerforming());
     point(find<Tile>("2"));
-    EXPECT_TRUE(eventually([&] { return pad->isPerforming(); }));
+    EXPECT_TRUE(eventually([&] { return picture->isPerforming(); }));
     point(find<QLineEdit>("Name"));
-    EXPECT_TRUE(eventually([&] { return !pad->isPerforming(); }));
+    EXPECT_TRUE(eventually([&] { return !picture->isPerforming(); }));
     EXPECT_EQ(rule().fingerCount, 3);
 }
 

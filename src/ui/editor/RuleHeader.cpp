@@ -153,6 +153,8 @@ bool RuleHeader::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RuleHeader::hideEvent(QHideEvent* event) {
+    if (m_snapping.isActive())
+        snapBack();
     m_snapping.stop();
     m_reading.stop();
     m_reasonCard->hide();

@@ -35,24 +35,27 @@ void Stage::setGesture(const PadGesture& gesture, const QString& name, const QSt
     if (gesture == m_gesture)
         return;
     m_gesture = gesture;
+    m_isPreview = false;
     show(gesture);
     placeControl();
 }
 
 void Stage::preview(const PadGesture& gesture) {
     // What was just chosen is being performed already.
-    if (gesture != m_shown || !m_pad->isPerforming())
-        show(gesture);
+    if (gesture == m_gesture && !m_isPreview && m_pad->isPerforming())
+        return;
+    m_isPreview = true;
+    show(gesture);
 }
 
 void Stage::endPreview() {
-    m_shown = m_gesture;
+    if (!std::exchange(m_isPreview, false))
+        return;
     m_pad->setGesture(m_gesture);
     m_pad->rest();
 }
 
 void Stage::show(const PadGesture& gesture) {
-    m_shown = gesture;
     m_pad->setGesture(gesture);
     m_pad->perform(m_tapWaitingInterval());
 }

@@ -37,7 +37,7 @@ class Stage final : public QWidget {
 
     std::function<double()> m_tapWaitingInterval;
     PadGesture m_gesture;
-    PadGesture m_shown;
+    bool m_isPreview = false;
     double m_padWidth = 0;
     PadPicture* m_pad;
     PlayButton* m_play;
