@@ -41,7 +41,8 @@ std::optional<SystemFinding> findingIn(const QJsonObject& object) {
 /// The findings in the output of the program; none if it is not what this version writes.
 std::vector<SystemFinding> findingsIn(const QByteArray& output) {
     std::vector<SystemFinding> findings;
-    for (const QJsonValue& value : QJsonDocument::fromJson(output).array()) {
+    const QJsonArray array = QJsonDocument::fromJson(output).array();
+    for (const auto& value : array) {
         auto finding = findingIn(value.toObject());
         if (!finding)
             return {};
