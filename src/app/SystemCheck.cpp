@@ -132,9 +132,9 @@ void addTrackpad(std::vector<SystemFinding>& findings, const Rules& rules, Deskt
         return;
     for (const GestureRule& rule : rules)
         if (rule.isEnabled && usesFingerCount(rule.gesture) && rule.fingerCount.value_or(0) > chosen->fingers)
-            findings.push_back(
-                obstacleTo(rule, "The touchpad reports at most " + std::to_string(chosen->fingers) + " fingers at once.",
-                           "Choose a gesture with fewer fingers."));
+            findings.push_back(obstacleTo(
+                rule, "The touchpad reports at most " + std::to_string(chosen->fingers) + " fingers at once.",
+                "Choose a gesture with fewer fingers."));
 }
 
 void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
@@ -154,17 +154,17 @@ void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Deskto
 
 void addShellCommands(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
     const bool isOn = ShellCommandSettings::isEnabled(desktop.defaults());
-    findings.push_back(
-        {.subject = FindingSubject::shellCommands,
-         .what = "Shell commands",
-         .works = isOn,
-         .why = isOn ? "Switched on." : "Switched off, as they are at first.",
-         .remedy = isOn ? ""
-                        : "If you trust every rule that runs one: " +
-                              desktop.howToSet(ShellCommandSettings::enabledKey, "true"),
-         .isSetting = !isOn,
-         .rulesInNeed = countEnabled(
-             rules, [](const GestureRule& rule) { return rule.action.kind == ActionKind::shellCommand; })});
+    findings.push_back({.subject = FindingSubject::shellCommands,
+                        .what = "Shell commands",
+                        .works = isOn,
+                        .why = isOn ? "Switched on." : "Switched off, as they are at first.",
+                        .remedy = isOn ? ""
+                                       : "If you trust every rule that runs one: " +
+                                             desktop.howToSet(ShellCommandSettings::enabledKey, "true"),
+                        .isSetting = !isOn,
+                        .rulesInNeed = countEnabled(rules, [](const GestureRule& rule) {
+                            return rule.action.kind == ActionKind::shellCommand;
+                        })});
 }
 
 std::optional<Obstacle> obstacleToLetter(const GestureAction& action, Desktop& desktop) {
@@ -191,9 +191,9 @@ void addObstacles(std::vector<SystemFinding>& findings, const Rules& rules, Desk
 }
 
 /// In the order of the enumeration.
-constexpr std::array<std::string_view, 11> kSubjects{"touchpad", "gestureRecognition", "forceClick", "sendInput",
-                                                     "keyboardLayout", "windows", "open", "notify", "cue",
-                                                     "shellCommands", "rule"};
+constexpr std::array<std::string_view, 11> kSubjects{
+    "touchpad", "gestureRecognition", "forceClick", "sendInput", "keyboardLayout", "windows", "open", "notify",
+    "cue",      "shellCommands",      "rule"};
 
 }  // namespace
 

@@ -45,8 +45,8 @@ void printForPeople(const Console& console, const ConnectedTrackpads& trackpads)
     for (const ConnectedTrackpad& trackpad : trackpads.all)
         if (!trackpad.problem.empty())
             console.out << '\n'
-                        << console.warning(printable(trackpad.problem +
-                                                     (trackpad.command.empty() ? "" : " To allow it, run:")))
+                        << console.warning(
+                               printable(trackpad.problem + (trackpad.command.empty() ? "" : " To allow it, run:")))
                         << '\n'
                         << (trackpad.command.empty() ? "" : trackpad.command + "\n");
 }

@@ -29,9 +29,9 @@ void printJson(const Console& console, const std::vector<SystemFinding>& finding
 
 void printForPeople(const Console& console, const std::vector<SystemFinding>& findings, bool isMissing) {
     for (const SystemFinding& finding : findings) {
-        const std::string mark = finding.works      ? console.good("✓")
+        const std::string mark = finding.works        ? console.good("✓")
                                  : finding.isNeeded() ? console.warning("✗")
-                                                    : console.dim("–");
+                                                      : console.dim("–");
         console.out << mark << ' ' << console.bold(printable(finding.what)) << ": " << printable(finding.why) << '\n';
         if (!finding.works && !finding.remedy.empty())
             console.out << "    " << finding.remedy << '\n';

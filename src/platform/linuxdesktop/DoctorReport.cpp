@@ -5,8 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <csignal>
 #include <algorithm>
+#include <csignal>
 #include <optional>
 #include <utility>
 
@@ -22,17 +22,17 @@ std::string textIn(const QJsonObject& object, const char* key) {
 std::optional<SystemFinding> findingIn(const QJsonObject& object) {
     const auto subject = findingSubject(textIn(object, "subject"));
     const QJsonValue works = object.value(QLatin1String("works"));
-    SystemFinding finding{.subject = subject.value_or(FindingSubject::rule),
-                          .what = textIn(object, "what"),
-                          .works = works.toBool(),
-                          .why = textIn(object, "why"),
-                          .remedy = textIn(object, "remedy"),
-                          .command = textIn(object, "command"),
-                          .isSetting = object.value(QLatin1String("setting")).toBool(),
-                          .rulesInNeed = static_cast<std::size_t>(
-                              std::max(object.value(QLatin1String("rulesInNeed")).toInt(), 0)),
-                          .rule = Uuid::parse(textIn(object, "rule")),
-                          .chosenName = textIn(object, "chosenName")};
+    SystemFinding finding{
+        .subject = subject.value_or(FindingSubject::rule),
+        .what = textIn(object, "what"),
+        .works = works.toBool(),
+        .why = textIn(object, "why"),
+        .remedy = textIn(object, "remedy"),
+        .command = textIn(object, "command"),
+        .isSetting = object.value(QLatin1String("setting")).toBool(),
+        .rulesInNeed = static_cast<std::size_t>(std::max(object.value(QLatin1String("rulesInNeed")).toInt(), 0)),
+        .rule = Uuid::parse(textIn(object, "rule")),
+        .chosenName = textIn(object, "chosenName")};
     if (!subject || finding.what.empty() || !works.isBool())
         return std::nullopt;
     return finding;

@@ -19,7 +19,8 @@ std::string withoutPersonalNames(const std::string& text, const SystemFinding& f
 
 std::string describe(const SystemFinding& finding) {
     const char* mark = finding.works ? "✓" : finding.isNeeded() ? "✗" : "–";
-    std::string text = std::string(mark) + " " + finding.what + ": " + withoutPersonalNames(finding.why, finding) + "\n";
+    std::string text =
+        std::string(mark) + " " + finding.what + ": " + withoutPersonalNames(finding.why, finding) + "\n";
     if (!finding.remedy.empty())
         text += "    " + withoutPersonalNames(finding.remedy, finding) + "\n";
     if (!finding.command.empty())

@@ -61,7 +61,8 @@ OverviewModel::OverviewModel(Parts parts) : m_parts(std::move(parts)), m_isWelco
 
 void OverviewModel::gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule) {
     const std::vector<GestureRule>& rules = m_parts.store.rules().value();
-    LastGesture last{.gesture = gesture, .text = translated("Detected %1", {describe(gesture)}), .outcome = {}, .rule = {}};
+    LastGesture last{
+        .gesture = gesture, .text = translated("Detected %1", {describe(gesture)}), .outcome = {}, .rule = {}};
     last.secondsLeft = m_parts.service.gestureCountdown().value().value_or(0);
     last.hasRun = rule != nullptr;
     if (rule == nullptr)
@@ -113,10 +114,9 @@ void OverviewModel::describeState(OverviewContent& content) const {
         content.statusLine = status.message;
     } else {
         content.state = content.enabledCount == 0 ? State::listeningWithoutRules : State::listening;
-        content.statusLine =
-            content.enabledCount == 1
-                ? translated("Listening for 1 enabled gesture rule.")
-                : translated("Listening for %1 enabled gesture rules.", {std::to_string(content.enabledCount)});
+        content.statusLine = content.enabledCount == 1 ? translated("Listening for 1 enabled gesture rule.")
+                                                       : translated("Listening for %1 enabled gesture rules.",
+                                                                    {std::to_string(content.enabledCount)});
     }
     content.welcome.clear();
     if (m_isWelcome) {

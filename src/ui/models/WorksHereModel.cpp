@@ -26,7 +26,8 @@ std::vector<GestureRule> whatMatters(const std::vector<GestureRule>& rules) {
 
 }  // namespace
 
-WorksHereModel::WorksHereModel(Parts parts) : m_parts(std::move(parts)), m_known(whatMatters(m_parts.store.rules().value())) {
+WorksHereModel::WorksHereModel(Parts parts)
+    : m_parts(std::move(parts)), m_known(whatMatters(m_parts.store.rules().value())) {
     const auto onChange = [this](const auto&) { request(); };
     m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { followRules(); }));
     m_observers.push_back(m_parts.service.status().observe(onChange));
@@ -107,9 +108,8 @@ std::optional<FindingRow> WorksHereModel::rowOf(const SystemFinding& finding) co
         row.what = translated("Rule “%1”", {displayName(*rule)});
         row.button = Button::showRule;
     } else if (row.mark == Mark::missing) {
-        row.tag = finding.rulesInNeed == 1
-                      ? translated("1 rule needs this")
-                      : translated("%1 rules need this", {std::to_string(finding.rulesInNeed)});
+        row.tag = finding.rulesInNeed == 1 ? translated("1 rule needs this")
+                                           : translated("%1 rules need this", {std::to_string(finding.rulesInNeed)});
     }
     // The settings are in this window.
     if (finding.isSetting) {

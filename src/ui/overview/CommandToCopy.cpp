@@ -19,7 +19,9 @@ constexpr double kGap = 8;
 }  // namespace
 
 CommandToCopy::CommandToCopy(const QString& command, WindowCommands& commands, QWidget* parent)
-    : QWidget(parent), m_field(new QLineEdit(command)), m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
+    : QWidget(parent),
+      m_field(new QLineEdit(command)),
+      m_copy(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::copy)), tr("Copy"))) {
     m_field->setReadOnly(true);
     m_field->setCursorPosition(0);
     // Commands read from left to right in every language.

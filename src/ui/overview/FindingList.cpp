@@ -45,7 +45,8 @@ void FindingList::rebuild() {
     if (content.state == State::looking) {
         m_rows.push_back(sentence(Mark::absent, tr("Looking…"), {}));
     } else if (content.state == State::failed) {
-        m_rows.push_back(sentence(Mark::missing, tr("What works here could not be found out"), asQString(content.problem)));
+        m_rows.push_back(
+            sentence(Mark::missing, tr("What works here could not be found out"), asQString(content.problem)));
     } else if (!content.isDetailed && std::ranges::none_of(content.rows, isMissing)) {
         MarkedRow* row = sentence(Mark::works, tr("Everything your rules need works here."), {});
         auto* details = new QPushButton(tr("Details"));

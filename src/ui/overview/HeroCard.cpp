@@ -96,8 +96,8 @@ QWidget* HeroCard::makeTop() {
 
 void HeroCard::show(const OverviewContent& content) {
     const bool hasOtherNotices = content.notices != m_content.notices;
-    const bool hasOtherGesture =
-        (content.lastGesture ? content.lastGesture->text : "") != (m_content.lastGesture ? m_content.lastGesture->text : "");
+    const bool hasOtherGesture = (content.lastGesture ? content.lastGesture->text : "") !=
+                                 (m_content.lastGesture ? m_content.lastGesture->text : "");
     m_content = content;
     m_headline->setText(asQString(content.headline));
     m_welcome->setText(asQString(content.welcome));
