@@ -106,6 +106,11 @@ TEST_F(ActionCardTest, AsksAgainForAChangedCommand) {
     QApplication::clipboard()->setText(QString::fromUtf8("\n\x01\u202E") + QChar(0xD800));
     field->paste();
     EXPECT_EQ(rule().action.value, "ls -l\n \uFFFD\uFFFD");
+    // A stored one of megabytes neither blocks the window nor can be confirmed unread.
+    store_([](GestureRule& changed) { changed.action.value = std::string(5'000'000, 'x'); });
+    card->setFocus();
+    EXPECT_TRUE(shows("This command is too long to run, so only its beginning is shown."));
+    EXPECT_FALSE(confirmed->isEnabled());
 }
 
 TEST_F(ActionCardTest, ChecksTheAddressAndFollowsTheStore) {

@@ -75,7 +75,12 @@ TEST(RuleEditorModel, FollowsTheStoreAndTakesAGesture) {
     Fixture f(makeShellCommand(true));
     f.model->setActionValue("rm");
     EXPECT_TRUE(f.content().wasSwitchedOffByEdit && !f.rule().isEnabled);
+    EXPECT_TRUE(f.content().mustConfirmAgain);
+    f.history->undo();
+    EXPECT_FALSE(f.content().mustConfirmAgain) << "the old text is confirmed";
+    f.model->setActionValue("rm");
     f.model->setShellCommandAcknowledged(true);
+    EXPECT_FALSE(f.content().mustConfirmAgain);
     EXPECT_TRUE(f.content().canTurnOn);
     f.store.enableAllRules();  // elsewhere
     EXPECT_FALSE(f.content().wasSwitchedOffByEdit);
