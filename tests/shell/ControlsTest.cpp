@@ -2,6 +2,7 @@
 #include <QHBoxLayout>
 #include <QSignalSpy>
 
+#include "platform/qt/ThemePalette.h"
 #include "shell/QtTest.h"
 #include "ui/widgets/PadPicture.h"
 #include "ui/widgets/Row.h"
@@ -51,12 +52,13 @@ TEST_F(Controls, SwitchIsACheckBoxThatTheKeyboardTurns) {
         EXPECT_EQ(control->isChecked(), expected);
         EXPECT_EQ(accessible->state().checked, expected);
     }
+    const auto showsMiddle = [control](const QColor& colour) {
+        return eventually([&] { return control->grab().toImage().pixelColor(control->rect().center()) == colour; });
+    };
+    EXPECT_TRUE(showsMiddle(asQColor(WindowTheme::current().accent)));
     // Switched back before its knob arrived, it ends up looking off.
     control->setChecked(false);
-    ASSERT_TRUE(eventually([&] {
-        const QColor middle = control->grab().toImage().pixelColor(control->rect().center());
-        return middle == QColor(Qt::white);
-    }));
+    ASSERT_TRUE(showsMiddle(Qt::white));
 }
 
 TEST_F(Controls, AGroupIsOneTabStopAndArrowsChooseInTwoDirections) {

@@ -28,11 +28,16 @@ Switch::Switch(const QString& name, QWidget* parent) : QAbstractButton(parent) {
         m_position = position.toDouble();
         update();
     });
+    connect(this, &QAbstractButton::toggled, this, &Switch::move);
 }
 
-/// Also when signals are blocked.
+/// Also while signals are blocked; a click by the person only tells it by its signal.
 void Switch::checkStateSet() {
     QAbstractButton::checkStateSet();
+    move();
+}
+
+void Switch::move() {
     m_motion.stop();
     const double target = isChecked() ? 1 : 0;
     if (m_position == target)

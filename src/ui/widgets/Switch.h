@@ -37,6 +37,8 @@ class Switch final : public QAbstractButton {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void move();
+
     FocusRing m_ring;
     QVariantAnimation m_motion;
     double m_position = 0;
