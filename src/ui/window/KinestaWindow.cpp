@@ -272,15 +272,15 @@ void KinestaWindow::followSelection() {
             m_editedRule = selection.ruleId;
             m_editor = new RuleEditorPage(selection.ruleId, m_list, m_history, m_parts, *this);
         }
-        show(m_editor);
+        bringUp(m_editor);
     } else if (selection.kind == WindowSelection::Kind::settings) {
         if (m_settings == nullptr)
             m_settings = new SettingsPage(m_parts, *this);
-        show(m_settings);
+        bringUp(m_settings);
     } else {
         if (m_overview == nullptr)
             m_overview = new OverviewPage(m_overviewModel, m_parts, *this);
-        show(m_overview);
+        bringUp(m_overview);
     }
     if (former != nullptr) {
         m_pages->removeWidget(former);
@@ -288,7 +288,7 @@ void KinestaWindow::followSelection() {
     }
 }
 
-void KinestaWindow::show(Page* page) {
+void KinestaWindow::bringUp(Page* page) {
     if (m_pages->indexOf(page) < 0) {
         giveBackButton(*page);
         m_pages->addWidget(page);

@@ -74,7 +74,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void switchPane();
     void goBack();
     void followSelection();
-    void show(Page* page);
+    void bringUp(Page* page);
     void giveBackButton(Page& page);
     void focusPage();
     void savePlace();
