@@ -1209,51 +1209,51 @@
     </message>
     <message>
         <source>%1-finger single tap</source>
-        <translation>Einfaches Tippen mit %1 Fingern</translation>
+        <translation>Einfaches %1-Finger-Tippen</translation>
     </message>
     <message>
         <source>%1-finger double tap</source>
-        <translation>Doppeltippen mit %1 Fingern</translation>
+        <translation>%1-Finger-Doppeltippen</translation>
     </message>
     <message>
         <source>%1-finger triple tap</source>
-        <translation>Dreifachtippen mit %1 Fingern</translation>
+        <translation>%1-Finger-Dreifachtippen</translation>
     </message>
     <message>
         <source>%1-finger single physical click (any pressure)</source>
-        <translation>Einfacher physischer Klick mit %1 Fingern (beliebiger Druck)</translation>
+        <translation>Einfacher physischer %1-Finger-Klick (beliebiger Druck)</translation>
     </message>
     <message>
         <source>%1-finger single soft click (stage 1)</source>
-        <translation>Einfacher sanfter Klick mit %1 Fingern (Stufe 1)</translation>
+        <translation>Einfacher sanfter %1-Finger-Klick (Stufe 1)</translation>
     </message>
     <message>
         <source>%1-finger single force click (stage 2)</source>
-        <translation>Einfacher kräftiger Klick mit %1 Fingern (Stufe 2)</translation>
+        <translation>Einfacher kräftiger %1-Finger-Klick (Stufe 2)</translation>
     </message>
     <message>
         <source>%1-finger double physical click (any pressure)</source>
-        <translation>Physischer Doppelklick mit %1 Fingern (beliebiger Druck)</translation>
+        <translation>Physischer %1-Finger-Doppelklick (beliebiger Druck)</translation>
     </message>
     <message>
         <source>%1-finger double soft click (stage 1)</source>
-        <translation>Sanfter Doppelklick mit %1 Fingern (Stufe 1)</translation>
+        <translation>Sanfter %1-Finger-Doppelklick (Stufe 1)</translation>
     </message>
     <message>
         <source>%1-finger double force click (stage 2)</source>
-        <translation>Kräftiger Doppelklick mit %1 Fingern (Stufe 2)</translation>
+        <translation>Kräftiger %1-Finger-Doppelklick (Stufe 2)</translation>
     </message>
     <message>
         <source>%1-finger triple physical click (any pressure)</source>
-        <translation>Physischer Dreifachklick mit %1 Fingern (beliebiger Druck)</translation>
+        <translation>Physischer %1-Finger-Dreifachklick (beliebiger Druck)</translation>
     </message>
     <message>
         <source>%1-finger triple soft click (stage 1)</source>
-        <translation>Sanfter Dreifachklick mit %1 Fingern (Stufe 1)</translation>
+        <translation>Sanfter %1-Finger-Dreifachklick (Stufe 1)</translation>
     </message>
     <message>
         <source>%1-finger triple force click (stage 2)</source>
-        <translation>Kräftiger Dreifachklick mit %1 Fingern (Stufe 2)</translation>
+        <translation>Kräftiger %1-Finger-Dreifachklick (Stufe 2)</translation>
     </message>
     <message>
         <source>single tip-tap left</source>
@@ -1281,7 +1281,7 @@
     </message>
     <message>
         <source>%1-finger vertical edge slide</source>
-        <translation>Senkrechtes Randwischen mit %1 Fingern</translation>
+        <translation>Senkrechtes %1-Finger-Randwischen</translation>
     </message>
     <message>
         <source>corner hold and draw</source>
@@ -1289,27 +1289,27 @@
     </message>
     <message>
         <source>%1-finger left edge slide up</source>
-        <translation>Randwischen links nach oben mit %1 Fingern</translation>
+        <translation>%1-Finger-Randwischen links nach oben</translation>
     </message>
     <message>
         <source>%1-finger right edge slide up</source>
-        <translation>Randwischen rechts nach oben mit %1 Fingern</translation>
+        <translation>%1-Finger-Randwischen rechts nach oben</translation>
     </message>
     <message>
         <source>%1-finger both edge slide up</source>
-        <translation>Randwischen beidseitig nach oben mit %1 Fingern</translation>
+        <translation>%1-Finger-Randwischen beidseitig nach oben</translation>
     </message>
     <message>
         <source>%1-finger left edge slide down</source>
-        <translation>Randwischen links nach unten mit %1 Fingern</translation>
+        <translation>%1-Finger-Randwischen links nach unten</translation>
     </message>
     <message>
         <source>%1-finger right edge slide down</source>
-        <translation>Randwischen rechts nach unten mit %1 Fingern</translation>
+        <translation>%1-Finger-Randwischen rechts nach unten</translation>
     </message>
     <message>
         <source>%1-finger both edge slide down</source>
-        <translation>Randwischen beidseitig nach unten mit %1 Fingern</translation>
+        <translation>%1-Finger-Randwischen beidseitig nach unten</translation>
     </message>
     <message>
         <source>%1, left edge</source>
@@ -2077,55 +2077,55 @@
     </message>
     <message>
         <source>%1-finger tap</source>
-        <translation>Tippen mit %1 Fingern</translation>
+        <translation>%1-Finger-Tippen</translation>
     </message>
     <message>
         <source>%1-finger click</source>
-        <translation>Klick mit %1 Fingern</translation>
+        <translation>%1-Finger-Klick</translation>
     </message>
     <message>
         <source>%1-finger double click</source>
-        <translation>Doppelklick mit %1 Fingern</translation>
+        <translation>%1-Finger-Doppelklick</translation>
     </message>
     <message>
         <source>%1-finger triple click</source>
-        <translation>Dreifachklick mit %1 Fingern</translation>
+        <translation>%1-Finger-Dreifachklick</translation>
     </message>
     <message>
         <source>%1-finger soft click</source>
-        <translation>Sanfter Klick mit %1 Fingern</translation>
+        <translation>Sanfter %1-Finger-Klick</translation>
     </message>
     <message>
         <source>%1-finger double soft click</source>
-        <translation>Sanfter Doppelklick mit %1 Fingern</translation>
+        <translation>Sanfter %1-Finger-Doppelklick</translation>
     </message>
     <message>
         <source>%1-finger triple soft click</source>
-        <translation>Sanfter Dreifachklick mit %1 Fingern</translation>
+        <translation>Sanfter %1-Finger-Dreifachklick</translation>
     </message>
     <message>
         <source>%1-finger Force Click</source>
-        <translation>Kräftiger Klick mit %1 Fingern</translation>
+        <translation>Kräftiger %1-Finger-Klick</translation>
     </message>
     <message>
         <source>%1-finger double Force Click</source>
-        <translation>Kräftiger Doppelklick mit %1 Fingern</translation>
+        <translation>Kräftiger %1-Finger-Doppelklick</translation>
     </message>
     <message>
         <source>%1-finger triple Force Click</source>
-        <translation>Kräftiger Dreifachklick mit %1 Fingern</translation>
+        <translation>Kräftiger %1-Finger-Dreifachklick</translation>
     </message>
     <message>
         <source>%1-finger slide, left</source>
-        <translation>Wischen mit %1 Fingern, links</translation>
+        <translation>%1-Finger-Wischen, links</translation>
     </message>
     <message>
         <source>%1-finger slide, right</source>
-        <translation>Wischen mit %1 Fingern, rechts</translation>
+        <translation>%1-Finger-Wischen, rechts</translation>
     </message>
     <message>
         <source>%1-finger slide, both sides</source>
-        <translation>Wischen mit %1 Fingern, beidseitig</translation>
+        <translation>%1-Finger-Wischen, beidseitig</translation>
     </message>
     <message>
         <source>L</source>
@@ -2708,6 +2708,10 @@
         <source>Back</source>
         <translation>Zurück</translation>
     </message>
+    <message>
+        <source>The rules before the import are kept in %1</source>
+        <translation>Die Regeln vor dem Import liegen in %1</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::ListHeading</name>
@@ -2870,6 +2874,33 @@
     <message>
         <source>How long to wait for a further tap. Shorter acts sooner, longer forgives slow fingers.</source>
         <translation>Wie lange auf ein weiteres Tippen gewartet wird. Kürzer handelt früher, länger verzeiht langsame Finger.</translation>
+    </message>
+</context>
+<context>
+    <name>kinesta::ResetQuestion</name>
+    <message>
+        <source>Put all settings back as they were at first?</source>
+        <translation>Alle Einstellungen auf den Anfang zurücksetzen?</translation>
+    </message>
+    <message>
+        <source>Rules and the start at login stay. It can be undone.</source>
+        <translation>Regeln und Anmeldestart bleiben. Es lässt sich rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>The settings are as they were at first</source>
+        <translation>Die Einstellungen sind zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>
@@ -3100,10 +3131,6 @@
         <translation>Regeln als Datei</translation>
     </message>
     <message>
-        <source>Export all rules, or add rules from a file. An import can be undone.</source>
-        <translation>Alle Regeln exportieren oder Regeln aus einer Datei hinzufügen. Ein Import lässt sich rückgängig machen.</translation>
-    </message>
-    <message>
         <source>Reset settings</source>
         <translation>Einstellungen zurücksetzen</translation>
     </message>
@@ -3122,6 +3149,10 @@
     <message>
         <source>Rules</source>
         <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Export all rules, or replace them by those of a file. An import can be undone.</source>
+        <translation>Alle Regeln exportieren oder durch die einer Datei ersetzen. Ein Import lässt sich rückgängig machen.</translation>
     </message>
 </context>
 <context>

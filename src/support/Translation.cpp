@@ -12,7 +12,7 @@ constexpr std::string_view kNext = "\uE001";
 constexpr std::string_view kEnd = "\uE002";
 constexpr std::string_view kPercent = "\uE003";
 
-std::function<std::string(std::string_view)>& translator() {
+std::function<std::string(std::string_view)>& stored() {
     static std::function<std::string(std::string_view)> function;
     return function;
 }
@@ -79,12 +79,12 @@ std::string unmarkedPart(std::string_view& rest, MarkedLanguage language, bool i
 
 }  // namespace
 
-void setTranslator(std::function<std::string(std::string_view english)> function) {
-    translator() = std::move(function);
+void setTranslator(std::function<std::string(std::string_view english)> translator) {
+    stored() = std::move(translator);
 }
 
 std::string translated(std::string_view english) {
-    return translator() && !english.empty() ? translator()(english) : std::string(english);
+    return stored() && !english.empty() ? stored()(english) : std::string(english);
 }
 
 std::string translated(std::string_view english, const std::vector<std::string>& arguments) {
