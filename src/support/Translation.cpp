@@ -5,18 +5,18 @@
 namespace kinesta {
 namespace {
 
-std::function<std::string(std::string_view)>& translator() {
+std::function<std::string(std::string_view)>& stored() {
     static std::function<std::string(std::string_view)> function;
     return function;
 }
 
 }  // namespace
 
-void setTranslator(std::function<std::string(std::string_view english)> function) {
-    translator() = std::move(function);
+void setTranslator(std::function<std::string(std::string_view english)> translator) {
+    stored() = std::move(translator);
 }
 
-std::string translated(std::string_view english) { return translator() ? translator()(english) : std::string(english); }
+std::string translated(std::string_view english) { return stored() ? stored()(english) : std::string(english); }
 
 std::string translated(std::string_view english, const std::vector<std::string>& arguments) {
     const std::string pattern = translated(english);
