@@ -32,7 +32,7 @@ GestureCard::GestureCard(RuleEditorModel& model, const WindowParts& parts, Windo
       m_types(new TileGroup(tr("Gesture type"), kTypeColumns)),
       m_body(new QWidget),
       m_line(new QBoxLayout(QBoxLayout::LeftToRight, m_body)),
-      m_stage(new Stage([&parts] { return parts.service.tapWaitingInterval().value().seconds(); })),
+      m_stage(new GestureStage([&parts] { return parts.service.tapWaitingInterval().value().seconds(); })),
       m_details(new GestureDetails(model)) {
     add(makeTypes());
     add(m_body);

@@ -6,7 +6,7 @@
 #include "ui/WindowParts.h"
 #include "ui/editor/GestureDetails.h"
 #include "ui/editor/NoticeStack.h"
-#include "ui/editor/Stage.h"
+#include "ui/editor/GestureStage.h"
 #include "ui/models/RuleEditorModel.h"
 #include "ui/widgets/Card.h"
 
@@ -35,7 +35,7 @@ class GestureCard final : public Card {
     TileGroup* m_types;
     QWidget* m_body;
     QBoxLayout* m_line;
-    Stage* m_stage;
+    GestureStage* m_stage;
     GestureDetails* m_details;
     NoticeStack* m_notices = nullptr;
     Subscription m_contentObserver;
