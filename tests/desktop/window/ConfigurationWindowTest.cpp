@@ -1,30 +1,62 @@
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-
-#include "desktop/harness/AccessibleProgram.h"
-#include "desktop/harness/ApplicationProcess.h"
-#include "support/TemporaryFolder.h"
+#include "desktop/window/OpenWindow.h"
 
 namespace kinesta::testing {
 namespace {
 
-/// The window of the application as a person uses it.
-struct ConfigurationWindow : Application {
-    ConfigurationWindow() : Application(TestDesktop::openbox) {
-        setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1);
-        application = start("");
-        EXPECT_TRUE(status().is_object());  // waits until it runs
-        EXPECT_EQ(run("ctl show"), "0|");
-        program.emplace("Kinesta");
-        program->await("frame", "Kinesta");
+struct ConfigurationWindow : OpenWindow {
+    /// What both the mouse and the keyboard make.
+    static json made() {
+        return json::parse(R"([{"name": "Reopen a tab", "isEnabled": true, "gesture": "doubleTap", "fingerCount": 4,
+            "action": {"kind": "keyboardShortcut", "keyCode": 17, "modifiers": 9, "value": "",
+                       "customCueLabel": "Tab is back"}}])");
     }
-    ~ConfigurationWindow() override { run("ctl quit"); }
-
-    std::unique_ptr<ChildProcess> application;
-    std::optional<AccessibleProgram> program;
 };
 
-TEST_F(ConfigurationWindow, IsAWindowForScreenReaders) { program->await("frame", "Kinesta"); }
+TEST_F(ConfigurationWindow, MakesARuleByMouse) {
+    open();
+    program->click("push button", "Add gesture");
+    program->click("text", "Name");
+    Program::type("Reopen a tab");
+    program->click("radio button", "Tap");
+    program->click("radio button", "Double");
+    program->click("radio button", "4");
+    program->click(program->awaitCombo("What happens"));
+    program->click("list item", "Keyboard shortcut");
+    program->click("push button", "Record shortcut");
+    program->await("label", "Press the keys. Escape cancels, Delete clears.");
+    Program::press("ctrl+shift+t");
+    program->awaitGone("label", "Press the keys. Escape cancels, Delete clears.");
+    program->click("text", "Cue text");
+    Program::type("Tab is back");
+    program->click("check box", "On");
+    EXPECT_TRUE(becomesStored(made()));
+}
+
+TEST_F(ConfigurationWindow, MakesARuleByKeyboard) {
+    open();
+    ASSERT_TRUE(program->tabTo("push button", "Add gesture"));
+    Program::press("space");
+    ASSERT_TRUE(program->becomes(program->await("text", "Name"), Program::focused));
+    Program::type("Reopen a tab");
+    ASSERT_TRUE(program->tabTo("radio button", "Tap"));
+    Program::press("space");
+    ASSERT_TRUE(program->tabTo("radio button", "Single"));
+    Program::press("d");
+    ASSERT_TRUE(program->tabTo("radio button", "2"));
+    Program::press("Right Right");
+    ASSERT_TRUE(program->tabTo("combo box", "Choose an action…"));
+    Program::press("k");
+    ASSERT_TRUE(program->tabTo("push button", "Record shortcut"));
+    Program::press("space");
+    program->await("label", "Press the keys. Escape cancels, Delete clears.");
+    Program::press("ctrl+shift+t");
+    program->awaitGone("label", "Press the keys. Escape cancels, Delete clears.");
+    ASSERT_TRUE(program->tabTo("text", "Cue text"));
+    Program::type("Tab is back");
+    ASSERT_TRUE(program->tabTo("check box", "On", "shift+Tab"));
+    Program::press("space");
+    EXPECT_TRUE(becomesStored(made()));
+}
 
 }  // namespace
 }  // namespace kinesta::testing
