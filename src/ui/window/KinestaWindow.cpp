@@ -15,6 +15,7 @@
 #include "app/Desktop.h"
 #include "app/SystemReport.h"
 #include "ui/about/AboutSheet.h"
+#include "ui/about/ApplicationIcon.h"
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/models/RuleEditing.h"
 #include "ui/overview/OverviewPage.h"
@@ -25,6 +26,7 @@
 #include "ui/widgets/Unit.h"
 #include "ui/window/FieldUndo.h"
 #include "ui/window/Panes.h"
+#include "ui/window/ResetQuestion.h"
 #include "ui/window/RuleFiles.h"
 #include "ui/window/StepAside.h"
 #include "ui/window/Toast.h"
@@ -54,8 +56,16 @@ KinestaWindow::KinestaWindow(WindowParts parts)
       m_pages(new QStackedWidget),
       m_panes(new Panes(m_sidebar, m_pages)),
       m_toast(new Toast(m_pages)),
-      m_files(new RuleFiles(m_parts, m_history, *this, this)) {
+      m_files(new RuleFiles(m_parts, m_history, *this, this)),
+      m_reset(new ResetQuestion(
+          m_parts, m_history, *this,
+          [this] {
+              m_parts.reloadSettings();
+              refresh();
+          },
+          this)) {
     AccessibleParts::install();
+    setWindowIcon(ApplicationIcon::icon());
     setAcceptDrops(true);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -75,8 +85,13 @@ KinestaWindow::KinestaWindow(WindowParts parts)
             m_editor->focusName();
     });
     connect(m_files, &RuleFiles::problemChanged, this, [this](const QString& problem) {
-        if (m_settings != nullptr)
-            m_settings->setTransferProblem(problem);
+        m_transferProblem = problem;
+        m_transferNote.clear();
+        showTransfer();
+    });
+    connect(m_files, &RuleFiles::copyKept, this, [this](const QString& file) {
+        m_transferNote = tr("The rules before the import are kept in %1").arg(file);
+        showTransfer();
     });
     addKeys();
     m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
@@ -197,7 +212,7 @@ void KinestaWindow::importRules() { m_files->import(); }
 
 void KinestaWindow::exportRules() { m_files->exportAll(); }
 
-void KinestaWindow::resetSettings() {}
+void KinestaWindow::resetSettings() { m_reset->ask(); }
 
 void KinestaWindow::showAbout() {
     auto* about = new AboutSheet(m_parts, *this, this);
@@ -274,8 +289,10 @@ void KinestaWindow::followSelection() {
         }
         bringUp(m_editor);
     } else if (selection.kind == WindowSelection::Kind::settings) {
-        if (m_settings == nullptr)
+        if (m_settings == nullptr) {
             m_settings = new SettingsPage(m_parts, *this);
+            showTransfer();
+        }
         bringUp(m_settings);
     } else {
         if (m_overview == nullptr)
@@ -286,6 +303,11 @@ void KinestaWindow::followSelection() {
         m_pages->removeWidget(former);
         former->deleteLater();  // one of its own buttons may have changed the selection
     }
+}
+
+void KinestaWindow::showTransfer() {
+    if (m_settings != nullptr)
+        m_settings->setTransfer(m_transferProblem, m_transferNote);
 }
 
 void KinestaWindow::bringUp(Page* page) {

@@ -18,6 +18,7 @@ namespace kinesta {
 class OverviewPage;
 class Page;
 class Panes;
+class ResetQuestion;
 class RuleEditorPage;
 class RuleFiles;
 class SettingsPage;
@@ -74,6 +75,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void switchPane();
     void goBack();
     void followSelection();
+    void showTransfer();
     void bringUp(Page* page);
     void giveBackButton(Page& page);
     void focusPage();
@@ -89,6 +91,9 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     Panes* m_panes;
     Toast* m_toast;
     RuleFiles* m_files;
+    ResetQuestion* m_reset;
+    QString m_transferProblem;
+    QString m_transferNote;
     OverviewPage* m_overview = nullptr;
     SettingsPage* m_settings = nullptr;
     RuleEditorPage* m_editor = nullptr;
