@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -54,13 +55,12 @@ class AccessibleProgram {
     AccessibleProgram(const AccessibleProgram&) = delete;
     AccessibleProgram& operator=(const AccessibleProgram&) = delete;
 
-    /// What is on the screen with this role and name; waits for it.
+    /// What is on the screen with this role and name; waits for it. Without it the test cannot go on.
     Node await(const std::string& role, const std::string& name) const {
         std::optional<Node> found;
-        EXPECT_TRUE(eventually([&] { return (found = find(role, name)).has_value(); }))
-            << "no " << role << " “" << name << "” among:\n"
-            << outline();
-        return found.value_or(Node{});
+        if (!eventually([&] { return (found = find(role, name)).has_value(); }))
+            throw std::runtime_error("no " + role + " “" + name + "” among:\n" + outline());
+        return *found;
     }
     bool awaitGone(const std::string& role, const std::string& name) const {
         return eventually([&] { return !find(role, name); });
@@ -152,7 +152,7 @@ class AccessibleProgram {
     /// Where the node rests once the page has been laid out, and scrolled to it if need be. The page fills the screen.
     std::tuple<int, int> reveal(const Node& node) const {
         std::tuple<int, int> place;
-        EXPECT_TRUE(eventually([&] {
+        const bool isThere = eventually([&] {
             if (std::exchange(place, middle(node)) != place)
                 return false;
             const int y = std::get<1>(place);
@@ -160,7 +160,9 @@ class AccessibleProgram {
                 return true;
             hand("mousemove --sync 1240 400 click " + std::string(y > kTop ? "5" : "4"));
             return false;
-        })) << node.name;
+        });
+        if (!isThere)
+            throw std::runtime_error("cannot reach " + node.name);
         return place;
     }
     /// A real click, or another act of the hand at the node.
