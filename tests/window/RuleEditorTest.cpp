@@ -6,7 +6,7 @@
 #include <QToolButton>
 
 #include "rules/RuleMaking.h"
-#include "ui/editor/Stage.h"
+#include "ui/editor/GestureStage.h"
 #include "ui/widgets/Notice.h"
 #include "ui/widgets/Switch.h"
 #include "ui/widgets/Tile.h"
@@ -106,7 +106,7 @@ TEST_F(RuleEditorTest, KeepsANameThatIsBeingTyped) {
 TEST_F(RuleEditorTest, ShowsWhatIsPointedAtAndReturns) {
     WindowTheme::setReducesMotion(true);
     open(makeRule(GestureKind::doubleTap, 3));
-    auto* stage = page->findChild<Stage*>();
+    auto* stage = page->findChild<GestureStage*>();
     const QImage own = stage->grab().toImage();
     for (const char* name : {"Vertical edge slide", "5", "Triple"}) {
         point(find<Tile>(name));

@@ -19,10 +19,12 @@
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/models/RuleEditing.h"
 #include "ui/overview/OverviewPage.h"
+#include "ui/pictures/WindowSymbol.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sidebar/Sidebar.h"
 #include "ui/trying/TestSheet.h"
 #include "ui/widgets/AccessibleParts.h"
+#include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 #include "ui/window/FieldUndo.h"
 #include "ui/window/Panes.h"
@@ -322,7 +324,8 @@ void KinestaWindow::bringUp(Page* page) {
 void KinestaWindow::giveBackButton(Page& page) {
     auto* button = new QToolButton;
     button->setAutoRaise(true);
-    button->setArrowType(layoutDirection() == Qt::RightToLeft ? Qt::RightArrow : Qt::LeftArrow);
+    button->setIcon(SymbolIcon::of(
+        windowSymbol(layoutDirection() == Qt::RightToLeft ? WindowSymbol::chevronRight : WindowSymbol::chevronLeft)));
     button->setAccessibleName(tr("Back"));
     button->setToolTip(tr("Back"));
     button->setFixedSize(Unit::of(28, 28));

@@ -10,12 +10,12 @@ namespace kinesta {
 
 /// The large pad of a rule. It performs the gesture of the rule when it changes and on demand, and shows other gestures
 /// that are pointed at. Its ground is painted by the card around it.
-class Stage final : public QWidget {
+class GestureStage final : public QWidget {
     Q_OBJECT
 
   public:
     /// `tapWaitingInterval` gives the tempo, in seconds.
-    explicit Stage(std::function<double()> tapWaitingInterval);
+    explicit GestureStage(std::function<double()> tapWaitingInterval);
 
     /// The gesture of the rule. `name` and `sentence` tell screen readers what it is.
     void setGesture(const PadGesture& gesture, const QString& name, const QString& sentence);
