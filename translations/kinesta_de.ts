@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1765,7 +1765,7 @@
     </message>
     <message>
         <source>Closes the focused window of the frontmost app using its close button. Requires Accessibility permission. Sends no keyboard shortcut. Apps without an accessible, enabled close button are left unchanged; save dialogs remain under your control.</source>
-        <translation>Schließt das aktive Fenster der vordersten App über dessen Schließknopf. Erfordert die Berechtigung für Bedienungshilfen. Sendet keine Tastenkombination. Apps ohne zugänglichen, aktiven Schließknopf bleiben unverändert; Rückfragen zum Sichern bleiben zur Entscheidung stehen.</translation>
+        <translation>Schließt das aktive Fenster der vordersten App über dessen Schließknopf. Erfordert die Berechtigung für Bedienungshilfen. Sendet keine Tastenkombination. Apps ohne zugänglichen, aktiven Schließknopf bleiben unverändert; Dialoge zum Speichern bleiben offen und werden nicht beantwortet.</translation>
     </message>
     <message>
         <source>Opens a web page in your browser.</source>
@@ -2547,7 +2547,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Rücktaste</translation>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -2880,7 +2880,7 @@
     <name>kinesta::ResetQuestion</name>
     <message>
         <source>Put all settings back as they were at first?</source>
-        <translation>Alle Einstellungen auf den Anfang zurücksetzen?</translation>
+        <translation>Alle Einstellungen auf den Anfangszustand zurücksetzen?</translation>
     </message>
     <message>
         <source>Rules and the start at login stay. It can be undone.</source>
