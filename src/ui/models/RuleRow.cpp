@@ -23,7 +23,7 @@ std::vector<std::string> wordsOf(std::string_view text) {
 
 bool hasAll(const GestureRule& rule, const std::vector<std::string>& words) {
     const std::string text = lowerCased(displayName(rule) + "\n" + describeTrigger(rule) + "\n" + shortGesture(rule) +
-                                        "\n" + std::string(title(rule.action.kind)) + "\n" + rule.action.summary());
+                                        "\n" + translated(title(rule.action.kind)) + "\n" + rule.action.summary());
     return std::ranges::all_of(words, [&](const std::string& word) { return text.find(word) != std::string::npos; });
 }
 

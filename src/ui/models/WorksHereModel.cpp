@@ -92,9 +92,9 @@ std::optional<FindingRow> WorksHereModel::rowOf(const SystemFinding& finding) co
                    .mark = finding.works        ? Mark::works
                            : finding.isNeeded() ? Mark::missing
                                                 : Mark::absent,
-                   .what = translated(finding.what),
-                   .why = translated(finding.why),
-                   .remedy = translated(finding.remedy),
+                   .what = finding.what,
+                   .why = finding.why,
+                   .remedy = finding.remedy,
                    .command = finding.command,
                    .tag = {},
                    .button = Button::none,

@@ -4,21 +4,23 @@
 
 #include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/settings/DefaultsFileCoding.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-constexpr std::string_view kNotStored = "Changed settings could not be stored and last only until Kinesta quits";
+constexpr std::string_view kNotStored =
+    TRANSLATABLE("Changed settings could not be stored and last only until Kinesta quits: %1");
 
 Error notSetAside(const Error& damage, const Error& reason) {
-    return {damage.message + ", and it cannot be set aside: " + reason.message};
+    return {translated("%1, and it cannot be set aside: %2", {damage.message, reason.message})};
 }
 
 }  // namespace
 
 FileUserDefaults::FileUserDefaults(std::string path, ProblemHandler problemHandler)
     : m_path(std::move(path)), m_problemHandler(std::move(problemHandler)) {
-    settle(load(), "The stored settings could not be read, so the standard ones are in use");
+    settle(load(), TRANSLATABLE("The stored settings could not be read, so the standard ones are in use: %1"));
 }
 
 bool FileUserDefaults::reload() {
@@ -28,7 +30,8 @@ bool FileUserDefaults::reload() {
     const StoredValues before = values();
     const auto file = DurableFile::at(m_path);
     const auto content = file ? file->read() : file.error();
-    settle(content ? merge(*content) : content.error(), "The settings were changed elsewhere but could not be read");
+    settle(content ? merge(*content) : content.error(),
+           TRANSLATABLE("The settings were changed elsewhere but could not be read: %1"));
     return std::exchange(m_hasMerged, false) || values() != before;
 }
 
@@ -151,8 +154,10 @@ Outcome FileUserDefaults::mergeLocked(const DurableFile& file) {
     const auto name = file.setAside();
     if (!name)
         return notSetAside(merged.error(), name.error());
-    report("The settings file is damaged and was set aside; repair it and put it back, or make the settings again: " +
-           merged.error().message + ", now " + *name);
+    report(
+        translated("The settings file is damaged and was set aside; repair it and put it back, or make the settings "
+                   "again: %1, now %2",
+                   {merged.error().message, *name}));
     return success();
 }
 
@@ -180,7 +185,7 @@ void FileUserDefaults::settle(const Outcome& outcome, std::string_view consequen
     if (outcome)
         m_lastProblem.clear();
     else
-        report(std::string(consequence) + ": " + outcome.error().message);
+        report(translated(consequence, {outcome.error().message}));
 }
 
 void FileUserDefaults::report(const std::string& problem) {
