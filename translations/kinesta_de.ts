@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>Listening, with no rule on</source>
-        <translation>Aufmerksam, aber keine Regel ist an</translation>
+        <translation>Bereit, aber keine Regel ist an</translation>
     </message>
     <message>
         <source>Gestures are off</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message>
         <source>Open Settings to review gesture recognition.</source>
-        <translation>Die Einstellungen zeigen, wie es um die Gestenerkennung steht.</translation>
+        <translation>Die Gestenerkennung in den Einstellungen prüfen.</translation>
     </message>
     <message>
         <source>Listening for 1 enabled gesture rule.</source>
