@@ -5,8 +5,8 @@
 #include "ui/WindowCommands.h"
 #include "ui/WindowParts.h"
 #include "ui/editor/GestureDetails.h"
-#include "ui/editor/NoticeStack.h"
 #include "ui/editor/GestureStage.h"
+#include "ui/editor/NoticeStack.h"
 #include "ui/models/RuleEditorModel.h"
 #include "ui/widgets/Card.h"
 

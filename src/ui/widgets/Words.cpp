@@ -54,9 +54,7 @@ void Words::alignTo(Qt::Alignment alignment) {
     align();
 }
 
-void Words::align() {
-    setAlignment(QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute);
-}
+void Words::align() { setAlignment(QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute); }
 
 bool Words::event(QEvent* event) {
     if (event->type() == QEvent::ParentChange)

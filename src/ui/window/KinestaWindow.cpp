@@ -324,8 +324,8 @@ void KinestaWindow::bringUp(Page* page) {
 void KinestaWindow::giveBackButton(Page& page) {
     auto* button = new QToolButton;
     button->setAutoRaise(true);
-    button->setIcon(SymbolIcon::of(windowSymbol(
-        layoutDirection() == Qt::RightToLeft ? WindowSymbol::chevronRight : WindowSymbol::chevronLeft)));
+    button->setIcon(SymbolIcon::of(
+        windowSymbol(layoutDirection() == Qt::RightToLeft ? WindowSymbol::chevronRight : WindowSymbol::chevronLeft)));
     button->setAccessibleName(tr("Back"));
     button->setToolTip(tr("Back"));
     button->setFixedSize(Unit::of(28, 28));
