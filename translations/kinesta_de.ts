@@ -2693,10 +2693,6 @@
         <source>Cannot be read</source>
         <translation>Nicht lesbar</translation>
     </message>
-    <message>
-        <source>Show the gesture again</source>
-        <translation>Geste noch einmal zeigen</translation>
-    </message>
 </context>
 <context>
     <name>kinesta::KinestaWindow</name>
@@ -2883,7 +2879,7 @@
         <translation>Alle Einstellungen auf den Anfangszustand zurücksetzen?</translation>
     </message>
     <message>
-        <source>Rules and the start at login stay. It can be undone.</source>
+        <source>Rules and the start at login stay. This can be undone.</source>
         <translation>Regeln und Anmeldestart bleiben. Es lässt sich rückgängig machen.</translation>
     </message>
     <message>
@@ -3233,8 +3229,8 @@
         <translation>Befehl kopieren</translation>
     </message>
     <message>
-        <source>Copied the command.</source>
-        <translation>Befehl kopiert.</translation>
+        <source>Command copied</source>
+        <translation>Befehl kopiert</translation>
     </message>
 </context>
 <context>

@@ -138,7 +138,15 @@ FileUserDefaults& LinuxDesktop::fileDefaults() {
     return *m_defaults;
 }
 
+void LinuxDesktop::saveInBackground() {
+    fileDefaults().saveInBackground(m_mainLoop, [this] {
+        if (m_onDefaultsChange)
+            m_onDefaultsChange();
+    });
+}
+
 bool LinuxDesktop::watchDefaults(std::function<void()> onChange) {
+    m_onDefaultsChange = onChange;
     m_watcher.emplace(m_mainLoop, m_places.settings.string(), std::move(onChange));
     return m_watcher->isWatching();
 }

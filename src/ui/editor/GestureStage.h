@@ -3,8 +3,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "ui/editor/PlayButton.h"
 #include "ui/widgets/PadPicture.h"
+#include "ui/widgets/PlayButton.h"
 
 namespace kinesta {
 

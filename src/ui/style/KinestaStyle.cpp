@@ -132,6 +132,8 @@ void KinestaStyle::followFocus(QWidget* widget, const QFocusEvent& event) {
         if (m_frame == nullptr)
             m_frame = new QFocusFrame;
         m_frame->setWidget(widget);
+        // It stays hidden around what is out of sight, even when that is scrolled into view right afterwards.
+        m_frame->show();
     } else if (m_frame != nullptr && event.reason() != Qt::PopupFocusReason) {
         m_frame->setWidget(nullptr);
     }

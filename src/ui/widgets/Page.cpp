@@ -1,5 +1,6 @@
 #include "ui/widgets/Page.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -27,6 +28,13 @@ Page::Page(QWidget* parent) : QScrollArea(parent), m_ground(new QWidget), m_colu
     m_column->addStretch(1);
     setWidget(m_ground);
     measure();
+    // A scroll area follows Tab only inside itself, and not the focus that comes from the sidebar or from a key of the
+    // window. What is pressed stays below the pointer.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*former*/, QWidget* now) {
+        if (now != nullptr && widget() != nullptr && widget()->isAncestorOf(now) &&
+            QApplication::mouseButtons() == Qt::NoButton)
+            ensureWidgetVisible(now);
+    });
 }
 
 void Page::add(QWidget* part) { m_column->insertWidget(m_column->count() - 1, part); }

@@ -97,7 +97,7 @@ KinestaWindow::KinestaWindow(WindowParts parts)
     });
     addKeys();
     m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
-    m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismiss(); }));
+    m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismissOffer(); }));
     followSelection();
 }
 
@@ -142,6 +142,17 @@ void KinestaWindow::gestureDispatched(const DetectedGesture& gesture, const Gest
         m_editor->gestureRecognized(gesture);
     if (m_testSheet)
         m_testSheet->gestureRecognized(gesture);
+}
+
+void KinestaWindow::setNotices(std::vector<OverviewNotice> notices) {
+    const auto& before = m_overviewModel.content().value().notices;
+    // Who edits a rule must see that it is not stored, without the overview.
+    const auto news = std::ranges::find_if(notices, [&](const OverviewNotice& notice) {
+        return notice.kind == OverviewNotice::Kind::problem && std::ranges::find(before, notice) == before.end();
+    });
+    if (news != notices.end() && m_list.selection().value() != WindowSelection::overview())
+        m_toast->tell(QString::fromStdString(news->text), {}, {});
+    m_overviewModel.setNotices(std::move(notices));
 }
 
 void KinestaWindow::refresh() {

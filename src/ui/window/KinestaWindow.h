@@ -38,7 +38,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     /// Takes what GestureDispatcher passes to its observer.
     void gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule);
     /// What is missing or went wrong, as sentences; the last ones come last.
-    void setNotices(std::vector<OverviewNotice> notices) { m_overviewModel.setNotices(std::move(notices)); }
+    void setNotices(std::vector<OverviewNotice> notices);
     /// Reads what cannot be observed: settings that another process has changed, the permission.
     void refresh();
 

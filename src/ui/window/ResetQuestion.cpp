@@ -25,7 +25,7 @@ void ResetQuestion::ask() {
     m_box->setWindowTitle(QStringLiteral("Kinesta"));
     m_box->setTextFormat(Qt::PlainText);
     m_box->setText(tr("Put all settings back as they were at first?"));
-    m_box->setInformativeText(tr("Rules and the start at login stay. It can be undone."));
+    m_box->setInformativeText(tr("Rules and the start at login stay. This can be undone."));
     QPushButton* cancel = m_box->addButton(tr("Cancel"), QMessageBox::RejectRole);
     QPushButton* confirm = m_box->addButton(tr("Reset"), QMessageBox::DestructiveRole);
     confirm->setProperty("destructive", true);

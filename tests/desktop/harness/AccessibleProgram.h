@@ -158,7 +158,7 @@ class AccessibleProgram {
             const int y = std::get<1>(place);
             if (y > kTop && y < kBottom)
                 return true;
-            hand("mousemove --sync 1240 400 click " + std::string(y > kTop ? "5" : "4"));
+            hand("mousemove 1240 400 click " + std::string(y > kTop ? "5" : "4"));
             return false;
         });
         if (!isThere)
@@ -169,11 +169,11 @@ class AccessibleProgram {
     void click(const Node& node, int button = 1) const { handAt(node, "click " + std::to_string(button)); }
     void handAt(const Node& node, const std::string& act) const {
         const auto [x, y] = reveal(node);
-        hand("mousemove --sync " + std::to_string(x) + " " + std::to_string(y) + " " + act);
+        hand("mousemove " + std::to_string(x) + " " + std::to_string(y) + " " + act);
     }
     void click(const std::string& role, const std::string& name) const { click(await(role, name)); }
     static void press(const std::string& keys) { hand("key " + keys); }
-    static void type(const std::string& text) { hand("type --delay 2 '" + text + "'"); }
+    static void type(const std::string& text) { hand("type --delay 2 -- '" + text + "'"); }
     static void hand(const std::string& act) { EXPECT_TRUE(run("xdotool " + act)) << act; }
 
   private:

@@ -1,10 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
-#include <fstream>
-#include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -13,19 +10,17 @@
 
 #include "desktop/harness/AccessibleProgram.h"
 #include "desktop/harness/ApplicationProcess.h"
+#include "desktop/harness/PadStream.h"
 #include "support/TemporaryFolder.h"
 
 namespace kinesta::testing {
 
 /// The window of the application as a person uses it. The application reads the trackpad from the FIFO "pad".
-struct OpenWindow : Application {
+struct OpenWindow : Application, PadStream {
     using json = nlohmann::json;
     using Program = AccessibleProgram;
 
-    OpenWindow() : Application(TestDesktop::openbox) {
-        setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1);
-        mkfifo("pad", 0600);
-    }
+    OpenWindow() : Application(TestDesktop::openbox) { setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1); }
     ~OpenWindow() override {
         if (program)
             run("ctl quit");
@@ -49,14 +44,17 @@ struct OpenWindow : Application {
         return made;
     }
     /// Has the application show its window with these rules, the first of them selected if there are any.
-    void open(const json& rules = json::array()) {
-        writeText("before.json", rules.dump());
-        ASSERT_TRUE(run("rules import before.json").ends_with("|0|"));
+    void open(const std::vector<json>& rules = {}) {
+        import(rules);
         launch();
         if (!rules.empty()) {
-            program->click("list item", rules[0]["name"]);
+            program->click("list item", rules.front()["name"]);
             program->await("text", "Name");
         }
+    }
+    static void import(const std::vector<json>& rules) {
+        writeText("before.json", json(rules).dump());
+        ASSERT_EQ(exitStatus(*start("rules import before.json")), "0|");
     }
     void launch() {
         application = start("--trackpad pad");
@@ -77,11 +75,11 @@ struct OpenWindow : Application {
             each.erase("id");
         return rules;
     }
-    static ::testing::AssertionResult becomesStored(const json& rules) {
+    static ::testing::AssertionResult becomesStored(const json& rule) {
         json now;
-        if (eventually([&] { return (now = stored()) == rules; }))
+        if (eventually([&] { return (now = stored()) == json::array({rule}); }))
             return ::testing::AssertionSuccess();
-        return ::testing::AssertionFailure() << now.dump(1) << "\ninstead of " << rules.dump(1);
+        return ::testing::AssertionFailure() << now.dump(1) << "\ninstead of " << rule.dump(1);
     }
     static std::string names() {
         std::string all;

@@ -6,9 +6,9 @@ namespace {
 struct RuleMaking : OpenWindow {
     /// What both the mouse and the keyboard make.
     static json made() {
-        return json::parse(R"([{"name": "Reopen a tab", "isEnabled": true, "gesture": "doubleTap", "fingerCount": 4,
+        return json::parse(R"({"name": "Reopen a tab", "isEnabled": true, "gesture": "doubleTap", "fingerCount": 4,
             "action": {"kind": "keyboardShortcut", "keyCode": 17, "modifiers": 9, "value": "",
-                       "customCueLabel": "Tab is back"}}])");
+                       "customCueLabel": "Tab is back"}})");
     }
 };
 
@@ -69,7 +69,7 @@ TEST_F(RuleMaking, OffersASlideOnlyTheVolumeAndOthersEverythingElse) {
     json slide = {{"name", ""}, {"isEnabled", true}, {"gesture", "edgeSlide"}, {"fingerCount", 2}};
     slide["edgeSlideSide"] = "right";
     slide["action"] = {{"kind", "adjustVolume"}, {"modifiers", 0}, {"value", ""}};
-    EXPECT_TRUE(becomesStored({slide}));
+    EXPECT_TRUE(becomesStored(slide));
 
     program->click("radio button", "Corner hold and draw (prototype)");
     program->click("radio button", "Bottom right");
@@ -81,7 +81,7 @@ TEST_F(RuleMaking, OffersASlideOnlyTheVolumeAndOthersEverythingElse) {
     json corner = {{"name", ""}, {"isEnabled", true}, {"gesture", "anchorDraw"}, {"anchorCorner", "bottomRight"}};
     corner["drawPattern"] = "vShape";
     corner["action"] = {{"kind", "closeWindow"}, {"modifiers", 0}, {"value", ""}};
-    EXPECT_TRUE(becomesStored({corner}));
+    EXPECT_TRUE(becomesStored(corner));
 }
 
 TEST_F(RuleMaking, LaunchesAnApplicationWithArgumentsInTheirOrder) {
@@ -98,7 +98,7 @@ TEST_F(RuleMaking, LaunchesAnApplicationWithArgumentsInTheirOrder) {
     program->await("label", "Sample");
     for (const std::string argument : {"--second", "first one"}) {
         program->click("push button", "Add argument");
-        ASSERT_TRUE(eventually([&] { return program->focus().value_or(Program::Node{}).role == "text"; }));
+        program->await("list item", "");  // its editor, which Qt does not show to screen readers, has the focus
         Program::type(argument);
         Program::press("Return");
     }

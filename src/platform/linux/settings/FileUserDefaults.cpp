@@ -23,10 +23,18 @@ FileUserDefaults::FileUserDefaults(std::string path, ProblemHandler problemHandl
     settle(load(), TRANSLATABLE("The stored settings could not be read, so the standard ones are in use: %1"));
 }
 
+void FileUserDefaults::saveInBackground(MainThread& mainThread, std::function<void()> onReloadDue) {
+    m_mainThread = &mainThread;
+    m_onReloadDue = std::move(onReloadDue);
+}
+
 bool FileUserDefaults::reload() {
-    // Nobody else writes meanwhile, and the file is older than the values.
-    if (m_background.isBusy())
+    // The file is older than the values. An editor, which does not know the lock, may replace it at this moment.
+    if (m_background.isBusy()) {
+        m_isReloadDue = true;
         return std::exchange(m_hasMerged, false);
+    }
+    settleBackground();
     const StoredValues before = values();
     const auto file = DurableFile::at(m_path);
     const auto content = file ? file->read() : file.error();
@@ -46,7 +54,7 @@ Outcome FileUserDefaults::checkSaving() const {
 std::string FileUserDefaults::defaultPath() { return configurationFolder() + "/kinesta/defaults.json"; }
 
 const Outcome& FileUserDefaults::lastSaving() {
-    if (m_mainThread != nullptr && m_lastSaving) {
+    if (m_lastSaving) {
         static_cast<void>(m_background.wait());
         settleBackground();
     }
@@ -92,6 +100,7 @@ Outcome FileUserDefaults::save() {
             return *staged;
         }
     }
+    settleBackground();  // else merging would take back what the last run has failed to store
     auto file = DurableFile::at(m_path);
     if (!file)
         return file.error();
@@ -126,19 +135,31 @@ Outcome FileUserDefaults::write(DurableFile file, FileDescriptor lock, const std
     m_background.begin(std::move(file), std::move(lock), [mainThread = m_mainThread, self = std::weak_ptr(m_self)] {
         mainThread->post([self] {
             if (const auto defaults = self.lock())
-                (*defaults)->settleBackground();
+                (*defaults)->backgroundEnded();
         });
     });
     return success();
 }
 
-void FileUserDefaults::settleBackground() {
+void FileUserDefaults::backgroundEnded() {
     if (m_background.isBusy())
         return;  // with a later change, whose end comes, too
+    settleBackground();
+    if (std::exchange(m_isReloadDue, false) && m_onReloadDue)
+        m_onReloadDue();
+}
+
+/// Takes the outcome of the last run, once. Must not be called while one is under way.
+void FileUserDefaults::settleBackground() {
+    if (m_onTheirWay.empty())
+        return;
     const Outcome outcome = m_background.wait();
+    const bool hasFailedSince = !m_unsaved.empty();  // which was told, and stays true
     if (!outcome)
         m_unsaved.merge(m_onTheirWay);
     m_onTheirWay.clear();
+    if (outcome && hasFailedSince)
+        return;
     m_lastSaving = outcome;
     settle(outcome, kNotStored);
 }
