@@ -71,5 +71,38 @@ TEST_F(RuleList, TakesBackEditsAndSwitches) {
     EXPECT_TRUE(becomesNamed("Uno- Two Three Four "));
 }
 
+TEST_F(RuleList, FollowsOtherProcessesWithoutDisturbingWhoTypes) {
+    const std::vector<json> rules{rule("One"), rule("Two", "doubleTap")};
+    open(rules);
+    const auto name = program->await("text", "Name");
+    program->click(name);
+    Program::press("ctrl+a");
+    Program::type("Mine");
+    EXPECT_TRUE(becomesNamed("Mine Two "));
+    std::vector<json> changed{rules[1], rules[0], rule("New", "tripleTap")};
+    changed[1]["name"] = "Theirs";
+    import(changed);
+    program->await("list item", "New");
+    EXPECT_EQ(program->text(name), "Mine");
+    Program::type("!");
+    EXPECT_TRUE(becomesNamed("Two Mine! New "));
+
+    import({changed[0]});
+    EXPECT_TRUE(program->awaitGone("text", "Name"));
+    program->await("push button", "Try a gesture");
+    EXPECT_EQ(names(), "Two ");
+}
+
+TEST_F(RuleList, KeepsEveryLetterWhenItIsKilled) {
+    open({rule("One")});
+    program->click("text", "Name");
+    Program::press("ctrl+a");
+    Program::type("Typed to the end");
+    program->await("list item", "Typed to the end");
+    EXPECT_EQ(kill(processOf(), SIGKILL), 0);
+    application->waitForEnd();
+    EXPECT_EQ(names(), "Typed to the end ");
+}
+
 }  // namespace
 }  // namespace kinesta::testing
