@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>With this keyboard layout no shortcut can press this key. Press another one.</source>
-        <translation>Mit dieser Tastaturbelegung kann kein Kurzbefehl diese Taste drücken. Eine andere drücken.</translation>
+        <translation>Mit dieser Tastaturbelegung kann keine Tastenkombination diese Taste drücken. Eine andere drücken.</translation>
     </message>
     <message>
         <source>The login item starts a program that is no longer there. Switch it on again.</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>Your keyboard layout has no letter %1 where the shortcut would press it: as from the keyboard itself, programs do not take it.</source>
-        <translation>Die Tastaturbelegung hat dort, wo der Kurzbefehl ihn drücken würde, keinen Buchstaben %1: Wie von der Tastatur selbst nehmen Programme ihn nicht an.</translation>
+        <translation>Die Tastaturbelegung hat dort, wo die Tastenkombination ihn drücken würde, keinen Buchstaben %1: Wie von der Tastatur selbst nehmen Programme ihn nicht an.</translation>
     </message>
     <message>
         <source>Add a layout with Latin letters, such as us, to those that you switch between.</source>

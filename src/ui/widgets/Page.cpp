@@ -51,7 +51,22 @@ void Page::addHeading(const QString& text, QWidget* atEnd) {
     add(heading);
 }
 
-void Page::setBackButton(QWidget* button) { m_column->insertWidget(0, button, 0, Qt::AlignLeading); }
+void Page::setBackButton(QWidget* button) {
+    m_belowBack = new QSpacerItem(0, 0);
+    m_column->insertWidget(0, button, 0, Qt::AlignLeading);
+    m_column->insertItem(1, m_belowBack);
+    button->installEventFilter(this);
+}
+
+bool Page::eventFilter(QObject* watched, QEvent* event) {
+    // The gap comes and goes with the button.
+    if (m_belowBack != nullptr && (event->type() == QEvent::Show || event->type() == QEvent::Hide) &&
+        watched == m_column->itemAt(0)->widget()) {
+        m_belowBack->changeSize(0, event->type() == QEvent::Show ? Unit::of(kBelowHeading) : 0);
+        m_column->invalidate();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
 
 void Page::changeEvent(QEvent* event) {
     QScrollArea::changeEvent(event);

@@ -46,7 +46,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void addRule() override;
     void addRuleForLastGesture() override;
     void tryGesture() override;
-    void runAction(const Uuid& rule) override;
+    void runAction(const Uuid& id) override;
     void deleteRules() override { m_list.deleteSelectedRule(); }
     void importRules() override;
     void exportRules() override;
