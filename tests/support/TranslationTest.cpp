@@ -7,7 +7,7 @@ namespace {
 
 class Translation : public ::testing::Test {
   protected:
-    ~Translation() override { setTranslator({}); }
+    void TearDown() override { setTranslator({}); }
 };
 
 std::string german(std::string_view english) {

@@ -26,7 +26,7 @@ class Marking final : public QTranslator {
 
 class TranslatedWindow : public WindowRig {
   protected:
-    ~TranslatedWindow() override {
+    void TearDown() override {
         setTranslator({});
         QLocale::setDefault(QLocale::c());
     }
