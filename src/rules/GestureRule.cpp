@@ -1,7 +1,6 @@
 #include "rules/GestureRule.h"
 
 #include "support/Text.h"
-#include "support/Translation.h"
 
 namespace kinesta {
 
@@ -9,7 +8,7 @@ const GestureRule& GestureRule::recommendedDefault() {
     static const GestureRule kRule = [] {
         GestureRule rule;
         rule.id = Uuid::random();
-        rule.name = translated("Middle click");
+        rule.name = "Middle click";
         rule.isEnabled = true;
         rule.fingerCount = 3;
         rule.gesture = GestureKind::singleTap;
