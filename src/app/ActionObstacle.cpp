@@ -5,6 +5,7 @@
 #include "actions/OpenTarget.h"
 #include "actions/WindowTilingMenuCommand.h"
 #include "rules/ShortcutKey.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -20,11 +21,11 @@ std::optional<Obstacle> obstacleToFile(const std::string& path, const char* reme
     std::error_code ignored;
     if (std::filesystem::exists(path, ignored))
         return std::nullopt;
-    return Obstacle{path + " does not exist.", remedy};
+    return Obstacle{translated("%1 does not exist.", {path}), translated(remedy)};
 }
 
 std::optional<Obstacle> obstacleToApplication(const std::string& path, Desktop& desktop) {
-    if (auto missing = obstacleToFile(path, "Choose the application again."))
+    if (auto missing = obstacleToFile(path, TRANSLATABLE("Choose the application again.")))
         return missing;
     return desktop.obstacleToLaunching(path);
 }
@@ -44,14 +45,14 @@ std::optional<Obstacle> obstacleTo(const GestureAction& action, Desktop& desktop
             return obstacleToApplication(expandingTilde(action.value, desktop.homeFolders()), desktop);
         case ActionKind::openFileOrFolder:
             return obstacleToFile(standardizedPath(expandingTilde(action.value, desktop.homeFolders())),
-                                  "Choose the file or folder again.");
+                                  TRANSLATABLE("Choose the file or folder again."));
         case ActionKind::openURL:
             if (!isWebAddress(action.value))
-                return Obstacle{action.value + " is no address of a web page, and no other is opened.",
-                                "Write the whole address, with http:// or https:// before it."};
+                return Obstacle{translated("%1 is no address of a web page, and no other is opened.", {action.value}),
+                                translated("Write the whole address, with http:// or https:// before it.")};
             break;
         case ActionKind::toggleConfigurationWindow:
-            return Obstacle{"There is no configuration window yet.", "Choose another action."};
+            return Obstacle{translated("There is no configuration window yet."), translated("Choose another action.")};
         default:
             break;
     }

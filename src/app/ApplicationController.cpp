@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 
 ApplicationController::ApplicationController(const ApplicationPorts& ports)
@@ -145,15 +147,15 @@ void ApplicationController::quit() { m_ports.termination.terminate(); }
 
 std::string ApplicationController::statusLine() const {
     if (!m_touchService)
-        return "Starting gesture recognition…";
+        return TRANSLATABLE("Starting gesture recognition…");
     if (!m_touchService->isGestureEnabled().value())
-        return "Gesture recognition is off";
+        return TRANSLATABLE("Gesture recognition is off");
     const auto& status = m_touchService->status().value();
     switch (status.kind) {
         case TrackpadContactProviderStatus::Kind::listening:
-            return "Trackpad listening";
+            return TRANSLATABLE("Trackpad listening");
         case TrackpadContactProviderStatus::Kind::stopped:
-            return "Trackpad stopped";
+            return TRANSLATABLE("Trackpad stopped");
         case TrackpadContactProviderStatus::Kind::unavailable:
             break;
     }
@@ -164,26 +166,26 @@ StatusMenu ApplicationController::menu() const {
     using Command = StatusMenuCommand;
     const bool needsApproval = m_launchAtLogin && m_launchAtLogin->requiresApproval().value();
     const StatusMenuItem separator;
-    return {{.title = "Gestures enabled",
+    return {{.title = translated("Gestures enabled"),
              .command = Command::toggleGestureRecognition,
              .isEnabled = m_touchService != nullptr,
              .isChecked = m_touchService && m_touchService->isGestureEnabled().value(),
              .isCheckable = true},
-            {.title = needsApproval ? "Launch at Login (Approval Required)" : "Launch at Login",
+            {.title = needsApproval ? translated("Launch at Login (Approval Required)") : translated("Launch at Login"),
              .command = Command::toggleLaunchAtLogin,
              .isEnabled = m_launchAtLogin != nullptr,
              .isChecked = m_launchAtLogin && m_launchAtLogin->isEnabled().value(),
              .isCheckable = true},
-            {.title = statusLine()},
+            {.title = translated(statusLine())},
             separator,
-            {.title = isWindowShown() ? "Hide Kinesta" : "Show Kinesta",
+            {.title = isWindowShown() ? translated("Hide Kinesta") : translated("Show Kinesta"),
              .command = Command::toggleConfigurationWindow,
              .isEnabled = true},
-            {.title = "Check for Updates…",
+            {.title = translated("Check for Updates…"),
              .command = Command::checkForUpdates,
              .isEnabled = m_softwareUpdateController && m_softwareUpdateController->canCheckForUpdates().value()},
             separator,
-            {.title = "Quit", .command = Command::quitApplication, .isEnabled = true}};
+            {.title = translated("Quit"), .command = Command::quitApplication, .isEnabled = true}};
 }
 
 bool ApplicationController::isWindowShown() const {
@@ -193,7 +195,8 @@ bool ApplicationController::isWindowShown() const {
 void ApplicationController::updateStatusIcon() {
     if (m_didFinishLaunching) {
         const bool isEnabled = m_touchService && m_touchService->isGestureEnabled().value();
-        m_ports.statusItem.setState(isEnabled, isEnabled ? "Kinesta, gestures enabled" : "Kinesta, gestures disabled");
+        m_ports.statusItem.setState(
+            isEnabled, isEnabled ? translated("Kinesta, gestures enabled") : translated("Kinesta, gestures disabled"));
         m_ports.statusItem.setMenu(menu());
     }
     if (onChange)

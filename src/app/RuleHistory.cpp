@@ -136,6 +136,15 @@ void RuleHistory::dropWhatCancelsOut() {
 }
 
 RuleHistory::Step RuleHistory::difference(const Rules& before, const Rules& after) {
+    // What a keystroke does, with a thousand rules too: without maps.
+    if (std::ranges::equal(before, after, {}, &GestureRule::id, &GestureRule::id)) {
+        Step step;
+        for (std::size_t i = 0; i < after.size(); ++i)
+            if (before[i] != after[i] && std::ranges::find(after, after[i].id, &GestureRule::id) ==
+                                             after.begin() + static_cast<std::ptrdiff_t>(i))
+                step.edits.push_back({before[i], after[i]});
+        return step;
+    }
     std::map<Uuid, const GestureRule*> previous;
     for (const GestureRule& rule : before)
         previous.emplace(rule.id, &rule);
@@ -158,11 +167,11 @@ RuleHistory::Step RuleHistory::difference(const Rules& before, const Rules& afte
 }
 
 RuleHistory::Step RuleHistory::changeOf(const std::function<void()>& change) {
-    const Rules before = m_known;
+    m_beforeOwnChange.reset();
     m_isOwnChange = true;
     change();
     m_isOwnChange = false;
-    return difference(before, m_known);
+    return m_beforeOwnChange ? difference(*std::exchange(m_beforeOwnChange, {}), m_known) : Step();
 }
 
 void RuleHistory::keep(Step step) {
@@ -176,9 +185,12 @@ void RuleHistory::keep(Step step) {
 }
 
 void RuleHistory::follow(const Rules& rules) {
-    const Rules before = std::exchange(m_known, rules);
-    if (m_isOwnChange)
+    Rules before = std::exchange(m_known, rules);
+    if (m_isOwnChange) {
+        if (!m_beforeOwnChange)
+            m_beforeOwnChange = std::move(before);
         return;
+    }
     endTyping();
     if (before != rules)
         for (auto* steps : {&m_done, &m_undone})

@@ -102,6 +102,7 @@ class RuleHistory {
     const Clock& m_clock;
     Rules m_known;
     bool m_isOwnChange = false;
+    std::optional<Rules> m_beforeOwnChange;
     std::vector<Step> m_done;
     std::vector<Step> m_undone;
     std::optional<Typing> m_typing;

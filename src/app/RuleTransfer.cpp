@@ -10,6 +10,7 @@
 
 #include "app/OutputFile.h"
 #include "rules/GestureRuleCoding.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -80,7 +81,8 @@ Result<std::vector<GestureRule>> readRuleFile(const std::string& file, std::istr
 std::optional<std::string> problemOfStoredRules(const RuleStore& store) {
     if (store.problem().empty())
         return std::nullopt;
-    return "The stored rules cannot be read: " + store.problem() + ". They are kept; correct them, or import others.";
+    return translated("The stored rules cannot be read: %1. They are kept; correct them, or import others.",
+                      {store.problem()});
 }
 
 std::string ruleFileText(const RuleStore& store) {

@@ -12,13 +12,13 @@
 #include "rules/GestureDescription.h"
 #include "rules/ShellCommandSettings.h"
 #include "rules/ShortcutKey.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-constexpr const char* kAllowReading =
-    "Run this once in a terminal. It opens the touchpad, and nothing else, to whoever sits at this computer.";
-constexpr const char* kReadWhileOff = " Kinesta also reads it while this desktop has it switched off.";
+constexpr const char* kAllowReading = TRANSLATABLE(
+    "Run this once in a terminal. It opens the touchpad, and nothing else, to whoever sits at this computer.");
 
 bool needs(const GestureAction& action, DesktopCapability capability) {
     switch (action.kind) {
@@ -53,7 +53,7 @@ std::size_t countEnabled(const Rules& rules, const std::function<bool(const Gest
 
 SystemFinding obstacleTo(const GestureRule& rule, std::string why, std::string remedy) {
     return {.subject = FindingSubject::rule,
-            .what = "Rule “" + describeTrigger(rule) + "  →  " + describeConsequence(rule) + "”",
+            .what = translated("Rule “%1”", {describeTrigger(rule) + "  →  " + describeConsequence(rule)}),
             .works = false,
             .why = std::move(why),
             .remedy = std::move(remedy),
@@ -62,7 +62,8 @@ SystemFinding obstacleTo(const GestureRule& rule, std::string why, std::string r
 }
 
 SystemFinding findingAbout(const ConnectedTrackpads& trackpads) {
-    SystemFinding finding{.subject = FindingSubject::touchpad, .what = "Touchpad", .works = false, .why = {}};
+    SystemFinding finding{
+        .subject = FindingSubject::touchpad, .what = translated("Touchpad"), .works = false, .why = {}};
     const ConnectedTrackpad* chosen = trackpads.chosen();
     if (chosen == nullptr) {
         finding.why = trackpads.whenNoneIsChosen.why;
@@ -71,10 +72,13 @@ SystemFinding findingAbout(const ConnectedTrackpads& trackpads) {
         return finding;
     }
     finding.works = chosen->problem.empty();
-    finding.why = finding.works ? chosen->name + " at " + chosen->path + "." + (chosen->mayBeOff ? kReadWhileOff : "")
-                                : chosen->problem;
+    finding.why = !finding.works ? chosen->problem
+                  : chosen->mayBeOff
+                      ? translated("%1 at %2. Kinesta also reads it while this desktop has it switched off.",
+                                   {chosen->name, chosen->path})
+                      : translated("%1 at %2.", {chosen->name, chosen->path});
     if (!chosen->command.empty()) {
-        finding.remedy = kAllowReading;
+        finding.remedy = translated(kAllowReading);
         finding.command = chosen->command;
     }
     if (!chosen->isBuiltIn)
@@ -107,34 +111,35 @@ void addTrackpad(std::vector<SystemFinding>& findings, const Rules& rules, Deskt
     findings.push_back(findingAbout(trackpads));
     findings.back().rulesInNeed = enabled;
     if (!storedGestureEnabled(desktop.defaults()))
-        findings.push_back(
-            {.subject = FindingSubject::gestureRecognition,
-             .what = "Gesture recognition",
-             .works = false,
-             .why = "It is switched off in the settings.",
-             .remedy = "To switch it on " + desktop.howToSet(MultitouchService::enabledStorageKey, "true"),
-             .isSetting = true,
-             .rulesInNeed = enabled});
+        findings.push_back({.subject = FindingSubject::gestureRecognition,
+                            .what = translated("Gesture recognition"),
+                            .works = false,
+                            .why = translated("It is switched off in the settings."),
+                            .remedy = translated("To switch it on %1",
+                                                 {desktop.howToSet(MultitouchService::enabledStorageKey, "true")}),
+                            .isSetting = true,
+                            .rulesInNeed = enabled});
     const bool isRead = chosen != nullptr && chosen->axes;
     const bool canTellPressure = isRead && chosen->canTellPressure;
-    findings.push_back(
-        {.subject = FindingSubject::forceClick,
-         .what = "Force Click",
-         .works = canTellPressure,
-         .why = !isRead           ? "Not known while no touchpad can be read."
-                : canTellPressure ? "The touchpad reports pressure."
-                                  : "Impossible: the touchpad cannot tell pressure.",
-         .remedy = canTellPressure || !isRead ? "" : "Bind those rules to a physical click of any pressure.",
-         .rulesInNeed = countEnabled(rules, [](const GestureRule& rule) {
-             return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
-         })});
+    findings.push_back({.subject = FindingSubject::forceClick,
+                        .what = translated("Force Click"),
+                        .works = canTellPressure,
+                        .why = !isRead           ? translated("Not known while no touchpad can be read.")
+                               : canTellPressure ? translated("The touchpad reports pressure.")
+                                                 : translated("Impossible: the touchpad cannot tell pressure."),
+                        .remedy = canTellPressure || !isRead
+                                      ? std::string()
+                                      : translated("Bind those rules to a physical click of any pressure."),
+                        .rulesInNeed = countEnabled(rules, [](const GestureRule& rule) {
+                            return physicalClickPressure(rule.gesture) == PhysicalClickPressure::force;
+                        })});
     if (!isRead || chosen->fingers == 0)
         return;
     for (const GestureRule& rule : rules)
         if (rule.isEnabled && usesFingerCount(rule.gesture) && rule.fingerCount.value_or(0) > chosen->fingers)
             findings.push_back(obstacleTo(
-                rule, "The touchpad reports at most " + std::to_string(chosen->fingers) + " fingers at once.",
-                "Choose a gesture with fewer fingers."));
+                rule, translated("The touchpad reports at most %1 fingers at once.", {std::to_string(chosen->fingers)}),
+                translated("Choose a gesture with fewer fingers.")));
 }
 
 void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
@@ -155,12 +160,12 @@ void addSession(std::vector<SystemFinding>& findings, const Rules& rules, Deskto
 void addShellCommands(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {
     const bool isOn = ShellCommandSettings::isEnabled(desktop.defaults());
     findings.push_back({.subject = FindingSubject::shellCommands,
-                        .what = "Shell commands",
+                        .what = translated("Shell commands"),
                         .works = isOn,
-                        .why = isOn ? "Switched on." : "Switched off, as they are at first.",
-                        .remedy = isOn ? ""
-                                       : "If you trust every rule that runs one: " +
-                                             desktop.howToSet(ShellCommandSettings::enabledKey, "true"),
+                        .why = isOn ? translated("Switched on.") : translated("Switched off, as they are at first."),
+                        .remedy = isOn ? std::string()
+                                       : translated("If you trust every rule that runs one: %1",
+                                                    {desktop.howToSet(ShellCommandSettings::enabledKey, "true")}),
                         .isSetting = !isOn,
                         .rulesInNeed = countEnabled(rules, [](const GestureRule& rule) {
                             return rule.action.kind == ActionKind::shellCommand;
@@ -173,15 +178,17 @@ std::optional<Obstacle> obstacleToLetter(const GestureAction& action, Desktop& d
     const std::string name = ShortcutKey::nameFor(*action.keyCode);
     if (desktop.typesLetterOf(*action.keyCode, name))
         return std::nullopt;
-    return Obstacle{"Your keyboard layout has no letter " + name +
-                        " where the shortcut would press it: as from the keyboard itself, programs do not take it.",
-                    "Add a layout with Latin letters, such as us, to those that you switch between."};
+    return Obstacle{translated("Your keyboard layout has no letter %1 where the shortcut would press it: as from the "
+                               "keyboard itself, programs do not take it.",
+                               {name}),
+                    translated("Add a layout with Latin letters, such as us, to those that you switch between.")};
 }
 
 std::optional<Obstacle> obstacleToWindow(Desktop& desktop) {
     if (desktop.runningApplication().report())
         return std::nullopt;
-    return Obstacle{"Only the application has a window, and it does not run.", "Start Kinesta without a subcommand."};
+    return Obstacle{translated("Only the application has a window, and it does not run."),
+                    translated("Start Kinesta without a subcommand.")};
 }
 
 void addObstacles(std::vector<SystemFinding>& findings, const Rules& rules, Desktop& desktop) {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "cli/commands/Commands.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -143,8 +144,12 @@ class Parser {
         recording->add_option("--device", m_device, "The touchpad to record, by path or name");
         addJson(command(m_app, "devices", "Show the touchpads of this machine",
                         [this] { return listDevices(m_console, m_desktop, form()); }));
-        addJson(command(m_app, "doctor", "Tell what works on this machine, and what to do about the rest",
-                        [this] { return doctor(m_console, m_desktop, form()); }));
+        CLI::App* doctorCommand =
+            command(m_app, "doctor", "Tell what works on this machine, and what to do about the rest",
+                    [this] { return doctor(m_console, m_desktop, form()); });
+        addJson(doctorCommand);
+        // For the window, which shows the findings in the person's language.
+        doctorCommand->add_flag_callback("--marked-texts", markTexts)->group("");
         command(m_app, "perform", "Run the action of one stored rule now",
                 [this] { return perform(m_console, m_desktop, m_input); })
             ->add_option("RULE", m_input, "The rule's name or id")

@@ -4,6 +4,7 @@
 
 #include "rules/ActionTarget.h"
 #include "support/Text.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -12,29 +13,29 @@ std::string labelOf(const GestureAction& action, std::int64_t adjustmentSteps) {
     const std::string_view value = trimmed(action.value);
     switch (action.kind) {
         case ActionKind::unconfigured:
-            return "No action";
+            return translated("No action");
         case ActionKind::keyboardShortcut:
-            return action.keyboardCueLabel().value_or("Keyboard shortcut");
+            return action.keyboardCueLabel().value_or(translated("Keyboard shortcut"));
         case ActionKind::middleClick:
-            return "Middle click";
+            return translated("Middle click");
         case ActionKind::closeWindow:
-            return "Close window";
+            return translated("Close window");
         case ActionKind::openURL:
-            return value.empty() ? "Address" : std::string(hostOf(value));
+            return value.empty() ? translated("Address") : std::string(hostOf(value));
         case ActionKind::openFileOrFolder:
-            return value.empty() ? "File or folder" : std::string(lastPart(value));
+            return value.empty() ? translated("File or folder") : std::string(lastPart(value));
         case ActionKind::launchApplication:
-            return value.empty() ? "Application" : std::string(applicationName(value));
+            return value.empty() ? translated("Application") : std::string(applicationName(value));
         case ActionKind::shellCommand:
-            return "Command";
+            return translated("Command");
         case ActionKind::toggleConfigurationWindow:
-            return "Show or hide Kinesta";
+            return translated("Show or hide Kinesta");
         case ActionKind::disableAllRules:
-            return "All rules disabled";
+            return translated("All rules disabled");
         case ActionKind::adjustVolume:
             if (adjustmentSteps == 0)
-                return "Volume";
-            return adjustmentSteps > 0 ? "Volume up" : "Volume down";
+                return translated("Volume");
+            return adjustmentSteps > 0 ? translated("Volume up") : translated("Volume down");
     }
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include "feedback/ActionCuePlacement.h"
 #include "feedback/ActionCueSettings.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 
@@ -16,7 +17,7 @@ void ActionCuePresenter::show(const GestureAction& action, std::int64_t adjustme
         present(ActionCueContent::of(action, adjustmentSteps, message));
 }
 
-void ActionCuePresenter::preview() { present({"Action cue", ActionKind::middleClick}); }
+void ActionCuePresenter::preview() { present({translated("Action cue"), ActionKind::middleClick}); }
 
 void ActionCuePresenter::present(const ActionCueContent& content) {
     m_dismissal.cancel();

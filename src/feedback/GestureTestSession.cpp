@@ -4,7 +4,8 @@
 #include <limits>
 #include <utility>
 
-#include "support/Text.h"
+#include "rules/GestureDescription.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 
@@ -23,17 +24,14 @@ void GestureTestSession::end() {
 bool GestureTestSession::interceptTap(std::int64_t fingerCount, GestureKind gesture) {
     if (!m_isActive.value())
         return false;
-    const std::string_view name = title(gesture);
-    recordDiscrete(usesFingerCount(gesture) ? std::to_string(fingerCount) + "-finger " + lowerCased(name)
-                                            : std::string(name));
+    recordDiscrete(usesFingerCount(gesture) ? describe(DetectedTap{fingerCount, gesture}) : translated(title(gesture)));
     return true;
 }
 
 bool GestureTestSession::interceptEdgeSlide(std::int64_t fingerCount, EdgeSlideSide side, std::int64_t steps) {
     if (!m_isActive.value())
         return false;
-    m_lastDetection.set(std::to_string(fingerCount) + "-finger " + lowerCased(title(side)) + " edge slide " +
-                        (steps > 0 ? "up" : "down"));
+    m_lastDetection.set(describe(DetectedEdgeSlide{fingerCount, side, steps}));
     m_consecutiveDetectionCount.set(0);
     m_isContinuousDetection.set(true);
     return true;
@@ -42,7 +40,7 @@ bool GestureTestSession::interceptEdgeSlide(std::int64_t fingerCount, EdgeSlideS
 bool GestureTestSession::interceptAnchorDraw(AnchorCorner corner, DrawPattern pattern) {
     if (!m_isActive.value())
         return false;
-    recordDiscrete(std::string(title(corner)) + " · " + std::string(title(pattern)));
+    recordDiscrete(translated(title(corner)) + " · " + translated(title(pattern)));
     return true;
 }
 

@@ -7,6 +7,7 @@
 
 #include "recognition/StoredRecognitionSettings.h"
 #include "rules/GestureDescription.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -260,7 +261,7 @@ void MultitouchService::recognizePhysicalClick(const PhysicalClickSequence& sequ
 
 void MultitouchService::showGestureFeedback(const DetectedGesture& gesture) {
     m_gestureFeedbackTimer.cancel();
-    m_lastGesture.set("Detected " + describe(gesture));
+    m_lastGesture.set(translated("Detected %1", {describe(gesture)}));
     m_gestureCountdown.set(kFeedbackSeconds);
     m_gestureFeedbackExpiresAt = m_clock.wallClock() + kFeedbackSeconds;
     m_gestureFeedbackTickAt = m_clock.uptime();

@@ -3,11 +3,12 @@
 #include "rules/CommonMacShortcut.h"
 #include "rules/ShortcutKey.h"
 #include "support/Text.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-constexpr std::string_view kNotConfigured = "Not configured";
+constexpr std::string_view kNotConfigured = TRANSLATABLE("Not configured");
 
 }  // namespace
 
@@ -36,25 +37,25 @@ bool GestureAction::isConfigured() const {
 std::string GestureAction::summary() const {
     switch (kind) {
         case ActionKind::unconfigured:
-            return "No action";
+            return translated("No action");
         case ActionKind::keyboardShortcut:
-            return keyCode ? ShortcutKey::label(*keyCode, modifiers) : std::string(kNotConfigured);
+            return keyCode ? ShortcutKey::label(*keyCode, modifiers) : translated(kNotConfigured);
         case ActionKind::middleClick:
-            return "Middle click";
+            return translated("Middle click");
         case ActionKind::closeWindow:
-            return "Close window";
+            return translated("Close window");
         case ActionKind::openURL:
         case ActionKind::openFileOrFolder:
         case ActionKind::launchApplication:
         case ActionKind::shellCommand:
             // Not trimmed: shows what was typed, even blanks, which do not configure the action.
-            return value.empty() ? std::string(kNotConfigured) : value;
+            return value.empty() ? translated(kNotConfigured) : value;
         case ActionKind::toggleConfigurationWindow:
-            return "Show or hide Kinesta";
+            return translated("Show or hide Kinesta");
         case ActionKind::disableAllRules:
-            return "Disable every rule";
+            return translated("Disable every rule");
         case ActionKind::adjustVolume:
-            return "Slide up/down to adjust volume";
+            return translated("Slide up/down to adjust volume");
     }
     return {};
 }
@@ -76,7 +77,7 @@ std::optional<std::string> GestureAction::keyboardCueLabel() const {
     if (kind != ActionKind::keyboardShortcut || !keyCode)
         return std::nullopt;
     if (const auto title = CommonMacShortcut::actionTitle(*keyCode, modifiers))
-        return std::string(*title);
+        return translated(*title);
     if (auto label = resolvedCustomCueLabel())
         return label;
     return ShortcutKey::label(*keyCode, modifiers);

@@ -58,4 +58,13 @@ std::set<Uuid> GestureConflictChecker::conflictingRuleIDs(std::span<const Gestur
     return ids;
 }
 
+bool GestureConflictChecker::areRivals(const GestureRule& a, const GestureRule& b) {
+    if (!isChecked(a) || !isChecked(b) || group(a) != group(b))
+        return false;
+    Counts counts{};
+    ++counts[static_cast<std::size_t>(share(a))];
+    ++counts[static_cast<std::size_t>(share(b))];
+    return hasRival(counts, share(a));
+}
+
 }  // namespace kinesta

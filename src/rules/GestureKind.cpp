@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -54,27 +56,27 @@ std::span<const EnumRow<GestureKind>> enumTable() {
     using enum GestureKind;
     // The single tip-taps have no "single" in the raw value. Stored rules contain these strings, so they stay.
     static constexpr std::array<EnumRow<GestureKind>, 21> kTable{{
-        {unconfigured, "unconfigured", "Choose a gesture…"},
-        {singleTap, "singleTap", "Single tap"},
-        {doubleTap, "doubleTap", "Double tap"},
-        {tripleTap, "tripleTap", "Triple tap"},
-        {singleClick, "singleClick", "Single physical click (any pressure)"},
-        {singleSoftClick, "singleSoftClick", "Single soft click (stage 1)"},
-        {singleForceClick, "singleForceClick", "Single Force Click (stage 2)"},
-        {doubleClick, "doubleClick", "Double physical click (any pressure)"},
-        {doubleSoftClick, "doubleSoftClick", "Double soft click (stage 1)"},
-        {doubleForceClick, "doubleForceClick", "Double Force Click (stage 2)"},
-        {tripleClick, "tripleClick", "Triple physical click (any pressure)"},
-        {tripleSoftClick, "tripleSoftClick", "Triple soft click (stage 1)"},
-        {tripleForceClick, "tripleForceClick", "Triple Force Click (stage 2)"},
-        {tipTapLeft, "tipTapLeft", "Single tip-tap left"},
-        {doubleTipTapLeft, "doubleTipTapLeft", "Double tip-tap left"},
-        {tripleTipTapLeft, "tripleTipTapLeft", "Triple tip-tap left"},
-        {tipTapRight, "tipTapRight", "Single tip-tap right"},
-        {doubleTipTapRight, "doubleTipTapRight", "Double tip-tap right"},
-        {tripleTipTapRight, "tripleTipTapRight", "Triple tip-tap right"},
-        {edgeSlide, "edgeSlide", "Vertical edge slide"},
-        {anchorDraw, "anchorDraw", "Corner hold and draw"},
+        {unconfigured, "unconfigured", TRANSLATABLE("Choose a gesture…")},
+        {singleTap, "singleTap", TRANSLATABLE("Single tap")},
+        {doubleTap, "doubleTap", TRANSLATABLE("Double tap")},
+        {tripleTap, "tripleTap", TRANSLATABLE("Triple tap")},
+        {singleClick, "singleClick", TRANSLATABLE("Single physical click (any pressure)")},
+        {singleSoftClick, "singleSoftClick", TRANSLATABLE("Single soft click (stage 1)")},
+        {singleForceClick, "singleForceClick", TRANSLATABLE("Single Force Click (stage 2)")},
+        {doubleClick, "doubleClick", TRANSLATABLE("Double physical click (any pressure)")},
+        {doubleSoftClick, "doubleSoftClick", TRANSLATABLE("Double soft click (stage 1)")},
+        {doubleForceClick, "doubleForceClick", TRANSLATABLE("Double Force Click (stage 2)")},
+        {tripleClick, "tripleClick", TRANSLATABLE("Triple physical click (any pressure)")},
+        {tripleSoftClick, "tripleSoftClick", TRANSLATABLE("Triple soft click (stage 1)")},
+        {tripleForceClick, "tripleForceClick", TRANSLATABLE("Triple Force Click (stage 2)")},
+        {tipTapLeft, "tipTapLeft", TRANSLATABLE("Single tip-tap left")},
+        {doubleTipTapLeft, "doubleTipTapLeft", TRANSLATABLE("Double tip-tap left")},
+        {tripleTipTapLeft, "tripleTipTapLeft", TRANSLATABLE("Triple tip-tap left")},
+        {tipTapRight, "tipTapRight", TRANSLATABLE("Single tip-tap right")},
+        {doubleTipTapRight, "doubleTipTapRight", TRANSLATABLE("Double tip-tap right")},
+        {tripleTipTapRight, "tripleTipTapRight", TRANSLATABLE("Triple tip-tap right")},
+        {edgeSlide, "edgeSlide", TRANSLATABLE("Vertical edge slide")},
+        {anchorDraw, "anchorDraw", TRANSLATABLE("Corner hold and draw")},
     }};
     return kTable;
 }

@@ -2,14 +2,16 @@
 
 #include <array>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 
 template <>
 std::span<const EnumRow<PhysicalClickPressure>> enumTable() {
     using enum PhysicalClickPressure;
     static constexpr std::array<EnumRow<PhysicalClickPressure>, 2> kTable{{
-        {soft, "soft", "Soft click (stage 1)"},
-        {force, "force", "Force Click (stage 2)"},
+        {soft, "soft", TRANSLATABLE("Soft click (stage 1)")},
+        {force, "force", TRANSLATABLE("Force Click (stage 2)")},
     }};
     return kTable;
 }
@@ -18,8 +20,8 @@ template <>
 std::span<const EnumRow<TipTapDirection>> enumTable() {
     using enum TipTapDirection;
     static constexpr std::array<EnumRow<TipTapDirection>, 2> kTable{{
-        {left, "left", "Left"},
-        {right, "right", "Right"},
+        {left, "left", TRANSLATABLE("Left")},
+        {right, "right", TRANSLATABLE("Right")},
     }};
     return kTable;
 }
@@ -28,9 +30,9 @@ template <>
 std::span<const EnumRow<EdgeSlideSide>> enumTable() {
     using enum EdgeSlideSide;
     static constexpr std::array<EnumRow<EdgeSlideSide>, 3> kTable{{
-        {left, "left", "Left"},
-        {right, "right", "Right"},
-        {both, "both", "Both"},
+        {left, "left", TRANSLATABLE("Left")},
+        {right, "right", TRANSLATABLE("Right")},
+        {both, "both", TRANSLATABLE("Both")},
     }};
     return kTable;
 }
@@ -39,10 +41,10 @@ template <>
 std::span<const EnumRow<AnchorCorner>> enumTable() {
     using enum AnchorCorner;
     static constexpr std::array<EnumRow<AnchorCorner>, 4> kTable{{
-        {topLeft, "topLeft", "Top left"},
-        {topRight, "topRight", "Top right"},
-        {bottomLeft, "bottomLeft", "Bottom left"},
-        {bottomRight, "bottomRight", "Bottom right"},
+        {topLeft, "topLeft", TRANSLATABLE("Top left")},
+        {topRight, "topRight", TRANSLATABLE("Top right")},
+        {bottomLeft, "bottomLeft", TRANSLATABLE("Bottom left")},
+        {bottomRight, "bottomRight", TRANSLATABLE("Bottom right")},
     }};
     return kTable;
 }
@@ -51,15 +53,15 @@ template <>
 std::span<const EnumRow<DrawPattern>> enumTable() {
     using enum DrawPattern;
     static constexpr std::array<EnumRow<DrawPattern>, 9> kTable{{
-        {lineUp, "lineUp", "Line up"},
-        {lineDown, "lineDown", "Line down"},
-        {lineLeft, "lineLeft", "Line left"},
-        {lineRight, "lineRight", "Line right"},
-        {lShape, "lShape", "L — down, then right"},
-        {vShape, "vShape", "V — left to right"},
-        {zigzag, "zigzag", "Zigzag — left to right"},
-        {circleClockwise, "circleClockwise", "Clockwise circle"},
-        {circleCounterclockwise, "circleCounterclockwise", "Counterclockwise circle"},
+        {lineUp, "lineUp", TRANSLATABLE("Line up")},
+        {lineDown, "lineDown", TRANSLATABLE("Line down")},
+        {lineLeft, "lineLeft", TRANSLATABLE("Line left")},
+        {lineRight, "lineRight", TRANSLATABLE("Line right")},
+        {lShape, "lShape", TRANSLATABLE("L — down, then right")},
+        {vShape, "vShape", TRANSLATABLE("V — left to right")},
+        {zigzag, "zigzag", TRANSLATABLE("Zigzag — left to right")},
+        {circleClockwise, "circleClockwise", TRANSLATABLE("Clockwise circle")},
+        {circleCounterclockwise, "circleCounterclockwise", TRANSLATABLE("Counterclockwise circle")},
     }};
     return kTable;
 }

@@ -2,21 +2,23 @@
 
 #include <array>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 
 template <>
 std::span<const EnumRow<GestureTypeChoice>> enumTable() {
     using enum GestureTypeChoice;
     static constexpr std::array<EnumRow<GestureTypeChoice>, 9> kTable{{
-        {unconfigured, "unconfigured", "Choose a type…"},
-        {tap, "tap", "Tap"},
-        {physicalClick, "physicalClick", "Physical click (any pressure)"},
-        {softClick, "softClick", "Soft click (stage 1)"},
-        {forceClick, "forceClick", "Force Click (stage 2)"},
-        {tipTapLeft, "tipTapLeft", "Tip-tap left"},
-        {tipTapRight, "tipTapRight", "Tip-tap right"},
-        {edgeSlide, "edgeSlide", "Vertical edge slide"},
-        {anchorDraw, "anchorDraw", "Corner hold and draw (prototype)"},
+        {unconfigured, "unconfigured", TRANSLATABLE("Choose a type…")},
+        {tap, "tap", TRANSLATABLE("Tap")},
+        {physicalClick, "physicalClick", TRANSLATABLE("Physical click (any pressure)")},
+        {softClick, "softClick", TRANSLATABLE("Soft click (stage 1)")},
+        {forceClick, "forceClick", TRANSLATABLE("Force Click (stage 2)")},
+        {tipTapLeft, "tipTapLeft", TRANSLATABLE("Tip-tap left")},
+        {tipTapRight, "tipTapRight", TRANSLATABLE("Tip-tap right")},
+        {edgeSlide, "edgeSlide", TRANSLATABLE("Vertical edge slide")},
+        {anchorDraw, "anchorDraw", TRANSLATABLE("Corner hold and draw (prototype)")},
     }};
     return kTable;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -31,14 +33,58 @@ std::span<const ShortcutKey> ShortcutKey::choices() {
     // Deliberately without period, semicolon, apostrophe and backslash: unnamed keys are posted by their code in every
     // keyboard layout.
     static constexpr std::array<ShortcutKey, 52> kChoices{{
-        {"A", 0},       {"S", 1},       {"D", 2},    {"F", 3},      {"H", 4},       {"G", 5},       {"Z", 6},
-        {"X", 7},       {"C", 8},       {"V", 9},    {"B", 11},     {"Q", 12},      {"W", 13},      {"E", 14},
-        {"R", 15},      {"Y", 16},      {"T", 17},   {"1", 18},     {"2", 19},      {"3", 20},      {"4", 21},
-        {"6", 22},      {"5", 23},      {"=", 24},   {"9", 25},     {"7", 26},      {"-", 27},      {"8", 28},
-        {"0", 29},      {"O", 31},      {"U", 32},   {"I", 34},     {"P", 35},      {"L", 37},      {"J", 38},
-        {"K", 40},      {"N", 45},      {"M", 46},   {"[", 33},     {"]", 30},      {",", 43},      {"/", 44},
-        {"`", 50},      {"Return", 36}, {"Tab", 48}, {"Space", 49}, {"Delete", 51}, {"Escape", 53}, {"Left", 123},
-        {"Right", 124}, {"Down", 125},  {"Up", 126},
+        {"A", 0},
+        {"S", 1},
+        {"D", 2},
+        {"F", 3},
+        {"H", 4},
+        {"G", 5},
+        {"Z", 6},
+        {"X", 7},
+        {"C", 8},
+        {"V", 9},
+        {"B", 11},
+        {"Q", 12},
+        {"W", 13},
+        {"E", 14},
+        {"R", 15},
+        {"Y", 16},
+        {"T", 17},
+        {"1", 18},
+        {"2", 19},
+        {"3", 20},
+        {"4", 21},
+        {"6", 22},
+        {"5", 23},
+        {"=", 24},
+        {"9", 25},
+        {"7", 26},
+        {"-", 27},
+        {"8", 28},
+        {"0", 29},
+        {"O", 31},
+        {"U", 32},
+        {"I", 34},
+        {"P", 35},
+        {"L", 37},
+        {"J", 38},
+        {"K", 40},
+        {"N", 45},
+        {"M", 46},
+        {"[", 33},
+        {"]", 30},
+        {",", 43},
+        {"/", 44},
+        {"`", 50},
+        {TRANSLATABLE("Return"), 36},
+        {TRANSLATABLE("Tab"), 48},
+        {TRANSLATABLE("Space"), 49},
+        {TRANSLATABLE("Delete"), 51},
+        {TRANSLATABLE("Escape"), 53},
+        {TRANSLATABLE("Left"), 123},
+        {TRANSLATABLE("Right"), 124},
+        {TRANSLATABLE("Down"), 125},
+        {TRANSLATABLE("Up"), 126},
     }};
     return kChoices;
 }
@@ -49,12 +95,18 @@ std::string ShortcutKey::nameFor(std::uint16_t keyCode) {
     return key == keys.end() ? "Key " + std::to_string(keyCode) : std::string(key->name);
 }
 
+std::string ShortcutKey::shownName(std::uint16_t keyCode) {
+    const auto keys = choices();
+    const auto key = std::ranges::find(keys, keyCode, &ShortcutKey::keyCode);
+    return key == keys.end() ? translated("Key %1", {std::to_string(keyCode)}) : translated(key->name);
+}
+
 std::string ShortcutKey::label(std::uint16_t keyCode, ShortcutModifiers modifiers) {
     std::string text;
     for (const Modifier& modifier : kModifiers)
         if (modifiers.contains(modifier.member))
             text += modifier.symbol;
-    return text + nameFor(keyCode);
+    return text + shownName(keyCode);
 }
 
 std::uint64_t ShortcutKey::eventFlags(std::uint16_t keyCode, ShortcutModifiers modifiers) {

@@ -20,6 +20,9 @@ struct ShortcutKey {
     /// The name of a key code, or "Key " and the code in decimal if it has no name.
     static std::string nameFor(std::uint16_t keyCode);
 
+    /// The name in the person's language.
+    static std::string shownName(std::uint16_t keyCode);
+
     /// The text shown to the user: the modifiers in the order "fn ", ⌃, ⌥, ⇧, ⌘, then the name of the key.
     static std::string label(std::uint16_t keyCode, ShortcutModifiers modifiers);
 

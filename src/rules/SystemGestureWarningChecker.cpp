@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -13,39 +15,47 @@ bool isTap(GestureKind kind) {
 
 Warning warningOnMacOS(const GestureRule& rule) {
     if (rule.gesture == GestureKind::anchorDraw)
-        return SystemGestureWarning{"May also trigger macOS gestures",
-                                    "The drawing finger creates two-finger movement. macOS may scroll or zoom the app "
-                                    "beneath the pointer while Kinesta records the pattern."};
+        return SystemGestureWarning{
+            TRANSLATABLE("May also trigger macOS gestures"),
+            TRANSLATABLE("The drawing finger creates two-finger movement. macOS may scroll or zoom the app "
+                         "beneath the pointer while Kinesta records the pattern.")};
     if (rule.fingerCount == 3 && isTap(rule.gesture))
-        return SystemGestureWarning{"May conflict with Look Up & Data Detectors",
-                                    "macOS can use a three-finger tap to look up words and detect data. Change it in "
-                                    "System Settings → Trackpad → Point & Click."};
+        return SystemGestureWarning{
+            TRANSLATABLE("May conflict with Look Up & Data Detectors"),
+            TRANSLATABLE("macOS can use a three-finger tap to look up words and detect data. Change it in "
+                         "System Settings → Trackpad → Point & Click.")};
     if (rule.fingerCount != 2)
         return std::nullopt;
     if (rule.gesture == GestureKind::singleTap)
-        return SystemGestureWarning{"May conflict with Secondary Click",
-                                    "macOS can use a two-finger tap for Secondary Click. Change it in System Settings "
-                                    "→ Trackpad → Point & Click."};
+        return SystemGestureWarning{
+            TRANSLATABLE("May conflict with Secondary Click"),
+            TRANSLATABLE("macOS can use a two-finger tap for Secondary Click. Change it in System Settings "
+                         "→ Trackpad → Point & Click.")};
     if (isTap(rule.gesture))
-        return SystemGestureWarning{"May conflict with Smart Zoom",
-                                    "macOS can use a two-finger double tap for Smart Zoom. Change it in System "
-                                    "Settings → Trackpad → Scroll & Zoom."};
+        return SystemGestureWarning{
+            TRANSLATABLE("May conflict with Smart Zoom"),
+            TRANSLATABLE("macOS can use a two-finger double tap for Smart Zoom. Change it in System "
+                         "Settings → Trackpad → Scroll & Zoom.")};
     if (isPhysicalClick(rule.gesture))
-        return SystemGestureWarning{"May conflict with Secondary Click",
-                                    "macOS can use a two-finger click for Secondary Click. Change it in System "
-                                    "Settings → Trackpad → Point & Click."};
+        return SystemGestureWarning{
+            TRANSLATABLE("May conflict with Secondary Click"),
+            TRANSLATABLE("macOS can use a two-finger click for Secondary Click. Change it in System "
+                         "Settings → Trackpad → Point & Click.")};
     if (rule.gesture == GestureKind::edgeSlide)
-        return SystemGestureWarning{"May also scroll onscreen content",
-                                    "macOS handles two-finger movement as scrolling. Sliding at the edge can also "
-                                    "scroll the app beneath the pointer."};
+        return SystemGestureWarning{
+            TRANSLATABLE("May also scroll onscreen content"),
+            TRANSLATABLE("macOS handles two-finger movement as scrolling. Sliding at the edge can also "
+                         "scroll the app beneath the pointer.")};
     return std::nullopt;
 }
 
-/// The names of a desktop and its settings.
+/// The names of a desktop and its settings. %1 in a sentence is its name.
 struct DesktopWords {
     std::string name;
-    std::string whereTappingIsSet;
-    std::string whereClickingIsSet;
+    std::string_view twoFingerTap;
+    std::string_view threeFingerTap;
+    std::string_view twoFingerClick;
+    std::string_view threeFingerClick;
     SystemGestureWarning threeFingerSwipe;
     SystemGestureWarning fourFingerSwipe;
 };
@@ -54,60 +64,75 @@ struct DesktopWords {
 const DesktopWords& gnome() {
     static const DesktopWords words{
         "GNOME",
-        "Change it in Settings → Mouse & Touchpad → Touchpad.",
-        "Change it in Settings → Mouse & Touchpad → Touchpad, in older versions in Tweaks.",
-        {"May also open the Activities overview",
-         "On Wayland, GNOME 40 and later take a three-finger swipe up or down for the Activities overview. Settings "
-         "has no switch for it; choose another gesture if it gets in the way."},
-        {"May also change the workspace",
-         "On Wayland, some versions of GNOME take a four-finger swipe up or down to change the workspace. Settings "
-         "has no switch for it; choose another gesture if it gets in the way."}};
+        TRANSLATABLE("While tap-to-click is on, %1 can take a two-finger tap for a right click. Change it in Settings "
+                     "→ Mouse & Touchpad → Touchpad."),
+        TRANSLATABLE("While tap-to-click is on, %1 can take a three-finger tap for a middle click, which pastes in "
+                     "many apps. Change it in Settings → Mouse & Touchpad → Touchpad."),
+        TRANSLATABLE("%1 can take a two-finger click for a right click. Change it in Settings → Mouse & Touchpad → "
+                     "Touchpad, in older versions in Tweaks."),
+        TRANSLATABLE("%1 can take a three-finger click for a middle click, which pastes in many apps. Change it in "
+                     "Settings → Mouse & Touchpad → Touchpad, in older versions in Tweaks."),
+
+        {TRANSLATABLE("May also open the Activities overview"),
+         TRANSLATABLE("On Wayland, GNOME 40 and later take a three-finger swipe up or down for the Activities "
+                      "overview. Settings "
+                      "has no switch for it; choose another gesture if it gets in the way.")},
+        {TRANSLATABLE("May also change the workspace"),
+         TRANSLATABLE(
+             "On Wayland, some versions of GNOME take a four-finger swipe up or down to change the workspace. Settings "
+             "has no switch for it; choose another gesture if it gets in the way.")}};
     return words;
 }
 
 const DesktopWords& kde() {
     static const DesktopWords words{
         "KDE Plasma",
-        "Change it in System Settings, under Touchpad.",
-        "Change it in System Settings, under Touchpad.",
-        {"May also change the virtual desktop",
-         "On Wayland, Plasma 6 can take a three-finger swipe to change the virtual desktop. It does nothing "
-         "while System Settings, under Virtual Desktops, has one only."},
-        {"May also open the overview",
-         "On Wayland, KDE Plasma can take a four-finger swipe for the overview, or to change the virtual desktop. "
-         "Change it in System Settings, under Desktop Effects and Virtual Desktops."}};
+        TRANSLATABLE("While tap-to-click is on, %1 can take a two-finger tap for a right click. Change it in System "
+                     "Settings, under Touchpad."),
+        TRANSLATABLE("While tap-to-click is on, %1 can take a three-finger tap for a middle click, which pastes in "
+                     "many apps. Change it in System Settings, under Touchpad."),
+        TRANSLATABLE("%1 can take a two-finger click for a right click. Change it in System Settings, under Touchpad."),
+        TRANSLATABLE("%1 can take a three-finger click for a middle click, which pastes in many apps. Change it in "
+                     "System Settings, under Touchpad."),
+
+        {TRANSLATABLE("May also change the virtual desktop"),
+         TRANSLATABLE(
+             "On Wayland, Plasma 6 can take a three-finger swipe to change the virtual desktop. It does nothing "
+             "while System Settings, under Virtual Desktops, has one only.")},
+        {TRANSLATABLE("May also open the overview"),
+         TRANSLATABLE(
+             "On Wayland, KDE Plasma can take a four-finger swipe for the overview, or to change the virtual desktop. "
+             "Change it in System Settings, under Desktop Effects and Virtual Desktops.")}};
     return words;
 }
 
 /// Both desktops leave taps, clicks and scrolling to libinput.
 Warning warningOnLinux(const GestureRule& rule, const DesktopWords& desktop) {
+    const auto named = [&](std::string_view title, std::string_view detail) {
+        return SystemGestureWarning{translated(title), translated(detail, {desktop.name})};
+    };
     if (rule.gesture == GestureKind::anchorDraw)
-        return SystemGestureWarning{"May also scroll or zoom",
-                                    "The drawing finger creates two-finger movement. " + desktop.name +
-                                        " may scroll or zoom the app beneath the pointer while Kinesta records the "
-                                        "pattern."};
+        return named(TRANSLATABLE("May also scroll or zoom"),
+                     TRANSLATABLE("The drawing finger creates two-finger movement. %1 may scroll or zoom the app "
+                                  "beneath the pointer while Kinesta records the pattern."));
     const bool isTwo = rule.fingerCount == 2;
     if (!isTwo && rule.fingerCount != 3 && rule.fingerCount != 4)
         return std::nullopt;
     if (rule.gesture == GestureKind::edgeSlide && isTwo)
-        return SystemGestureWarning{"May also scroll onscreen content",
-                                    desktop.name +
-                                        " handles two-finger movement as scrolling. Sliding at the edge "
-                                        "can also scroll the app beneath the pointer."};
+        return named(TRANSLATABLE("May also scroll onscreen content"),
+                     TRANSLATABLE("%1 handles two-finger movement as scrolling. Sliding at the edge can also scroll "
+                                  "the app beneath the pointer."));
     if (rule.gesture == GestureKind::edgeSlide)
         return rule.fingerCount == 3 ? desktop.threeFingerSwipe : desktop.fourFingerSwipe;
     if (rule.fingerCount == 4)
         return std::nullopt;
-    const std::string title = isTwo ? "May also click the right button" : "May also click the middle button";
-    const std::string fingers = isTwo ? "two-finger" : "three-finger";
     // The usual assignment; desktops can also swap the two.
-    const std::string button = isTwo ? "a right click" : "a middle click, which pastes in many apps";
+    const std::string_view title =
+        isTwo ? TRANSLATABLE("May also click the right button") : TRANSLATABLE("May also click the middle button");
     if (isTap(rule.gesture))
-        return SystemGestureWarning{title, "While tap-to-click is on, " + desktop.name + " can take a " + fingers +
-                                               " tap for " + button + ". " + desktop.whereTappingIsSet};
+        return named(title, isTwo ? desktop.twoFingerTap : desktop.threeFingerTap);
     if (isPhysicalClick(rule.gesture))
-        return SystemGestureWarning{title, desktop.name + " can take a " + fingers + " click for " + button + ". " +
-                                               desktop.whereClickingIsSet};
+        return named(title, isTwo ? desktop.twoFingerClick : desktop.threeFingerClick);
     return std::nullopt;
 }
 

@@ -32,7 +32,7 @@ class Json {
     Json& operator=(Json other) noexcept;
     ~Json();
 
-    /// Sets a member of an object. Null becomes an object.
+    /// Adds a member to an object, which does not have it yet. Null becomes an object.
     void set(const char* key, Json value);
     /// Appends to an array.
     void push_back(Json element);

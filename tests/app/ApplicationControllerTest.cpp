@@ -4,6 +4,7 @@
 
 #include "support/FakeShell.h"
 #include "support/GestureRig.h"
+#include "support/Translation.h"
 
 namespace kinesta::testing {
 namespace {
@@ -107,6 +108,12 @@ TEST_F(ApplicationControlling, ShowsTheMenuOfEachState) {
     shell.isMinimized = true;
     events.post(ApplicationEvent::windowDidChangeVisibility);
     EXPECT_NE(menu().find("|Show Kinesta|"), std::string::npos);
+
+    setTranslator([](std::string_view text) { return "«" + std::string(text).substr(0, 4) + "»"; });
+    events.post(ApplicationEvent::windowDidChangeVisibility);
+    EXPECT_EQ(menu(), "«Gest»|«Laun»|-«Gest»|--|«Show»|-«Chec»|--|«Quit»|");
+    EXPECT_EQ(controller->statusLine(), "Gesture recognition is off") << "kinesta ctl stays English";
+    setTranslator({});
 }
 
 TEST_F(ApplicationControlling, DoesWhatIsClickedAndChosen) {

@@ -38,7 +38,7 @@ struct ActionCardTest : QtTest {
     void edit(const GestureRule& rule) {
         store.setRules({rule});
         history.emplace(store, machine.clock());
-        model.emplace(RuleEditorModel::Parts{store, *history, session}, rule.id);
+        model.emplace(RuleEditorModel::Parts{store, *history, session, mainLoop}, rule.id);
         card = std::make_unique<ActionCard>(ActionEditing{*model, machine, applications, commands});
         card->resize(600, 500);
         card->show();
@@ -106,6 +106,11 @@ TEST_F(ActionCardTest, AsksAgainForAChangedCommand) {
     QApplication::clipboard()->setText(QString::fromUtf8("\n\x01\u202E") + QChar(0xD800));
     field->paste();
     EXPECT_EQ(rule().action.value, "ls -l\n \uFFFD\uFFFD");
+    // A stored one of megabytes neither blocks the window nor can be confirmed unread.
+    store_([](GestureRule& changed) { changed.action.value = std::string(5'000'000, 'x'); });
+    card->setFocus();
+    EXPECT_TRUE(shows("This command is too long to run, so only its beginning is shown."));
+    EXPECT_FALSE(confirmed->isEnabled());
 }
 
 TEST_F(ActionCardTest, ChecksTheAddressAndFollowsTheStore) {

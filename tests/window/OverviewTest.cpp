@@ -70,6 +70,7 @@ class Overview : public WindowRig {
     }
 
     std::string words() const {
+        QApplication::processEvents();  // new rows appear from the loop
         std::string all;
         for (const QLabel* label : page->findChildren<QLabel*>())
             if (label->isVisible() && !label->text().isEmpty())
@@ -78,6 +79,7 @@ class Overview : public WindowRig {
     }
     bool says(const std::string& text) const { return words().find(text) != std::string::npos; }
     std::string press(const char* name) {
+        QApplication::processEvents();
         commands.called = "no such button";
         for (auto* button : page->findChildren<QAbstractButton*>())
             if (button->isVisible() &&

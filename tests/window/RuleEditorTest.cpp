@@ -6,7 +6,10 @@
 #include <QToolButton>
 
 #include "rules/RuleMaking.h"
-#include "ui/editor/Stage.h"
+#include "ui/editor/GestureStage.h"
+#include "ui/widgets/Notice.h"
+#include "ui/widgets/Switch.h"
+#include "ui/widgets/Tile.h"
 #include "ui/widgets/WindowTheme.h"
 #include "window/WindowRig.h"
 
@@ -45,7 +48,7 @@ class RuleEditorTest : public WindowRig {
         page->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&*page));
     }
-    const GestureRule& rule() const { return app.store().rules().value().back(); }
+    const GestureRule& rule() { return app.store().rules().value().back(); }
     void changeBehind(const std::function<void(GestureRule&)>& change) {
         auto rules = app.store().rules().value();
         change(rules.back());
@@ -103,7 +106,7 @@ TEST_F(RuleEditorTest, KeepsANameThatIsBeingTyped) {
 TEST_F(RuleEditorTest, ShowsWhatIsPointedAtAndReturns) {
     WindowTheme::setReducesMotion(true);
     open(makeRule(GestureKind::doubleTap, 3));
-    auto* stage = page->findChild<Stage*>();
+    auto* stage = page->findChild<GestureStage*>();
     const QImage own = stage->grab().toImage();
     for (const char* name : {"Vertical edge slide", "5", "Triple"}) {
         point(find<Tile>(name));
@@ -112,12 +115,12 @@ TEST_F(RuleEditorTest, ShowsWhatIsPointedAtAndReturns) {
         EXPECT_TRUE(eventually([&] { return stage->grab().toImage() == own; })) << name;
     }
     WindowTheme::setReducesMotion(false);
-    auto* pad = page->findChild<PadPicture*>();
-    EXPECT_FALSE(pad->isPerforming());
+    auto* picture = page->findChild<PadPicture*>();
+    EXPECT_FALSE(picture->isPerforming());
     point(find<Tile>("2"));
-    EXPECT_TRUE(eventually([&] { return pad->isPerforming(); }));
+    EXPECT_TRUE(eventually([&] { return picture->isPerforming(); }));
     point(find<QLineEdit>("Name"));
-    EXPECT_TRUE(eventually([&] { return !pad->isPerforming(); }));
+    EXPECT_TRUE(eventually([&] { return !picture->isPerforming(); }));
     EXPECT_EQ(rule().fingerCount, 3);
 }
 

@@ -22,18 +22,27 @@ constexpr int kAfterTap = 900;
 
 using Act = std::function<void(Studio&)>;
 
+/// Whether `text`, which `widget` or one around it has set, stands for this English one.
+bool means(const QString& text, const char* english, const QWidget* widget) {
+    if (text.isEmpty())
+        return false;
+    for (; widget != nullptr; widget = widget->parentWidget())
+        if (text == QCoreApplication::translate(widget->metaObject()->className(), english))
+            return true;
+    return false;
+}
+
 /// The visible widget with this accessible name, or with these words on it.
 template <typename Widget>
 Widget* named(QWidget& root, const char* name) {
-    const QString wanted = QString::fromUtf8(name);
     const auto widgets = root.findChildren<Widget*>();
     for (Widget* widget : widgets) {
         if (!widget->isVisible())
             continue;
-        if (widget->accessibleName() == wanted)
+        if (means(widget->accessibleName(), name, widget))
             return widget;
         if constexpr (std::is_base_of_v<QAbstractButton, Widget>)
-            if (widget->text() == wanted)
+            if (means(widget->text(), name, widget))
                 return widget;
     }
     qWarning("Nothing is called %s.", name);

@@ -16,6 +16,7 @@
 #include "platform/linux/settings/LinuxActionSettings.h"
 #include "platform/linux/x11/X11Connection.h"
 #include "support/SystemError.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -137,13 +138,21 @@ FileUserDefaults& LinuxDesktop::fileDefaults() {
     return *m_defaults;
 }
 
+void LinuxDesktop::saveInBackground() {
+    fileDefaults().saveInBackground(m_mainLoop, [this] {
+        if (m_onDefaultsChange)
+            m_onDefaultsChange();
+    });
+}
+
 bool LinuxDesktop::watchDefaults(std::function<void()> onChange) {
+    m_onDefaultsChange = onChange;
     m_watcher.emplace(m_mainLoop, m_places.settings.string(), std::move(onChange));
     return m_watcher->isWatching();
 }
 
 std::string LinuxDesktop::howToSet(std::string_view key, const std::string& value) const {
-    return "set \"" + std::string(key) + "\" to " + value + " in " + m_places.settings.string() + ".";
+    return translated("set \"%1\" to %2 in %3.", {std::string(key), value, m_places.settings.string()});
 }
 
 Result<std::filesystem::path> LinuxDesktop::settingsFolder() {
@@ -169,7 +178,7 @@ LiveTrackpad& LinuxDesktop::trackpad() {
 }
 
 ConnectedTrackpads LinuxDesktop::connectedTrackpads() {
-    return LinuxTrackpad::connected(fileDefaults(), howToSet(LinuxTrackpad::kSettingKey, "its name"));
+    return LinuxTrackpad::connected(fileDefaults(), howToSet(LinuxTrackpad::kSettingKey, translated("its name")));
 }
 
 void LinuxDesktop::onActionProblem(Tell tell, ProgramOutput output) {
@@ -204,11 +213,11 @@ std::optional<Obstacle> LinuxDesktop::obstacleToLaunching(const std::string& app
             return Obstacle{entry.error().message, ""};
         if (const std::string& program = entry->command.front();
             program.starts_with('/') ? ::access(program.c_str(), X_OK) != 0 : !isInSearchPath(program))
-            return Obstacle{application + " starts " + program + ", which is not there.",
-                            "Install that program, or choose another application."};
+            return Obstacle{translated("%1 starts %2, which is not there.", {application, program}),
+                            translated("Install that program, or choose another application.")};
     } else if (std::filesystem::is_directory(application) || ::access(application.c_str(), X_OK) != 0) {
-        return Obstacle{application + " is not a program that you may start.",
-                        "Choose a program or a desktop file (*.desktop)."};
+        return Obstacle{translated("%1 is not a program that you may start.", {application}),
+                        translated("Choose a program or a desktop file (*.desktop).")};
     }
     return std::nullopt;
 }

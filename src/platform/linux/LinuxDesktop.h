@@ -66,7 +66,7 @@ class LinuxDesktop final : public Desktop {
     Outcome checkSaving() override { return fileDefaults().checkSaving(); }
     Outcome lastSaving() override { return fileDefaults().lastSaving(); }
     /// Changes of settings no longer wait for the disk: for the window, where each keystroke is one.
-    void saveInBackground() { fileDefaults().saveInBackground(m_mainLoop); }
+    void saveInBackground();
     bool watchDefaults(std::function<void()> onChange) override;
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;
@@ -115,6 +115,7 @@ class LinuxDesktop final : public Desktop {
     std::optional<FileUserDefaults> m_defaults;
     std::optional<LinuxActions> m_actions;
     std::unique_ptr<LiveTrackpad> m_trackpad;
+    std::function<void()> m_onDefaultsChange;
     std::optional<FileWatcher> m_watcher;
 };
 

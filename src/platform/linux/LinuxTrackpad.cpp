@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/linux/touchpad/TouchpadListing.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -49,10 +50,10 @@ ConnectedTrackpads LinuxTrackpad::connected(const UserDefaults& defaults, const 
         trackpad.command = std::move(listed.command);
     }
     if (trackpads.chosen() == nullptr)
-        trackpads.whenNoneIsChosen = {noTouchpadMessage(wanted),
-                                      trackpads.all.empty()
-                                          ? "Connect one; recognition starts by itself."
-                                          : "Choose one of those that kinesta devices shows: " + howToChoose};
+        trackpads.whenNoneIsChosen = {
+            noTouchpadMessage(wanted),
+            trackpads.all.empty() ? translated("Connect one; recognition starts by itself.")
+                                  : translated("Choose one of those that kinesta devices shows: %1", {howToChoose})};
     return trackpads;
 }
 

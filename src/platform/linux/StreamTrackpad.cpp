@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "input/recording/RecordingReading.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -13,7 +14,7 @@ constexpr std::ptrdiff_t kEventsAhead = 64;
 
 std::string problemOfOpening(InterruptibleStream& input, const std::string& path) {
     const Outcome opened = input.open(path);
-    return opened ? "" : "The trackpad recording " + path + " cannot be opened: " + opened.error().message + ".";
+    return opened ? "" : translated("The trackpad recording %1 cannot be opened: %2.", {path, opened.error().message});
 }
 
 }  // namespace
@@ -53,16 +54,18 @@ void StreamTrackpad::read() {
 
 /// Returns why nothing more can be read.
 std::string StreamTrackpad::readToEnd() {
-    constexpr const char* kUnreadable = "The trackpad recording cannot be read: ";
+    const auto unreadable = [](const Error& why) {
+        return translated("The trackpad recording cannot be read: %1.", {why.message});
+    };
     const auto reader = openRecording(m_input.stream(), m_path);
     if (!reader)
-        return kUnreadable + reader.error().message + ".";
+        return unreadable(reader.error());
     for (;;) {
         auto event = (*reader)->next();
         if (!event)
-            return kUnreadable + event.error().message + ".";
+            return unreadable(event.error());
         if (!*event)
-            return "The trackpad recording " + m_path + " has ended.";
+            return translated("The trackpad recording %1 has ended.", {m_path});
         m_room.acquire();
         if (m_isEnding)
             return {};

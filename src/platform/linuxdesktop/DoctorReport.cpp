@@ -11,23 +11,24 @@
 #include <utility>
 
 #include "platform/linuxdesktop/ReportText.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-std::string textIn(const QJsonObject& object, const char* key) {
-    return object.value(QLatin1String(key)).toString().toStdString();
+std::string textIn(const QJsonObject& object, const char* key, MarkedLanguage language = MarkedLanguage::english) {
+    return unmarked(object.value(QLatin1String(key)).toString().toStdString(), language);
 }
 
-std::optional<SystemFinding> findingIn(const QJsonObject& object) {
+std::optional<SystemFinding> findingIn(const QJsonObject& object, MarkedLanguage language) {
     const auto subject = findingSubject(textIn(object, "subject"));
     const QJsonValue works = object.value(QLatin1String("works"));
     SystemFinding finding{
         .subject = subject.value_or(FindingSubject::rule),
-        .what = textIn(object, "what"),
+        .what = textIn(object, "what", language),
         .works = works.toBool(),
-        .why = textIn(object, "why"),
-        .remedy = textIn(object, "remedy"),
+        .why = textIn(object, "why", language),
+        .remedy = textIn(object, "remedy", language),
         .command = textIn(object, "command"),
         .isSetting = object.value(QLatin1String("setting")).toBool(),
         .rulesInNeed = static_cast<std::size_t>(std::max(object.value(QLatin1String("rulesInNeed")).toInt(), 0)),
@@ -39,10 +40,11 @@ std::optional<SystemFinding> findingIn(const QJsonObject& object) {
 }
 
 /// The findings in the output of the program; none if it is not what this version writes.
-std::vector<SystemFinding> findingsIn(const QByteArray& output) {
+std::vector<SystemFinding> findingsIn(const QByteArray& output, MarkedLanguage language) {
     std::vector<SystemFinding> findings;
-    for (const QJsonValue& value : QJsonDocument::fromJson(output).array()) {
-        auto finding = findingIn(value.toObject());
+    const QJsonArray array = QJsonDocument::fromJson(output).array();
+    for (const auto& value : array) {
+        auto finding = findingIn(value.toObject(), language);
         if (!finding)
             return {};
         findings.push_back(std::move(*finding));
@@ -87,15 +89,18 @@ void DoctorReport::start() {
             return;
         const std::string why = process->errorString().toStdString();
         end();
-        answer({.findings = {}, .text = {}, .problem = m_program + " cannot be started: " + why + "."});
+        answer({.findings = {}, .text = {}, .problem = translated("%1 cannot be started: %2.", {m_program, why})});
     };
     // Queued, as start() may fail at once.
     QObject::connect(process, &QProcess::errorOccurred, process, onError, Qt::QueuedConnection);
     m_deadline = m_mainThread.after(m_patience, [this] {
         end();
-        answer({.findings = {}, .text = {}, .problem = m_program + " did not answer in time. Try again later."});
+        answer({.findings = {},
+                .text = {},
+                .problem = translated("%1 did not answer in time. Try again later.", {m_program})});
     });
-    process->start(QString::fromStdString(m_program), {QStringLiteral("doctor"), QStringLiteral("--json")},
+    process->start(QString::fromStdString(m_program),
+                   {QStringLiteral("doctor"), QStringLiteral("--json"), QStringLiteral("--marked-texts")},
                    QIODevice::ReadOnly);
 }
 
@@ -107,17 +112,25 @@ void DoctorReport::end() {
 
 void DoctorReport::ended(int status, QProcess::ExitStatus exit) {
     Result result;
+    Result inEnglish;
     // 1 says that something is missing.
-    if (exit == QProcess::NormalExit && (status == 0 || status == 1))
-        result.findings = findingsIn(m_process->readAllStandardOutput());
+    if (exit == QProcess::NormalExit && (status == 0 || status == 1)) {
+        const QByteArray output = m_process->readAllStandardOutput();
+        result.findings = findingsIn(output, MarkedLanguage::ofPerson);
+        inEnglish.findings = findingsIn(output, MarkedLanguage::english);
+    }
     if (result.findings.empty())
-        result.problem = m_program + " doctor gave no report. Run it in a terminal to see why.";
+        inEnglish.problem = result.problem =
+            translated("%1 doctor gave no report. Run it in a terminal to see why.", {m_program});
+    // The report goes to people who help, so it is in English.
+    result.text = reportText(inEnglish, m_version);
     end();
     answer(std::move(result));
 }
 
 void DoctorReport::answer(Result result) {
-    result.text = reportText(result, m_version);
+    if (result.text.empty())
+        result.text = reportText(result, m_version);
     for (const Receive& receive : std::exchange(m_waiting, {}))
         receive(result);
 }

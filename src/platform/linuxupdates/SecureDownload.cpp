@@ -4,6 +4,8 @@
 #include <QSslConfiguration>
 #include <utility>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -48,14 +50,15 @@ SecureDownload::SecureDownload(QNetworkAccessManager& network, const std::string
     QObject::connect(m_reply.get(), &QNetworkReply::readyRead, m_reply.get(), [this] { read(); });
     QObject::connect(m_reply.get(), &QNetworkReply::finished, m_reply.get(), [this] {
         if (m_reply->error() == QNetworkReply::OperationCanceledError)
-            return finish(Error{"the server does not answer"});
+            return finish(Error{translated("the server does not answer")});
         if (m_reply->error() != QNetworkReply::NoError)
             return finish(Error{m_reply->errorString().toStdString()});
         if (read())
             finish(success());
     });
     m_deadline.setSingleShot(true);
-    QObject::connect(&m_deadline, &QTimer::timeout, &m_deadline, [this] { finish(Error{"it takes too long"}); });
+    QObject::connect(&m_deadline, &QTimer::timeout, &m_deadline,
+                     [this] { finish(Error{translated("it takes too long")}); });
     m_deadline.start(limits.time);
 }
 
@@ -67,8 +70,8 @@ bool SecureDownload::read() {
         return true;
     const QByteArray bytes = m_reply->readAll();
     m_received += bytes.size();
-    Outcome taken =
-        m_received > m_limits.bytes ? Outcome(Error{"it is longer than it may be"}) : m_handlers.received(bytes);
+    Outcome taken = m_received > m_limits.bytes ? Outcome(Error{translated("it is longer than it may be")})
+                                                : m_handlers.received(bytes);
     if (taken)
         return true;
     finish(std::move(taken));

@@ -8,6 +8,7 @@
 #include "actions/OpenTarget.h"
 #include "platform/linuxupdates/ReleaseSignature.h"
 #include "platform/linuxupdates/UpdateFeed.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -68,7 +69,8 @@ void UpdateCheck::check() {
                                          if (outcome)
                                              readFeed();
                                          else
-                                             fail("The update feed cannot be read: " + outcome.error().message + ".");
+                                             fail(translated("The update feed cannot be read: %1.",
+                                                             {outcome.error().message}));
                                      }});
 }
 
@@ -76,7 +78,7 @@ void UpdateCheck::readFeed() {
     const auto releases = readUpdateFeed(m_feed);
     m_feed.clear();
     if (!releases)
-        return fail("The update feed cannot be read: " + releases.error().message + ".");
+        return fail(translated("The update feed cannot be read: %1.", {releases.error().message}));
     const SoftwareRelease* newest = newestRelease(*releases, m_environment.running);
     if (newest == nullptr)
         return enter(Stage::upToDate);
@@ -93,8 +95,8 @@ void UpdateCheck::download() {
     m_file = std::make_unique<QTemporaryFile>(
         QDir(QString::fromStdString(m_environment.folder)).filePath(QStringLiteral(".kinesta-update-XXXXXX")));
     if (!QDir().mkpath(QString::fromStdString(m_environment.folder)) || !m_file->open())
-        return fail("The update cannot be stored in " + m_environment.folder + ": " +
-                    m_file->errorString().toStdString() + ".");
+        return fail(translated("The update cannot be stored in %1: %2.",
+                               {m_environment.folder, m_file->errorString().toStdString()}));
     enter(Stage::downloading);
     const SecureDownload::Limits limits{.bytes = static_cast<qint64>(m_progress.value().release.length),
                                         .time = kDownloadTime};
@@ -113,16 +115,17 @@ void UpdateCheck::download() {
                                          if (outcome)
                                              verify();
                                          else
-                                             fail("The update cannot be downloaded: " + outcome.error().message + ".");
+                                             fail(translated("The update cannot be downloaded: %1.",
+                                                             {outcome.error().message}));
                                      }});
 }
 
 void UpdateCheck::verify() {
     m_transfer.reset();
     if (!m_file->flush())
-        return fail("The update cannot be stored: " + m_file->errorString().toStdString() + ".");
+        return fail(translated("The update cannot be stored: %1.", {m_file->errorString().toStdString()}));
     if (m_progress.value().received != m_progress.value().release.length)
-        return fail("The update is incomplete. Nothing was kept.");
+        return fail(translated("The update is incomplete. Nothing was kept."));
     enter(Stage::verifying);
     if (m_verification.joinable())
         m_verification.join();
@@ -140,13 +143,13 @@ void UpdateCheck::verify() {
 void UpdateCheck::keep(bool isGenuine) {
     m_verification.join();
     if (!isGenuine)
-        return fail("The update is not signed by the makers of Kinesta. Nothing was kept.");
+        return fail(translated("The update is not signed by the makers of Kinesta. Nothing was kept."));
     const QString path =
         freePath(QString::fromStdString(m_environment.folder), fileNameFor(m_progress.value().release));
     m_file->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     if (!m_file->rename(path))
-        return fail("The update cannot be stored as " + path.toStdString() + ": " +
-                    m_file->errorString().toStdString() + ".");
+        return fail(translated("The update cannot be stored as %1: %2.",
+                               {path.toStdString(), m_file->errorString().toStdString()}));
     m_file->setAutoRemove(false);
     UpdateProgress progress = m_progress.value();
     progress.file = path.toStdString();

@@ -5,6 +5,7 @@
 
 #include "actions/OpenTarget.h"
 #include "support/Base64.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -42,12 +43,12 @@ Result<std::vector<SoftwareRelease>> readUpdateFeed(const QByteArray& text) {
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
             case QXmlStreamReader::DTD:
-                return Error{"it declares entities or a document type"};
+                return Error{translated("it declares entities or a document type")};
             case QXmlStreamReader::StartElement:
                 ++depth;
                 isFeed = isFeed || (depth == 1 && reader.name() == QLatin1String("feed"));
                 if (!isFeed)
-                    return Error{"it is not an update feed"};
+                    return Error{translated("it is not an update feed")};
                 if (depth == 2 && reader.name() == QLatin1String("release"))
                     if (auto release = releaseIn(reader.attributes()))
                         releases.push_back(*std::move(release));
@@ -60,7 +61,8 @@ Result<std::vector<SoftwareRelease>> readUpdateFeed(const QByteArray& text) {
         }
     }
     if (reader.hasError())
-        return Error{"line " + std::to_string(reader.lineNumber()) + ": " + reader.errorString().toStdString()};
+        return Error{
+            translated("line %1: %2", {std::to_string(reader.lineNumber()), reader.errorString().toStdString()})};
     return releases;
 }
 

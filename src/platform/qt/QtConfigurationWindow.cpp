@@ -1,5 +1,6 @@
 #include "platform/qt/QtConfigurationWindow.h"
 
+#include <QApplication>
 #include <QEvent>
 
 namespace kinesta {
@@ -16,8 +17,11 @@ void QtConfigurationWindow::makeKeyAndOrderFront() {
     // Keeps it maximized or full screen.
     m_widget->setWindowState(m_widget->windowState() & ~Qt::WindowMinimized);
     m_widget->show();
-    m_widget->raise();
-    m_widget->activateWindow();
+    // A sheet that is open takes the keyboard for the window behind it.
+    QWidget* sheet = QApplication::activeModalWidget();
+    QWidget* front = sheet != nullptr && sheet->isVisible() ? sheet : m_widget.get();
+    front->raise();
+    front->activateWindow();
 }
 
 void QtConfigurationWindow::orderOut() {

@@ -41,7 +41,7 @@ QString place(Desktop& desktop) {
 
 Words* centred(const QString& text, Words::Size size) {
     auto* words = new Words(text, size);
-    words->setAlignment(Qt::AlignCenter);
+    words->alignTo(Qt::AlignCenter);
     return words;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
 
 namespace kinesta {
@@ -10,6 +11,9 @@ class ApplicationIcon final : public QWidget {
 
   public:
     explicit ApplicationIcon(QWidget* parent = nullptr);
+
+    /// The same for title bars and task lists.
+    static QIcon icon();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

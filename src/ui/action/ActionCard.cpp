@@ -194,7 +194,8 @@ void ActionCard::orderTabs() {
     QWidget* last = m_kind;
     for (QWidget* row : m_part->rows())
         for (QWidget* widget : row->findChildren<QWidget*>())
-            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr) {
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr &&
+                widget->window() == window()) {  // lists that drop down are windows
                 setTabOrder(last, widget);
                 last = widget;
             }

@@ -20,7 +20,8 @@ QIcon applicationIcon(const QString& icon) {
     } else if (!icon.isEmpty()) {
         // Some files name a picture with its ending, which no theme does.
         const QFileInfo file(icon);
-        const bool isFile = QStringList{QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("xpm")}.contains(file.suffix());
+        const bool isFile =
+            QStringList{QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("xpm")}.contains(file.suffix());
         found = QIcon::fromTheme(isFile ? file.completeBaseName() : icon);
     }
     // A file may be there that cannot be read as a picture.

@@ -42,8 +42,8 @@ void KeyCapRow::setCaps(std::vector<KeyCap> caps, Look look, End end) {
 }
 
 QString KeyCapRow::textOf(const KeyCap& cap, Content content) const {
-    const QString sign = QString::fromStdString(cap.sign);
-    const QString word = QString::fromStdString(cap.word);
+    QString sign = QString::fromStdString(cap.sign);
+    QString word = QString::fromStdString(cap.word);
     const QFontMetrics metrics(capFont());
     const auto characters = sign.toUcs4();
     const bool isDrawable = std::all_of(characters.begin(), characters.end(),

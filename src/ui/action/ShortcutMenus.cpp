@@ -82,7 +82,7 @@ void ShortcutMenus::addKeys() {
     m_keyList->setUniformItemSizes(true);
     m_keyList->setAccessibleName(tr("Other keys"));
     for (const ShortcutKey& key : ShortcutKey::choices()) {
-        auto* item = new QListWidgetItem(QString::fromUtf8(key.name.data(), static_cast<int>(key.name.size())));
+        auto* item = new QListWidgetItem(QString::fromStdString(ShortcutKey::shownName(key.keyCode)));
         item->setData(kKeyCodeRole, key.keyCode);
         m_keyList->addItem(item);
     }

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "ui/action/ActionPart.h"
+#include "ui/action/ShortcutMenus.h"
 #include "ui/action/ShortcutRecorder.h"
 #include "ui/widgets/Row.h"
 
 namespace kinesta {
 
-/// The recorder of a keyboard shortcut.
+/// The recorder of a keyboard shortcut, and lists to choose one from.
 class ShortcutPart final : public ActionPart {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ class ShortcutPart final : public ActionPart {
     ActionEditing m_editing;
     Row* m_row;
     ShortcutRecorder* m_recorder;
-    QString m_hint;
+    ShortcutMenus* m_menus;
 };
 
 }  // namespace kinesta

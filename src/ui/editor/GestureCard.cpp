@@ -32,7 +32,7 @@ GestureCard::GestureCard(RuleEditorModel& model, const WindowParts& parts, Windo
       m_types(new TileGroup(tr("Gesture type"), kTypeColumns)),
       m_body(new QWidget),
       m_line(new QBoxLayout(QBoxLayout::LeftToRight, m_body)),
-      m_stage(new Stage([&parts] { return parts.service.tapWaitingInterval().value().seconds(); })),
+      m_stage(new GestureStage([&parts] { return parts.service.tapWaitingInterval().value().seconds(); })),
       m_details(new GestureDetails(model)) {
     add(makeTypes());
     add(m_body);
@@ -40,7 +40,7 @@ GestureCard::GestureCard(RuleEditorModel& model, const WindowParts& parts, Windo
     m_line->setSpacing(0);
     m_line->addWidget(m_stage);
     m_line->addWidget(m_details, 1);
-    m_notices = new NoticeStack(*this, model, commands);
+    addNotices(commands);
 
     const auto perform = [this](const GestureRule& rule) { m_stage->preview(PadGesture::of(rule)); };
     const auto rest = [this] { m_stage->endPreview(); };
@@ -56,6 +56,9 @@ GestureCard::GestureCard(RuleEditorModel& model, const WindowParts& parts, Windo
     m_statusObserver = parts.service.status().observe([this](const auto&) { follow(); });
     follow();
 }
+
+/// Below the other parts of the card.
+void GestureCard::addNotices(WindowCommands& commands) { m_notices = new NoticeStack(*this, m_model, commands); }
 
 QWidget* GestureCard::makeTypes() {
     auto* strip = new QWidget;

@@ -5,8 +5,8 @@
 #include "ui/WindowCommands.h"
 #include "ui/WindowParts.h"
 #include "ui/editor/GestureDetails.h"
+#include "ui/editor/GestureStage.h"
 #include "ui/editor/NoticeStack.h"
-#include "ui/editor/Stage.h"
 #include "ui/models/RuleEditorModel.h"
 #include "ui/widgets/Card.h"
 
@@ -26,6 +26,7 @@ class GestureCard final : public Card {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void addNotices(WindowCommands& commands);
     QWidget* makeTypes();
     void follow();
     void arrange();
@@ -35,7 +36,7 @@ class GestureCard final : public Card {
     TileGroup* m_types;
     QWidget* m_body;
     QBoxLayout* m_line;
-    Stage* m_stage;
+    GestureStage* m_stage;
     GestureDetails* m_details;
     NoticeStack* m_notices = nullptr;
     Subscription m_contentObserver;

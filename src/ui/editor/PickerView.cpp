@@ -1,6 +1,7 @@
 #include "ui/editor/PickerView.h"
 
 #include <QVBoxLayout>
+#include <utility>
 
 #include "support/Translation.h"
 #include "ui/widgets/PadPainter.h"
@@ -76,6 +77,9 @@ PickerView::PickerView(GesturePicker picker)
 }
 
 void PickerView::show(const GestureRule& rule) {
+    const PadGesture gesture = PadGesture::of(rule);
+    if (std::exchange(m_shown, gesture) == gesture)
+        return;
     m_tiles->setChosen(pickedValue(rule, m_picker));
     if (m_picker == GesturePicker::corner || m_picker == GesturePicker::pattern)
         return;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
+#include <vector>
 
 #include "ui/models/GesturePicker.h"
 #include "ui/widgets/TileGroup.h"
@@ -22,6 +24,8 @@ class PickerView final : public QWidget {
     GesturePicker m_picker;
     std::vector<PickerChoice> m_choices;
     TileGroup* m_tiles;
+    /// All that the tiles depend on.
+    std::optional<PadGesture> m_shown;
 };
 
 }  // namespace kinesta

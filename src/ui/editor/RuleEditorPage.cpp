@@ -29,6 +29,8 @@ RuleEditorPage::~RuleEditorPage() { delete takeWidget(); }
 
 void RuleEditorPage::focusName() { m_header->focusName(); }
 
+void RuleEditorPage::setBackButton(QWidget* button) { m_header->setBackButton(button); }
+
 void RuleEditorPage::keyPressEvent(QKeyEvent* event) {
     // Before it closes the window.
     if (event->key() == Qt::Key_Escape && m_model.content().value().waitsForGesture)

@@ -26,6 +26,7 @@ class RuleEditorPage final : public Page {
     void gestureRecognized(const DetectedGesture& gesture) { m_model.gestureRecognized(gesture); }
     /// No gesture becomes that of the rule any more.
     void stopWaiting() { m_model.setWaitsForGesture(false); }
+    void setBackButton(QWidget* button) override;
 
   protected:
     void hideEvent(QHideEvent* event) override;

@@ -17,6 +17,8 @@ constexpr double kNameFactor = 1.3;
 constexpr double kMore = 28;
 constexpr double kAboveReason = 10;
 constexpr double kBelow = 14;
+/// A narrower line leaves the word beside the switch out: its shape says the same.
+constexpr double kWide = 440;
 /// The knob of a switch arrives before it goes back.
 constexpr std::chrono::milliseconds kSnap{120};
 constexpr std::chrono::seconds kReading{6};
@@ -103,6 +105,11 @@ void RuleHeader::focusName() {
     m_name->selectAll();
 }
 
+void RuleHeader::setBackButton(QWidget* button) {
+    m_line->insertWidget(0, button);
+    setTabOrder(button, m_name);
+}
+
 void RuleHeader::follow() {
     const RuleEditorContent& content = m_model.content().value();
     // A name that is being typed stays, with its cursor and its own undo.
@@ -153,10 +160,17 @@ bool RuleHeader::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RuleHeader::hideEvent(QHideEvent* event) {
+    if (m_snapping.isActive())
+        snapBack();
     m_snapping.stop();
     m_reading.stop();
     m_reasonCard->hide();
     QWidget::hideEvent(event);
+}
+
+void RuleHeader::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    m_state->setVisible(width() >= Unit::of(kWide));
 }
 
 void RuleHeader::measure() {

@@ -28,11 +28,14 @@ class RuleHeader final : public QWidget {
 
     /// Puts the cursor into the name and selects all of it.
     void focusName();
+    /// Takes it in before the name.
+    void setBackButton(QWidget* button);
 
   protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void makeMenu();

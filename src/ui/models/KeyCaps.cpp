@@ -39,7 +39,7 @@ std::vector<KeyCap> shortcutCaps(const RecordedShortcut& shortcut, const KeyReco
     if (!instead.empty())
         modifiers.rawValue &= ~ShortcutModifiers::function.rawValue;
     auto caps = modifierCaps(modifiers, keyboard.words(modifiers));
-    caps.push_back({"", instead.empty() ? ShortcutKey::nameFor(shortcut.keyCode) : instead, true});
+    caps.push_back({"", instead.empty() ? ShortcutKey::shownName(shortcut.keyCode) : instead, true});
     return caps;
 }
 

@@ -1,7 +1,6 @@
 #include "ui/models/RuleEditorModel.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "feedback/ActionCueContent.h"
@@ -185,7 +184,7 @@ void RuleEditorModel::findRivals(RuleEditorContent& content, const std::vector<G
     bool hasPassed = false;
     for (const GestureRule& other : rules) {
         hasPassed = hasPassed || other.id == m_id;
-        if (other.id == m_id || GestureConflictChecker::conflictingRuleIDs(std::array{content.rule, other}).empty())
+        if (other.id == m_id || !GestureConflictChecker::areRivals(content.rule, other))
             continue;
         if (content.rivals.empty())
             content.comesFirst = hasPassed;

@@ -10,9 +10,20 @@
 namespace kinesta {
 namespace {
 
+/// In lower case, À–Þ too: they are in the words of many languages.
+std::string folded(std::string_view text) {
+    std::string result = lowerCased(text);
+    for (std::size_t i = 1; i < result.size(); ++i) {
+        const auto second = static_cast<unsigned char>(result[i]);
+        if (result[i - 1] == '\xC3' && second >= 0x80 && second <= 0x9E && second != 0x97)
+            result[i] = static_cast<char>(second + 0x20);
+    }
+    return result;
+}
+
 std::vector<std::string> wordsOf(std::string_view text) {
     std::vector<std::string> words;
-    const std::string wanted = lowerCased(text);
+    const std::string wanted = folded(text);
     for (std::string_view rest = trimmed(wanted); !rest.empty();) {
         const std::size_t end = std::min(rest.find(' '), rest.size());
         words.emplace_back(rest.substr(0, end));
@@ -22,8 +33,8 @@ std::vector<std::string> wordsOf(std::string_view text) {
 }
 
 bool hasAll(const GestureRule& rule, const std::vector<std::string>& words) {
-    const std::string text = lowerCased(displayName(rule) + "\n" + describeTrigger(rule) + "\n" + shortGesture(rule) +
-                                        "\n" + std::string(title(rule.action.kind)) + "\n" + rule.action.summary());
+    const std::string text = folded(displayName(rule) + "\n" + describeTrigger(rule) + "\n" + shortGesture(rule) +
+                                    "\n" + translated(title(rule.action.kind)) + "\n" + rule.action.summary());
     return std::ranges::all_of(words, [&](const std::string& word) { return text.find(word) != std::string::npos; });
 }
 

@@ -1,34 +1,47 @@
 #include "ui/models/RuleWords.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <string_view>
 
 #include "rules/ActionTarget.h"
 #include "rules/GestureTypeChoice.h"
 #include "support/Text.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-std::string repetitionWord(GestureKind gesture) {
-    const int count = repetitionCount(gesture).value_or(1);
-    return count == 1 ? "" : count == 2 ? "double " : "triple ";
-}
+/// Done once, twice, three times. %1: how many fingers.
+using Repeated = std::array<std::string_view, 3>;
 
-std::string withFingers(const GestureRule& rule, const std::string& text) {
-    return (rule.fingerCount ? std::to_string(*rule.fingerCount) : std::string("…")) + "-finger " + text;
-}
-
-/// "L", "zigzag", "line up": the title without how it is drawn.
-std::string shortPattern(DrawPattern pattern) {
-    const std::string_view text = title(pattern);
-    const std::string name(text.substr(0, text.find(" — ")));
-    return name.size() == 1 ? name : lowerCased(name);
-}
-
-std::string slideSide(EdgeSlideSide side) {
-    return side == EdgeSlideSide::both ? "both sides" : lowerCased(title(side));
-}
+constexpr Repeated kTap{TRANSLATABLE("%1-finger tap"), TRANSLATABLE("%1-finger double tap"),
+                        TRANSLATABLE("%1-finger triple tap")};
+constexpr Repeated kClick{TRANSLATABLE("%1-finger click"), TRANSLATABLE("%1-finger double click"),
+                          TRANSLATABLE("%1-finger triple click")};
+constexpr Repeated kSoftClick{TRANSLATABLE("%1-finger soft click"), TRANSLATABLE("%1-finger double soft click"),
+                              TRANSLATABLE("%1-finger triple soft click")};
+constexpr Repeated kForceClick{TRANSLATABLE("%1-finger Force Click"), TRANSLATABLE("%1-finger double Force Click"),
+                               TRANSLATABLE("%1-finger triple Force Click")};
+constexpr Repeated kTipTapLeft{TRANSLATABLE("Tip-tap left"), TRANSLATABLE("Double tip-tap left"),
+                               TRANSLATABLE("Triple tip-tap left")};
+constexpr Repeated kTipTapRight{TRANSLATABLE("Tip-tap right"), TRANSLATABLE("Double tip-tap right"),
+                                TRANSLATABLE("Triple tip-tap right")};
+/// By side: left, right, both.
+constexpr std::array<std::string_view, 3> kSlide{TRANSLATABLE("%1-finger slide, left"),
+                                                 TRANSLATABLE("%1-finger slide, right"),
+                                                 TRANSLATABLE("%1-finger slide, both sides")};
+/// The titles of the patterns without how they are drawn.
+constexpr std::array<std::string_view, 9> kPatterns{TRANSLATABLE("line up"),
+                                                    TRANSLATABLE("line down"),
+                                                    TRANSLATABLE("line left"),
+                                                    TRANSLATABLE("line right"),
+                                                    TRANSLATABLE("L"),
+                                                    TRANSLATABLE("V"),
+                                                    TRANSLATABLE("zigzag"),
+                                                    TRANSLATABLE("clockwise circle"),
+                                                    TRANSLATABLE("counterclockwise circle")};
 
 std::string onOneLine(std::string_view original) {
     std::string text(original);
@@ -40,26 +53,29 @@ std::string onOneLine(std::string_view original) {
 std::string_view missing(const GestureRule& rule) {
     const GestureAction& action = rule.action;
     if (!isConfigured(rule.gesture))
-        return action.kind == ActionKind::unconfigured ? "Choose a gesture and an action" : "Choose a gesture";
+        return action.kind == ActionKind::unconfigured
+                   ? TRANSLATABLE("Choose a gesture and an action to switch this rule on.")
+                   : TRANSLATABLE("Choose a gesture to switch this rule on.");
     if (usesFingerCount(rule.gesture) && !rule.fingerCount)
-        return "Choose how many fingers";
+        return TRANSLATABLE("Choose how many fingers to switch this rule on.");
     if (rule.gesture == GestureKind::anchorDraw && !rule.anchorCorner)
-        return "Choose a corner";
+        return TRANSLATABLE("Choose a corner to switch this rule on.");
     if (rule.gesture == GestureKind::anchorDraw && !rule.drawPattern)
-        return "Choose a pattern";
+        return TRANSLATABLE("Choose a pattern to switch this rule on.");
     switch (action.kind) {
         case ActionKind::keyboardShortcut:
-            return "Record a shortcut";
+            return TRANSLATABLE("Record a shortcut to switch this rule on.");
         case ActionKind::openURL:
-            return "Enter an address";
+            return TRANSLATABLE("Enter an address to switch this rule on.");
         case ActionKind::openFileOrFolder:
-            return "Choose a file or folder";
+            return TRANSLATABLE("Choose a file or folder to switch this rule on.");
         case ActionKind::launchApplication:
-            return "Choose an application";
+            return TRANSLATABLE("Choose an application to switch this rule on.");
         case ActionKind::shellCommand:
-            return trimmed(action.value).empty() ? "Enter a command" : "Confirm the command";
+            return trimmed(action.value).empty() ? TRANSLATABLE("Enter a command to switch this rule on.")
+                                                 : TRANSLATABLE("Confirm the command to switch this rule on.");
         default:
-            return "Choose an action";
+            return TRANSLATABLE("Choose an action to switch this rule on.");
     }
 }
 
@@ -71,32 +87,40 @@ std::string capitalized(std::string text) {
     return text;
 }
 
-std::string displayName(const GestureRule& rule) { return rule.name.empty() ? "Untitled gesture" : rule.name; }
+std::string displayName(const GestureRule& rule) {
+    return rule.name.empty() ? translated("Untitled gesture") : rule.name;
+}
 
 std::string shortGesture(const GestureRule& rule) {
-    const std::string repetition = repetitionWord(rule.gesture);
+    const std::string fingers = rule.fingerCount ? std::to_string(*rule.fingerCount) : "…";
+    const auto repeated = [&](const Repeated& words) {
+        const int count = repetitionCount(rule.gesture).value_or(1);
+        return translated(words.at(static_cast<std::size_t>(count - 1)), {fingers});
+    };
     switch (gestureTypeChoice(rule.gesture)) {
         case GestureTypeChoice::unconfigured:
             break;
         case GestureTypeChoice::tap:
-            return withFingers(rule, repetition + "tap");
+            return repeated(kTap);
         case GestureTypeChoice::physicalClick:
-            return withFingers(rule, repetition + "click");
+            return repeated(kClick);
         case GestureTypeChoice::softClick:
-            return withFingers(rule, repetition + "soft click");
+            return repeated(kSoftClick);
         case GestureTypeChoice::forceClick:
-            return withFingers(rule, repetition + "Force Click");
+            return repeated(kForceClick);
         case GestureTypeChoice::tipTapLeft:
-            return capitalized(repetition + "tip-tap left");
+            return repeated(kTipTapLeft);
         case GestureTypeChoice::tipTapRight:
-            return capitalized(repetition + "tip-tap right");
+            return repeated(kTipTapRight);
         case GestureTypeChoice::edgeSlide:
-            return withFingers(rule, "slide, " + slideSide(rule.resolvedEdgeSlideSide()));
+            return translated(kSlide.at(static_cast<std::size_t>(rule.resolvedEdgeSlideSide())), {fingers});
         case GestureTypeChoice::anchorDraw:
-            return (rule.anchorCorner ? std::string(title(*rule.anchorCorner)) : "…") + ", " +
-                   (rule.drawPattern ? shortPattern(*rule.drawPattern) : "…");
+            return translated(
+                "%1, %2",
+                {rule.anchorCorner ? translated(title(*rule.anchorCorner)) : "…",
+                 rule.drawPattern ? translated(kPatterns.at(static_cast<std::size_t>(*rule.drawPattern))) : "…"});
     }
-    return "No gesture";
+    return translated("No gesture");
 }
 
 std::string shortAction(const GestureAction& action) {
@@ -109,7 +133,7 @@ std::string shortAction(const GestureAction& action) {
         case ActionKind::launchApplication:
             return onOneLine(applicationName(text));
         case ActionKind::adjustVolume:
-            return "Volume";
+            return translated("Volume");
         default:
             return onOneLine(text);
     }
@@ -118,7 +142,7 @@ std::string shortAction(const GestureAction& action) {
 std::optional<std::string> whatIsMissing(const GestureRule& rule) {
     if (rule.isReady())
         return std::nullopt;
-    return std::string(missing(rule)) + " to switch this rule on.";
+    return translated(missing(rule));
 }
 
 }  // namespace kinesta

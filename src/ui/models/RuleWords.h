@@ -5,12 +5,13 @@
 #include <string_view>
 
 #include "rules/GestureRule.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 
 /// What a clash of rules means.
 inline constexpr std::string_view kClashReason =
-    "Another enabled rule uses this gesture. Only the first matching rule will run.";
+    TRANSLATABLE("Another enabled rule uses this gesture. Only the first matching rule will run.");
 
 /// The name of a rule as it is shown: "Untitled gesture" if it has none.
 std::string displayName(const GestureRule& rule);

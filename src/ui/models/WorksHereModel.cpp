@@ -77,7 +77,7 @@ void WorksHereModel::receive(const SystemReport::Result& result) {
         if (auto row = rowOf(finding))
             content.rows.push_back(std::move(*row));
     const auto isMissing = [](const FindingRow& row) { return row.mark == FindingRow::Mark::missing; };
-    std::ranges::stable_partition(content.rows, isMissing);
+    std::stable_partition(content.rows.begin(), content.rows.end(), isMissing);
     if (!content.problem.empty())
         content.state = State::failed;
     else
@@ -92,9 +92,9 @@ std::optional<FindingRow> WorksHereModel::rowOf(const SystemFinding& finding) co
                    .mark = finding.works        ? Mark::works
                            : finding.isNeeded() ? Mark::missing
                                                 : Mark::absent,
-                   .what = translated(finding.what),
-                   .why = translated(finding.why),
-                   .remedy = translated(finding.remedy),
+                   .what = finding.what,
+                   .why = finding.why,
+                   .remedy = finding.remedy,
                    .command = finding.command,
                    .tag = {},
                    .button = Button::none,

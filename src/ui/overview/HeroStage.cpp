@@ -5,9 +5,7 @@
 #include <QPainterPath>
 #include <QStyle>
 
-#include "platform/qt/PicturePainter.h"
 #include "platform/qt/ThemePalette.h"
-#include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -18,7 +16,6 @@ using State = OverviewContent::State;
 
 constexpr double kCardRadius = 12;
 constexpr double kHeight = 206;
-constexpr double kPlay = 22;
 constexpr double kBadge = 24;
 
 struct Measure {
@@ -39,15 +36,11 @@ HeroStage::HeroStage(QWidget* parent)
     : QWidget(parent),
       m_pad(new PadPicture(measureOf(Size::beside).pad, this)),
       m_badge(new SymbolMark(kBadge, this)),
-      m_play(new QToolButton(this)) {
+      m_play(new PlayButton(this)) {
     m_pad->setAccessibleName(tr("Trackpad"));
     m_badge->setSymbol(WindowSymbol::caution, &AppTheme::caution, tr("Cannot be read"));
     m_badge->setDisc(&AppTheme::cautionSoft);
-    m_play->setAutoRaise(true);
-    m_play->setIcon(SymbolIcon::of(windowSymbol(WindowSymbol::play)));
-    m_play->setAccessibleName(tr("Show the gesture again"));
-    m_play->setToolTip(m_play->accessibleName());
-    connect(m_play, &QToolButton::clicked, this, &HeroStage::playPressed);
+    connect(m_play, &PlayButton::clicked, this, &HeroStage::playPressed);
     measure();
 }
 
@@ -98,8 +91,6 @@ void HeroStage::measure() {
     } else {
         setFixedWidth(Unit::of(measure.width));
     }
-    const int icon = Unit::of(12);
-    m_play->setIconSize({icon, icon});
     place();
 }
 
@@ -109,9 +100,9 @@ void HeroStage::place() {
     const QSize badge = m_badge->sizeHint();
     const QPoint corner = m_pad->geometry().bottomRight();
     m_badge->setGeometry({corner - QPoint(badge.width() / 2, badge.height() / 2), badge});
-    const int side = Unit::of(kPlay);
-    const int x = layoutDirection() == Qt::RightToLeft ? Unit::of(5) : width() - Unit::of(5) - side;
-    m_play->setGeometry(x, height() - Unit::of(4) - side, side, side);
+    const QSize play = m_play->sizeHint();
+    const int x = layoutDirection() == Qt::RightToLeft ? Unit::of(5) : width() - Unit::of(5) - play.width();
+    m_play->setGeometry({{x, height() - Unit::of(4) - play.height()}, play});
     update();
 }
 
@@ -137,11 +128,6 @@ void HeroStage::paintEvent(QPaintEvent* /*event*/) {
     if (m_size == Size::above || isMirrored)
         round(false);
     painter.fillPath(ground - outside, asQColor(theme.accentSoft));
-    painter.setPen(Qt::NoPen);
-    if (!m_play->isHidden()) {
-        painter.setBrush(asQColor(theme.surface));
-        painter.drawEllipse(QRectF(m_play->geometry()));
-    }
 }
 
 }  // namespace kinesta

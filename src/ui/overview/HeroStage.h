@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QToolButton>
 #include <QWidget>
 
 #include "ui/models/OverviewModel.h"
 #include "ui/overview/SymbolMark.h"
 #include "ui/widgets/PadPicture.h"
+#include "ui/widgets/PlayButton.h"
 
 namespace kinesta {
 
@@ -38,7 +38,7 @@ class HeroStage final : public QWidget {
 
     PadPicture* m_pad;
     SymbolMark* m_badge;
-    QToolButton* m_play;
+    PlayButton* m_play;
     Size m_size = Size::beside;
 };
 

@@ -81,24 +81,31 @@ void MarkedRow::resizeEvent(QResizeEvent* event) {
 }
 
 void MarkedRow::place() {
+    if (m_atEnd != nullptr) {
+        const int inner = width() - 2 * Row::inset() - m_mark->sizeHint().width() - Unit::of(kGap);
+        const bool isBelow = m_atEnd->sizeHint().width() + Unit::of(kBeforeEnd) > inner * (1 - kWordsShare);
+        if (isBelow != m_isEndBelow)
+            moveEnd(isBelow);
+    }
     // Beside two lines the mark stands in their middle, beside more at the first.
-    const bool isTall = m_hasBelow || !m_remedy->isHidden();
+    const bool isTall = m_hasBelow || m_isEndBelow || !m_remedy->isHidden();
     const auto alignment = isTall ? Qt::AlignTop : Qt::AlignVCenter;
     m_line->setAlignment(m_mark, alignment);
-    if (m_atEnd == nullptr)
-        return;
-    const int inner = width() - 2 * Row::inset() - m_mark->sizeHint().width() - Unit::of(kGap);
-    const bool isBelow = m_atEnd->sizeHint().width() + Unit::of(kBeforeEnd) > inner * (1 - kWordsShare);
-    if (isBelow != m_isEndBelow) {
-        m_isEndBelow = isBelow;
-        (isBelow ? m_line : m_words)->removeWidget(m_atEnd);
-        if (isBelow)
-            m_words->insertWidget(m_words->count() - 1, m_atEnd, 0, Qt::AlignLeading);
-        else
-            m_line->addWidget(m_atEnd);
-    }
-    if (!isBelow)
+    if (m_atEnd != nullptr && !m_isEndBelow)
         m_line->setAlignment(m_atEnd, alignment);
+}
+
+void MarkedRow::moveEnd(bool isBelow) {
+    m_isEndBelow = isBelow;
+    (isBelow ? m_line : m_words)->removeWidget(m_atEnd);
+    if (isBelow)
+        m_words->insertWidget(m_words->count() - 1, m_atEnd, 0, Qt::AlignLeading);
+    else
+        m_line->addWidget(m_atEnd);
+    // What stands there in a column begins with the words, or ends with the row.
+    if (QLayout* column = m_atEnd->layout())
+        for (int i = 0; i < column->count(); ++i)
+            column->itemAt(i)->setAlignment(isBelow ? Qt::AlignLeading : Qt::AlignTrailing);
 }
 
 }  // namespace kinesta

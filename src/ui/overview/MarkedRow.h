@@ -28,6 +28,7 @@ class MarkedRow final : public QWidget {
   private:
     void measure();
     void place();
+    void moveEnd(bool isBelow);
 
     double m_height;
     QWidget* m_mark;

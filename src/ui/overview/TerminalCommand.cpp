@@ -31,7 +31,7 @@ TerminalCommand::TerminalCommand(const QString& command, WindowCommands& command
     m_copy->setAccessibleName(tr("Copy the command"));
     connect(m_copy, &QPushButton::clicked, this, [command, &commands] {
         QGuiApplication::clipboard()->setText(command);
-        commands.showToast(tr("Copied the command."), {}, {});
+        commands.showToast(tr("Command copied"), {}, {});
     });
     auto* line = new QHBoxLayout(this);
     line->addWidget(m_field, 1);

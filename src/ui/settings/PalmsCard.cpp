@@ -51,7 +51,7 @@ QWidget* PalmsCard::makePanel() {
     auto* ends = new QHBoxLayout;
     ends->addWidget(new Words(tr("Small"), Words::Size::detail));
     auto* large = new Words(tr("Large"), Words::Size::detail);
-    large->setAlignment(Qt::AlignTrailing);
+    large->alignTo(Qt::AlignTrailing | Qt::AlignVCenter);
     ends->addWidget(large);
     words->addWidget(title);
     words->addWidget(m_size);

@@ -50,7 +50,7 @@ SettingsPage::SettingsPage(const WindowParts& parts, WindowCommands& commands)
       m_cue(new CueCard(m_model)),
       m_shell(new Switch(tr("Let rules run shell commands"))),
       m_application(new ApplicationCard(m_model)),
-      m_transferProblem(new Notice(Notice::Kind::error, {}, {})) {
+      m_transfer(new Notice(Notice::Kind::error, {}, {})) {
     addTitle();
     add(m_recognition);
     addHeading(tr("Palms"));
@@ -118,11 +118,12 @@ void SettingsPage::addRules(const std::string& version, WindowCommands& commands
         commands.resetSettings();
     });
     connect(about, &QPushButton::clicked, this, [&commands] { commands.showAbout(); });
-    m_transferProblem->hide();
+    m_transfer->hide();
     auto* card = new Card;
-    card->add(rowWith(tr("Rules as a file"), tr("Export all rules, or add rules from a file. An import can be undone."),
+    card->add(rowWith(tr("Rules as a file"),
+                      tr("Export all rules, or replace them by those of a file. An import can be undone."),
                       new ControlLine({import, exportRules})));
-    card->add(m_transferProblem);
+    card->add(m_transfer);
     card->add(rowWith(tr("Reset settings"),
                       tr("Puts the settings back as they were at first. Rules and the start at login stay."), reset));
     card->add(rowWith(tr("About Kinesta"), tr("Version %1").arg(QString::fromStdString(version)), about));
@@ -130,12 +131,13 @@ void SettingsPage::addRules(const std::string& version, WindowCommands& commands
     add(card);
 }
 
-void SettingsPage::setTransferProblem(const QString& problem) {
-    m_transferProblem->setWords(problem, {});
-    m_transferProblem->setVisible(!problem.isEmpty());
+void SettingsPage::setTransfer(const QString& problem, const QString& note) {
+    m_transfer->setKind(problem.isEmpty() ? Notice::Kind::plain : Notice::Kind::error);
+    m_transfer->setWords(problem.isEmpty() ? note : problem, {});
+    m_transfer->setVisible(!problem.isEmpty() || !note.isEmpty());
     // It has its place once the layout has run.
     if (!problem.isEmpty())
-        QTimer::singleShot(0, this, [this] { ensureWidgetVisible(m_transferProblem); });
+        QTimer::singleShot(0, this, [this] { ensureWidgetVisible(m_transfer); });
 }
 
 void SettingsPage::showEvent(QShowEvent* event) {

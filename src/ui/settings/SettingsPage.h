@@ -26,8 +26,9 @@ class SettingsPage final : public Page {
     SettingsPage(const WindowParts& parts, WindowCommands& commands);
     ~SettingsPage() override;
 
-    /// Shows why a rule file could not be imported or exported; nothing if the last one could.
-    void setTransferProblem(const QString& problem);
+    /// Shows why a rule file could not be imported or exported, or else something worth knowing about the last import.
+    /// Both may be empty.
+    void setTransfer(const QString& problem, const QString& note);
     /// Reads what cannot be observed: the stored settings have changed behind the page.
     void refresh() { m_model.refresh(); }
 
@@ -51,7 +52,7 @@ class SettingsPage final : public Page {
     CueCard* m_cue;
     Switch* m_shell;
     ApplicationCard* m_application;
-    Notice* m_transferProblem;
+    Notice* m_transfer;
     QElapsedTimer m_sinceListing;
     std::vector<Subscription> m_observers;
 };

@@ -38,8 +38,7 @@ QAccessibleInterface* makeAccessible(const QString& name, QObject* object) {
 }  // namespace
 
 CautionLine::CautionLine(QWidget* parent) : QWidget(parent) {
-    static const bool isInstalled = (QAccessible::installFactory(&makeAccessible), true);
-    static_cast<void>(isInstalled);
+    QAccessible::installFactory(&makeAccessible);
     setAttribute(Qt::WA_TransparentForMouseEvents);  // the wheel turns the list
     hide();
     m_staying.setSingleShot(true);

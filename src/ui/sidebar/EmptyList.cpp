@@ -33,7 +33,7 @@ EmptyList::EmptyList(QWidget* parent)
         column->addWidget(part, 0, qobject_cast<Words*>(part) ? Qt::Alignment() : Qt::AlignHCenter);
     column->addStretch(1);
     for (Words* words : {m_nothing, m_notFound})
-        words->setAlignment(Qt::AlignHCenter);
+        words->alignTo(Qt::AlignHCenter);
     connect(m_add, &QPushButton::clicked, this, &EmptyList::addWanted);
     connect(m_clear, &QPushButton::clicked, this, &EmptyList::clearWanted);
     setFilter({});

@@ -4,6 +4,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 
@@ -175,7 +176,9 @@ bool RuleDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     else if (parts.isElided && parts.row.contains(event->pos()))
         text = QString::fromStdString(row.name) + QLatin1Char('\n') + RuleItemModel::detail(row);
     // A name may look like markup.
-    QToolTip::showText(event->globalPos(), text.isEmpty() ? text : Qt::convertFromPlainText(text), view, parts.row);
+    QToolTip::showText(event->globalPos(),
+                       text.isEmpty() ? text : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()), view,
+                       parts.row);
     return true;
 }
 

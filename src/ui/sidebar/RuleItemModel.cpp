@@ -62,6 +62,13 @@ Qt::ItemFlags RuleItemModel::flags(const QModelIndex& index) const {
 
 void RuleItemModel::follow(const Rows& rows) {
     Q_EMIT willFollow();
+    // What a keystroke in the editor does.
+    if (std::ranges::equal(m_rows, rows, {}, &RuleRow::id, &RuleRow::id)) {
+        m_filter = m_rules.filter().value();
+        replaceChanged(rows);
+        Q_EMIT followed();
+        return;
+    }
     // A letter in the filter may take hundreds of rows from everywhere. A file written by hand may have an identifier
     // twice.
     if (m_filter != m_rules.filter().value() || hasTwins(m_rows) || hasTwins(rows)) {

@@ -43,7 +43,8 @@ QColor wordColour(const QStyleOption& option, const QWidget* widget) {
         return asQColor(theme.onAccent);
     if (Shapes::has(widget, "destructive"))
         return asQColor(theme.danger);
-    return asQColor(Shapes::has(widget, "link") ? theme.accent : theme.text);
+    // A toast is dark in both themes and has a palette of its own.
+    return Shapes::has(widget, "link") ? option.palette.color(QPalette::Link) : asQColor(theme.text);
 }
 
 QFont wordFont(const QWidget* widget) {

@@ -30,6 +30,7 @@ namespace {
 /// Keeps the square corners of what scrolls inside the round edge.
 constexpr double kScrollFrame = 3;
 constexpr double kDialogPadding = 24;
+constexpr double kQuestionWidth = 300;
 constexpr double kSpacing = 8;
 constexpr double kRowRadius = 6;
 constexpr double kIconMargin = 6;
@@ -83,6 +84,10 @@ void KinestaStyle::polish(QWidget* widget) {
         widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
     if ((qobject_cast<QMenu*>(widget) != nullptr || isComboList(widget) || isTip(widget)) && m_blends())
         widget->setAttribute(Qt::WA_TranslucentBackground);
+    if (widget->objectName() == QLatin1String("qt_msgbox_label")) {
+        widget->setFont(Unit::font(1, QFont::DemiBold));
+        widget->setMinimumWidth(Unit::of(kQuestionWidth));
+    }
     if (isFollowed(widget) || widget->isWindow() || qobject_cast<QLineEdit*>(widget) != nullptr)
         widget->installEventFilter(this);
 }
@@ -127,6 +132,8 @@ void KinestaStyle::followFocus(QWidget* widget, const QFocusEvent& event) {
         if (m_frame == nullptr)
             m_frame = new QFocusFrame;
         m_frame->setWidget(widget);
+        // It stays hidden around what is out of sight, even when that is scrolled into view right afterwards.
+        m_frame->show();
     } else if (m_frame != nullptr && event.reason() != Qt::PopupFocusReason) {
         m_frame->setWidget(nullptr);
     }

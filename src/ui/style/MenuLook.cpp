@@ -35,7 +35,7 @@ void paintFrame(QPainter& painter, const QRect& box, double radius) {
 QRegion shape(const QRect& box, double radius) {
     QPainterPath path;
     path.addRoundedRect(box, radius, radius);
-    return QRegion(path.toFillPolygon().toPolygon());
+    return {path.toFillPolygon().toPolygon()};
 }
 
 bool isSeparator(const QStyleOptionMenuItem& option) { return option.menuItemType == QStyleOptionMenuItem::Separator; }

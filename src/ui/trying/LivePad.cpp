@@ -23,11 +23,18 @@ QAccessibleInterface* makeAccessible(const QString& name, QObject* object) {
     return new QAccessibleWidget(static_cast<LivePad*>(object), QAccessible::Graphic);
 }
 
+void letScreenReadersKnow() {
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(&makeAccessible);
+        return true;
+    }();
+    static_cast<void>(isInstalled);
+}
+
 }  // namespace
 
 LivePad::LivePad(const Clock& clock, int width) : m_clock(clock), m_width(width), m_proportions(kUsualProportions) {
-    static const bool isKnown = (QAccessible::installFactory(&makeAccessible), true);
-    static_cast<void>(isKnown);
+    letScreenReadersKnow();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -54,6 +61,8 @@ void LivePad::setProportions(double proportions) {
 }
 
 void LivePad::setPalmRejection(const CornerPalmRejectionSettings& settings) {
+    if (settings == m_palms)
+        return;
     m_palms = settings;
     m_model.setPalmRejection(settings);
     changeGround();

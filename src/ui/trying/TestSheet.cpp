@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QShowEvent>
 #include <algorithm>
 
 #include "app/Desktop.h"
@@ -152,7 +153,9 @@ void TestSheet::measure() {
     const int padding = Unit::of(kPadding);
     const int width = std::min(Unit::of(kWidth), available.width() - 2 * Unit::of(kAround));
     const bool isNarrow = width < Unit::of(kNarrow);
-    const int padWidth = std::min(Unit::of(kPadWidth), width - 2 * padding);
+    // Above the words the pad leaves them room.
+    const int most = isNarrow ? available.height() / 2 : width;
+    const int padWidth = std::min({Unit::of(kPadWidth), width - 2 * padding, most});
     m_pad->setPadWidth(padWidth);
     m_key->setRoom(padWidth);
     m_columns->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);

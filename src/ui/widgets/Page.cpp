@@ -1,5 +1,6 @@
 #include "ui/widgets/Page.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -27,6 +28,13 @@ Page::Page(QWidget* parent) : QScrollArea(parent), m_ground(new QWidget), m_colu
     m_column->addStretch(1);
     setWidget(m_ground);
     measure();
+    // A scroll area follows Tab only inside itself, and not the focus that comes from the sidebar or from a key of the
+    // window. What is pressed stays below the pointer.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*former*/, QWidget* now) {
+        if (now != nullptr && widget() != nullptr && widget()->isAncestorOf(now) &&
+            QApplication::mouseButtons() == Qt::NoButton)
+            ensureWidgetVisible(now);
+    });
 }
 
 void Page::add(QWidget* part) { m_column->insertWidget(m_column->count() - 1, part); }
@@ -43,7 +51,22 @@ void Page::addHeading(const QString& text, QWidget* atEnd) {
     add(heading);
 }
 
-void Page::setBackButton(QWidget* button) { m_column->insertWidget(0, button, 0, Qt::AlignLeading); }
+void Page::setBackButton(QWidget* button) {
+    m_belowBack = new QSpacerItem(0, 0);
+    m_column->insertWidget(0, button, 0, Qt::AlignLeading);
+    m_column->insertItem(1, m_belowBack);
+    button->installEventFilter(this);
+}
+
+bool Page::eventFilter(QObject* watched, QEvent* event) {
+    // The gap comes and goes with the button.
+    if (m_belowBack != nullptr && (event->type() == QEvent::Show || event->type() == QEvent::Hide) &&
+        watched == m_column->itemAt(0)->widget()) {
+        m_belowBack->changeSize(0, event->type() == QEvent::Show ? Unit::of(kBelowHeading) : 0);
+        m_column->invalidate();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
 
 void Page::changeEvent(QEvent* event) {
     QScrollArea::changeEvent(event);

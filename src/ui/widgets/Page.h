@@ -21,6 +21,7 @@ class Page : public QScrollArea {
     virtual void setBackButton(QWidget* button);
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -29,6 +30,7 @@ class Page : public QScrollArea {
 
     QWidget* m_ground;
     QVBoxLayout* m_column;
+    QSpacerItem* m_belowBack = nullptr;
 };
 
 }  // namespace kinesta

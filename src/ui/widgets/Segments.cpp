@@ -16,7 +16,7 @@ namespace {
 constexpr double kRadius = 8;
 constexpr double kInset = 2;
 constexpr double kHeight = 28;
-constexpr double kPadding = 10;
+constexpr double kPadding = 8;
 
 class Segment final : public QAbstractButton {
   public:

@@ -130,7 +130,7 @@ void Tile::paintEvent(QPaintEvent* /*event*/) {
         if (layoutDirection() == Qt::RightToLeft) {
             at.setX(width() - at.x() - picture.width());
             words = QRect(side(), 0, at.x() - gap - side(), height());
-            flags = Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine;
+            flags = Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute | Qt::TextSingleLine;
         }
     }
     painter.setOpacity(isEnabled() ? 1 : 0.45);

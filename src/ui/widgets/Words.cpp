@@ -1,6 +1,7 @@
 #include "ui/widgets/Words.h"
 
 #include <QEvent>
+#include <QStyle>
 
 #include "ui/widgets/Unit.h"
 
@@ -44,12 +45,22 @@ Words::Words(const QString& text, Size size, QWidget* parent) : QLabel(text, par
     if (size == Size::detail || size == Size::caption)
         setForegroundRole(QPalette::PlaceholderText);
     applyFont();
+    align();
     followParent();
 }
+
+void Words::alignTo(Qt::Alignment alignment) {
+    m_alignment = alignment;
+    align();
+}
+
+void Words::align() { setAlignment(QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute); }
 
 bool Words::event(QEvent* event) {
     if (event->type() == QEvent::ParentChange)
         followParent();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        align();
     return QLabel::event(event);
 }
 

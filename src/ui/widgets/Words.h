@@ -13,6 +13,10 @@ class Words final : public QLabel {
 
     Words(const QString& text, Size size, QWidget* parent = nullptr);
 
+    /// Leading, trailing or centred, by the direction of the window and not by the language of the words: a path or a
+    /// name in another script stands below its title.
+    void alignTo(Qt::Alignment alignment);
+
   protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -20,8 +24,10 @@ class Words final : public QLabel {
   private:
     void followParent();
     void applyFont();
+    void align();
 
     Size m_size;
+    Qt::Alignment m_alignment = Qt::AlignLeading | Qt::AlignVCenter;
 };
 
 }  // namespace kinesta

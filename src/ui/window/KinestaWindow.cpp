@@ -15,16 +15,20 @@
 #include "app/Desktop.h"
 #include "app/SystemReport.h"
 #include "ui/about/AboutSheet.h"
+#include "ui/about/ApplicationIcon.h"
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/models/RuleEditing.h"
 #include "ui/overview/OverviewPage.h"
+#include "ui/pictures/WindowSymbol.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sidebar/Sidebar.h"
 #include "ui/trying/TestSheet.h"
 #include "ui/widgets/AccessibleParts.h"
+#include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 #include "ui/window/FieldUndo.h"
 #include "ui/window/Panes.h"
+#include "ui/window/ResetQuestion.h"
 #include "ui/window/RuleFiles.h"
 #include "ui/window/StepAside.h"
 #include "ui/window/Toast.h"
@@ -54,8 +58,16 @@ KinestaWindow::KinestaWindow(WindowParts parts)
       m_pages(new QStackedWidget),
       m_panes(new Panes(m_sidebar, m_pages)),
       m_toast(new Toast(m_pages)),
-      m_files(new RuleFiles(m_parts, m_history, *this, this)) {
+      m_files(new RuleFiles(m_parts, m_history, *this, this)),
+      m_reset(new ResetQuestion(
+          m_parts, m_history, *this,
+          [this] {
+              m_parts.reloadSettings();
+              refresh();
+          },
+          this)) {
     AccessibleParts::install();
+    setWindowIcon(ApplicationIcon::icon());
     setAcceptDrops(true);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -75,12 +87,17 @@ KinestaWindow::KinestaWindow(WindowParts parts)
             m_editor->focusName();
     });
     connect(m_files, &RuleFiles::problemChanged, this, [this](const QString& problem) {
-        if (m_settings != nullptr)
-            m_settings->setTransferProblem(problem);
+        m_transferProblem = problem;
+        m_transferNote.clear();
+        showTransfer();
+    });
+    connect(m_files, &RuleFiles::copyKept, this, [this](const QString& file) {
+        m_transferNote = tr("The rules before the import are kept in %1").arg(file);
+        showTransfer();
     });
     addKeys();
     m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
-    m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismiss(); }));
+    m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismissOffer(); }));
     followSelection();
 }
 
@@ -125,6 +142,17 @@ void KinestaWindow::gestureDispatched(const DetectedGesture& gesture, const Gest
         m_editor->gestureRecognized(gesture);
     if (m_testSheet)
         m_testSheet->gestureRecognized(gesture);
+}
+
+void KinestaWindow::setNotices(std::vector<OverviewNotice> notices) {
+    const auto& before = m_overviewModel.content().value().notices;
+    // Who edits a rule must see that it is not stored, without the overview.
+    const auto news = std::ranges::find_if(notices, [&](const OverviewNotice& notice) {
+        return notice.kind == OverviewNotice::Kind::problem && std::ranges::find(before, notice) == before.end();
+    });
+    if (news != notices.end() && m_list.selection().value() != WindowSelection::overview())
+        m_toast->tell(QString::fromStdString(news->text), {}, {});
+    m_overviewModel.setNotices(std::move(notices));
 }
 
 void KinestaWindow::refresh() {
@@ -197,7 +225,7 @@ void KinestaWindow::importRules() { m_files->import(); }
 
 void KinestaWindow::exportRules() { m_files->exportAll(); }
 
-void KinestaWindow::resetSettings() {}
+void KinestaWindow::resetSettings() { m_reset->ask(); }
 
 void KinestaWindow::showAbout() {
     auto* about = new AboutSheet(m_parts, *this, this);
@@ -272,15 +300,17 @@ void KinestaWindow::followSelection() {
             m_editedRule = selection.ruleId;
             m_editor = new RuleEditorPage(selection.ruleId, m_list, m_history, m_parts, *this);
         }
-        show(m_editor);
+        bringUp(m_editor);
     } else if (selection.kind == WindowSelection::Kind::settings) {
-        if (m_settings == nullptr)
+        if (m_settings == nullptr) {
             m_settings = new SettingsPage(m_parts, *this);
-        show(m_settings);
+            showTransfer();
+        }
+        bringUp(m_settings);
     } else {
         if (m_overview == nullptr)
             m_overview = new OverviewPage(m_overviewModel, m_parts, *this);
-        show(m_overview);
+        bringUp(m_overview);
     }
     if (former != nullptr) {
         m_pages->removeWidget(former);
@@ -288,7 +318,12 @@ void KinestaWindow::followSelection() {
     }
 }
 
-void KinestaWindow::show(Page* page) {
+void KinestaWindow::showTransfer() {
+    if (m_settings != nullptr)
+        m_settings->setTransfer(m_transferProblem, m_transferNote);
+}
+
+void KinestaWindow::bringUp(Page* page) {
     if (m_pages->indexOf(page) < 0) {
         giveBackButton(*page);
         m_pages->addWidget(page);
@@ -300,7 +335,8 @@ void KinestaWindow::show(Page* page) {
 void KinestaWindow::giveBackButton(Page& page) {
     auto* button = new QToolButton;
     button->setAutoRaise(true);
-    button->setArrowType(layoutDirection() == Qt::RightToLeft ? Qt::RightArrow : Qt::LeftArrow);
+    button->setIcon(SymbolIcon::of(
+        windowSymbol(layoutDirection() == Qt::RightToLeft ? WindowSymbol::chevronRight : WindowSymbol::chevronLeft)));
     button->setAccessibleName(tr("Back"));
     button->setToolTip(tr("Back"));
     button->setFixedSize(Unit::of(28, 28));

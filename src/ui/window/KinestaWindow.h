@@ -18,6 +18,7 @@ namespace kinesta {
 class OverviewPage;
 class Page;
 class Panes;
+class ResetQuestion;
 class RuleEditorPage;
 class RuleFiles;
 class SettingsPage;
@@ -37,7 +38,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     /// Takes what GestureDispatcher passes to its observer.
     void gestureDispatched(const DetectedGesture& gesture, const GestureRule* rule);
     /// What is missing or went wrong, as sentences; the last ones come last.
-    void setNotices(std::vector<OverviewNotice> notices) { m_overviewModel.setNotices(std::move(notices)); }
+    void setNotices(std::vector<OverviewNotice> notices);
     /// Reads what cannot be observed: settings that another process has changed, the permission.
     void refresh();
 
@@ -45,7 +46,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void addRule() override;
     void addRuleForLastGesture() override;
     void tryGesture() override;
-    void runAction(const Uuid& rule) override;
+    void runAction(const Uuid& id) override;
     void deleteRules() override { m_list.deleteSelectedRule(); }
     void importRules() override;
     void exportRules() override;
@@ -74,7 +75,8 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void switchPane();
     void goBack();
     void followSelection();
-    void show(Page* page);
+    void showTransfer();
+    void bringUp(Page* page);
     void giveBackButton(Page& page);
     void focusPage();
     void savePlace();
@@ -89,6 +91,9 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     Panes* m_panes;
     Toast* m_toast;
     RuleFiles* m_files;
+    ResetQuestion* m_reset;
+    QString m_transferProblem;
+    QString m_transferNote;
     OverviewPage* m_overview = nullptr;
     SettingsPage* m_settings = nullptr;
     RuleEditorPage* m_editor = nullptr;

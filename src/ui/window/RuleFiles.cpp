@@ -45,7 +45,11 @@ void RuleFiles::importFile(const QString& file) {
     const std::string path = QFile::encodeName(file).toStdString();
     const QString name = QFileInfo(file).fileName();
     std::istringstream none;
-    auto rules = readRuleFile(path, none);
+    const QFileInfo info(file);
+    // Reading a pipe would hang the window until somebody writes to it.
+    auto rules = info.exists() && !info.isFile() && !info.isDir()
+                     ? Error{path + ": this is a pipe or a device, not a rule file"}
+                     : readRuleFile(path, none);
     std::string problem;
     ImportedRules imported;
     if (rules) {

@@ -122,8 +122,9 @@ void Toast::place() {
     setMinimumHeight(Unit::of(kHeight));
     m_text->setWordWrap(false);
     const int room = page->width() - 2 * Unit::of(kFromBottom);
-    m_text->setWordWrap(sizeHint().width() > room);
-    const int width = std::min(room, sizeHint().width());
+    const bool isLong = sizeHint().width() > room;
+    m_text->setWordWrap(isLong);
+    const int width = isLong ? room : sizeHint().width();  // the hint of text that wraps is narrow
     const int height = layout()->hasHeightForWidth() ? std::max(minimumHeight(), layout()->totalHeightForWidth(width))
                                                      : std::max(minimumHeight(), sizeHint().height());
     setGeometry((page->width() - width) / 2, page->height() - height - Unit::of(kFromBottom), width, height);

@@ -23,6 +23,11 @@ class Toast final : public QWidget {
     /// Shows the text in place of the one before. `action` is the word on the button; empty for no button.
     void tell(const QString& text, const QString& action, std::function<void()> onAction);
     void dismiss();
+    /// Takes back what the button offers: it would do something else by now.
+    void dismissOffer() {
+        if (m_onAction)
+            dismiss();
+    }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

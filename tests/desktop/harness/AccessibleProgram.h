@@ -7,8 +7,10 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "desktop/harness/ChildProcess.h"
@@ -18,7 +20,7 @@ namespace kinesta::testing {
 /// A program as screen readers see it, and a hand that points and types. Asks the accessibility bus itself.
 class AccessibleProgram {
   public:
-    enum State { checked = 4, enabled = 8, focused = 12, selected = 23, showing = 25 };
+    enum State { checked = 4, enabled = 8, focusable = 11, focused = 12, selected = 23, showing = 25 };
 
     struct Node {
         std::string bus;
@@ -53,13 +55,12 @@ class AccessibleProgram {
     AccessibleProgram(const AccessibleProgram&) = delete;
     AccessibleProgram& operator=(const AccessibleProgram&) = delete;
 
-    /// What is on the screen with this role and name; waits for it.
+    /// What is on the screen with this role and name; waits for it. Without it the test cannot go on.
     Node await(const std::string& role, const std::string& name) const {
         std::optional<Node> found;
-        EXPECT_TRUE(eventually([&] { return (found = find(role, name)).has_value(); }))
-            << "no " << role << " “" << name << "” among:\n"
-            << outline();
-        return found.value_or(Node{});
+        if (!eventually([&] { return (found = find(role, name)).has_value(); }))
+            throw std::runtime_error("no " + role + " “" + name + "” among:\n" + outline());
+        return *found;
     }
     bool awaitGone(const std::string& role, const std::string& name) const {
         return eventually([&] { return !find(role, name); });
@@ -71,8 +72,35 @@ class AccessibleProgram {
     bool becomes(const Node& node, State state, bool wanted = true) const {
         return eventually([&] { return read(node.bus, node.path).has(state) == wanted; });
     }
+    /// Waits for a combo box with this label; its own name is its text.
+    Node awaitCombo(const std::string& label) const {
+        const Node title = await("label", label);
+        std::optional<Node> found;
+        EXPECT_TRUE(eventually([&] {
+            return (found = search(m_program,
+                                   [&](const Node& node) { return node.role == "combo box" && hasLabel(node, title); }))
+                .has_value();
+        })) << label;
+        return found.value_or(Node{});
+    }
+    /// What has the keyboard focus. Qt calls the current row of a list focused wherever the focus is.
     std::optional<Node> focus() const {
-        return search(m_program, [](const Node& node) { return node.has(focused); });
+        return search(m_program, [](const Node& node) { return node.has(focused) && node.role != "list item"; });
+    }
+    /// Presses the key until the focus is there.
+    ::testing::AssertionResult tabTo(const std::string& role, const std::string& name,
+                                     const std::string& key = "Tab") const {
+        std::string passed;
+        for (int stop = 0; stop < 40; ++stop) {
+            const Node before = focus().value_or(Node{});
+            if (before.role == role && before.name == name)
+                return ::testing::AssertionSuccess();
+            passed += before.role + " " + before.name + "\n";
+            press(key);
+            if (!eventually([&] { return focus().value_or(before).path != before.path; }))
+                return ::testing::AssertionFailure() << "stays in " << passed;
+        }
+        return ::testing::AssertionFailure() << role << " " << name << " not among\n" << passed;
     }
 
     /// Every part that is on the screen, an indented line each.
@@ -121,22 +149,61 @@ class AccessibleProgram {
             sd_bus_message_read(reply.get(), "(iiii)", &x, &y, &width, &height);
         return {x + width / 2, y + height / 2};
     }
-    /// A real click. The node must be on the screen.
-    void click(const Node& node, int button = 1) const {
-        const auto [x, y] = middle(node);
-        hand("mousemove --sync " + std::to_string(x) + " " + std::to_string(y) + " click " + std::to_string(button));
+    /// Where the node rests once the page has been laid out, and scrolled to it if need be. The page fills the screen.
+    std::tuple<int, int> reveal(const Node& node) const {
+        std::tuple<int, int> place;
+        const bool isThere = eventually([&] {
+            if (std::exchange(place, middle(node)) != place)
+                return false;
+            const int y = std::get<1>(place);
+            if (y > kTop && y < kBottom)
+                return true;
+            hand("mousemove 1240 400 click " + std::string(y > kTop ? "5" : "4"));
+            return false;
+        });
+        if (!isThere)
+            throw std::runtime_error("cannot reach " + node.name);
+        return place;
+    }
+    /// A real click, or another act of the hand at the node.
+    void click(const Node& node, int button = 1) const { handAt(node, "click " + std::to_string(button)); }
+    void handAt(const Node& node, const std::string& act) const {
+        const auto [x, y] = reveal(node);
+        hand("mousemove " + std::to_string(x) + " " + std::to_string(y) + " " + act);
     }
     void click(const std::string& role, const std::string& name) const { click(await(role, name)); }
     static void press(const std::string& keys) { hand("key " + keys); }
-    static void type(const std::string& text) { hand("type --delay 2 '" + text + "'"); }
+    static void type(const std::string& text) { hand("type --delay 2 -- '" + text + "'"); }
     static void hand(const std::string& act) { EXPECT_TRUE(run("xdotool " + act)) << act; }
 
   private:
+    static constexpr int kTop = 20;
+    static constexpr int kBottom = 780;
+
     struct Unref {
         void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
     };
     using Message = std::unique_ptr<sd_bus_message, Unref>;
 
+    bool hasLabel(const Node& node, const Node& label) const {
+        constexpr std::uint32_t kLabelledBy = 2;
+        const auto reply = call(node, "org.a11y.atspi.Accessible", "GetRelationSet");
+        bool has = false;
+        if (!reply || sd_bus_message_enter_container(reply.get(), 'a', "(ua(so))") < 0)
+            return false;
+        while (sd_bus_message_enter_container(reply.get(), 'r', "ua(so)") > 0) {
+            std::uint32_t relation = 0;
+            const char* bus = nullptr;
+            const char* path = nullptr;
+            sd_bus_message_read(reply.get(), "u", &relation);
+            sd_bus_message_enter_container(reply.get(), 'a', "(so)");
+            while (sd_bus_message_read(reply.get(), "(so)", &bus, &path) > 0)
+                has = has || (relation == kLabelledBy && path == label.path);
+            sd_bus_message_exit_container(reply.get());
+            sd_bus_message_exit_container(reply.get());
+        }
+        return has;
+    }
     static std::string types() { return {}; }
     static std::string types(std::uint32_t) { return "u"; }
     static std::string types(int, int) { return "ii"; }

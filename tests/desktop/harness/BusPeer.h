@@ -119,7 +119,7 @@ class BusServices : public BusPeer {
 };
 
 /// A program with a tree of elements on the accessibility bus, which it starts as toolkits do.
-class AccessibleProgram : public BusPeer {
+class PretendedProgram : public BusPeer {
   public:
     struct Element {
         std::uint64_t state = 0;
@@ -127,14 +127,14 @@ class AccessibleProgram : public BusPeer {
     };
 
     /// Elements by the last part of their path; the program itself is "root".
-    explicit AccessibleProgram(std::map<std::string, Element> elements)
+    explicit PretendedProgram(std::map<std::string, Element> elements)
         : BusPeer(addressOfBus()), m_elements(std::move(elements)) {
         EXPECT_GE(sd_bus_call_method(m_bus, "org.a11y.atspi.Registry", pathOf("root").c_str(), "org.a11y.atspi.Socket",
                                      "Embed", nullptr, nullptr, "(so)", name(), pathOf("root").c_str()),
                   0);
-        serve(&AccessibleProgram::answer, this);
+        serve(&PretendedProgram::answer, this);
     }
-    ~AccessibleProgram() { hang(); }
+    ~PretendedProgram() { hang(); }
 
   private:
     static std::string addressOfBus() {
@@ -153,7 +153,7 @@ class AccessibleProgram : public BusPeer {
     }
 
     static int answer(sd_bus_message* call, void* self, sd_bus_error*) {
-        auto& program = *static_cast<AccessibleProgram*>(self);
+        auto& program = *static_cast<PretendedProgram*>(self);
         const std::string path = sd_bus_message_get_path(call);
         const auto element = program.m_elements.find(path.substr(path.rfind('/') + 1));
         if (element == program.m_elements.end())

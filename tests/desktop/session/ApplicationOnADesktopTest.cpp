@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-
 #include <nlohmann/json.hpp>
 
 #include "desktop/harness/ApplicationProcess.h"
 #include "desktop/harness/BusPeer.h"
+#include "desktop/harness/PadStream.h"
 #include "desktop/harness/ProcessFigures.h"
 #include "desktop/harness/TestWindow.h"
 #include "support/TemporaryFolder.h"
@@ -13,12 +12,6 @@ namespace kinesta::testing {
 namespace {
 
 using nlohmann::json;
-using Clock = std::chrono::steady_clock;
-
-double millisecondsSince(Clock::time_point begin) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
-}
-
 /// The part of a panel that icons register with.
 struct Panel : BusPeer {
     Panel() {
@@ -34,8 +27,8 @@ struct Panel : BusPeer {
     std::atomic<bool> hasIcon = false;
 };
 
-struct ApplicationOnADesktop : Application {
-    ApplicationOnADesktop() : Application(TestDesktop::openbox) { mkfifo("pad", 0600); }
+struct ApplicationOnADesktop : Application, PadStream {
+    ApplicationOnADesktop() : Application(TestDesktop::openbox) {}
 
     void startWithIcon(const std::string& arguments) {
         panel.hasIcon = false;
@@ -92,26 +85,6 @@ struct ApplicationOnADesktop : Application {
             [&] { return visible("Kinesta") != XCB_WINDOW_NONE && desktop.active() == visible("Kinesta"); });
     }
 
-    /// Opens the pad for writing. The application has opened it before.
-    void openPad() {
-        pad.open("pad");
-        pad << "{\"kinesta\":\"recording\",\"version\":1}" << std::endl;
-    }
-    /// Returns when the line with the last lift, which is then due, has been written.
-    Clock::time_point tapThreeTimes(int fingers) {
-        const auto begin = Clock::now();
-        const double time = std::chrono::duration<double>(begin.time_since_epoch()).count();
-        std::string touches;
-        for (int id = 1; id <= fingers; ++id)
-            touches += (id > 1 ? ",[" : "[") + std::to_string(id) + ",0." + std::to_string(3 + id) + ",0.5]";
-        for (int frame = 1; frame <= 6; ++frame) {
-            if (frame == 6)
-                eventually([&] { return millisecondsSince(begin) > 300; });
-            pad << "{\"t\":" << std::fixed << time + 0.05 * frame << ",\"touches\":[" << (frame % 2 == 1 ? touches : "")
-                << "]}" << std::endl;
-        }
-        return Clock::now();
-    }
     static void importRules(const std::vector<std::pair<int, std::string>>& tripleTaps) {
         std::string rules;
         for (const auto& [fingers, action] : tripleTaps) {
@@ -127,7 +100,6 @@ struct ApplicationOnADesktop : Application {
 
     Panel panel;
     std::unique_ptr<ChildProcess> application;
-    std::ofstream pad;
 };
 
 TEST_F(ApplicationOnADesktop, ShowsItsStateInTheMenuAndDoesWhatIsChosen) {

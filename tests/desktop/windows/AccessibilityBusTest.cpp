@@ -9,7 +9,7 @@
 namespace kinesta::testing {
 namespace {
 
-using Tree = std::map<std::string, AccessibleProgram::Element>;
+using Tree = std::map<std::string, PretendedProgram::Element>;
 
 constexpr std::uint64_t kActive = 1U << 1U;
 constexpr std::uint64_t kModal = 1U << 16U;
@@ -39,7 +39,7 @@ TEST(AccessibilityBus, FindsAModalDialogInsideTheActiveWindow) {
     };
     EXPECT_TRUE(isQuick()) << "starts no bus to look at";
     const auto check = [&](const char* what, const Tree& tree, bool isThere) {
-        const AccessibleProgram program(tree);
+        const PretendedProgram program(tree);
         EXPECT_EQ(bus.hasDialogInside(getpid(), 5), isThere) << what;
         EXPECT_FALSE(bus.hasDialogInside(getppid(), 5)) << what << ": of another program";
     };
@@ -54,7 +54,7 @@ TEST(AccessibilityBus, FindsAModalDialogInsideTheActiveWindow) {
     check("a tree that goes round", endless, false);
     check("a program without elements", {}, false);
 
-    AccessibleProgram program(windowWith(kShowing | kModal));
+    PretendedProgram program(windowWith(kShowing | kModal));
     program.hang();
     EXPECT_TRUE(isQuick());
     desktop.sessionBus.reset();
@@ -73,7 +73,7 @@ TEST(AccessibilityBus, KeepsAWindowWithADialogOpen) {
         return std::get<AccessibilityList>(children).items.size();
     };
     EXPECT_EQ(sheets(), 0U);
-    const AccessibleProgram program(windowWith(kShowing | kModal));
+    const PretendedProgram program(windowWith(kShowing | kModal));
     EXPECT_TRUE(eventually([&] { return sheets() == 1; }));
 }
 

@@ -58,8 +58,9 @@ TEST(RuleEditorModel, ChangesWhatDependsOnTheTypeOfGesture) {
     std::string titles;
     for (const RuleEditorNotice& notice : noticesOf(f.content(), false))
         titles += notice.title + "\n";
-    EXPECT_EQ(titles, "This rule was switched off.\nMay conflict with Secondary Click\n"
-                      "This touchpad cannot tell how hard it is pressed, so no Force Click will come.\n");
+    EXPECT_EQ(titles,
+              "This rule was switched off.\nMay conflict with Secondary Click\n"
+              "This touchpad cannot tell how hard it is pressed, so no Force Click will come.\n");
     f.model->setType(GestureTypeChoice::anchorDraw);
     EXPECT_EQ(f.rule().action, GestureAction());
     f.model->pick(GesturePicker::corner, static_cast<int>(AnchorCorner::topLeft));
@@ -74,7 +75,12 @@ TEST(RuleEditorModel, FollowsTheStoreAndTakesAGesture) {
     Fixture f(makeShellCommand(true));
     f.model->setActionValue("rm");
     EXPECT_TRUE(f.content().wasSwitchedOffByEdit && !f.rule().isEnabled);
+    EXPECT_TRUE(f.content().mustConfirmAgain);
+    f.history->undo();
+    EXPECT_FALSE(f.content().mustConfirmAgain) << "the old text is confirmed";
+    f.model->setActionValue("rm");
     f.model->setShellCommandAcknowledged(true);
+    EXPECT_FALSE(f.content().mustConfirmAgain);
     EXPECT_TRUE(f.content().canTurnOn);
     f.store.enableAllRules();  // elsewhere
     EXPECT_FALSE(f.content().wasSwitchedOffByEdit);

@@ -106,7 +106,7 @@ TEST(RuleListModel, FiltersLongLists) {
     f.model.setFilter("tab");
     EXPECT_EQ(f.model.rows().value().size(), 8);  // not offered yet
     f.model.addRule();
-    for (const auto& row : tableRows("window ü => \nÜBER => Über Fenster-\n close  TAB => Next TAB-\n"
+    for (const auto& row : tableRows("window ü => Über Fenster-\nÜBER => Über Fenster-\n close  TAB => Next TAB-\n"
                                      "3-FINGER => a\nforce back => back-\nno action => [Untitled gesture]-?\n")) {
         f.model.setFilter(row[0]);
         EXPECT_EQ(f.text(), row[1]) << row[0];

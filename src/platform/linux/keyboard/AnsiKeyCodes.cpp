@@ -6,6 +6,8 @@
 #include <array>
 #include <string>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -99,13 +101,16 @@ std::optional<std::uint16_t> keyForShortcut(std::uint16_t ansiKeyCode, std::uint
 
 std::optional<Obstacle> obstacleToKey(std::uint16_t ansiKeyCode, std::uint64_t flags) {
     if (isTiling(ansiKeyCode, flags))
-        return Obstacle{"The shortcut tiles windows, and that was not possible.", "See: kinesta doctor"};
+        return Obstacle{translated("The shortcut tiles windows, and that was not possible."),
+                        translated("See: kinesta doctor")};
     if (keyForShortcut(ansiKeyCode, flags))
         return std::nullopt;
-    const std::string key = "The key with code " + std::to_string(ansiKeyCode);
+    const std::string key = std::to_string(ansiKeyCode);
     if (evdevKeyCode(ansiKeyCode))
-        return Obstacle{key + " has no meaning together with fn on this desktop.", "Choose another shortcut."};
-    return Obstacle{key + " is not on keyboards here.", "Choose another key."};
+        return Obstacle{translated("The key with code %1 has no meaning together with fn on this desktop.", {key}),
+                        translated("Choose another shortcut.")};
+    return Obstacle{translated("The key with code %1 is not on keyboards here.", {key}),
+                    translated("Choose another key.")};
 }
 
 }  // namespace kinesta

@@ -6,6 +6,7 @@
 
 #include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/settings/LinuxActionSettings.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -56,7 +57,8 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeKeyEvent(EventSou
         if (obstacle)
             m_log(obstacle->why + " " + obstacle->remedy);
         else if (m_poster.isAvailable())  // else the poster has reported it
-            m_log("The key with code " + std::to_string(keyCode) + " is not on this keyboard. Choose another key.");
+            m_log(translated("The key with code %1 is not on this keyboard. Choose another key.",
+                             {std::to_string(keyCode)}));
     });
 }
 
@@ -83,7 +85,7 @@ std::unique_ptr<SynthesizedEvent> PostingEventSynthesizer::makeSystemDefinedEven
     return std::make_unique<Event>([this, code, transition](auto) {
         if (!postKey(code, transition, DesktopModifiers{0}) && transition == KeyTransition::down &&
             m_poster.isAvailable())
-            m_log("The volume keys are not on this keyboard layout; choose one that has them.");
+            m_log(translated("The volume keys are not on this keyboard layout; choose one that has them."));
     });
 }
 

@@ -14,6 +14,7 @@
 #include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/settings/DurableFile.h"
 #include "support/SystemError.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -66,7 +67,7 @@ constexpr std::array<Pane, 8> kPanes{{
 }};
 
 Error failure(const std::string& path, const std::error_code& reason) {
-    return {"The start at login cannot be changed: " + path + ": " + systemErrorText(reason.value())};
+    return {translated("The start at login cannot be changed: %1", {path + ": " + systemErrorText(reason.value())})};
 }
 
 }  // namespace
@@ -98,7 +99,7 @@ Outcome AutostartLoginItem::registerItem() {
         "Icon=com.orvane.kinesta\nExec=" +
         DesktopFile::quoted(m_program) + " --background\nTerminal=false\n");
     if (!written)
-        return Error{"The start at login cannot be changed: " + written.error().message};
+        return Error{translated("The start at login cannot be changed: %1", {written.error().message})};
     return success();
 }
 
@@ -117,8 +118,9 @@ Outcome AutostartLoginItem::openSettings() {
         return success();
     }
     m_workspace.openFile(folder());
-    return Error{"This desktop has no settings for what starts at login. To allow it, delete " + file() +
-                 " and switch it on again."};
+    return Error{translated(
+        "This desktop has no settings for what starts at login. To allow it, delete %1 and switch it on again.",
+        {file()})};
 }
 
 }  // namespace kinesta

@@ -3,6 +3,8 @@
 #include <optional>
 #include <utility>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -35,14 +37,14 @@ std::optional<std::string> expanded(const std::string& word, const std::string& 
 Result<DesktopEntry> DesktopEntry::read(const std::string& path, const std::string& locale) {
     const auto file = DesktopFile::read(path);
     if (!file)
-        return Error{path + " cannot be read; choose the application again."};
+        return Error{translated("%1 cannot be read; choose the application again.", {path})};
     return of(*file, path, locale);
 }
 
 Result<DesktopEntry> DesktopEntry::of(const DesktopFile& file, const std::string& path, const std::string& locale) {
     const auto words = DesktopFile::words(file.value("Exec"));
     if (file.value("Type") != "Application" || !words || words->empty())
-        return Error{path + " does not say how to start an application; choose another file."};
+        return Error{translated("%1 does not say how to start an application; choose another file.", {path})};
 
     DesktopEntry entry;
     entry.workingDirectory = file.value("Path");
@@ -57,7 +59,7 @@ Result<DesktopEntry> DesktopEntry::of(const DesktopFile& file, const std::string
         }
     }
     if (entry.command.empty() || entry.command.front().empty())
-        return Error{path + " does not say how to start an application; choose another file."};
+        return Error{translated("%1 does not say how to start an application; choose another file.", {path})};
     return entry;
 }
 

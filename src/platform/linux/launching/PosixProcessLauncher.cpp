@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "platform/linux/process/UserDatabase.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -154,7 +155,7 @@ void PosixProcessLauncher::start(const ProcessDescription& process) {
         posix_spawnp(&child, executable.c_str(), actions.pointer(), attributes.pointer(), pointers.data(), environ);
     if (error != 0) {
         if (m_options.log)
-            m_options.log(executable + " could not be started: " + std::strerror(error) + ".");
+            m_options.log(translated("%1 could not be started: %2.", {executable, std::strerror(error)}));
         return;
     }
     m_children.push_back({child, FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, child, 0)))});

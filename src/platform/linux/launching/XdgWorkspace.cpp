@@ -8,6 +8,7 @@
 #include "platform/linux/launching/DesktopEntry.h"
 #include "platform/linux/launching/DesktopFile.h"
 #include "platform/linux/process/SessionEnvironment.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -33,7 +34,7 @@ void XdgWorkspace::openURL(const std::string& url) {
     if (isInSearchPath(kOpener))
         m_launcher.launch(kOpener, {url});
     else if (!m_portal.openURL(url))
-        m_log("Nothing here opens addresses; install xdg-utils.");
+        m_log(translated("Nothing here opens addresses; install xdg-utils."));
 }
 
 void XdgWorkspace::openFile(const std::string& path) {
@@ -41,7 +42,8 @@ void XdgWorkspace::openFile(const std::string& path) {
     if (isInSearchPath(kOpener))
         m_launcher.launch(kOpener, {file});
     else if (!m_portal.openFile(file))
-        m_log(file + " could not be opened: it is missing, or nothing here opens files; install xdg-utils.");
+        m_log(translated("%1 could not be opened: it is missing, or nothing here opens files; install xdg-utils.",
+                         {file}));
 }
 
 void XdgWorkspace::launchApplication(const std::string& path, const std::vector<std::string>& arguments) {

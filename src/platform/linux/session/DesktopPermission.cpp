@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 
 DesktopPermission::DesktopPermission(InputPoster& poster, DesktopNotifications& notifications, Remedy remedy)
@@ -10,7 +12,7 @@ DesktopPermission::DesktopPermission(InputPoster& poster, DesktopNotifications& 
 bool DesktopPermission::prompt() {
     if (isTrusted())
         return true;
-    m_notifications.show("Kinesta may not send keys and clicks", m_remedy());
+    m_notifications.show(translated("Kinesta may not send keys and clicks"), m_remedy());
     return false;
 }
 

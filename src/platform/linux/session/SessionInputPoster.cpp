@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/linux/session/DesktopFacts.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -19,7 +20,7 @@ bool SessionInputPoster::isAvailable() {
     InputPoster& chosen = poster();
     const bool isAvailable = chosen.isAvailable();
     if (&chosen == &m_xServer && std::exchange(m_hasLoggedServer, !isAvailable) == isAvailable && !isAvailable)
-        m_log("Keys cannot be posted, for no X server answers; see: kinesta doctor");
+        m_log(translated("Keys cannot be posted, for no X server answers; see: kinesta doctor"));
     return isAvailable;
 }
 

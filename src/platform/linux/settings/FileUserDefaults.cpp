@@ -4,31 +4,42 @@
 
 #include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/settings/DefaultsFileCoding.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-constexpr std::string_view kNotStored = "Changed settings could not be stored and last only until Kinesta quits";
+constexpr std::string_view kNotStored =
+    TRANSLATABLE("Changed settings could not be stored and last only until Kinesta quits: %1");
 
 Error notSetAside(const Error& damage, const Error& reason) {
-    return {damage.message + ", and it cannot be set aside: " + reason.message};
+    return {translated("%1, and it cannot be set aside: %2", {damage.message, reason.message})};
 }
 
 }  // namespace
 
 FileUserDefaults::FileUserDefaults(std::string path, ProblemHandler problemHandler)
     : m_path(std::move(path)), m_problemHandler(std::move(problemHandler)) {
-    settle(load(), "The stored settings could not be read, so the standard ones are in use");
+    settle(load(), TRANSLATABLE("The stored settings could not be read, so the standard ones are in use: %1"));
+}
+
+void FileUserDefaults::saveInBackground(MainThread& mainThread, std::function<void()> onReloadDue) {
+    m_mainThread = &mainThread;
+    m_onReloadDue = std::move(onReloadDue);
 }
 
 bool FileUserDefaults::reload() {
-    // Nobody else writes meanwhile, and the file is older than the values.
-    if (m_background.isBusy())
+    // The file is older than the values. An editor, which does not know the lock, may replace it at this moment.
+    if (m_background.isBusy()) {
+        m_isReloadDue = true;
         return std::exchange(m_hasMerged, false);
+    }
+    settleBackground();
     const StoredValues before = values();
     const auto file = DurableFile::at(m_path);
     const auto content = file ? file->read() : file.error();
-    settle(content ? merge(*content) : content.error(), "The settings were changed elsewhere but could not be read");
+    settle(content ? merge(*content) : content.error(),
+           TRANSLATABLE("The settings were changed elsewhere but could not be read: %1"));
     return std::exchange(m_hasMerged, false) || values() != before;
 }
 
@@ -43,7 +54,7 @@ Outcome FileUserDefaults::checkSaving() const {
 std::string FileUserDefaults::defaultPath() { return configurationFolder() + "/kinesta/defaults.json"; }
 
 const Outcome& FileUserDefaults::lastSaving() {
-    if (m_mainThread != nullptr && m_lastSaving) {
+    if (m_lastSaving) {
         static_cast<void>(m_background.wait());
         settleBackground();
     }
@@ -89,6 +100,7 @@ Outcome FileUserDefaults::save() {
             return *staged;
         }
     }
+    settleBackground();  // else merging would take back what the last run has failed to store
     auto file = DurableFile::at(m_path);
     if (!file)
         return file.error();
@@ -123,19 +135,31 @@ Outcome FileUserDefaults::write(DurableFile file, FileDescriptor lock, const std
     m_background.begin(std::move(file), std::move(lock), [mainThread = m_mainThread, self = std::weak_ptr(m_self)] {
         mainThread->post([self] {
             if (const auto defaults = self.lock())
-                (*defaults)->settleBackground();
+                (*defaults)->backgroundEnded();
         });
     });
     return success();
 }
 
-void FileUserDefaults::settleBackground() {
+void FileUserDefaults::backgroundEnded() {
     if (m_background.isBusy())
         return;  // with a later change, whose end comes, too
+    settleBackground();
+    if (std::exchange(m_isReloadDue, false) && m_onReloadDue)
+        m_onReloadDue();
+}
+
+/// Takes the outcome of the last run, once. Must not be called while one is under way.
+void FileUserDefaults::settleBackground() {
+    if (m_onTheirWay.empty())
+        return;
     const Outcome outcome = m_background.wait();
+    const bool hasFailedSince = !m_unsaved.empty();  // which was told, and stays true
     if (!outcome)
         m_unsaved.merge(m_onTheirWay);
     m_onTheirWay.clear();
+    if (outcome && hasFailedSince)
+        return;
     m_lastSaving = outcome;
     settle(outcome, kNotStored);
 }
@@ -151,8 +175,10 @@ Outcome FileUserDefaults::mergeLocked(const DurableFile& file) {
     const auto name = file.setAside();
     if (!name)
         return notSetAside(merged.error(), name.error());
-    report("The settings file is damaged and was set aside; repair it and put it back, or make the settings again: " +
-           merged.error().message + ", now " + *name);
+    report(
+        translated("The settings file is damaged and was set aside; repair it and put it back, or make the settings "
+                   "again: %1, now %2",
+                   {merged.error().message, *name}));
     return success();
 }
 
@@ -180,7 +206,7 @@ void FileUserDefaults::settle(const Outcome& outcome, std::string_view consequen
     if (outcome)
         m_lastProblem.clear();
     else
-        report(std::string(consequence) + ": " + outcome.error().message);
+        report(translated(consequence, {outcome.error().message}));
 }
 
 void FileUserDefaults::report(const std::string& problem) {

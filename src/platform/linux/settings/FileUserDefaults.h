@@ -30,8 +30,9 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     FileUserDefaults(std::string path, ProblemHandler problemHandler);
 
     /// From now on a change does not wait for the disk: it survives the end of this process at once, and reaches the
-    /// disk soon after. A person who types does not feel it. `mainThread` must outlive this.
-    void saveInBackground(MainThread& mainThread) { m_mainThread = &mainThread; }
+    /// disk soon after. A person who types does not feel it. `onReloadDue` is called when a reload() came during that
+    /// time and must be repeated. `mainThread` must outlive this.
+    void saveInBackground(MainThread& mainThread, std::function<void()> onReloadDue);
 
     /// Reads what other processes have stored and returns whether a value has changed, by this or by an own change that
     /// brought in what others had stored. If the file is unreadable or
@@ -59,6 +60,7 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     Outcome recover(const DurableFile& file);
     Outcome write(DurableFile file, FileDescriptor lock, const std::string& content);
     void nowOnItsWay(std::string content);
+    void backgroundEnded();
     void settleBackground();
     Outcome mergeLocked(const DurableFile& file);
     Outcome merge(const std::optional<std::string>& content);
@@ -71,6 +73,8 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     Keys m_unsaved;                        // changed since the last successful save
     Keys m_onTheirWay;                     // staged, and not known to be on the disk
     bool m_hasMerged = false;              // others' changes that reload() has not returned yet
+    bool m_isReloadDue = false;            // reload() was called while the file was older than the values
+    std::function<void()> m_onReloadDue;
     std::string m_lastProblem;
     Outcome m_lastSaving = success();
     MainThread* m_mainThread = nullptr;

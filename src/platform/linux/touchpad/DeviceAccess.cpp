@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -30,7 +32,7 @@ std::string touchpadAccessCommand() {
                    R"(SUBSYSTEM=="input", KERNEL=="event*", ENV{ID_INPUT_TOUCHPAD}=="1", TAG+="uaccess")", "input");
 }
 
-std::string touchpadAccessAdvice() { return "; to allow it, run: " + touchpadAccessCommand(); }
+std::string touchpadAccessAdvice() { return translated("; to allow it, run: %1", {touchpadAccessCommand()}); }
 
 std::string uinputAccessCommand() {
     return "sudo modprobe uinput && " +

@@ -14,6 +14,7 @@
 
 #include "input/evdev/EvdevCodes.h"
 #include "platform/linux/touchpad/DeviceAccess.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -22,10 +23,11 @@ namespace {
 constexpr unsigned kPropertyPressurePad = 0x07;
 
 Error openingError(const TouchpadCandidate& candidate, int error) {
-    const std::string pad = "The trackpad \"" + candidate.name + "\" (" + candidate.path + ") ";
     if (error == EACCES || error == EPERM)
-        return {pad + "may not be read" + touchpadAccessAdvice()};
-    return {pad + "cannot be read: " + std::strerror(error) + "."};
+        return {translated("The trackpad \"%1\" (%2) may not be read", {candidate.name, candidate.path}) +
+                touchpadAccessAdvice()};
+    return {translated("The trackpad \"%1\" (%2) cannot be read: %3.",
+                       {candidate.name, candidate.path, std::strerror(error)})};
 }
 
 EvdevAxisRange range(const libevdev* device, unsigned multitouchAxis, unsigned plainAxis) {

@@ -5,6 +5,8 @@
 #include <system_error>
 #include <tuple>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -38,9 +40,9 @@ const TouchpadCandidate* chooseTouchpad(std::span<const TouchpadCandidate> candi
 
 std::string noTouchpadMessage(const std::string& wanted) {
     if (wanted.empty())
-        return "No built-in trackpad was found.";
-    return wanted.starts_with('/') ? "There is no trackpad at " + wanted + "."
-                                   : "No trackpad named \"" + wanted + "\" was found.";
+        return translated("No built-in trackpad was found.");
+    return wanted.starts_with('/') ? translated("There is no trackpad at %1.", {wanted})
+                                   : translated("No trackpad named \"%1\" was found.", {wanted});
 }
 
 }  // namespace kinesta

@@ -13,6 +13,7 @@
 #include "platform/linux/process/SessionEnvironment.h"
 #include "platform/linux/process/UserDatabase.h"
 #include "platform/linux/touchpad/DconfDatabase.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -84,10 +85,11 @@ SendEventsMode TouchpadSwitch::mode(const std::string& path) {
 std::string TouchpadSwitch::whyOff(const std::string& path, const TouchpadScanner& devices) {
     switch (mode(path)) {
         case SendEventsMode::disabled:
-            return "The trackpad is switched off in the desktop's settings.";
+            return translated("The trackpad is switched off in the desktop's settings.");
         case SendEventsMode::disabledWithExternalMouse:
-            return devices.hasExternalMouse() ? "The trackpad is switched off in the desktop's settings while an "
-                                                "external mouse is connected."
+            return devices.hasExternalMouse() ? translated(
+                                                    "The trackpad is switched off in the desktop's settings while an "
+                                                    "external mouse is connected.")
                                               : "";
         case SendEventsMode::enabled:
             break;

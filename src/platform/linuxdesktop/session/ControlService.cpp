@@ -7,6 +7,7 @@
 
 #include "platform/linux/session/ControlNames.h"
 #include "platform/linuxdesktop/session/ControlAdaptors.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -19,7 +20,7 @@ ControlService::ControlService(QDBusConnection bus, ApplicationControl& control,
                                std::function<void(const std::string&)> tell)
     : m_bus(std::move(bus)), m_control(control), m_tell(std::move(tell)), m_announced(control.state().value()) {
     if (!m_bus.isConnected()) {
-        m_tell("No session bus answers: kinesta ctl and a second start of Kinesta cannot reach this one.");
+        m_tell(translated("No session bus answers: kinesta ctl and a second start of Kinesta cannot reach this one."));
         return;
     }
     m_adaptor = new ControlAdaptor(this, control);
@@ -50,14 +51,15 @@ void ControlService::requestName() {
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(request), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
         if (const QDBusPendingReply<uint> reply = *call; reply.isError())
-            m_tell("The session bus refuses the name com.orvane.kinesta, so kinesta ctl cannot reach this Kinesta: " +
-                   reply.error().message().toStdString());
+            m_tell(translated(
+                "The session bus refuses the name com.orvane.kinesta, so kinesta ctl cannot reach this Kinesta: %1",
+                {reply.error().message().toStdString()}));
         call->deleteLater();
     });
 }
 
 void ControlService::tellOfEnd() {
-    m_tell("The session bus has ended: kinesta ctl and a second start of Kinesta cannot reach this one.");
+    m_tell(translated("The session bus has ended: kinesta ctl and a second start of Kinesta cannot reach this one."));
 }
 
 void ControlService::announce(const ApplicationState& state) {

@@ -126,7 +126,7 @@ TEST(FileUserDefaultsCrash, LosesNoChangeInTheBackground) {
         if (child == 0) {
             RunLoop loop;
             FileUserDefaults defaults(path, {});
-            defaults.saveInBackground(loop);
+            defaults.saveInBackground(loop, {});
             for (int i = 0; i < kChanges; ++i)
                 defaults.setInteger(std::to_string(i), i);
             if (isKilled)

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <set>
 
+#include "support/RunLoop.h"
 #include "support/TemporaryFolder.h"
 
 using namespace kinesta;
@@ -235,4 +236,21 @@ TEST(FileUserDefaults, AreInTheFolderForConfiguration) {
     ::unsetenv("XDG_CONFIG_HOME");
     ::setenv("HOME", "", 1);
     EXPECT_EQ(FileUserDefaults::defaultPath().substr(0, 1), "/");
+}
+
+TEST_F(FileUserDefaultsTest, KeepsAndStoresLaterWhatTheDiskRefusesInTheBackground) {
+    open().setInteger("old", 0);
+    RunLoop loop;
+    auto defaults = open();
+    defaults.saveInBackground(loop, {});
+    fs::create_directory(path + ".tmp");  // in the way of what comes from the disk
+    defaults.setInteger("a", 1);
+    EXPECT_TRUE(DurableFile::at(path)->lock().isValue()) << "the run has not ended";
+    fs::remove(path + ".tmp");
+    fs::remove(path + ".next");
+    defaults.setInteger("b", 2);  // before the main thread has heard of it
+    EXPECT_TRUE(onlyProblem("defaults.json"));
+    EXPECT_TRUE(defaults.lastSaving().isValue());
+    EXPECT_EQ(defaults.values().size(), 3U);
+    EXPECT_EQ(open().values(), defaults.values());
 }

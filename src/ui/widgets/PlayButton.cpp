@@ -1,4 +1,4 @@
-#include "ui/editor/PlayButton.h"
+#include "ui/widgets/PlayButton.h"
 
 #include <QKeyEvent>
 #include <QPainter>

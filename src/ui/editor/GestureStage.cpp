@@ -1,4 +1,4 @@
-#include "ui/editor/Stage.h"
+#include "ui/editor/GestureStage.h"
 
 #include <QEvent>
 #include <QVBoxLayout>
@@ -18,7 +18,7 @@ constexpr double kPlayFromBottom = 4;
 
 }  // namespace
 
-Stage::Stage(std::function<double()> tapWaitingInterval)
+GestureStage::GestureStage(std::function<double()> tapWaitingInterval)
     : m_tapWaitingInterval(std::move(tapWaitingInterval)),
       m_pad(new PadPicture(kPadWidth, this)),
       m_play(new PlayButton(this)) {
@@ -29,47 +29,50 @@ Stage::Stage(std::function<double()> tapWaitingInterval)
     setPadWidth(kPadWidth);
 }
 
-void Stage::setGesture(const PadGesture& gesture, const QString& name, const QString& sentence) {
+void GestureStage::setGesture(const PadGesture& gesture, const QString& name, const QString& sentence) {
     m_pad->setAccessibleName(name);
     m_pad->setAccessibleDescription(sentence);
     if (gesture == m_gesture)
         return;
     m_gesture = gesture;
+    m_isPreview = false;
     show(gesture);
     placeControl();
 }
 
-void Stage::preview(const PadGesture& gesture) {
+void GestureStage::preview(const PadGesture& gesture) {
     // What was just chosen is being performed already.
-    if (gesture != m_shown || !m_pad->isPerforming())
-        show(gesture);
+    if (gesture == m_gesture && !m_isPreview && m_pad->isPerforming())
+        return;
+    m_isPreview = true;
+    show(gesture);
 }
 
-void Stage::endPreview() {
-    m_shown = m_gesture;
+void GestureStage::endPreview() {
+    if (!std::exchange(m_isPreview, false))
+        return;
     m_pad->setGesture(m_gesture);
     m_pad->rest();
 }
 
-void Stage::show(const PadGesture& gesture) {
-    m_shown = gesture;
+void GestureStage::show(const PadGesture& gesture) {
     m_pad->setGesture(gesture);
     m_pad->perform(m_tapWaitingInterval());
 }
 
-void Stage::setPadWidth(double width) {
+void GestureStage::setPadWidth(double width) {
     if (std::exchange(m_padWidth, width) == width)
         return;
     m_pad->setPadWidth(width);
     measure();
 }
 
-void Stage::measure() {
+void GestureStage::measure() {
     setMinimumSize(m_pad->sizeHint() + Unit::of(2 * kBeside, 2 * kAbove));
     placeControl();
 }
 
-void Stage::placeControl() {
+void GestureStage::placeControl() {
     m_play->setVisible(m_gesture.kind != GestureKind::unconfigured && !WindowTheme::reducesMotion());
     m_play->resize(m_play->sizeHint());
     const int fromEnd = Unit::of(kPlayFromEnd);
@@ -77,7 +80,7 @@ void Stage::placeControl() {
     m_play->move(x, height() - Unit::of(kPlayFromBottom) - m_play->height());
 }
 
-void Stage::changeEvent(QEvent* event) {
+void GestureStage::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         measure();
@@ -85,12 +88,12 @@ void Stage::changeEvent(QEvent* event) {
         placeControl();  // the system's motion setting may have changed meanwhile
 }
 
-void Stage::resizeEvent(QResizeEvent* event) {
+void GestureStage::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     placeControl();
 }
 
-void Stage::showEvent(QShowEvent* event) {
+void GestureStage::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     placeControl();
     if (!event->spontaneous())

@@ -3,19 +3,19 @@
 #include <QWidget>
 #include <functional>
 
-#include "ui/editor/PlayButton.h"
 #include "ui/widgets/PadPicture.h"
+#include "ui/widgets/PlayButton.h"
 
 namespace kinesta {
 
 /// The large pad of a rule. It performs the gesture of the rule when it changes and on demand, and shows other gestures
 /// that are pointed at. Its ground is painted by the card around it.
-class Stage final : public QWidget {
+class GestureStage final : public QWidget {
     Q_OBJECT
 
   public:
     /// `tapWaitingInterval` gives the tempo, in seconds.
-    explicit Stage(std::function<double()> tapWaitingInterval);
+    explicit GestureStage(std::function<double()> tapWaitingInterval);
 
     /// The gesture of the rule. `name` and `sentence` tell screen readers what it is.
     void setGesture(const PadGesture& gesture, const QString& name, const QString& sentence);
@@ -37,7 +37,7 @@ class Stage final : public QWidget {
 
     std::function<double()> m_tapWaitingInterval;
     PadGesture m_gesture;
-    PadGesture m_shown;
+    bool m_isPreview = false;
     double m_padWidth = 0;
     PadPicture* m_pad;
     PlayButton* m_play;

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desktop/harness/AccessibleProgram.h"
+#include "desktop/harness/ApplicationProcess.h"
+#include "desktop/harness/PadStream.h"
+#include "support/TemporaryFolder.h"
+
+namespace kinesta::testing {
+
+/// The window of the application as a person uses it. The application reads the trackpad from the FIFO "pad".
+struct OpenWindow : Application, PadStream {
+    using json = nlohmann::json;
+    using Program = AccessibleProgram;
+
+    OpenWindow() : Application(TestDesktop::openbox) { setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1); }
+    ~OpenWindow() override {
+        if (program)
+            run("ctl quit");
+    }
+
+    /// A rule as in a file, with one of three-finger taps.
+    static json rule(const std::string& name, const std::string& gesture = "singleTap", int fingers = 3) {
+        static int count = 0;
+        std::string number = std::to_string(100000 + count++);
+        return {{"id", "6513270E-269E-4D37-B2A7-4DE452" + number},
+                {"name", name},
+                {"isEnabled", true},
+                {"gesture", gesture},
+                {"action", {{"kind", "middleClick"}, {"modifiers", 0}, {"value", ""}}},
+                {"fingerCount", fingers}};
+    }
+    static json ruleWith(const std::string& name, const json& action) {
+        json made = rule(name);
+        made["action"] = {{"modifiers", 0}, {"value", ""}};
+        made["action"].update(action);
+        return made;
+    }
+    /// Has the application show its window with these rules, the first of them selected if there are any.
+    void open(const std::vector<json>& rules = {}) {
+        import(rules);
+        launch();
+        if (!rules.empty()) {
+            program->click("list item", rules.front()["name"]);
+            program->await("text", "Name");
+        }
+    }
+    static void import(const std::vector<json>& rules) {
+        writeText("before.json", json(rules).dump());
+        ASSERT_EQ(exitStatus(*start("rules import before.json")), "0|");
+    }
+    void launch() {
+        application = start("--trackpad pad");
+        processOf();
+        EXPECT_EQ(run("ctl show"), "0|");
+        program.emplace("Kinesta");
+        program->await("frame", "Kinesta");
+        EXPECT_TRUE(eventually([&] { return (window = desktop.active()) != XCB_WINDOW_NONE; }));
+        desktop.addState(window, "_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ");
+    }
+
+    /// The stored rules without their ids.
+    static json stored() {
+        std::filesystem::remove("after.json");
+        EXPECT_TRUE(run("rules export after.json").ends_with("0|"));
+        json rules = json::parse(readText("after.json"));
+        for (json& each : rules)
+            each.erase("id");
+        return rules;
+    }
+    static ::testing::AssertionResult becomesStored(const json& rule) {
+        json now;
+        if (eventually([&] { return (now = stored()) == json::array({rule}); }))
+            return ::testing::AssertionSuccess();
+        return ::testing::AssertionFailure() << now.dump(1) << "\ninstead of " << rule.dump(1);
+    }
+    static std::string names() {
+        std::string all;
+        for (const json& each : stored())
+            all += each["name"].get<std::string>() + (each["isEnabled"] ? " " : "- ");
+        return all;
+    }
+    static ::testing::AssertionResult becomesNamed(const std::string& wanted) {
+        std::string now;
+        if (eventually([&] { return (now = names()) == wanted; }))
+            return ::testing::AssertionSuccess();
+        return ::testing::AssertionFailure() << now << "instead of " << wanted;
+    }
+
+    std::unique_ptr<ChildProcess> application;
+    std::optional<Program> program;
+    xcb_window_t window = XCB_WINDOW_NONE;
+};
+
+}  // namespace kinesta::testing

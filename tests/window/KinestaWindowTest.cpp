@@ -1,0 +1,132 @@
+#include "ui/window/KinestaWindow.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+
+#include "app/RuleTransfer.h"
+#include "rules/RuleMaking.h"
+#include "ui/editor/RuleEditorPage.h"
+#include "ui/settings/SettingsPage.h"
+#include "ui/sidebar/Sidebar.h"
+#include "ui/widgets/Unit.h"
+#include "ui/window/Toast.h"
+#include "window/WindowRig.h"
+
+namespace kinesta::testing {
+namespace {
+
+class KinestaWindows : public WindowRig {
+  protected:
+    void open() {
+        window = std::make_unique<KinestaWindow>(parts());
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+        QWidget* focus = QApplication::focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : window.get(), static_cast<Qt::Key>(key), modifiers);
+    }
+    template <typename T>
+    T* shown() const {
+        T* found = window->findChild<T*>();
+        return found != nullptr && found->isVisible() ? found : nullptr;
+    }
+    QAbstractButton* button(const char* text) const {
+        for (auto* button : window->findChildren<QAbstractButton*>())
+            if (button->isVisible() && button->text() == QLatin1String(text))
+                return button;
+        return nullptr;
+    }
+
+    std::unique_ptr<KinestaWindow> window;
+};
+
+TEST_F(KinestaWindows, ComesBackToAPlaceOnAScreenThatExists) {
+    struct Case {
+        std::string stored;
+        QRect expected;
+    };
+    const QSize usual = Unit::of(980, 700);
+    for (const Case& c :
+         {Case{"100 60 900 600 300", {100, 60, 900, 600}}, Case{"9000 -9000 900 600 300", {380, 0, 900, 600}},
+          Case{"0 0 9000 9000 300", {0, 0, 1280, 800}}, Case{"1 1 0 600 300", {{-1, -1}, usual}},
+          Case{"a b", {{-1, -1}, usual}}, Case{"1 2 99999999999 4 5", {{-1, -1}, usual}}}) {
+        machine.defaults().setString(WindowPlace::storageKey, c.stored);
+        KinestaWindow restored(parts());
+        EXPECT_EQ(restored.size(), c.expected.size()) << c.stored;
+        const bool isPlaced = c.expected.x() >= 0;
+        EXPECT_TRUE(!isPlaced || restored.pos() == c.expected.topLeft()) << c.stored;
+    }
+}
+
+TEST_F(KinestaWindows, ShowsListOrPageWhenItIsNarrow) {
+    open();
+    window->resize(Unit::of(600, 600));
+    ASSERT_TRUE(eventually([this] { return shown<Sidebar>() != nullptr && button("Try a gesture") == nullptr; }));
+    window->select(WindowSelection::settings());
+    EXPECT_TRUE(shown<SettingsPage>() != nullptr && shown<Sidebar>() == nullptr);
+    key(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(shown<SettingsPage>() == nullptr && shown<Sidebar>() != nullptr);
+    key(Qt::Key_N, Qt::ControlModifier);
+    ASSERT_TRUE(shown<RuleEditorPage>() != nullptr && shown<Sidebar>() == nullptr);
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(shown<Sidebar>() != nullptr && window->isVisible());
+    window->resize(Unit::of(980, 700));
+    ASSERT_TRUE(eventually([this] { return shown<Sidebar>() != nullptr && shown<RuleEditorPage>() != nullptr; }));
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(KinestaWindows, UndoesImportsAndResetsAndTellsWhatWasDone) {
+    app.store().setRules({makeRule(GestureKind::tipTapLeft)});
+    ASSERT_TRUE(exportRules(app.store(), folder / "new.json"));
+    app.store().setRules({makeRule(GestureKind::tipTapLeft), makeRule(GestureKind::tipTapRight)});
+    machine.defaults().setReal("actionCueDuration.v1", 4);
+    open();
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder / "new.json"))});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    ASSERT_TRUE(enter.isAccepted());
+    QDropEvent drop({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    ASSERT_TRUE(eventually([this] { return shown<Toast>() != nullptr; }));
+    EXPECT_EQ(app.store().rules().value().size(), 1U);
+    window->resetSettings();
+    auto* question = window->findChild<QMessageBox*>();
+    ASSERT_NE(question, nullptr);
+    QTest::keyClick(question, Qt::Key_Escape);
+    EXPECT_TRUE(machine.defaults().contains("actionCueDuration.v1"));
+    EXPECT_TRUE(eventually([this] { return window->findChild<QMessageBox*>() == nullptr; }));
+    window->resetSettings();
+    QTest::mouseClick(button("Reset"), Qt::LeftButton);
+    EXPECT_FALSE(machine.defaults().contains("actionCueDuration.v1"));
+    ASSERT_TRUE(eventually([this] { return window->isActiveWindow() && button("Undo") != nullptr; }));
+    QTest::mouseClick(button("Undo"), Qt::LeftButton);
+    EXPECT_EQ(machine.defaults().real("actionCueDuration.v1"), 4);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(app.store().rules().value().size(), 2U);
+    key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(app.store().rules().value().size(), 1U);
+}
+
+TEST_F(KinestaWindows, LeavesUndoToAFieldThatHasStepsOfItsOwn) {
+    GestureRule rule = makeRule(GestureKind::tipTapLeft);
+    rule.name = "A";
+    app.store().setRules({rule});
+    open();
+    window->select(WindowSelection::rule(app.store().rules().value()[0].id));
+    window->findChild<RuleEditorPage*>()->focusName();
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("BC"));
+    EXPECT_EQ(app.store().rules().value()[0].name, "BC");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(app.store().rules().value()[0].name, "A");
+}
+
+}  // namespace
+}  // namespace kinesta::testing
