@@ -83,9 +83,23 @@ class AccessibleProgram {
         })) << label;
         return found.value_or(Node{});
     }
-    /// What has the keyboard focus. Qt calls the current row of a list focused wherever the focus is.
+    /// What has the keyboard focus. Qt also calls focused what passes the focus on to its child, and the current row of
+    /// a list wherever the focus is.
     std::optional<Node> focus() const {
-        return search(m_program, [](const Node& node) { return node.has(focused) && node.role != "list item"; });
+        return search(m_program, [](const Node& node) {
+            return node.has(focused) && node.role != "filler" && node.role != "list item";
+        });
+    }
+    /// What Tab must reach: of a group of radio buttons the chosen one, of a list the list.
+    std::vector<Node> tabStops() const {
+        std::vector<Node> all;
+        search(m_program, [&](const Node& node) {
+            if (node.has(focusable) && node.has(enabled) && node.role != "list item" &&
+                (node.role != "radio button" || node.has(checked)))
+                all.push_back(node);
+            return false;
+        });
+        return all;
     }
     /// Presses the key until the focus is there.
     ::testing::AssertionResult tabTo(const std::string& role, const std::string& name,
