@@ -20,7 +20,7 @@ constexpr QSize kNarrow{480, 760};
 /// The last gesture and the test sheet wait for a second tap first.
 constexpr int kAfterTap = 900;
 
-using Act = std::function<void(Studio&)>;
+using Act = std::function<void(Stage&)>;
 
 /// Whether `text`, which `widget` or one around it has set, stands for this English one.
 bool means(const QString& text, const char* english, const QWidget* widget) {
@@ -55,55 +55,55 @@ void click(QWidget& root, const char* name) {
 }
 
 Act selecting(const char* rule) {
-    return [rule](Studio& studio) { studio.window().select(WindowSelection::rule(studio.rule(rule))); };
+    return [rule](Stage& stage) { stage.window().select(WindowSelection::rule(stage.rule(rule))); };
 }
 
 Act then(Act first, Act second) {
-    return [first = std::move(first), second = std::move(second)](Studio& studio) {
-        first(studio);
+    return [first = std::move(first), second = std::move(second)](Stage& stage) {
+        first(stage);
         QTest::qWait(100);
-        second(studio);
+        second(stage);
     };
 }
 
 Act clicking(const char* name) {
-    return [name](Studio& studio) { click(studio.window(), name); };
+    return [name](Stage& stage) { click(stage.window(), name); };
 }
 
-void settings(Studio& studio) { studio.window().select(WindowSelection::settings()); }
+void settings(Stage& stage) { stage.window().select(WindowSelection::settings()); }
 
-void drop(Studio& studio, const std::string& file) {
+void drop(Stage& stage, const std::string& file) {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
     QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&studio.window(), &enter);
+    QApplication::sendEvent(&stage.window(), &enter);
     QDropEvent event({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&studio.window(), &event);
+    QApplication::sendEvent(&stage.window(), &event);
 }
 
-void hold(Studio& studio) {
+void hold(Stage& stage) {
     for (int i = 0; i <= 40; ++i) {
         const double x = 0.01 * i;
-        studio.touch(1 + 0.02 * i, "[1," + std::to_string(0.2 + x) + ",0.4],[2," + std::to_string(0.4 + x) +
+        stage.touch(1 + 0.02 * i, "[1," + std::to_string(0.2 + x) + ",0.4],[2," + std::to_string(0.4 + x) +
                                       ",0.55],[3,0.95,0.05]");
         QTest::qWait(20);
     }
 }
 
-void filterFor(Studio& studio, const char* words) {
-    if (auto* field = named<QLineEdit>(studio.window(), "Filter gestures")) {
+void filterFor(Stage& stage, const char* words) {
+    if (auto* field = named<QLineEdit>(stage.window(), "Filter gestures")) {
         field->setFocus();
         field->setText(QString::fromUtf8(words));
     }
 }
 
-void openList(Studio& studio, const char* name) {
-    if (auto* combo = named<QComboBox>(studio.window(), name))
+void openList(Stage& stage, const char* name) {
+    if (auto* combo = named<QComboBox>(stage.window(), name))
         combo->showPopup();
 }
 
-void openRowMenu(Studio& studio) {
-    if (auto* list = named<QListView>(studio.window(), "Gestures")) {
+void openRowMenu(Stage& stage) {
+    if (auto* list = named<QListView>(stage.window(), "Gestures")) {
         list->setFocus(Qt::TabFocusReason);
         QContextMenuEvent event(QContextMenuEvent::Keyboard, list->rect().center(),
                                 list->mapToGlobal(list->rect().center()));
@@ -123,16 +123,16 @@ std::vector<Scene> overviewScenes(const Setting& usual) {
     Setting forbidden = usual;
     forbidden.isPermissionMissing = true;
     return {{"overview", usual},
-            {"overview-none-on", usual, [](Studio& studio) { studio.store().disableAllRules(); }},
+            {"overview-none-on", usual, [](Stage& stage) { stage.store().disableAllRules(); }},
             {"overview-off", off},
-            {"overview-stopped", usual, [](Studio& studio) { studio.service().stop(); }},
+            {"overview-stopped", usual, [](Stage& stage) { stage.service().stop(); }},
             {"overview-unavailable", unavailable},
             {"overview-first-launch", first},
-            {"overview-last-gesture", usual, [](Studio& studio) { studio.tap(1); }, kAfterTap},
+            {"overview-last-gesture", usual, [](Stage& stage) { stage.tap(1); }, kAfterTap},
             {"overview-findings", findings},
             {"overview-permission", forbidden},
-            {"overview-notices", usual, [](Studio& studio) {
-                 studio.window().setNotices({{OverviewNotice::Kind::problem, "The settings cannot be stored: the disk is full."},
+            {"overview-notices", usual, [](Stage& stage) {
+                 stage.window().setNotices({{OverviewNotice::Kind::problem, "The settings cannot be stored: the disk is full."},
                                             {OverviewNotice::Kind::remark,
                                              "This desktop shows no status icons. Start Kinesta again to come back to this window."}});
              }}};
@@ -158,21 +158,21 @@ std::vector<Scene> ruleScenes(const Setting& every) {
         scenes.push_back({QString::fromUtf8(name), tall, selecting(rule)});
     const Act recording = then(selecting("No key yet"), clicking("Record shortcut"));
     scenes.push_back({"recorder-listening", tall, recording});
-    scenes.push_back({"recorder-held", tall, then(recording, [](Studio&) {
+    scenes.push_back({"recorder-held", tall, then(recording, [](Stage&) {
                           if (QWidget* recorder = QApplication::focusWidget()) {
                               QTest::keyPress(recorder, Qt::Key_Control, Qt::ControlModifier);
                               QTest::keyPress(recorder, Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier);
                           }
                       })});
-    scenes.push_back({"address-refused", tall, then(selecting("News"), [](Studio& studio) {
-                          if (auto* field = named<QLineEdit>(studio.window(), "Address")) {
+    scenes.push_back({"address-refused", tall, then(selecting("News"), [](Stage& stage) {
+                          if (auto* field = named<QLineEdit>(stage.window(), "Address")) {
                               field->clear();
                               QTest::keyClicks(field, "ftp://files.example.org");
                           }
                       })});
     scenes.push_back({"menu-common-shortcuts", tall, then(selecting("Previous tab"), clicking("Common shortcuts"))});
-    scenes.push_back({"menu-what-happens", tall, then(selecting("Close window"), [](Studio& studio) {
-                          openList(studio, "What happens");
+    scenes.push_back({"menu-what-happens", tall, then(selecting("Close window"), [](Stage& stage) {
+                          openList(stage, "What happens");
                       })});
     return scenes;
 }
@@ -190,7 +190,7 @@ std::vector<Scene> settingsScenes(const Setting& usual) {
             {"settings-whole", tall, settings},
             {"settings-approval", approval, settings},
             {"settings-login-error", broken, settings},
-            {"settings-reset-question", usual, then(settings, [](Studio& studio) { studio.window().resetSettings(); })}};
+            {"settings-reset-question", usual, then(settings, [](Stage& stage) { stage.window().resetSettings(); })}};
 }
 
 std::vector<Scene> otherScenes(const Setting& usual, const Setting& every, const std::string& folder) {
@@ -202,27 +202,27 @@ std::vector<Scene> otherScenes(const Setting& usual, const Setting& every, const
     many.moreRules = 1000;
     Setting least = usual;
     least.size = {860, 560};
-    const Act trying = [](Studio& studio) { studio.window().tryGesture(); };
+    const Act trying = [](Stage& stage) { stage.window().tryGesture(); };
     return {
-        {"rule-new", usual, [](Studio& studio) { studio.window().addRule(); }},
+        {"rule-new", usual, [](Stage& stage) { stage.window().addRule(); }},
         {"test-waiting", usual, trying},
         {"test-live", usual, then(trying, hold)},
-        {"test-detected", usual, then(trying, [](Studio& studio) { studio.tap(1); }), kAfterTap},
+        {"test-detected", usual, then(trying, [](Stage& stage) { stage.tap(1); }), kAfterTap},
         {"test-off", off, trying},
-        {"about", usual, [](Studio& studio) { studio.window().showAbout(); }},
-        {"delete-question", usual, then(selecting("Next tab"), [](Studio& studio) { studio.window().deleteRules(); })},
-        {"import-broken", usual, [folder](Studio& studio) { drop(studio, folder + "/broken-rules.json"); }},
-        {"import-toast", usual, [folder](Studio& studio) { drop(studio, folder + "/rules.json"); }},
+        {"about", usual, [](Stage& stage) { stage.window().showAbout(); }},
+        {"delete-question", usual, then(selecting("Next tab"), [](Stage& stage) { stage.window().deleteRules(); })},
+        {"import-broken", usual, [folder](Stage& stage) { drop(stage, folder + "/broken-rules.json"); }},
+        {"import-toast", usual, [folder](Stage& stage) { drop(stage, folder + "/rules.json"); }},
         {"menu-more", usual, clicking("More")},
         {"menu-row", usual, then(selecting("Next tab"), openRowMenu)},
         {"one-pane", narrow},
         {"one-pane-rule", narrow, selecting("Close window")},
         {"smallest", least, selecting("Close window")},
         {"empty-list", {}},
-        {"filter-nothing", every, [](Studio& studio) { filterFor(studio, "volime"); }},
+        {"filter-nothing", every, [](Stage& stage) { filterFor(stage, "volime"); }},
         {"rules-1000", many},
-        {"focus-ring", usual, [](Studio& studio) {
-             if (auto* button = named<QAbstractButton>(studio.window(), "Try a gesture"))
+        {"focus-ring", usual, [](Stage& stage) {
+             if (auto* button = named<QAbstractButton>(stage.window(), "Try a gesture"))
                  button->setFocus(Qt::TabFocusReason);
          }}};
 }

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "Studio.h"
+#include "Stage.h"
 
 namespace kinesta {
 
@@ -13,7 +13,7 @@ struct Scene {
     QString name;
     Setting setting;
     /// May open menus and questions, which do not return before they are closed.
-    std::function<void(Studio&)> act = [](Studio&) {};
+    std::function<void(Stage&)> act = [](Stage&) {};
     /// Until everything has come to rest.
     int settleMilliseconds = 250;
 };

@@ -70,16 +70,16 @@ class Photographer {
     }
 
     void take(const Scene& scene) const {
-        Studio studio(scene.setting);
-        show(studio.window());
+        Stage stage(scene.setting);
+        show(stage.window());
         bool isTaken = false;
-        QTimer::singleShot(0, &studio.window(), [&] {
-            QTimer::singleShot(scene.settleMilliseconds + 300, &studio.window(), [&] {
+        QTimer::singleShot(0, &stage.window(), [&] {
+            QTimer::singleShot(scene.settleMilliseconds + 300, &stage.window(), [&] {
                 take(scene.name);
                 isTaken = true;
                 closeAllButWindows();
             });
-            scene.act(studio);
+            scene.act(stage);
         });
         if (!QTest::qWaitFor([&] { return isTaken; }, 15000))
             qWarning("%s: no picture", qPrintable(scene.name));

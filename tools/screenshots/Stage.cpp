@@ -1,4 +1,4 @@
-#include "Studio.h"
+#include "Stage.h"
 
 #include <sys/stat.h>
 
@@ -38,7 +38,7 @@ std::vector<GestureRule> rulesOf(const Setting& setting) {
 
 }  // namespace
 
-Studio::Studio(const Setting& setting)
+Stage::Stage(const Setting& setting)
     : m_setting(setting),
       m_machine(m_mainLoop, {.settings = in(m_folder, "defaults.json"), .examples = {}}),
       m_loginItem(setting.login),
@@ -71,7 +71,7 @@ Studio::Studio(const Setting& setting)
     m_window->resize(setting.size);
 }
 
-WindowParts Studio::parts() {
+WindowParts Stage::parts() {
     return {.desktop = m_machine,
             .store = m_app->store(),
             .service = m_app->recognition().service(),
@@ -90,7 +90,7 @@ WindowParts Studio::parts() {
             .isFirstLaunch = m_setting.isFirstLaunch};
 }
 
-Uuid Studio::rule(const std::string& name) {
+Uuid Stage::rule(const std::string& name) {
     const auto& rules = m_app->store().rules().value();
     const auto found = std::ranges::find(rules, name, &GestureRule::name);
     if (found == rules.end())
@@ -98,11 +98,11 @@ Uuid Studio::rule(const std::string& name) {
     return found->id;
 }
 
-void Studio::touch(double time, const std::string& contacts) {
+void Stage::touch(double time, const std::string& contacts) {
     m_pad << R"({"t":)" << time << R"(,"touches":[)" << contacts << "]}" << std::endl;
 }
 
-void Studio::tap(double time) {
+void Stage::tap(double time) {
     touch(time, "[1,0.3,0.5],[2,0.5,0.6],[3,0.7,0.5]");
     touch(time + 0.05, "");
 }

@@ -36,9 +36,9 @@ struct Setting {
 
 /// The window with everything behind it: real rules, settings and recognition in a folder of its own, and in place of
 /// the machine what a scene wants of it.
-class Studio {
+class Stage {
   public:
-    explicit Studio(const Setting& setting);
+    explicit Stage(const Setting& setting);
 
     KinestaWindow& window() { return *m_window; }
     MultitouchService& service() { return m_app->recognition().service(); }
