@@ -26,12 +26,12 @@ QString word(const char* text) { return QString::fromUtf8(text); }
 
 QIcon icon(WindowSymbol symbol) { return SymbolIcon::of(windowSymbol(symbol)); }
 
-QPushButton* button(const char* text, const char* property = nullptr, QIcon picture = {}) {
+QPushButton* button(const char* text, const char* property = nullptr, const QIcon& picture = {}) {
     auto* result = new QPushButton(word(text));
     result->setAutoDefault(false);
     if (property != nullptr)
         result->setProperty(property, true);
-    result->setIcon(std::move(picture));
+    result->setIcon(picture);
     return result;
 }
 

@@ -57,6 +57,8 @@ std::vector<PaleWords> paleWordsIn(QWidget& window) {
     const double ratio = image.devicePixelRatio();
     const auto widgets = window.findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
+        if (widget->window() != &window)
+            continue;
         const QRect seen = widget->visibleRegion().boundingRect();
         const QString words = wordsOf(widget);
         // What is cut at an edge shows only a part of its strokes.
