@@ -19,8 +19,8 @@ QAccessibleInterface* make(const QString& name, QObject* object) {
         return new QAccessibleWidget(static_cast<PadPicture*>(object), QAccessible::Graphic);
     if (is(Notice::staticMetaObject))
         return new QAccessibleWidget(static_cast<Notice*>(object), QAccessible::AlertMessage);
-    // A window that is no dialog would be a mere container.
-    if (is(QWidget::staticMetaObject) && static_cast<QWidget*>(object)->isWindow())
+    // Otherwise it would be a mere container.
+    if (name == QLatin1String("kinesta::KinestaWindow"))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);
     return nullptr;
 }

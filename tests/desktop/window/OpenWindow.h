@@ -64,6 +64,12 @@ struct OpenWindow : Application, PadStream {
         program->await("frame", "Kinesta");
         EXPECT_TRUE(eventually([&] { return (window = desktop.active()) != XCB_WINDOW_NONE; }));
         desktop.addState(window, "_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ");
+        // It says where its parts are on the screen, which it knows a moment later.
+        EXPECT_TRUE(eventually([&] {
+            const WindowRectangle place = desktop.client(window);
+            const std::tuple middle{place.x + place.width / 2, place.y + place.height / 2};
+            return program->middle(program->await("frame", "Kinesta")) == middle;
+        }));
     }
 
     /// The stored rules without their ids.
