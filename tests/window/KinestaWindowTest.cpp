@@ -1,6 +1,7 @@
 #include "ui/window/KinestaWindow.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -39,6 +40,21 @@ class KinestaWindows : public WindowRig {
             if (button->isVisible() && button->text() == QLatin1String(text))
                 return button;
         return nullptr;
+    }
+
+    bool says(const char* part) const {
+        return std::ranges::any_of(window->findChildren<QLabel*>(), [part](const QLabel* label) {
+            return label->isVisible() && label->text().contains(QString::fromUtf8(part));
+        });
+    }
+    void drop(const char* file) {
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder / file))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &enter);
+        ASSERT_TRUE(enter.isAccepted());
+        QDropEvent drop({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &drop);
     }
 
     std::unique_ptr<KinestaWindow> window;
@@ -86,13 +102,12 @@ TEST_F(KinestaWindows, UndoesImportsAndResetsAndTellsWhatWasDone) {
     app.store().setRules({makeRule(GestureKind::tipTapLeft), makeRule(GestureKind::tipTapRight)});
     machine.defaults().setReal("actionCueDuration.v1", 4);
     open();
-    QMimeData dragged;
-    dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder / "new.json"))});
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &enter);
-    ASSERT_TRUE(enter.isAccepted());
-    QDropEvent drop({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &drop);
+    writeText(folder / "broken.json", "[\n{\"id\": 1}]");
+    drop("broken.json");
+    ASSERT_TRUE(eventually([this] { return says("“broken.json” could not be read: line 2: "); }));
+    EXPECT_TRUE(says("Nothing was changed."));
+    EXPECT_EQ(app.store().rules().value().size(), 2U);
+    drop("new.json");
     ASSERT_TRUE(eventually([this] { return shown<Toast>() != nullptr; }));
     EXPECT_EQ(app.store().rules().value().size(), 1U);
     window->resetSettings();
