@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QListView>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <algorithm>
