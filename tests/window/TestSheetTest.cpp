@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QDBusConnectionInterface>
+#include <QLabel>
 #include <QPushButton>
 
 #include "ui/trying/LivePad.h"
