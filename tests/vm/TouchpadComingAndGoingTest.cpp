@@ -91,11 +91,12 @@ TEST(TouchpadComingAndGoing, FollowsThePermission) {
         reading = std::make_unique<PadReading>();
         listed = listTouchpads();
     });
-    const std::string refusal = "The trackpad \"Secret Touchpad\" (" + pad.path() +
-                                ") may not be read; to allow it, run: " + touchpadAccessCommand();
+    const std::string problem = "The trackpad \"Secret Touchpad\" (" + pad.path() + ") may not be read";
+    const std::string refusal = problem + "; to allow it, run: " + touchpadAccessCommand();
     EXPECT_EQ(reading->status(), refusal);
     ASSERT_EQ(listed.size(), 1U);
-    EXPECT_EQ(listed[0].problem, refusal);
+    EXPECT_EQ(listed[0].problem, problem + ".");
+    EXPECT_EQ(listed[0].command, touchpadAccessCommand());
     EXPECT_TRUE(listed[0].isChosen);
 
     ASSERT_EQ(chmod(pad.path().c_str(), 0644), 0);
