@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 /// runs it. What a test changes in the environment is gone with it.
 class OwnSession final : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override {
-        // In /tmp whatever TMPDIR says: the paths of sockets must be short.
+        // In /tmp, not in TMPDIR: the paths of sockets must be short.
         std::string pattern = "/tmp/kinesta-session-XXXXXX";
         if (mkdtemp(pattern.data()) == nullptr)
             throw std::runtime_error("no folder in /tmp");

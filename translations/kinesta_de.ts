@@ -120,7 +120,7 @@
         <translation>In dieser Entwicklungsversion ist die Signaturprüfung für Updates nicht eingerichtet.</translation>
     </message>
     <message>
-        <source>Run this once in a terminal. It opens the touchpad, and nothing else, to whoever sits at this computer.</source>
+        <source>Run this once in a terminal. It opens the touchpad, and nothing else, to the person who uses this computer.</source>
         <translation>Dies einmal in einem Terminal ausführen. Es gibt das Touchpad, und sonst nichts, für alle frei, die an diesem Computer sitzen.</translation>
     </message>
     <message>

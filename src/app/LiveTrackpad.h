@@ -44,7 +44,7 @@ class LiveTrackpad {
     virtual void onStatusChange(std::function<void()> handler) = 0;
 
     /// Calls `watcher` on the main thread with every event of the pad from now on, in their order, in place of the
-    /// watcher before it. An empty one ends the watching. At any time; nobody who watches costs nothing.
+    /// watcher before it. An empty one ends the watching. At any time; without a watcher there is no cost.
     virtual void watch(std::function<void(const PadEvent&)> watcher) = 0;
 };
 
@@ -53,7 +53,7 @@ struct ConnectedTrackpad {
     struct Axes {
         std::array<int, 2> x;
         std::array<int, 2> y;
-        /// How many contacts the driver's protocol tells apart.
+        /// How many contacts the driver's protocol can distinguish.
         int slotCount = 0;
     };
 

@@ -18,7 +18,7 @@ namespace kinesta {
 namespace {
 
 constexpr const char* kAllowReading = TRANSLATABLE(
-    "Run this once in a terminal. It opens the touchpad, and nothing else, to whoever sits at this computer.");
+    "Run this once in a terminal. It opens the touchpad, and nothing else, to the person who uses this computer.");
 
 bool needs(const GestureAction& action, DesktopCapability capability) {
     switch (action.kind) {

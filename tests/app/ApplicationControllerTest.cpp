@@ -65,7 +65,7 @@ TEST_F(ApplicationControlling, ShowsTheWindowAtTheFirstLaunchOnly) {
     make().applicationWillFinishLaunching();
     controller->applicationDidFinishLaunching(ApplicationController::LaunchKind::inBackground);
     EXPECT_EQ(takeCalls(), "accessory; status item; tool tip Kinesta; accessory");
-    EXPECT_FALSE(rig.defaults.contains("hasCompletedFirstLaunch.v1")) << "nobody has seen the window yet";
+    EXPECT_FALSE(rig.defaults.contains("hasCompletedFirstLaunch.v1")) << "the window has not been shown yet";
 
     make().applicationWillFinishLaunching();
     configure();

@@ -340,7 +340,7 @@ TEST_F(DaemonOnADesktop, ReadsAStreamInPlaceOfTheTrackpad) {
     EXPECT_TRUE(daemon->says("The trackpad recording " + pad + " has ended."));
     restart(pad, "listening");
     daemon->signal(SIGTERM);
-    EXPECT_TRUE(daemon->waitForEnd()) << "while nobody has written";
+    EXPECT_TRUE(daemon->waitForEnd()) << "while there is no writer";
     restart(pad + "?", "The trackpad recording " + pad + "? cannot be opened: No such file");
 }
 

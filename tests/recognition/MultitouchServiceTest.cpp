@@ -158,7 +158,7 @@ TEST_F(RunningService, NamesTheGestureForFiveSeconds) {
 
 TEST_F(RunningService, CountsDownFromTheFirstDeadlineHoweverLateATickIs) {
     rig.play(tapAt(1));
-    rig.runUntil(2);  // told at 1.25
+    rig.runUntil(2);  // reported at 1.25
     const auto delayOfNext = [&](Seconds tick, Seconds uptime) {
         rig.clock.setUptime(uptime);
         rig.runUntil(tick + 0.01);

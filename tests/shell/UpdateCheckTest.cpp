@@ -129,8 +129,8 @@ TEST_F(UpdateChecking, KeepsTheNewestSignedReleaseOfThisSystem) {
     EXPECT_EQ(update(), "found 1.10; kept: kinesta_1.2.deb");
     EXPECT_EQ(fileContent("downloads/kinesta_1.2.deb"), program);
     EXPECT_EQ(update(), "found 1.10; kept: kinesta_1.2 (2).deb, kinesta_1.2.deb");
-    for (const char* told : {"Cookie", "?", "Mozilla", "1.9"})
-        EXPECT_FALSE(requests.contains(told)) << told;
+    for (const char* personal : {"Cookie", "?", "Mozilla", "1.9"})
+        EXPECT_FALSE(requests.contains(personal)) << personal;
     EXPECT_EQ(requests.count("Accept-Language: en\r\n"), requests.count("GET "));
 }
 
@@ -167,7 +167,7 @@ TEST_F(UpdateChecking, KeepsNothingThatIsNotRight) {
     }
     qunsetenv("SSL_CERT_FILE");
     answers["/feed"] = feed(release("2", genuine));
-    EXPECT_NE(update().find("certificate"), std::string::npos) << "an authority that nobody trusts";
+    EXPECT_NE(update().find("certificate"), std::string::npos) << "an untrusted authority";
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "support/TemporaryFolder.h"
 #include "ui/action/ArgumentList.h"
 #include "ui/action/CommandField.h"
+#include "window/NoCommands.h"
 
 namespace kinesta::testing {
 namespace {
@@ -17,21 +18,6 @@ namespace {
 struct NoApplications final : InstalledApplications {
     std::vector<InstalledApplication> all() const override { return {}; }
     std::optional<InstalledApplication> at(const std::string& /*path*/) const override { return std::nullopt; }
-};
-
-struct NoCommands final : WindowCommands {
-    void select(const WindowSelection& /*selection*/) override {}
-    void addRule() override {}
-    void addRuleForLastGesture() override {}
-    void tryGesture() override {}
-    void runAction(const Uuid& /*rule*/) override {}
-    void deleteRules() override {}
-    void importRules() override {}
-    void exportRules() override {}
-    void resetSettings() override {}
-    void showAbout() override {}
-    void copyReport() override {}
-    void showToast(const QString& /*text*/, const QString& /*action*/, std::function<void()> /*onAction*/) override {}
 };
 
 struct ActionCardTest : QtTest {

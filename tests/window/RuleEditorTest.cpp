@@ -11,24 +11,14 @@
 #include "ui/widgets/Switch.h"
 #include "ui/widgets/Tile.h"
 #include "ui/widgets/WindowTheme.h"
+#include "window/NoCommands.h"
 #include "window/WindowRig.h"
 
 namespace kinesta::testing {
 namespace {
 
-struct NoCommands : WindowCommands {
+struct SelectingCommands : NoCommands {
     void select(const WindowSelection& selection) override { selected = selection; }
-    void addRule() override {}
-    void addRuleForLastGesture() override {}
-    void tryGesture() override {}
-    void runAction(const Uuid& /*rule*/) override {}
-    void deleteRules() override {}
-    void importRules() override {}
-    void exportRules() override {}
-    void resetSettings() override {}
-    void showAbout() override {}
-    void copyReport() override {}
-    void showToast(const QString& /*text*/, const QString& /*action*/, std::function<void()> /*onAction*/) override {}
 
     std::optional<WindowSelection> selected;
 };
@@ -79,7 +69,7 @@ class RuleEditorTest : public WindowRig {
     WindowParts windowParts = parts();
     RuleHistory history{app.store(), machine.clock()};
     RuleListModel list{app.store(), history};
-    NoCommands commands;
+    SelectingCommands commands;
     std::optional<RuleEditorPage> page;
 };
 

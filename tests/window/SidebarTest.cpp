@@ -17,25 +17,18 @@
 #include "support/VirtualClock.h"
 #include "support/VirtualMainThread.h"
 #include "ui/widgets/WindowTheme.h"
+#include "window/NoCommands.h"
 
 namespace kinesta::testing {
 namespace {
 
-struct NotedCommands : WindowCommands {
+struct NotedCommands : NoCommands {
     explicit NotedCommands(RuleListModel& rules) : model(rules) {}
 
     void select(const WindowSelection& selection) override { model.select(selection); }
     void addRule() override { model.addRule(); }
     void deleteRules() override { model.deleteSelectedRule(); }
     void runAction(const Uuid& /*rule*/) override { ++actions; }
-    void addRuleForLastGesture() override {}
-    void tryGesture() override {}
-    void importRules() override {}
-    void exportRules() override {}
-    void resetSettings() override {}
-    void showAbout() override {}
-    void copyReport() override {}
-    void showToast(const QString& /*text*/, const QString& /*action*/, std::function<void()> /*act*/) override {}
 
     RuleListModel& model;
     int actions = 0;

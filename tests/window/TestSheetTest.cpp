@@ -137,7 +137,7 @@ TEST_F(TestSheets, EndTheSessionOnceHoweverTheyClose) {
         close();
         EXPECT_FALSE(app.testSession().isActive().value()) << way;
         EXPECT_EQ(ends, before + 1) << way;
-        // Nobody watches any more, in whatever moment of a touch.
+        // The watching has ended, at any moment of a touch.
         touch(time += 0.01, "[1,0.5,0.6]");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         delete sheet;

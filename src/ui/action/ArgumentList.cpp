@@ -39,7 +39,7 @@ void ArgumentList::followWith(QWidget* frame) {
 
 void ArgumentList::follow(const QStringList& stored) {
     m_stored = stored;
-    // Whoever types in one goes on with it.
+    // An argument that is being typed stays.
     if (state() != EditingState && all() != m_stored)
         show(m_stored);
 }

@@ -47,7 +47,7 @@ void CommandField::follow(const QString& stored) {
     QString text = stored.size() > longest ? stored.left(kShownOfTooLong) : stored;
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QChar::Nbsp, QLatin1Char(' '));
     m_stored = cleanText(text, Lines::many);
-    // Whoever has typed and not left yet goes on with that text.
+    // Text that is being typed stays.
     if (toPlainText() != m_stored && !(hasFocus() && document()->isUndoAvailable()))
         show(m_stored);
 }

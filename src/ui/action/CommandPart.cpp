@@ -39,7 +39,7 @@ CommandPart::CommandPart(const ActionEditing& editing)
     connect(m_field, &CommandField::refused, this,
             [this] { m_remark->setText(tr("That text is too long for a command, so it was left out.")); });
     connect(m_confirmed, &QCheckBox::clicked, this, [this](bool isOn) {
-        // Confirmed is what was there to read, whatever is stored.
+        // The person confirms the text on the screen, even if another one is stored.
         if (isOn)
             m_editing.model.setActionValue(m_field->toPlainText().toStdString());
         m_editing.model.setShellCommandAcknowledged(isOn);

@@ -62,7 +62,7 @@ void ShortcutMenus::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void ShortcutMenus::fillPresets() {
-    // Anew each time: the window manager and what ⌘ stands for may have changed.
+    // Made each time it opens: the window manager and what ⌘ stands for may have changed.
     qDeleteAll(m_presets->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
     for (const ShortcutPresetGroup& group : shortcutPresets(m_desktop)) {
         QMenu* menu = m_presets->addMenu(inMenu(group.title));

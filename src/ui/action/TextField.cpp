@@ -37,7 +37,7 @@ TextField::TextField(const QString& name, Form form, QWidget* parent) : QLineEdi
 
 void TextField::follow(const QString& stored) {
     m_stored = cleanText(stored.left(maxLength()), Lines::one);
-    // Whoever has typed and not left yet goes on with that text.
+    // Text that is being typed stays.
     if (text() != m_stored && !(hasFocus() && isUndoAvailable()))
         setText(m_stored);
 }

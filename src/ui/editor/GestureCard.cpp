@@ -85,7 +85,7 @@ void GestureCard::follow() {
                         asText(translated(title(content.type))), asText(gestureSentence(content.rule)));
     m_details->show(content);
     m_details->setListening(isListening);
-    // A pad that is not read has not told what it can.
+    // Only a pad that is read reports what it can do.
     m_notices->show(content, !isListening || m_parts.desktop.trackpad().identity().canTellPressure);
 }
 

@@ -87,7 +87,7 @@ void RuleHeader::makeMenu() {
         m_menu->addAction(tr("Clear action"), this, [this] { m_model.setActionKind(ActionKind::unconfigured); });
     m_menu->addSeparator();
     m_menu->addAction(tr("Delete…"), this, [this] {
-        m_list.select(WindowSelection::rule(m_rule));  // this one alone, whatever else is marked
+        m_list.select(WindowSelection::rule(m_rule));  // this one alone, even if others are marked
         m_commands.deleteRules();
     });
     connect(m_menu, &QMenu::aboutToShow, this, [=, this] {

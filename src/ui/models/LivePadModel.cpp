@@ -50,13 +50,13 @@ void LivePadModel::lift(std::span<const TouchSample> present, Uptime now) {
 }
 
 void LivePadModel::tell(const DetectedGesture& gesture, const std::string& text, Uptime now) {
-    m_told = {gesture, text, now};
+    m_reported = {gesture, text, now};
 }
 
 void LivePadModel::clear() {
     m_tracks.clear();
     m_palms.reset();
-    m_told.reset();
+    m_reported.reset();
 }
 
 std::vector<LiveTouch> LivePadModel::touches(Uptime now) const {
@@ -83,9 +83,9 @@ std::vector<LiveTouch> LivePadModel::touches(Uptime now) const {
 }
 
 std::optional<LiveGesture> LivePadModel::gesture(Uptime now) const {
-    if (!m_told || opacity(m_told->time, now) == 0)
+    if (!m_reported || opacity(m_reported->time, now) == 0)
         return std::nullopt;
-    return LiveGesture{m_told->gesture, m_told->text, opacity(m_told->time, now)};
+    return LiveGesture{m_reported->gesture, m_reported->text, opacity(m_reported->time, now)};
 }
 
 std::optional<Uptime> LivePadModel::nextChange(Uptime now) const {
@@ -94,8 +94,8 @@ std::optional<Uptime> LivePadModel::nextChange(Uptime now) const {
         if (time && (!next || *time < *next))
             next = time;
     };
-    if (m_told)
-        consider(nextFade(m_told->time, now));
+    if (m_reported)
+        consider(nextFade(m_reported->time, now));
     for (const Track& track : m_tracks) {
         if (track.liftedAt) {
             consider(nextFade(*track.liftedAt, now));

@@ -75,7 +75,7 @@ class LivePadModel {
         std::vector<Step> steps;  // the last one is where the finger is
         std::optional<Uptime> liftedAt;
     };
-    struct Told {
+    struct Reported {
         DetectedGesture gesture;
         std::string text;
         Uptime time = 0;
@@ -93,7 +93,7 @@ class LivePadModel {
     Seconds m_fading = kFading;
     std::uint64_t m_lastNumber = 0;
     std::vector<Track> m_tracks;
-    std::optional<Told> m_told;
+    std::optional<Reported> m_reported;
 };
 
 }  // namespace kinesta

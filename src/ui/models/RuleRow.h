@@ -18,7 +18,7 @@ struct RuleRow {
     Uuid id;
     /// "Untitled gesture" if the rule has no name.
     std::string name;
-    /// Gesture and action in short. Whatever the picture of the gesture shows is in its words.
+    /// Gesture and action in short. The words say everything that the picture shows.
     std::string gesture;
     std::string action;
     bool isEnabled = false;

@@ -7,7 +7,7 @@
 
 namespace kinesta {
 
-/// A symbol in a colour of the theme, beside words. Its name tells screen readers what it means.
+/// A symbol in a colour of the theme, beside words. Its name gives screen readers its meaning.
 class SymbolMark final : public QWidget {
     Q_OBJECT
 

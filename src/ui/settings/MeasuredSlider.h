@@ -9,8 +9,8 @@
 
 namespace kinesta {
 
-/// A slider that settles: while it moves it tells each step, and the value once it rests, so that not every pixel of a
-/// movement is stored. What has not been told is told when it is hidden.
+/// A slider that settles: it reports each step while it moves, and the final value once it rests, so that not every
+/// pixel of a movement is stored. Hiding it reports a value that still waits.
 class MeasuredSlider final : public QWidget {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ class MeasuredSlider final : public QWidget {
     QSlider& slider() { return *m_slider; }
     /// Shows a value, unless the person is just choosing another one.
     void setValue(int value);
-    /// Tells at once what waits.
+    /// Reports a value that still waits.
     void settle();
 
   Q_SIGNALS:

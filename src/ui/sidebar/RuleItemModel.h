@@ -9,7 +9,7 @@
 
 namespace kinesta {
 
-/// The rows of the sidebar for a list view. Tells the view only what differs, so that selection and place stay.
+/// The rows of the sidebar for a list view. Reports only what differs, so that selection and place stay.
 class RuleItemModel final : public QAbstractListModel {
     Q_OBJECT
 

@@ -150,7 +150,7 @@ void paintProgress(QPainter& painter, const QStyleOptionProgressBar& option) {
     QRectF groove = option.rect;
     groove = QRectF(groove.left(), groove.center().y() - height / 2, groove.width(), height);
     Shapes::fill(painter, groove, height / 2, asQColor(theme.lip));
-    // Without a range nobody knows how far it is.
+    // Without a range the progress is unknown.
     const double range = static_cast<double>(option.maximum) - option.minimum;
     if (range <= 0)
         return;

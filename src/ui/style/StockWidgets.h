@@ -3,7 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QWidget>
 
-/// Widgets of Qt that are told apart by more than their class.
+/// Widgets of Qt that are recognized by more than their class.
 namespace kinesta::StockWidgets {
 
 /// The frame around the open list of a combo.

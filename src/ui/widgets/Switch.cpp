@@ -31,7 +31,7 @@ Switch::Switch(const QString& name, QWidget* parent) : QAbstractButton(parent) {
     connect(this, &QAbstractButton::toggled, this, &Switch::move);
 }
 
-/// Also while signals are blocked; a click by the person only tells it by its signal.
+/// Handles changes made while signals are blocked. A click arrives by the signal only.
 void Switch::checkStateSet() {
     QAbstractButton::checkStateSet();
     move();

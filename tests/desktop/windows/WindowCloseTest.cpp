@@ -115,16 +115,16 @@ TEST_F(WindowClosing, ClosesAndTilesNothingOnceThePersonHasGoneElsewhere) {
     TestWindow stranger(desktop, {600, 100, 300, 200});
     for (TestWindow* each : {&sibling, &stranger, &first})
         each->show();
-    const auto told = [&] { return first.events() + sibling.events() + stranger.events(); };
+    const auto received = [&] { return first.events() + sibling.events() + stranger.events(); };
     const auto places = [&] { return std::pair(desktop.frame(first.id()), desktop.frame(stranger.id())); };
     const auto before = places();
     EXPECT_FALSE(actions.tiles(WindowTilingMenuCommand::fill, [&] { desktop.activate(stranger.id()); }));
-    EXPECT_EQ(told(), "");
+    EXPECT_EQ(received(), "");
     EXPECT_EQ(places(), before);
     for (TestWindow* other : {&stranger, &sibling}) {
         desktop.activate(first.id());
         EXPECT_FALSE(actions.closes([&] { desktop.activate(other->id()); }));
-        EXPECT_EQ(told(), "");
+        EXPECT_EQ(received(), "");
     }
     desktop.activate(first.id());
     EXPECT_FALSE(actions.closes([&] {
@@ -132,7 +132,7 @@ TEST_F(WindowClosing, ClosesAndTilesNothingOnceThePersonHasGoneElsewhere) {
         xcb_flush(connection.get());
         EXPECT_TRUE(eventually([&] { return !desktop.isManaged(first.id()); }));
     })) << "it went by itself";
-    EXPECT_EQ(told(), "");
+    EXPECT_EQ(received(), "");
     desktop.pretendActive(first.id());
     EXPECT_EQ(actions.frontmost(), std::nullopt) << "the window is gone";
     EXPECT_FALSE(actions.closes());

@@ -154,7 +154,7 @@ void FileUserDefaults::settleBackground() {
     if (m_onTheirWay.empty())
         return;
     const Outcome outcome = m_background.wait();
-    const bool hasFailedSince = !m_unsaved.empty();  // which was told, and stays true
+    const bool hasFailedSince = !m_unsaved.empty();  // already reported, and still true
     if (!outcome)
         m_unsaved.merge(m_onTheirWay);
     m_onTheirWay.clear();

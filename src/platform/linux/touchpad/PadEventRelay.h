@@ -13,7 +13,7 @@
 namespace kinesta {
 
 /// Takes the events of a driver's thread to a watcher on the main thread while there is one: all of them, in their
-/// order, those that have gathered at once. While nobody watches an event costs one look at a flag.
+/// order, those that have gathered at once. Without a watcher an event costs one look at a flag.
 class PadEventRelay {
   public:
     using Watcher = std::function<void(const PadEvent&)>;

@@ -100,14 +100,14 @@ WindowRectangle withoutMargins(WindowRectangle area, const WindowRectangle& moni
 }
 
 WindowRectangle workArea(const WindowRectangle& monitor, const EwmhWorkAreaSources& sources) {
-    WindowRectangle told;
+    WindowRectangle largest;
     for (const auto& each : sources.monitorWorkAreas) {
         const auto part = each.intersection(monitor);
-        if (static_cast<long>(part.width) * part.height > static_cast<long>(told.width) * told.height)
-            told = part;
+        if (static_cast<long>(part.width) * part.height > static_cast<long>(largest.width) * largest.height)
+            largest = part;
     }
-    if (!told.isEmpty())
-        return told;
+    if (!largest.isEmpty())
+        return largest;
     const bool hasScreenWorkArea = sources.screenWorkArea && sources.screenWorkArea->intersects(monitor);
     // With a single monitor, the area from the window manager is best: it also accounts for docks that hide themselves.
     if (hasScreenWorkArea && sources.monitors.size() == 1)
