@@ -1,0 +1,24 @@
+#include <AppKit/NSWorkspace.h>
+
+#include "Registrations.h"
+
+const NSNotificationName NSWorkspaceDidActivateApplicationNotification =
+    @"NSWorkspaceDidActivateApplicationNotification";
+
+@implementation NSRunningApplication
+@end
+
+@implementation NSWorkspace
+@synthesize notificationCenter = _notificationCenter;
++ (NSWorkspace*)sharedWorkspace {
+    static NSWorkspace* const workspace = [NSWorkspace new];
+    return workspace;
+}
+- (instancetype)init {
+    if ((self = [super init]))
+        _notificationCenter = [NSNotificationCenter new];
+    return self;
+}
+@end
+
+static const kinesta::fakes::OnReset workspace([] { (void)NSWorkspace.sharedWorkspace; });

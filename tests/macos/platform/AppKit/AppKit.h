@@ -1,0 +1,10 @@
+#pragma once
+
+#include <AppKit/NSApplication.h>
+#include <AppKit/NSEvent.h>
+#include <AppKit/NSMenu.h>
+#include <AppKit/NSStatusItem.h>
+#include <AppKit/NSView.h>
+#include <AppKit/NSWindow.h>
+#include <AppKit/NSWorkspace.h>
+#include <Foundation/Foundation.h>

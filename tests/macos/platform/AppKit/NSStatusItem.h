@@ -1,0 +1,34 @@
+#pragma once
+
+#include <AppKit/NSMenu.h>
+#include <AppKit/NSView.h>
+
+#pragma clang assume_nonnull begin
+
+static const CGFloat NSVariableStatusItemLength = -1.0;  // a constant of the header, no exported symbol
+
+@interface NSControl : NSView
+@property(nullable, weak) id target;
+@property(nullable) SEL action;
+@end
+
+@interface NSButton : NSControl
+@property(copy) NSString* title;
+@property(nullable, strong) NSImage* image;
+@end
+
+@interface NSStatusBarButton : NSButton
+@end
+
+@interface NSStatusItem : NSObject
+@property(nullable, readonly, strong) NSStatusBarButton* button;
+@property(nullable, strong) NSMenu* menu;
+@end
+
+@interface NSStatusBar : NSObject
+@property(class, readonly, strong) NSStatusBar* systemStatusBar;
+- (NSStatusItem*)statusItemWithLength:(CGFloat)length;
+- (void)removeStatusItem:(NSStatusItem*)item;
+@end
+
+#pragma clang assume_nonnull end

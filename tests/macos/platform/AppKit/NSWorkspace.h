@@ -1,0 +1,19 @@
+#pragma once
+
+#include <Foundation/Foundation.h>
+
+#pragma clang assume_nonnull begin
+
+extern "C" const NSNotificationName NSWorkspaceDidActivateApplicationNotification;
+
+@interface NSRunningApplication : NSObject
+@property(nullable, readonly, copy) NSString* bundleIdentifier;
+@end
+
+@interface NSWorkspace : NSObject
+@property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+@property(nullable, readonly, strong) NSRunningApplication* frontmostApplication;
+@property(readonly, strong) NSNotificationCenter* notificationCenter;
+@end
+
+#pragma clang assume_nonnull end

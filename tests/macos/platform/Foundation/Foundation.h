@@ -1,0 +1,7 @@
+#pragma once
+
+#include <Foundation/NSCollections.h>
+#include <Foundation/NSNotification.h>
+#include <Foundation/NSUserDefaults.h>
+#include <Foundation/NSValues.h>
+#include <dispatch/dispatch.h>

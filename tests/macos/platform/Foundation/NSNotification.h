@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Foundation/NSValues.h>
+
+#pragma clang assume_nonnull begin
+
+typedef NSString* NSNotificationName;
+
+@interface NSNotification : NSObject
+@property(readonly, copy) NSNotificationName name;
+@property(nullable, readonly, strong) id object;
+@end
+
+@class NSOperationQueue;
+@interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (void)addObserver:(id)observer
+           selector:(SEL)selector
+               name:(nullable NSNotificationName)name
+             object:(nullable id)object;
+- (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
+                            object:(nullable id)object
+                             queue:(nullable NSOperationQueue*)queue
+                        usingBlock:(void (^)(NSNotification* notification))block;
+- (void)removeObserver:(id)observer;
+@end
+
+#pragma clang assume_nonnull end

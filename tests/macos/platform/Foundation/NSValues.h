@@ -1,0 +1,30 @@
+#pragma once
+
+#include <CoreGraphics/CoreGraphics.h>
+#include <objc/NSObject.h>
+
+#pragma clang assume_nonnull begin
+
+typedef double NSTimeInterval;
+typedef CGPoint NSPoint;
+typedef CGSize NSSize;
+typedef CGRect NSRect;
+
+@class NSArray<__covariant T>, NSDictionary<K, V>, NSString;
+
+@interface NSString : NSObject <NSCopying>
+@property(readonly) NSUInteger length;
+@property(nullable, readonly) const char* UTF8String;
++ (nullable instancetype)stringWithUTF8String:(const char*)text;
+- (BOOL)isEqualToString:(NSString*)other;
+@end
+
+@interface NSNumber : NSObject <NSCopying>
++ (NSNumber*)numberWithBool:(BOOL)value;
++ (NSNumber*)numberWithInt:(int)value;
++ (NSNumber*)numberWithDouble:(double)value;
+@property(readonly) double doubleValue;
+@property(readonly) BOOL boolValue;
+@end
+
+#pragma clang assume_nonnull end
