@@ -2307,6 +2307,14 @@
         <source>Required trackpad symbols were not found.</source>
         <translation>Benötigte Trackpad-Symbole wurden nicht gefunden.</translation>
     </message>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Wahl</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>
