@@ -2,6 +2,7 @@
 
 #include <AppKit/NSApplication.h>
 #include <AppKit/NSEvent.h>
+#include <AppKit/NSImage.h>
 #include <AppKit/NSMenu.h>
 #include <AppKit/NSStatusItem.h>
 #include <AppKit/NSView.h>

@@ -1,12 +1,9 @@
 #pragma once
 
+#include <AppKit/NSImage.h>
 #include <Foundation/Foundation.h>
 
 #pragma clang assume_nonnull begin
-
-@interface NSImage : NSObject
-+ (nullable instancetype)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(nullable NSString*)text;
-@end
 
 @interface NSResponder : NSObject
 @end
