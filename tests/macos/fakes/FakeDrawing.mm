@@ -32,10 +32,27 @@ void draw(std::string name, std::initializer_list<double> numbers = {}) {
 @implementation NSColor {
     const char* _name;
 }
-+ (NSColor*)labelColor {
+static NSColor* named(const char* name) {
     NSColor* const color = [NSColor new];
-    color->_name = "labelColor";
+    color->_name = name;
     return color;
+}
++ (NSColor*)clearColor {
+    return named("clearColor");
+}
++ (NSColor*)labelColor {
+    return named("labelColor");
+}
+- (CGColorRef)CGColor {
+    static void* color;
+    void* const place = &color;
+    return static_cast<CGColorRef>(place);
+}
+- (id)copyWithZone:(NSZone*)zone {
+    return self;
+}
+- (const char*)recordedText {
+    return _name;
 }
 - (void)set {
     draw(_name);
@@ -47,7 +64,7 @@ void draw(std::string name, std::initializer_list<double> numbers = {}) {
     return hasContext ? [NSGraphicsContext new] : nil;
 }
 - (CGContextRef)CGContext {
-    static char context;
+    static void* context;
     void* const place = &context;
     return static_cast<CGContextRef>(place);
 }
@@ -76,6 +93,7 @@ void CGContextSetBlendMode(CGContextRef, CGBlendMode mode) { draw("blend", {doub
 void CGContextSetLineWidth(CGContextRef, CGFloat width) { draw("width", {width}); }
 void CGContextSetLineCap(CGContextRef, CGLineCap cap) { draw("cap", {double(cap)}); }
 void CGContextSetLineJoin(CGContextRef, CGLineJoin join) { draw("join", {double(join)}); }
+void CGContextScaleCTM(CGContextRef, CGFloat x, CGFloat y) { draw("scale", {x, y}); }
 void CGContextBeginPath(CGContextRef) { draw("path"); }
 void CGContextMoveToPoint(CGContextRef, CGFloat x, CGFloat y) { draw("move", {x, y}); }
 void CGContextAddLineToPoint(CGContextRef, CGFloat x, CGFloat y) { draw("line", {x, y}); }

@@ -21,10 +21,6 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 
 }  // namespace
 
-@implementation NSResponder
-@end
-@implementation NSView
-@end
 @implementation NSControl
 @end
 @implementation NSButton

@@ -26,10 +26,11 @@ void addPath(CGContextRef context, const Path& path) {
     }
 }
 
-void draw(CGContextRef context, const Picture& picture) {
+void draw(CGContextRef context, const Picture& picture, double scale) {
     CGContextSaveGState(context);
     // In a layer of its own: erasing must not reach what lies under the picture.
     CGContextBeginTransparencyLayer(context, nullptr);
+    CGContextScaleCTM(context, scale, scale);
     [NSColor.labelColor set];
     CGContextSetLineCap(context, kCGLineCapRound);
     CGContextSetLineJoin(context, kCGLineJoinRound);
@@ -49,14 +50,14 @@ void draw(CGContextRef context, const Picture& picture) {
 
 }  // namespace
 
-NSImage* imageOfPicture(Picture picture) {
-    return [NSImage imageWithSize:CGSize{picture.width, picture.height}
+NSImage* imageOfPicture(Picture picture, double scale) {
+    return [NSImage imageWithSize:CGSize{picture.width * scale, picture.height * scale}
                           flipped:YES  // y runs downward in pictures
                    drawingHandler:^BOOL(NSRect) {
                      NSGraphicsContext* const context = NSGraphicsContext.currentContext;
                      if (!context)
                          return NO;
-                     draw(context.CGContext, picture);
+                     draw(context.CGContext, picture, scale);
                      return YES;
                    }];
 }

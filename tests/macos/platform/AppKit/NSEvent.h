@@ -10,6 +10,7 @@ typedef CF_OPTIONS(unsigned long long, NSEventMask) { NSEventMaskOtherMouseDown 
 @interface NSEvent : NSObject
 + (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(void (^)(NSEvent* event))block;
 + (void)removeMonitor:(id)monitor;
+@property(class, readonly) NSPoint mouseLocation;
 @property(readonly) NSEventType type;
 @property(readonly) NSInteger buttonNumber;
 @end

@@ -5,8 +5,10 @@
 
 #pragma clang assume_nonnull begin
 
-@interface NSColor : NSObject
+@interface NSColor : NSObject <NSCopying>
+@property(class, readonly, strong) NSColor* clearColor;
 @property(class, readonly, strong) NSColor* labelColor;
+@property(readonly) CGColorRef CGColor;
 - (void)set;
 @end
 

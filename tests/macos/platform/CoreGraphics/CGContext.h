@@ -5,11 +5,13 @@ extern "C" {
 #endif
 #pragma clang assume_nonnull begin
 typedef struct CGContext* CGContextRef;
+typedef struct CGColor* CGColorRef;
 typedef CF_ENUM(int32_t, CGLineCap) { kCGLineCapButt, kCGLineCapRound, kCGLineCapSquare };
 typedef CF_ENUM(int32_t, CGLineJoin) { kCGLineJoinMiter, kCGLineJoinRound, kCGLineJoinBevel };
 typedef CF_ENUM(int32_t, CGBlendMode) { kCGBlendModeNormal = 0, kCGBlendModeClear = 16 };
 void CGContextSaveGState(CGContextRef c);
 void CGContextRestoreGState(CGContextRef c);
+void CGContextScaleCTM(CGContextRef c, CGFloat sx, CGFloat sy);
 void CGContextBeginTransparencyLayer(CGContextRef c, CFDictionaryRef _Nullable auxiliaryInfo);
 void CGContextEndTransparencyLayer(CGContextRef c);
 void CGContextSetBlendMode(CGContextRef c, CGBlendMode mode);
