@@ -30,6 +30,9 @@ std::vector<Monitor>& monitors() {
     kinesta::fakes::registered("monitor");
     return token;
 }
++ (NSPoint)mouseLocation {
+    return kinesta::fakes::pointer;
+}
 + (void)removeMonitor:(id)monitor {
     if (std::erase_if(monitors(), [&](const Monitor& each) { return each.first == monitor; }) == 0) {
         std::fprintf(stderr, "removeMonitor: of what is no monitor\n");
@@ -40,6 +43,8 @@ std::vector<Monitor>& monitors() {
 @end
 
 namespace kinesta::fakes {
+
+NSPoint pointer;
 
 void fireGlobalMonitors(NSEventType type, NSInteger button) {
     @autoreleasepool {

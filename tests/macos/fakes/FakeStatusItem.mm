@@ -21,15 +21,6 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 
 }  // namespace
 
-@implementation NSImage
-+ (NSImage*)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(NSString*)text {
-    return [NSImage new];
-}
-@end
-@implementation NSResponder
-@end
-@implementation NSView
-@end
 @implementation NSControl
 @end
 @implementation NSButton

@@ -2,8 +2,28 @@
 
 @interface NSWindow ()
 @property(readwrite) NSRect frame;
+@property(readwrite, getter=isVisible) BOOL visible;
 @end
+
+/// Changes of it take time: the window itself already has the new value.
+@interface FakeAnimator : NSPanel
+- (instancetype)initWithWindow:(NSWindow*)window;
+@end
+@implementation FakeAnimator {
+    NSWindow* _window;
+}
+- (instancetype)initWithWindow:(NSWindow*)window {
+    if ((self = [super init]))
+        _window = window;
+    return self;
+}
+- (void)setAlphaValue:(CGFloat)alpha {
+    _window.alphaValue = alpha;
+}
+@end
+
 @implementation NSWindow
+@synthesize appearance, effectiveAppearance;
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backing
@@ -16,8 +36,13 @@
     self.frame = NSRect{origin, self.frame.size};
 }
 - (void)orderFrontRegardless {
+    self.visible = YES;
 }
 - (void)orderOut:(id)sender {
+    self.visible = NO;
+}
+- (instancetype)animator {
+    return static_cast<NSWindow*>([[FakeAnimator alloc] initWithWindow:self]);
 }
 @end
 @implementation NSPanel

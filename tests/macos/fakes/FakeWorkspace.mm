@@ -2,12 +2,19 @@
 
 #include "Registrations.h"
 
+const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
+    @"NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification";
 const NSNotificationName NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
 
 @implementation NSRunningApplication
 @end
 
+@interface NSWorkspace ()
+@property(readwrite) BOOL accessibilityDisplayShouldIncreaseContrast;
+@property(readwrite) BOOL accessibilityDisplayShouldReduceMotion;
+@property(readwrite) BOOL accessibilityDisplayShouldReduceTransparency;
+@end
 @implementation NSWorkspace
 @synthesize notificationCenter = _notificationCenter;
 + (NSWorkspace*)sharedWorkspace {

@@ -18,6 +18,9 @@ typedef CF_ENUM(NSInteger, NSApplicationActivationPolicy) {
 - (void)activateIgnoringOtherApps:(BOOL)ignoringOthers;
 @end
 
+@interface NSApplication (NSAppearanceCustomization) <NSAppearanceCustomization>
+@end
+
 extern "C" NSApplication* _Null_unspecified NSApp;
 
 #pragma clang assume_nonnull end

@@ -18,6 +18,7 @@ typedef CF_OPTIONS(unsigned long long, NSEventMask) { NSEventMaskOtherMouseDown 
 + (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(void (^)(NSEvent* event))block;
 + (void)removeMonitor:(id)monitor;
 @property(nullable, readonly) CGEventRef CGEvent;
+@property(class, readonly) NSPoint mouseLocation;
 @property(readonly) NSEventType type;
 @property(readonly) NSInteger buttonNumber;
 @end

@@ -8,9 +8,17 @@ typedef CF_OPTIONS(NSUInteger, NSWindowStyleMask) {
     NSWindowStyleMaskBorderless = 0,
     NSWindowStyleMaskNonactivatingPanel = 1 << 7
 };
+typedef NSInteger NSWindowLevel;
+static const NSWindowLevel NSStatusWindowLevel = 25;
+typedef CF_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
+    NSWindowCollectionBehaviorCanJoinAllSpaces = 1 << 0,
+    NSWindowCollectionBehaviorTransient = 1 << 3,
+    NSWindowCollectionBehaviorIgnoresCycle = 1 << 6,
+    NSWindowCollectionBehaviorFullScreenAuxiliary = 1 << 8
+};
 typedef CF_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 
-@interface NSWindow : NSResponder
+@interface NSWindow : NSResponder <NSAppearanceCustomization>
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backing
@@ -19,6 +27,17 @@ typedef CF_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)orderFrontRegardless;
 - (void)orderOut:(nullable id)sender;
+@property(readonly, getter=isVisible) BOOL visible;
+@property(nullable, strong) NSView* contentView;
+@property CGFloat alphaValue;
+@property(getter=isOpaque) BOOL opaque;
+@property(copy) NSColor* backgroundColor;
+@property BOOL hasShadow;
+@property NSWindowLevel level;
+@property BOOL ignoresMouseEvents;
+@property BOOL hidesOnDeactivate;
+@property NSWindowCollectionBehavior collectionBehavior;
+- (instancetype)animator;
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @end
 
