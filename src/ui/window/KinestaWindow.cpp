@@ -237,9 +237,14 @@ void KinestaWindow::copyReport() {
     m_parts.report.request([this, still = QPointer<KinestaWindow>(this)](const SystemReport::Result& result) {
         if (!still)
             return;
-        if (result.problem.empty())
+        // Without findings it still has the versions.
+        if (!result.text.empty())
             QGuiApplication::clipboard()->setText(QString::fromStdString(result.text));
-        showToast(result.problem.empty() ? tr("Report copied") : QString::fromStdString(result.problem), {}, {});
+        const QString problem = QString::fromStdString(result.problem);
+        if (problem.isEmpty())
+            showToast(tr("Report copied"), {}, {});
+        else
+            showToast(result.text.empty() ? problem : tr("Only the versions were copied. %1").arg(problem), {}, {});
     });
 }
 
