@@ -109,6 +109,7 @@ void RuleHeader::focusName() {
 
 void RuleHeader::setBackButton(QWidget* button) {
     m_line->insertWidget(0, button);
+    button->lower();  // first for screen readers, too
     setTabOrder(button, m_name);
 }
 

@@ -56,6 +56,7 @@ void Page::addHeading(const QString& text, QWidget* atEnd) {
 void Page::setBackButton(QWidget* button) {
     m_belowBack = new QSpacerItem(0, 0);
     m_column->insertWidget(0, button, 0, Qt::AlignLeading);
+    button->lower();  // first for screen readers, too
     m_column->insertItem(1, m_belowBack);
     button->installEventFilter(this);
 }
