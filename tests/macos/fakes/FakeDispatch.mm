@@ -65,19 +65,17 @@ dispatch_time_t timeNow() { return static_cast<dispatch_time_t>(Clock::now().tim
 FakeSource* fake(dispatch_object_t source) { return static_cast<FakeSource*>(static_cast<id>(source)); }
 
 bool runOneBlock() {
-    @autoreleasepool {
-        dispatch_block_t block;
-        {
-            const std::lock_guard guard(mainQueue().lock);
-            if (mainQueue().blocks.empty())
-                return false;
-            block = mainQueue().blocks.front();
-            mainQueue().blocks.pop_front();
-        }
-        kinesta::fakes::unregistered("pending block");
-        block();
-        return true;
+    dispatch_block_t block;
+    {
+        const std::lock_guard guard(mainQueue().lock);
+        if (mainQueue().blocks.empty())
+            return false;
+        block = mainQueue().blocks.front();
+        mainQueue().blocks.pop_front();
     }
+    kinesta::fakes::unregistered("pending block");
+    block();
+    return true;
 }
 
 /// The timer that starts next, if any does.
@@ -162,7 +160,9 @@ void CFRunLoopStop(CFRunLoopRef) {
 namespace kinesta::fakes {
 
 void drainMainQueue() {
-    while (runOneBlock()) {
+    @autoreleasepool {
+        while (runOneBlock()) {
+        }
     }
 }
 
