@@ -174,7 +174,7 @@ bool ShortcutRecorder::isStillHeld(const QKeyEvent& event) const {
 bool ShortcutRecorder::pressKey(const QKeyEvent& event) {
     if (isStillHeld(event))
         return true;
-    m_lastKey = isListening() ? event.nativeScanCode() : 0;
+    m_lastKey = isListening() ? std::optional(event.nativeScanCode()) : std::nullopt;
     if (isListening()) {
         if (!event.isAutoRepeat())
             m_recording.press(nativeKey(event), meaningOf(event));
