@@ -28,14 +28,6 @@
         <translation>Die ganze Adresse angeben, mit http:// oder https:// davor.</translation>
     </message>
     <message>
-        <source>There is no configuration window yet.</source>
-        <translation>Es gibt noch kein Einstellungsfenster.</translation>
-    </message>
-    <message>
-        <source>Choose another action.</source>
-        <translation>Eine andere Aktion auswählen.</translation>
-    </message>
-    <message>
         <source>System</source>
         <translation>System</translation>
     </message>

@@ -10,6 +10,7 @@
 #include "app/Desktop.h"
 #include "platform/qt/ThemePalette.h"
 #include "ui/pictures/WindowSymbol.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Ground.h"
 #include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
@@ -251,10 +252,8 @@ void ShortcutRecorder::refresh() {
     }
     if (!isNew)
         return;
-    if (!hint.isEmpty() && isVisible()) {
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    if (!hint.isEmpty() && isVisible())
+        Announcer::announce(*this, hint);
     Q_EMIT hintChanged(hint);
 }
 
