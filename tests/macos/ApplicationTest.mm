@@ -195,6 +195,7 @@ TEST_F(ApplicationOnTheMac, SendsTheActionsOfItsOwnMenus) {
 
         const auto main = menus.mainMenu();
         main->update();
+        EXPECT_EQ(objc::takeCalls(), Calls{"NSMenu#1 update"});
         const auto top = main->items();
         ASSERT_EQ(top.size(), 1U);
         EXPECT_EQ(top[0]->identifier(), std::nullopt);

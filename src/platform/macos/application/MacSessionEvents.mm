@@ -15,7 +15,7 @@ struct MacSessionEvents::Observations : std::enable_shared_from_this<Observation
         id const object = notification.object;
         const bool isMinor =
             [object isKindOfClass:[NSWindow class]] && !static_cast<NSWindow*>(object).canBecomeMainWindow;
-        if (!isMinor && !tokens.empty())
+        if (!isMinor)
             events.post(event);
     }
 
@@ -31,11 +31,10 @@ struct MacSessionEvents::Observations : std::enable_shared_from_this<Observation
         tokens.emplace_back(center, token);
     }
 
-    void end() {
+    void end() const {
         // Each from its own center: another would not know the token, and say nothing.
         for (const auto& [center, token] : tokens)
             [center removeObserver:token];
-        tokens.clear();
     }
 
     const ApplicationEvents& events;
