@@ -45,28 +45,35 @@ TEST_F(ApplicationOnTheMac, TellsWhatTheSystemDoesToItUntilItEnds) {
          {ApplicationEvent::windowWillClose, ApplicationEvent::windowDidBecomeKey,
           ApplicationEvent::windowDidChangeVisibility, ApplicationEvent::didBecomeActive, ApplicationEvent::didWake})
         subscriptions.push_back(events.observe(event, [&, event] { log += std::to_string(static_cast<int>(event)); }));
+    NSNotificationCenter* const workspace = NSWorkspace.sharedWorkspace.notificationCenter;
+    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
     std::optional<MacSessionEvents> session;
-    const auto postAll = [] {
-        NSNotificationCenter* const workspace = NSWorkspace.sharedWorkspace.notificationCenter;
-        for (NSNotificationName name in @[
-                 NSWorkspaceDidWakeNotification, NSApplicationDidBecomeActiveNotification,
-                 NSApplicationDidHideNotification, NSApplicationDidUnhideNotification, NSWindowDidBecomeKeyNotification,
-                 NSWindowWillCloseNotification
-             ])
-            fakes::post(name == NSWorkspaceDidWakeNotification ? workspace : NSNotificationCenter.defaultCenter, name);
-    };
     @autoreleasepool {
+        // Ends it while the platform tells its observers of the second waking.
+        __block int wakings = 0;
+        auto* const ending = &session;
+        id const first = [workspace addObserverForName:NSWorkspaceDidWakeNotification
+                                                object:nil
+                                                 queue:nil
+                                            usingBlock:^(NSNotification*) {
+                                              if (++wakings == 2)
+                                                  ending->reset();
+                                            }];
         session.emplace(events);
-        postAll();
+        fakes::post(workspace, NSWorkspaceDidWakeNotification);
+        for (NSNotificationName name in @[
+                 NSApplicationDidBecomeActiveNotification, NSApplicationDidHideNotification,
+                 NSApplicationDidUnhideNotification, NSWindowDidBecomeKeyNotification, NSWindowWillCloseNotification
+             ])
+            fakes::post(center, name);
         NSWindow* const tip = window();
         tip.canBecomeMainWindow = NO;
         for (NSWindow* closing in @[ tip, window() ])
-            [NSNotificationCenter.defaultCenter postNotificationName:NSWindowWillCloseNotification object:closing];
+            [center postNotificationName:NSWindowWillCloseNotification object:closing];
         EXPECT_EQ(std::exchange(log, {}), "4322100");
-        // One observer may end all while the platform calls them.
-        subscriptions.push_back(events.observe(ApplicationEvent::didWake, [&] { session.reset(); }));
-        postAll();
-        EXPECT_EQ(log, "4");
+        fakes::post(workspace, NSWorkspaceDidWakeNotification);
+        EXPECT_EQ(log, "");
+        [workspace removeObserver:first];
     }
 }
 

@@ -16,7 +16,9 @@ namespace {
 struct MacLoopBase : MacTest {
     MacLoopBase() : pool(objc_autoreleasePoolPush()) {}
     ~MacLoopBase() override {
-        fakes::drainMainQueue();  // what the loop has left there must not touch it
+        objc::takeCalls();
+        fakes::drainMainQueue();
+        EXPECT_EQ(objc::takeCalls(), Calls{});  // what the loop has left there has no effect any more
         objc_autoreleasePoolPop(pool);
     }
     void* pool;
