@@ -6,6 +6,7 @@ const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotifica
     @"NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification";
 const NSNotificationName NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
+const NSNotificationName NSWorkspaceDidWakeNotification = @"NSWorkspaceDidWakeNotification";
 
 @implementation NSRunningApplication
 @end
