@@ -139,6 +139,11 @@ TEST_F(LiveCommandsOnWindows, SayWhatBecameOfTheWindow) {
     import({{"left", kTileLeft}, {"untile", shortcut(15, 20)}, { "close", action("closeWindow") }});
     for (const char* name : {"left", "untile", "close"})
         EXPECT_EQ(perform(name), "refused: No window is active.\n");
+    settings().setString("linux.inputRoute.v1", "x11");
+    setenv("WAYLAND_DISPLAY", ("/tmp/.X11-unix/X" + desktop.display().substr(1)).c_str(), 1);  // any server will do
+    EXPECT_EQ(perform("left"),
+              "refused: No window of a program that uses XWayland is active; Wayland hides all others.\n");
+    unsetenv("WAYLAND_DISPLAY");
     const auto connection = TestWindow::connect(desktop);
     TestWindow window(desktop, {200, 150, 400, 300}, connection);
     window.show();
