@@ -2291,6 +2291,10 @@
         <source>The key with code %1 is not on keyboards here.</source>
         <translation>Die Taste mit dem Code %1 gibt es auf Tastaturen hier nicht.</translation>
     </message>
+    <message>
+        <source>The desktop&apos;s portal did not open %1.</source>
+        <translation>Das Portal der Arbeitsumgebung hat %1 nicht geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>

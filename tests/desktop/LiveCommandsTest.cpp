@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/CommandRunner.h"
+#include "desktop/harness/BusPeer.h"
 #include "desktop/harness/ProcessFigures.h"
 #include "desktop/harness/TestWindow.h"
 #include "platform/linux/settings/FileUserDefaults.h"
@@ -121,6 +122,14 @@ TEST_F(LiveCommands, ReplaysAndPerformsWhatItRecognizesIfAsked) {
     const Ran refused = kinesta.run(command);
     EXPECT_EQ(refused.status, 1);
     EXPECT_NE(refused.err.find("Only the application has a window."), std::string::npos) << refused.err;
+}
+
+TEST_F(LiveCommands, WaitForWhatThePortalSays) {
+    import({{ "web", action("openURL", "http://kinesta.test/") }});
+    setenv("PATH", kinesta.folder.path().c_str(), 1);  // no xdg-open
+    EXPECT_EQ(perform("web"), "refused: Nothing here opens addresses; install xdg-utils.\n");
+    const BusServices services(BusServices::Manner::refusing);
+    EXPECT_EQ(perform("web"), "refused: The desktop's portal did not open http://kinesta.test/.\n");
 }
 
 TEST_F(LiveCommandsOnWindows, LoseNothingOfTwoHundredPerforms) {
