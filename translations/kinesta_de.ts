@@ -2447,6 +2447,10 @@
         <source>line %1: rule %2 %3: %4</source>
         <translation>Zeile %1: Regel %2 %3: %4</translation>
     </message>
+    <message>
+        <source>The desktop&apos;s portal did not open %1.</source>
+        <translation>Das Portal der Arbeitsumgebung hat %1 nicht geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>
