@@ -29,11 +29,6 @@ std::deque<dispatch_block_t>& mainQueue() {
     return queue;
 }
 
-std::vector<std::pair<std::string, BOOL>>& settings() {
-    static auto& values = *new std::vector<std::pair<std::string, BOOL>>;
-    return values;
-}
-
 }  // namespace
 
 @interface FakeQueue : NSObject
@@ -49,30 +44,17 @@ extern "C" dispatch_queue_t dispatch_get_main_queue(void) {
     return queue;
 }
 
+extern "C" dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t) {
+    RECORD_CALL("dispatch_get_global_queue " + std::to_string(identifier));
+    static id const queue = [FakeQueue new];
+    return queue;
+}
+
 extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
     RECORD_CALL("dispatch_async " + kinesta::objc::describe((__bridge void*)queue));
     mainQueue().push_back(block);
     kinesta::fakes::registered("pending block");
 }
-
-@implementation NSUserDefaults
-+ (NSUserDefaults*)standardUserDefaults {
-    static NSUserDefaults* const defaults = [NSUserDefaults new];
-    return defaults;
-}
-- (void)registerDefaults:(NSDictionary*)values {
-}
-- (BOOL)boolForKey:(NSString*)key {
-    for (const auto& [name, value] : settings())
-        if (name == key.UTF8String)
-            return value;
-    return NO;
-}
-- (void)setBool:(BOOL)value forKey:(NSString*)key {
-    std::erase_if(settings(), [&](const auto& item) { return item.first == key.UTF8String; });
-    settings().emplace_back(key.UTF8String, value);
-}
-@end
 
 @interface NSNotification ()
 @property(readwrite, copy) NSNotificationName name;
@@ -145,9 +127,8 @@ void post(NSNotificationCenter* center, NSNotificationName name) {
 
 // Shared objects are made now, so that they count as there from the start.
 static const OnReset foundation([] {
-    (void)@[ NSUserDefaults.standardUserDefaults, NSNotificationCenter.defaultCenter, dispatch_get_main_queue() ];
+    (void)@[ NSNotificationCenter.defaultCenter, dispatch_get_main_queue(), dispatch_get_global_queue(0, 0) ];
     mainQueue().clear();
-    settings().clear();
 });
 
 }  // namespace kinesta::fakes

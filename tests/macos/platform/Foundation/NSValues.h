@@ -16,13 +16,22 @@ typedef CGRect NSRect;
 @property(readonly) NSUInteger length;
 @property(nullable, readonly) const char* UTF8String;
 + (nullable instancetype)stringWithUTF8String:(const char*)text;
+@property(readonly, copy) NSString* lowercaseString;
 - (BOOL)isEqualToString:(NSString*)other;
+@end
+
+@interface NSObject (Description)
+- (NSString*)description;
 @end
 
 @interface NSNumber : NSObject <NSCopying>
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
 + (NSNumber*)numberWithDouble:(double)value;
++ (NSNumber*)numberWithLongLong:(long long)value;
++ (NSNumber*)numberWithUnsignedLongLong:(unsigned long long)value;
+@property(readonly) const char* objCType;
+@property(readonly) long long longLongValue;
 @property(readonly) double doubleValue;
 @property(readonly) BOOL boolValue;
 @end
