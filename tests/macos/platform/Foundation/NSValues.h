@@ -6,6 +6,7 @@
 #pragma clang assume_nonnull begin
 
 typedef double NSTimeInterval;
+typedef unsigned short unichar;
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
@@ -17,6 +18,7 @@ typedef CGRect NSRect;
 @property(nullable, readonly) const char* UTF8String;
 + (nullable instancetype)stringWithUTF8String:(const char*)text;
 @property(readonly, copy) NSString* lowercaseString;
++ (instancetype)stringWithCharacters:(const unichar*)units length:(NSUInteger)count;
 - (BOOL)isEqualToString:(NSString*)other;
 @end
 
