@@ -1,9 +1,8 @@
-// Notifications, settings and the main queue. Whatever the code under test says to these classes is recorded by the
+// Notifications and settings. Whatever the code under test says to these classes is recorded by the
 // runtime, properties included; what stands here is only the behaviour that it needs.
 #include <Foundation/Foundation.h>
 
 #include <algorithm>
-#include <deque>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,46 +23,23 @@ struct Observer {
     void (^block)(NSNotification*);
 };
 
-std::deque<dispatch_block_t>& mainQueue() {
-    static std::deque<dispatch_block_t>& queue = *new std::deque<dispatch_block_t>;
-    return queue;
-}
-
 }  // namespace
-
-@interface FakeQueue : NSObject
-@end
-@implementation FakeQueue
-@end
 
 @implementation FakeToken
 @end
 
-extern "C" dispatch_queue_t dispatch_get_main_queue(void) {
-    static id const queue = [FakeQueue new];
+@implementation NSOperationQueue
++ (NSOperationQueue*)mainQueue {
+    static NSOperationQueue* const queue = [NSOperationQueue new];
     return queue;
 }
-
-extern "C" dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t) {
-    RECORD_CALL("dispatch_get_global_queue " + std::to_string(identifier));
-    static id const queue = [FakeQueue new];
-    return queue;
-}
-
-extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
-    RECORD_CALL("dispatch_async " + kinesta::objc::describe((__bridge void*)queue));
-    mainQueue().push_back(block);
-    kinesta::fakes::registered("pending block");
-}
+@end
 
 @interface NSNotification ()
 @property(readwrite, copy) NSNotificationName name;
+@property(readwrite, strong) id object;
 @end
 @implementation NSNotification
-@end
-
-@interface NSNotificationCenter ()
-- (void)post:(NSNotificationName)name;
 @end
 
 @implementation NSNotificationCenter {
@@ -91,9 +67,10 @@ extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
         _observers, [&](const Observer& each) { return each.target == observer || each.token == observer; });
     kinesta::fakes::unregistered("observer", removed);
 }
-- (void)post:(NSNotificationName)name {
+- (void)postNotificationName:(NSNotificationName)name object:(id)object {
     NSNotification* const notification = [NSNotification new];
     notification.name = name;
+    notification.object = object;
     const std::vector<Observer> told = _observers;
     for (const Observer& each : told) {
         if (each.name && ![each.name isEqual:name])
@@ -108,27 +85,13 @@ extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
 
 namespace kinesta::fakes {
 
-void drainMainQueue() {
-    while (!mainQueue().empty()) {
-        @autoreleasepool {
-            dispatch_block_t const block = mainQueue().front();
-            mainQueue().pop_front();
-            unregistered("pending block");
-            block();
-        }
-    }
-}
-
 void post(NSNotificationCenter* center, NSNotificationName name) {
     @autoreleasepool {
-        [center post:name];
+        [center postNotificationName:name object:nil];
     }
 }
 
 // Shared objects are made now, so that they count as there from the start.
-static const OnReset foundation([] {
-    (void)@[ NSNotificationCenter.defaultCenter, dispatch_get_main_queue(), dispatch_get_global_queue(0, 0) ];
-    mainQueue().clear();
-});
+static const OnReset foundation([] { (void)@[ NSNotificationCenter.defaultCenter, NSOperationQueue.mainQueue ]; });
 
 }  // namespace kinesta::fakes

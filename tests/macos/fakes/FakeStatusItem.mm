@@ -1,5 +1,7 @@
 #include <AppKit/NSStatusItem.h>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "Fakes.h"
@@ -14,6 +16,11 @@ std::vector<NSStatusItem*>& statusItems() {
     return all;
 }
 
+std::function<void()>& menuUse() {
+    static auto& use = *new std::function<void()>;
+    return use;
+}
+
 NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
     const void* const first = items.data();
     return [NSArray arrayWithObjects:static_cast<const id __unsafe_unretained*>(first) count:items.size()];
@@ -22,21 +29,52 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 }  // namespace
 
 @implementation NSControl
+- (NSInteger)sendActionOn:(NSEventMask)mask {
+    return 0;
+}
+/// A click on a status item's button opens the item's menu if it has one.
+- (void)performClick:(id)sender {
+    if (const auto use = std::exchange(menuUse(), nullptr))
+        use();
+}
 @end
 @implementation NSButton
 @end
 @implementation NSStatusBarButton
 @end
 @implementation NSMenuItem
+@synthesize identifier = _identifier;
++ (NSMenuItem*)separatorItem {
+    return [[NSMenuItem alloc] initWithTitle:@"-" action:nil keyEquivalent:@""];
+}
+- (instancetype)initWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
+    if ((self = [super init])) {
+        self.title = title;
+        self.action = action;
+        self.enabled = YES;
+    }
+    return self;
+}
+- (BOOL)isSeparatorItem {
+    return [self.title isEqualToString:@"-"];
+}
 @end
 @implementation NSMenu {
     std::vector<NSMenuItem*> _items;
 }
-- (NSMenuItem*)addItemWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
-    NSMenuItem* const item = [NSMenuItem new];
-    item.title = title;
-    item.action = action;
+- (instancetype)initWithTitle:(NSString*)title {
+    if ((self = [super init]))
+        self.autoenablesItems = YES;
+    return self;
+}
+- (void)addItem:(NSMenuItem*)item {
     _items.push_back(item);
+}
+- (void)update {
+}
+- (NSMenuItem*)addItemWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
+    NSMenuItem* const item = [[NSMenuItem alloc] initWithTitle:title action:action keyEquivalent:key];
+    [self addItem:item];
     return item;
 }
 - (NSArray*)itemArray {
@@ -58,6 +96,7 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 - (NSStatusItem*)statusItemWithLength:(CGFloat)length {
     NSStatusItem* const item = [NSStatusItem new];
     item.button = [NSStatusBarButton new];
+    item.button.enabled = YES;
     statusItems().push_back(item);
     kinesta::fakes::registered("status item");
     return item;
@@ -69,18 +108,38 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 
 namespace kinesta::fakes {
 
-void choose(NSMenuItem* item) {
+NSStatusItem* statusItem() { return statusItems().at(0); }
+
+/// The target is not kept while it acts.
+static void send(id sender, SEL action, id (^target)()) {
     @autoreleasepool {
-        if (id const target = item.target)
-            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(target, item.action, item);
+        __unsafe_unretained id receiver = nil;
+        @autoreleasepool {
+            receiver = target();
+        }
+        if (receiver)
+            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(receiver, action, sender);
     }
 }
 
-NSMenuItem* itemOfStatusMenu(NSUInteger index) { return statusItems().at(0).menu.itemArray[index]; }
+void click(NSControl* control) {
+    send(control, control.action, ^{
+      return control.target;
+    });
+}
 
-static const OnReset statusItem([] {
+void whileMenuIsOpen(std::function<void()> use) { menuUse() = std::move(use); }
+
+void choose(NSMenuItem* item) {
+    send(item, item.action, ^{
+      return item.target;
+    });
+}
+
+static const OnReset statusBar([] {
     (void)NSStatusBar.systemStatusBar;
     statusItems().clear();
+    menuUse() = nullptr;
 });
 
 }  // namespace kinesta::fakes

@@ -68,6 +68,8 @@ const NSFontWeight NSFontWeightSemibold = 0.3;
 - (void)setWantsLayer:(BOOL)wantsLayer {
     self.layer = wantsLayer ? [CALayer new] : nil;
 }
+- (void)setAccessibilityLabel:(NSString*)label {
+}
 - (void)addSubview:(NSView*)view {
     _subviews.push_back(view);
     view->_superview = self;

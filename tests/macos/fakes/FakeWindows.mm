@@ -1,8 +1,13 @@
+#include <AppKit/NSStatusItem.h>
 #include <AppKit/NSWindow.h>
+
+#include "Fakes.h"
+
+const NSNotificationName NSWindowWillCloseNotification = @"NSWindowWillCloseNotification";
+const NSNotificationName NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeKeyNotification";
 
 @interface NSWindow ()
 @property(readwrite) NSRect frame;
-@property(readwrite, getter=isVisible) BOOL visible;
 @end
 
 /// Changes of it take time: the window itself already has the new value.
@@ -35,6 +40,9 @@
 - (void)setFrameOrigin:(NSPoint)origin {
     self.frame = NSRect{origin, self.frame.size};
 }
+- (NSButton*)standardWindowButton:(NSWindowButton)button {
+    return button == NSWindowCloseButton ? self.closeButton : nil;
+}
 - (void)orderFrontRegardless {
     self.visible = YES;
 }
@@ -43,6 +51,10 @@
 }
 - (instancetype)animator {
     return static_cast<NSWindow*>([[FakeAnimator alloc] initWithWindow:self]);
+}
+- (void)makeKeyAndOrderFront:(id)sender {
+}
+- (void)performClose:(id)sender {
 }
 @end
 @implementation NSPanel

@@ -7,6 +7,7 @@ const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotifica
     @"NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification";
 const NSNotificationName NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
+const NSNotificationName NSWorkspaceDidWakeNotification = @"NSWorkspaceDidWakeNotification";
 
 @interface NSRunningApplication ()
 @property(readwrite) pid_t processIdentifier;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <AppKit/NSEvent.h>
 #include <AppKit/NSMenu.h>
 #include <AppKit/NSView.h>
 
@@ -9,6 +10,7 @@ static const CGFloat NSVariableStatusItemLength = -1.0;  // a constant of the he
 
 @class NSFont;
 typedef CF_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByTruncatingTail = 4 };
+typedef CF_ENUM(NSUInteger, NSCellImagePosition) { NSNoImage = 0, NSImageOnly = 1 };
 
 @interface NSControl : NSView
 @property(copy) NSString* stringValue;
@@ -17,11 +19,15 @@ typedef CF_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByTruncatingTail = 4 }
 @property BOOL usesSingleLineMode;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
+@property(getter=isEnabled) BOOL enabled;
+- (NSInteger)sendActionOn:(NSEventMask)mask;
+- (void)performClick:(nullable id)sender;
 @end
 
 @interface NSButton : NSControl
 @property(copy) NSString* title;
 @property(nullable, strong) NSImage* image;
+@property NSCellImagePosition imagePosition;
 @end
 
 @interface NSStatusBarButton : NSButton

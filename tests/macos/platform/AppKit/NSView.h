@@ -29,6 +29,8 @@
 @property(readonly, strong) NSLayoutYAxisAnchor* bottomAnchor;
 @property(readonly, strong) NSLayoutYAxisAnchor* centerYAnchor;
 @property(getter=isHidden) BOOL hidden;
+@property(nullable, copy) NSString* toolTip;
+- (void)setAccessibilityLabel:(nullable NSString*)label;
 @end
 
 #pragma clang assume_nonnull end

@@ -18,6 +18,13 @@ typedef CF_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
 };
 typedef CF_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 
+typedef CF_ENUM(NSUInteger, NSWindowButton) { NSWindowCloseButton = 0 };
+
+extern "C" const NSNotificationName NSWindowWillCloseNotification;
+extern "C" const NSNotificationName NSWindowDidBecomeKeyNotification;
+
+@class NSButton;
+
 @interface NSWindow : NSResponder <NSAppearanceCustomization>
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
@@ -39,6 +46,14 @@ typedef CF_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 @property NSWindowCollectionBehavior collectionBehavior;
 - (instancetype)animator;
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
+@property(copy) NSString* title;
+@property(readonly) BOOL canBecomeMainWindow;
+@property(readonly, getter=isMiniaturized) BOOL miniaturized;
+@property(readonly, getter=isKeyWindow) BOOL keyWindow;
+@property(nullable, readonly, strong) NSWindow* attachedSheet;
+- (nullable NSButton*)standardWindowButton:(NSWindowButton)button;
+- (void)makeKeyAndOrderFront:(nullable id)sender;
+- (void)performClose:(nullable id)sender;
 @end
 
 @interface NSPanel : NSWindow

@@ -6,6 +6,7 @@
 
 extern "C" const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 extern "C" const NSNotificationName NSWorkspaceDidActivateApplicationNotification;
+extern "C" const NSNotificationName NSWorkspaceDidWakeNotification;
 
 @interface NSRunningApplication : NSObject
 @property(nullable, readonly, copy) NSString* bundleIdentifier;

@@ -26,6 +26,8 @@ typedef CGRect NSRect;
 - (NSString*)description;
 @end
 
+extern "C" NSString* NSStringFromSelector(SEL selector);
+
 @interface NSNumber : NSObject <NSCopying>
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
@@ -36,6 +38,8 @@ typedef CGRect NSRect;
 @property(readonly) long long longLongValue;
 @property(readonly) double doubleValue;
 @property(readonly) BOOL boolValue;
+@property(readonly) NSInteger integerValue;
++ (NSNumber*)numberWithInteger:(NSInteger)value;
 @end
 
 #pragma clang assume_nonnull end
