@@ -99,6 +99,12 @@ dispatch_queue_t dispatch_get_main_queue(void) {
     return queue;
 }
 
+dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t) {
+    RECORD_CALL("dispatch_get_global_queue " + std::to_string(identifier));
+    static FakeQueue* const queue = [FakeQueue new];
+    return queue;
+}
+
 void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
     RECORD_CALL("dispatch_async " + kinesta::objc::describe((__bridge void*)queue));
     kinesta::fakes::registered("pending block");
@@ -203,7 +209,7 @@ void signalArrives(int number) {
 }
 
 static const OnReset dispatch([] {
-    (void)dispatch_get_main_queue();
+    (void)@[ dispatch_get_main_queue(), dispatch_get_global_queue(0, 0) ];
     mainQueue().blocks.clear();
     mainQueue().sources.clear();
 });
