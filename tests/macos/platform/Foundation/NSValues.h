@@ -1,7 +1,7 @@
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>
-#include <objc/NSObject.h>
+#include <Foundation/NSObject.h>
 
 #pragma clang assume_nonnull begin
 
