@@ -7,8 +7,8 @@
 
 #include "cli/CommandLine.h"
 #include "platform/linux/LinuxDesktop.h"
-#include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/process/Terminal.h"
+#include "platform/posix/BrokenPipes.h"
+#include "platform/posix/Terminal.h"
 #include "support/RunLoop.h"
 #include "support/SystemError.h"
 

@@ -2,7 +2,7 @@
 
 #include <fcntl.h>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 namespace {

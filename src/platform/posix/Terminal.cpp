@@ -1,4 +1,4 @@
-#include "platform/linux/process/Terminal.h"
+#include "platform/posix/Terminal.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>

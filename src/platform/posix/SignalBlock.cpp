@@ -1,4 +1,4 @@
-#include "platform/linux/process/SignalBlock.h"
+#include "platform/posix/SignalBlock.h"
 
 #include <csignal>
 #include <initializer_list>
