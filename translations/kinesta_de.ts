@@ -2299,6 +2299,14 @@
         <source>The key with code %1 is not on keyboards here.</source>
         <translation>Die Taste mit dem Code %1 gibt es auf Tastaturen hier nicht.</translation>
     </message>
+    <message>
+        <source>MultitouchSupport is unavailable on this macOS version.</source>
+        <translation>MultitouchSupport gibt es in dieser macOS-Version nicht.</translation>
+    </message>
+    <message>
+        <source>Required trackpad symbols were not found.</source>
+        <translation>Benötigte Trackpad-Symbole wurden nicht gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>

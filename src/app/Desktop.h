@@ -92,6 +92,9 @@ class Desktop {
 
     /// Reads the recording or FIFO at `path` in place of a trackpad. Must be called before trackpad() is first used.
     virtual void useStream(std::string path) = 0;
+    /// Reads contacts through the library at `path`, which offers what the trackpad framework of macOS does, in place
+    /// of a trackpad. Must be called before trackpad() is first used.
+    virtual void useMultitouchLibrary(std::string path) = 0;
     virtual LiveTrackpad& trackpad() = 0;
     /// All trackpads. Opens each for a moment.
     virtual ConnectedTrackpads connectedTrackpads() = 0;

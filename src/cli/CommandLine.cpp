@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <functional>
 
 #include "cli/commands/Commands.h"
@@ -11,6 +12,9 @@ namespace {
 
 constexpr const char* kTrackpad =
     "A recording, or a FIFO to which one is written, to read in real time in place of the trackpad";
+
+constexpr const char* kMultitouchLibrary =
+    "A library with the functions of the trackpad framework of macOS, to read in place of the trackpad";
 
 constexpr const char* kExamples =
     R"(Without a subcommand, Kinesta starts with its icon in the tray, or shows its window if it runs already.
@@ -138,6 +142,15 @@ class Parser {
             app->add_option_function<std::string>(
                    "--trackpad", [this](const std::string& path) { m_desktop.useStream(path); }, kTrackpad)
                 ->type_name("PATH");
+        live->add_option_function<std::string>(
+                "--multitouch-library",
+                // A path without a slash would be searched for among the libraries of the system.
+                [this](const std::string& path) {
+                    m_desktop.useMultitouchLibrary(std::filesystem::absolute(path).string());
+                },
+                kMultitouchLibrary)
+            ->type_name("PATH")
+            ->excludes("--trackpad");
         CLI::App* recording = command(m_app, "record", "Write what the pad reports to a recording",
                                       [this] { return record(m_console, m_desktop, m_output, m_device); });
         recording->add_option("-o,--output", m_output, "Where to write it (default: standard output)");

@@ -14,6 +14,7 @@
 #include "platform/linux/settings/LinuxActionSettings.h"
 #include "platform/linux/x11/X11Connection.h"
 #include "platform/posix/BrokenPipes.h"
+#include "platform/posix/MultitouchTrackpad.h"
 #include "platform/posix/StreamTrackpad.h"
 #include "support/SystemError.h"
 #include "support/Translation.h"
@@ -172,6 +173,12 @@ PlatformSettings LinuxDesktop::platformSettings() const {
 LiveTrackpad& LinuxDesktop::trackpad() {
     if (!m_trackpad && m_stream)
         m_trackpad = std::make_unique<StreamTrackpad>(m_mainLoop, m_clock, *m_stream);
+    else if (!m_trackpad && m_multitouchLibrary)
+        m_trackpad = std::make_unique<MultitouchTrackpad>(
+            m_mainLoop, m_clock, m_noPointerEvents,
+            LiveTrackpad::Identity{.name = std::filesystem::path(*m_multitouchLibrary).filename().string(),
+                                   .path = *m_multitouchLibrary},
+            *m_multitouchLibrary);
     else if (!m_trackpad)
         m_trackpad = std::make_unique<LinuxTrackpad>(m_mainLoop, m_clock, fileDefaults());
     return *m_trackpad;

@@ -9,9 +9,9 @@
 #include "platform/linux/LinuxActions.h"
 #include "platform/linux/LinuxTrackpad.h"
 #include "platform/linux/process/PosixHomeFolders.h"
+#include "platform/linux/process/SignalListener.h"
 #include "platform/linux/settings/FileUserDefaults.h"
 #include "platform/linux/settings/FileWatcher.h"
-#include "platform/posix/SignalListener.h"
 #include "platform/posix/Terminal.h"
 #include "support/SteadyClock.h"
 
@@ -73,6 +73,7 @@ class LinuxDesktop final : public Desktop {
     PlatformSettings platformSettings() const override;
 
     void useStream(std::string path) override { m_stream = std::move(path); }
+    void useMultitouchLibrary(std::string path) override { m_multitouchLibrary = std::move(path); }
     LiveTrackpad& trackpad() override;
     ConnectedTrackpads connectedTrackpads() override;
 
@@ -107,6 +108,8 @@ class LinuxDesktop final : public Desktop {
     Tell m_onActionProblem;
     ProgramOutput m_programOutput = ProgramOutput::nowhere;
     std::optional<std::string> m_stream;
+    std::optional<std::string> m_multitouchLibrary;
+    PointerEventBroadcaster m_noPointerEvents;  // of a multitouch library
     // Created at first use. Members that start threads come after the signals, because threads inherit the signal mask.
     std::optional<TerminalTakeover> m_terminal;
     std::optional<SignalListener> m_signals;

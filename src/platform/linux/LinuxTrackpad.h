@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "app/LiveTrackpad.h"
+#include "input/PadEventRelay.h"
 #include "input/PointerEventBroadcaster.h"
 #include "platform/linux/touchpad/EvdevContactProvider.h"
-#include "platform/linux/touchpad/PadEventRelay.h"
 #include "support/Clock.h"
 #include "support/UserDefaults.h"
 

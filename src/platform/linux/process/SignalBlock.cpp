@@ -1,4 +1,4 @@
-#include "platform/posix/SignalBlock.h"
+#include "platform/linux/process/SignalBlock.h"
 
 #include <csignal>
 #include <initializer_list>

@@ -1,4 +1,4 @@
-#include "platform/linux/touchpad/PadEventRelay.h"
+#include "input/PadEventRelay.h"
 
 #include <gtest/gtest.h>
 

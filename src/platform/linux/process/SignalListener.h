@@ -1,11 +1,11 @@
 #pragma once
 
-#include <atomic>
 #include <csignal>
 #include <functional>
 #include <thread>
 #include <vector>
 
+#include "platform/posix/FileDescriptor.h"
 #include "support/MainThread.h"
 
 namespace kinesta {
@@ -22,8 +22,8 @@ class SignalListener {
 
   private:
     sigset_t m_before;
-    std::vector<int> m_signals;
-    std::atomic<bool> m_isEnding = false;
+    FileDescriptor m_signals;
+    FileDescriptor m_stop;
     std::thread m_thread;
 };
 
