@@ -1,16 +1,34 @@
 #include <AppKit/NSApplication.h>
 
+#include "Fakes.h"
 #include "Registrations.h"
 
 NSApplication* NSApp = nil;
 
+const NSNotificationName NSApplicationDidBecomeActiveNotification = @"NSApplicationDidBecomeActiveNotification";
+const NSNotificationName NSApplicationDidHideNotification = @"NSApplicationDidHideNotification";
+const NSNotificationName NSApplicationDidUnhideNotification = @"NSApplicationDidUnhideNotification";
+
+@interface NSApplication ()
+@property(readwrite, copy) NSArray* windows;
+@property(readwrite, weak) NSWindow* keyWindow;
+@property(readwrite, weak) NSWindow* mainWindow;
+@property(readwrite, strong) NSEvent* currentEvent;
+@end
+
+static NSApplication* theApplication() {
+    static NSApplication* const application = [NSApplication new];
+    return application;
+}
+
 @implementation NSApplication {
     NSApplicationActivationPolicy _policy;
+    bool _isStopped;
+    bool _hasEvent;
 }
 + (NSApplication*)sharedApplication {
-    static NSApplication* const application = [NSApplication new];
-    NSApp = application;
-    return application;
+    NSApp = theApplication();
+    return NSApp;
 }
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy {
     _policy = policy;
@@ -21,8 +39,37 @@ NSApplication* NSApp = nil;
 }
 - (void)activateIgnoringOtherApps:(BOOL)ignoringOthers {
 }
+- (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender {
+    return target != nil;
+}
+- (void)postEvent:(NSEvent*)event atStart:(BOOL)atStart {
+    _hasEvent = true;
+}
+- (void)stop:(id)sender {
+    _isStopped = true;
+}
+- (void)run {
+    _isStopped = _hasEvent = false;
+    kinesta::fakes::turnRunLoop([self] { return _isStopped && _hasEvent; });
+}
 @end
 
-static const kinesta::fakes::OnReset application([] {
-    [NSApplication.sharedApplication setActivationPolicy:NSApplicationActivationPolicyRegular];
+namespace kinesta::fakes {
+
+void setWindows(NSArray<NSWindow*>* windows, NSWindow* key, NSWindow* main) {
+    theApplication().windows = windows;
+    theApplication().keyWindow = key;
+    theApplication().mainWindow = main;
+}
+
+void setCurrentEvent(NSEvent* event) { theApplication().currentEvent = event; }
+
+static const OnReset application([] {
+    [theApplication() setActivationPolicy:NSApplicationActivationPolicyRegular];
+    theApplication().mainMenu = nil;
+    setCurrentEvent(nil);
+    setWindows(@[], nil, nil);
+    NSApp = nil;  // until someone asks for it
 });
+
+}  // namespace kinesta::fakes

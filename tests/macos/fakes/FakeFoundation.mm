@@ -1,9 +1,8 @@
-// Notifications, settings and the main queue. Whatever the code under test says to these classes is recorded by the
+// Notifications and settings. Whatever the code under test says to these classes is recorded by the
 // runtime, properties included; what stands here is only the behaviour that it needs.
 #include <Foundation/Foundation.h>
 
 #include <algorithm>
-#include <deque>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,11 +23,6 @@ struct Observer {
     void (^block)(NSNotification*);
 };
 
-std::deque<dispatch_block_t>& mainQueue() {
-    static std::deque<dispatch_block_t>& queue = *new std::deque<dispatch_block_t>;
-    return queue;
-}
-
 std::vector<std::pair<std::string, BOOL>>& settings() {
     static auto& values = *new std::vector<std::pair<std::string, BOOL>>;
     return values;
@@ -36,24 +30,8 @@ std::vector<std::pair<std::string, BOOL>>& settings() {
 
 }  // namespace
 
-@interface FakeQueue : NSObject
-@end
-@implementation FakeQueue
-@end
-
 @implementation FakeToken
 @end
-
-extern "C" dispatch_queue_t dispatch_get_main_queue(void) {
-    static id const queue = [FakeQueue new];
-    return queue;
-}
-
-extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
-    RECORD_CALL("dispatch_async " + kinesta::objc::describe((__bridge void*)queue));
-    mainQueue().push_back(block);
-    kinesta::fakes::registered("pending block");
-}
 
 @implementation NSUserDefaults
 + (NSUserDefaults*)standardUserDefaults {
@@ -74,14 +52,18 @@ extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
 }
 @end
 
-@interface NSNotification ()
-@property(readwrite, copy) NSNotificationName name;
-@end
-@implementation NSNotification
+@implementation NSOperationQueue
++ (NSOperationQueue*)mainQueue {
+    static NSOperationQueue* const queue = [NSOperationQueue new];
+    return queue;
+}
 @end
 
-@interface NSNotificationCenter ()
-- (void)post:(NSNotificationName)name;
+@interface NSNotification ()
+@property(readwrite, copy) NSNotificationName name;
+@property(readwrite, strong) id object;
+@end
+@implementation NSNotification
 @end
 
 @implementation NSNotificationCenter {
@@ -109,9 +91,10 @@ extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
         _observers, [&](const Observer& each) { return each.target == observer || each.token == observer; });
     kinesta::fakes::unregistered("observer", removed);
 }
-- (void)post:(NSNotificationName)name {
+- (void)postNotificationName:(NSNotificationName)name object:(id)object {
     NSNotification* const notification = [NSNotification new];
     notification.name = name;
+    notification.object = object;
     const std::vector<Observer> told = _observers;
     for (const Observer& each : told) {
         if (each.name && ![each.name isEqual:name])
@@ -126,27 +109,15 @@ extern "C" void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
 
 namespace kinesta::fakes {
 
-void drainMainQueue() {
-    while (!mainQueue().empty()) {
-        @autoreleasepool {
-            dispatch_block_t const block = mainQueue().front();
-            mainQueue().pop_front();
-            unregistered("pending block");
-            block();
-        }
-    }
-}
-
 void post(NSNotificationCenter* center, NSNotificationName name) {
     @autoreleasepool {
-        [center post:name];
+        [center postNotificationName:name object:nil];
     }
 }
 
 // Shared objects are made now, so that they count as there from the start.
 static const OnReset foundation([] {
-    (void)@[ NSUserDefaults.standardUserDefaults, NSNotificationCenter.defaultCenter, dispatch_get_main_queue() ];
-    mainQueue().clear();
+    (void)@[ NSUserDefaults.standardUserDefaults, NSNotificationCenter.defaultCenter, NSOperationQueue.mainQueue ];
     settings().clear();
 });
 

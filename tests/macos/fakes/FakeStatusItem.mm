@@ -1,5 +1,7 @@
 #include <AppKit/NSStatusItem.h>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "Fakes.h"
@@ -12,6 +14,11 @@ namespace {
 std::vector<NSStatusItem*>& statusItems() {
     static auto& all = *new std::vector<NSStatusItem*>;
     return all;
+}
+
+std::function<void()>& menuUse() {
+    static auto& use = *new std::function<void()>;
+    return use;
 }
 
 NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
@@ -29,23 +36,56 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 @implementation NSResponder
 @end
 @implementation NSView
+- (void)setAccessibilityLabel:(NSString*)label {
+}
 @end
 @implementation NSControl
+- (NSInteger)sendActionOn:(NSEventMask)mask {
+    return 0;
+}
+/// A click on a status item's button opens the item's menu if it has one.
+- (void)performClick:(id)sender {
+    if (const auto use = std::exchange(menuUse(), nullptr))
+        use();
+}
 @end
 @implementation NSButton
 @end
 @implementation NSStatusBarButton
 @end
 @implementation NSMenuItem
+@synthesize identifier = _identifier;
++ (NSMenuItem*)separatorItem {
+    return [[NSMenuItem alloc] initWithTitle:@"-" action:nil keyEquivalent:@""];
+}
+- (instancetype)initWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
+    if ((self = [super init])) {
+        self.title = title;
+        self.action = action;
+        self.enabled = YES;
+    }
+    return self;
+}
+- (BOOL)isSeparatorItem {
+    return [self.title isEqualToString:@"-"];
+}
 @end
 @implementation NSMenu {
     std::vector<NSMenuItem*> _items;
 }
-- (NSMenuItem*)addItemWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
-    NSMenuItem* const item = [NSMenuItem new];
-    item.title = title;
-    item.action = action;
+- (instancetype)initWithTitle:(NSString*)title {
+    if ((self = [super init]))
+        self.autoenablesItems = YES;
+    return self;
+}
+- (void)addItem:(NSMenuItem*)item {
     _items.push_back(item);
+}
+- (void)update {
+}
+- (NSMenuItem*)addItemWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
+    NSMenuItem* const item = [[NSMenuItem alloc] initWithTitle:title action:action keyEquivalent:key];
+    [self addItem:item];
     return item;
 }
 - (NSArray*)itemArray {
@@ -67,6 +107,7 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 - (NSStatusItem*)statusItemWithLength:(CGFloat)length {
     NSStatusItem* const item = [NSStatusItem new];
     item.button = [NSStatusBarButton new];
+    item.button.enabled = YES;
     statusItems().push_back(item);
     kinesta::fakes::registered("status item");
     return item;
@@ -78,6 +119,17 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 
 namespace kinesta::fakes {
 
+NSStatusItem* statusItem() { return statusItems().at(0); }
+
+void click(NSControl* control) {
+    @autoreleasepool {
+        if (id const target = control.target)
+            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(target, control.action, control);
+    }
+}
+
+void whileMenuIsOpen(std::function<void()> use) { menuUse() = std::move(use); }
+
 void choose(NSMenuItem* item) {
     @autoreleasepool {
         if (id const target = item.target)
@@ -85,11 +137,10 @@ void choose(NSMenuItem* item) {
     }
 }
 
-NSMenuItem* itemOfStatusMenu(NSUInteger index) { return statusItems().at(0).menu.itemArray[index]; }
-
-static const OnReset statusItem([] {
+static const OnReset statusBar([] {
     (void)NSStatusBar.systemStatusBar;
     statusItems().clear();
+    menuUse() = nullptr;
 });
 
 }  // namespace kinesta::fakes

@@ -1,4 +1,10 @@
+#include <AppKit/NSStatusItem.h>
 #include <AppKit/NSWindow.h>
+
+#include "Fakes.h"
+
+const NSNotificationName NSWindowWillCloseNotification = @"NSWindowWillCloseNotification";
+const NSNotificationName NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeKeyNotification";
 
 @interface NSWindow ()
 @property(readwrite) NSRect frame;
@@ -15,9 +21,16 @@
 - (void)setFrameOrigin:(NSPoint)origin {
     self.frame = NSRect{origin, self.frame.size};
 }
+- (NSButton*)standardWindowButton:(NSWindowButton)button {
+    return button == NSWindowCloseButton ? self.closeButton : nil;
+}
 - (void)orderFrontRegardless {
 }
 - (void)orderOut:(id)sender {
+}
+- (void)makeKeyAndOrderFront:(id)sender {
+}
+- (void)performClose:(id)sender {
 }
 @end
 @implementation NSPanel

@@ -1,6 +1,7 @@
 #include "Registrations.h"
 
 #include <map>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,8 @@
 
 namespace kinesta::fakes {
 namespace {
+
+std::mutex lock;  // other threads give blocks to the main queue
 
 std::map<std::string, std::size_t>& open() {
     static auto& counts = *new std::map<std::string, std::size_t>;
@@ -21,9 +24,15 @@ std::vector<void (*)()>& actions() {
 
 }  // namespace
 
-void registered(const char* kind) { ++open()[kind]; }
+void registered(const char* kind) {
+    const std::lock_guard guard(lock);
+    ++open()[kind];
+}
 
-void unregistered(const char* kind, std::size_t count) { open()[kind] -= count; }
+void unregistered(const char* kind, std::size_t count) {
+    const std::lock_guard guard(lock);
+    open()[kind] -= count;
+}
 
 OnReset::OnReset(void (*action)()) { actions().push_back(action); }
 

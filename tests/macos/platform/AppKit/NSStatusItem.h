@@ -1,5 +1,6 @@
 #pragma once
 
+#include <AppKit/NSEvent.h>
 #include <AppKit/NSMenu.h>
 #include <AppKit/NSView.h>
 
@@ -7,14 +8,20 @@
 
 static const CGFloat NSVariableStatusItemLength = -1.0;  // a constant of the header, no exported symbol
 
+typedef CF_ENUM(NSUInteger, NSCellImagePosition) { NSNoImage = 0, NSImageOnly = 1 };
+
 @interface NSControl : NSView
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
+@property(getter=isEnabled) BOOL enabled;
+- (NSInteger)sendActionOn:(NSEventMask)mask;
+- (void)performClick:(nullable id)sender;
 @end
 
 @interface NSButton : NSControl
 @property(copy) NSString* title;
 @property(nullable, strong) NSImage* image;
+@property NSCellImagePosition imagePosition;
 @end
 
 @interface NSStatusBarButton : NSButton

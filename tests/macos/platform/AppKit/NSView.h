@@ -14,6 +14,8 @@
 @interface NSView : NSResponder
 @property NSRect frame;
 @property(getter=isHidden) BOOL hidden;
+@property(nullable, copy) NSString* toolTip;
+- (void)setAccessibilityLabel:(nullable NSString*)label;
 @end
 
 #pragma clang assume_nonnull end

@@ -10,6 +10,13 @@ typedef CF_OPTIONS(NSUInteger, NSWindowStyleMask) {
 };
 typedef CF_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 
+typedef CF_ENUM(NSUInteger, NSWindowButton) { NSWindowCloseButton = 0 };
+
+extern "C" const NSNotificationName NSWindowWillCloseNotification;
+extern "C" const NSNotificationName NSWindowDidBecomeKeyNotification;
+
+@class NSButton;
+
 @interface NSWindow : NSResponder
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
@@ -20,6 +27,15 @@ typedef CF_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 - (void)orderFrontRegardless;
 - (void)orderOut:(nullable id)sender;
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
+@property(copy) NSString* title;
+@property(readonly) BOOL canBecomeMainWindow;
+@property(readonly, getter=isVisible) BOOL visible;
+@property(readonly, getter=isMiniaturized) BOOL miniaturized;
+@property(readonly, getter=isKeyWindow) BOOL keyWindow;
+@property(nullable, readonly, strong) NSWindow* attachedSheet;
+- (nullable NSButton*)standardWindowButton:(NSWindowButton)button;
+- (void)makeKeyAndOrderFront:(nullable id)sender;
+- (void)performClose:(nullable id)sender;
 @end
 
 @interface NSPanel : NSWindow

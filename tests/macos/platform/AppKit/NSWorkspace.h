@@ -5,6 +5,7 @@
 #pragma clang assume_nonnull begin
 
 extern "C" const NSNotificationName NSWorkspaceDidActivateApplicationNotification;
+extern "C" const NSNotificationName NSWorkspaceDidWakeNotification;
 
 @interface NSRunningApplication : NSObject
 @property(nullable, readonly, copy) NSString* bundleIdentifier;

@@ -41,6 +41,8 @@ CFIndex CFArrayGetCount(CFArrayRef a);
 const void* _Nullable CFArrayGetValueAtIndex(CFArrayRef a, CFIndex i);
 const UInt8* _Nullable CFDataGetBytePtr(CFDataRef d);
 CFRunLoopRef CFRunLoopGetMain(void);
+void CFRunLoopRun(void);
+void CFRunLoopStop(CFRunLoopRef loop);
 void CFRunLoopAddSource(CFRunLoopRef rl, CFRunLoopSourceRef src, CFRunLoopMode mode);
 CFRunLoopSourceRef _Nullable CFMachPortCreateRunLoopSource(CFAllocatorRef _Nullable a, CFMachPortRef p, CFIndex order);
 #pragma clang assume_nonnull end

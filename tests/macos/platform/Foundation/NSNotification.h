@@ -11,7 +11,10 @@ typedef NSString* NSNotificationName;
 @property(nullable, readonly, strong) id object;
 @end
 
-@class NSOperationQueue;
+@interface NSOperationQueue : NSObject
+@property(class, readonly, strong) NSOperationQueue* mainQueue;
+@end
+
 @interface NSNotificationCenter : NSObject
 @property(class, readonly, strong) NSNotificationCenter* defaultCenter;
 - (void)addObserver:(id)observer
@@ -23,6 +26,7 @@ typedef NSString* NSNotificationName;
                              queue:(nullable NSOperationQueue*)queue
                         usingBlock:(void (^)(NSNotification* notification))block;
 - (void)removeObserver:(id)observer;
+- (void)postNotificationName:(NSNotificationName)name object:(nullable id)object;
 @end
 
 #pragma clang assume_nonnull end

@@ -19,12 +19,16 @@ typedef CGRect NSRect;
 - (BOOL)isEqualToString:(NSString*)other;
 @end
 
+extern "C" NSString* NSStringFromSelector(SEL selector);
+
 @interface NSNumber : NSObject <NSCopying>
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
 + (NSNumber*)numberWithDouble:(double)value;
 @property(readonly) double doubleValue;
 @property(readonly) BOOL boolValue;
+@property(readonly) NSInteger integerValue;
++ (NSNumber*)numberWithInteger:(NSInteger)value;
 @end
 
 #pragma clang assume_nonnull end
