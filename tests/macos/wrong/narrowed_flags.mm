@@ -2,4 +2,4 @@
 #include <AppKit/AppKit.h>
 
 // The bit is beyond a signed char: there the answer would always be NO.
-BOOL isForOtherButtons(NSEventMask mask) { return mask & NSEventMaskOtherMouseDown; }
+BOOL isForPressure(NSEventMask mask) { return mask & NSEventMaskPressure; }
