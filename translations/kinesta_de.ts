@@ -28,14 +28,6 @@
         <translation>Die ganze Adresse angeben, mit http:// oder https:// davor.</translation>
     </message>
     <message>
-        <source>There is no configuration window yet.</source>
-        <translation>Es gibt noch kein Einstellungsfenster.</translation>
-    </message>
-    <message>
-        <source>Choose another action.</source>
-        <translation>Eine andere Aktion auswählen.</translation>
-    </message>
-    <message>
         <source>System</source>
         <translation>System</translation>
     </message>
@@ -2306,6 +2298,14 @@
     <message>
         <source>Required trackpad symbols were not found.</source>
         <translation>Benötigte Trackpad-Symbole wurden nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Wahl</translation>
     </message>
 </context>
 <context>

@@ -51,8 +51,6 @@ std::optional<Obstacle> obstacleTo(const GestureAction& action, Desktop& desktop
                 return Obstacle{translated("%1 is no address of a web page, and no other is opened.", {action.value}),
                                 translated("Write the whole address, with http:// or https:// before it.")};
             break;
-        case ActionKind::toggleConfigurationWindow:
-            return Obstacle{translated("There is no configuration window yet."), translated("Choose another action.")};
         default:
             break;
     }

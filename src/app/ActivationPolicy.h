@@ -17,6 +17,8 @@ class ActivationPolicy {
     virtual void set(Kind kind) = 0;
     virtual bool isActive() const = 0;
     virtual void activateIgnoringOtherApplications() = 0;
+    /// Whether a request to activate can be lost, so that it must be repeated.
+    virtual bool losesRequests() const { return true; }
 };
 
 }  // namespace kinesta

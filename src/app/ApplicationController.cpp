@@ -67,7 +67,11 @@ void ApplicationController::installObservers() {
                                                   [this] { hideFromAppSwitcherIfWindowIsClosed(); });
     }));
     observe(ApplicationEvent::windowDidBecomeKey, &ApplicationController::windowDidBecomeKey);
-    observe(ApplicationEvent::windowDidChangeVisibility, &ApplicationController::updateStatusIcon);
+    m_observers.push_back(m_ports.events.observe(ApplicationEvent::windowDidChangeVisibility, [this] {
+        if (m_ports.window.isMiniaturized())
+            ++m_windowActivationGeneration;  // the person has put it away
+        updateStatusIcon();
+    }));
     m_observers.push_back(m_ports.events.observe(ApplicationEvent::didBecomeActive, [this] {
         // The person may come back from the system's list of login items.
         if (m_launchAtLogin)
@@ -128,7 +132,8 @@ void ApplicationController::showConfigurationWindow() {
     if (!m_ports.window.exists() && m_openWindowHandler)
         m_openWindowHandler();
     attemptWindowActivation();
-    retryWindowActivation();
+    if (m_ports.activationPolicy.losesRequests())
+        retryWindowActivation();
     updateStatusIcon();
 }
 
@@ -223,13 +228,14 @@ void ApplicationController::attemptWindowActivation() {
 
 void ApplicationController::retryWindowActivation() { activateOpenedWindow(maximumActivationAttempts); }
 
+bool ApplicationController::hasFocus() const { return m_ports.window.isKey() && m_ports.activationPolicy.isActive(); }
+
 void ApplicationController::activateOpenedWindow(int attemptsRemaining) {
-    if (attemptsRemaining == 0 || (m_ports.window.isKey() && m_ports.activationPolicy.isActive()))
+    if (attemptsRemaining == 0 || hasFocus())
         return;
     const std::uint64_t generation = m_windowActivationGeneration;
     m_activationRetry = m_ports.mainThread.after(activationRetryInterval, [this, attemptsRemaining, generation] {
-        if (generation != m_windowActivationGeneration ||
-            (m_ports.window.isKey() && m_ports.activationPolicy.isActive()))
+        if (generation != m_windowActivationGeneration || hasFocus())
             return;
         attemptWindowActivation();
         activateOpenedWindow(attemptsRemaining - 1);
@@ -258,6 +264,8 @@ void ApplicationController::restartAfterWaking() {
 }
 
 void ApplicationController::windowDidBecomeKey() {
+    if (hasFocus())
+        ++m_windowActivationGeneration;  // what the person does with it from now on counts
     updateStatusIcon();
     if (m_isWindowCloseTest)
         m_ports.window.performClose();

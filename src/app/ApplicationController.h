@@ -90,6 +90,7 @@ class ApplicationController {
     void attemptWindowActivation();
     void retryWindowActivation();
     void activateOpenedWindow(int attemptsRemaining);
+    bool hasFocus() const;
     void suppressInitialConfigurationWindow();
     void startConfiguredServices();
     void restartAfterWaking();

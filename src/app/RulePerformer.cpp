@@ -63,8 +63,11 @@ RulePerformer::Report RulePerformer::perform(const GestureRule& rule, std::int64
         return {Outcome::failed, "The action of this rule is not complete."};
     if (!ShellCommandSettings::permits(action, m_settings))
         return {Outcome::failed, "Shell commands are switched off in the settings."};
-    if (action.kind == ActionKind::toggleConfigurationWindow)
-        return {Outcome::failed, "No application runs here whose configuration window could be shown or hidden."};
+    if (action.kind == ActionKind::toggleConfigurationWindow) {
+        const kinesta::Outcome toggled = m_desktop.runningApplication().ask(ApplicationRequest::toggle);
+        return toggled ? Report{Outcome::done, ""}
+                       : Report{Outcome::failed, "Only the application has a window. " + toggled.error().message};
+    }
     if (action.kind == ActionKind::disableAllRules)
         return m_disableAllRules() ? Report{Outcome::done, ""}
                                    : Report{Outcome::failed, "The rules were not switched off."};

@@ -163,6 +163,18 @@ TEST_F(ApplicationControlling, AsksAgainForFocusUntilItHasIt) {
     controller->hideConfigurationWindow();
     takeCalls();
     EXPECT_EQ(takeCallsAfter(milliseconds(1000)), "") << "an attempt that waited would show the window again";
+
+    for (const bool gotFocusFirst : {true, false}) {
+        controller->showConfigurationWindow();
+        takeCalls();
+        shell.takesFocus = gotFocusFirst;
+        events.post(ApplicationEvent::windowDidBecomeKey);
+        shell.takesFocus = false;
+        shell.isMinimized = true;
+        if (!gotFocusFirst)
+            events.post(ApplicationEvent::windowDidChangeVisibility);
+        EXPECT_EQ(takeCallsAfter(milliseconds(1000)), "") << "the person has minimized it";
+    }
 }
 
 TEST_F(ApplicationControlling, FollowsWindowsSleepAndReopening) {

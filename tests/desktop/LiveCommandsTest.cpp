@@ -92,7 +92,7 @@ TEST_F(LiveCommands, PerformsTheActionOfOneRule) {
     EXPECT_TRUE(refuses("paste", "No stored rule has the id or the name \"paste\"."));
     EXPECT_TRUE(refuses("Letter", "no meaning together with fn"));
     EXPECT_TRUE(refuses("Shell", "Shell commands are switched off"));
-    EXPECT_TRUE(refuses("Window", "No application runs here whose configuration window could be shown or hidden."));
+    EXPECT_TRUE(refuses("Window", "Only the application has a window. Kinesta is not running."));
     settings().setBoolean("shellCommandActionsEnabled.v1", true);
     settings().setString("linux.inputRoute.v1", "uinput");
     EXPECT_TRUE(perform("Shell").starts_with("Asked for: ")) << "needs no keys";
@@ -120,7 +120,7 @@ TEST_F(LiveCommands, ReplaysAndPerformsWhatItRecognizesIfAsked) {
     writeText(command[3], rules({{"", kShowWindow}}));
     const Ran refused = kinesta.run(command);
     EXPECT_EQ(refused.status, 1);
-    EXPECT_NE(refused.err.find("No application runs here whose"), std::string::npos) << refused.err;
+    EXPECT_NE(refused.err.find("Only the application has a window."), std::string::npos) << refused.err;
 }
 
 TEST_F(LiveCommandsOnWindows, LoseNothingOfTwoHundredPerforms) {

@@ -61,7 +61,7 @@ TEST_F(MainLoopOnTheMac, TakesEventsOfTheWindowServerOnceThereIsAnApplication) {
     EXPECT_EQ(calls, (Calls{"CFRunLoopRun", "CFRunLoopStop", "NSApplication#1 run", "NSApplication#1 stop:nil",
                             "NSEvent otherEventWithType:15 location:{0 0} modifierFlags:0 timestamp:0 windowNumber:0 "
                             "context:nil subtype:0 data1:0 data2:0",
-                            "NSApplication#1 postEvent:NSEvent#1 atStart:YES"}));
+                            "NSApplication#1 postEvent:FakeSystemDefinedEvent#1 atStart:YES"}));
 }
 
 TEST_F(MainLoopOnTheMac, FreesWhatATaskLeavesBeforeTheNext) {

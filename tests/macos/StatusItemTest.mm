@@ -41,17 +41,24 @@ TEST_F(StatusItemOnTheMac, IsSetUpForBothButtonsAndDrawnWhenItsStateChanges) {
     @autoreleasepool {
         create();
         item->setToolTip("Kinesta");
-        for (const bool isEnabled : {true, true, false})
+        std::vector<Calls> images;
+        for (const bool isEnabled : {true, true, false}) {
             item->setState(isEnabled, isEnabled ? "on" : "off");
+            images.push_back(fakes::drawn(fakes::statusItem().button.image));
+        }
+        EXPECT_GT(images[0].size(), 5U);
+        EXPECT_NE(images[0], images[2]);
         item.reset();
+        Calls calls = objc::takeCalls();
+        std::erase_if(calls, [](const std::string& call) { return !call.starts_with("NSStatus"); });
         const std::string button = "NSStatusBarButton#1 ";
-        EXPECT_EQ(objc::takeCalls(),
-                  (Calls{"NSStatusBar#1 statusItemWithLength:-1", button + "setImagePosition:1",
-                         button + "setTarget:KinestaStatusItemTarget#1", button + "setAction:@statusItemClicked:",
-                         button + "sendActionOn:20", button + "setToolTip:\"Kinesta\"", button + "setImage:NSImage#1",
-                         button + "setAccessibilityLabel:\"on\"", button + "setAccessibilityLabel:\"on\"",
-                         button + "setImage:NSImage#2", button + "setAccessibilityLabel:\"off\"",
-                         "NSStatusBar#1 removeStatusItem:NSStatusItem#1"}));
+        EXPECT_EQ(calls, (Calls{"NSStatusBar#1 statusItemWithLength:-1", button + "setImagePosition:1",
+                                button + "setTarget:KinestaStatusItemTarget#1",
+                                button + "setAction:@statusItemClicked:", button + "sendActionOn:20",
+                                button + "setToolTip:\"Kinesta\"", button + "setImage:NSImage#1",
+                                button + "setAccessibilityLabel:\"on\"", button + "setAccessibilityLabel:\"on\"",
+                                button + "setImage:NSImage#2", button + "setAccessibilityLabel:\"off\"",
+                                "NSStatusBar#1 removeStatusItem:NSStatusItem#1"}));
     }
 }
 

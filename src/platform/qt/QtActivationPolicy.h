@@ -14,6 +14,9 @@ class QtActivationPolicy final : public ActivationPolicy {
     bool isActive() const override { return QGuiApplication::applicationState() == Qt::ApplicationActive; }
     /// The window activates the application with itself.
     void activateIgnoringOtherApplications() override {}
+    /// Qt keeps the request until the window is mapped. A window manager that refuses it would refuse it again, and one
+    /// that is slow would bring back a window that the person has minimized meanwhile.
+    bool losesRequests() const override { return false; }
 
   private:
     Kind m_kind = Kind::regular;

@@ -10,6 +10,7 @@
 #include "app/Desktop.h"
 #include "platform/qt/ThemePalette.h"
 #include "ui/pictures/WindowSymbol.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Ground.h"
 #include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
@@ -174,7 +175,7 @@ bool ShortcutRecorder::isStillHeld(const QKeyEvent& event) const {
 bool ShortcutRecorder::pressKey(const QKeyEvent& event) {
     if (isStillHeld(event))
         return true;
-    m_lastKey = isListening() ? event.nativeScanCode() : 0;
+    m_lastKey = isListening() ? std::optional(event.nativeScanCode()) : std::nullopt;
     if (isListening()) {
         if (!event.isAutoRepeat())
             m_recording.press(nativeKey(event), meaningOf(event));
@@ -251,10 +252,8 @@ void ShortcutRecorder::refresh() {
     }
     if (!isNew)
         return;
-    if (!hint.isEmpty() && isVisible()) {
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    if (!hint.isEmpty() && isVisible())
+        Announcer::announce(*this, hint);
     Q_EMIT hintChanged(hint);
 }
 

@@ -61,8 +61,8 @@ class ShortcutRecorder final : public QWidget {
     ShortcutRecording m_recording;
     KeyCapRow* m_caps;
     QToolButton* m_clear;
-    /// The key that was pressed last while we listened; 0 for none.
-    quint32 m_lastKey = 0;
+    /// The last pressed key, if we listened then. On macOS Qt gives all keys the same code.
+    std::optional<quint32> m_lastKey;
     QString m_hint;
     QString m_announcedWords;
 };

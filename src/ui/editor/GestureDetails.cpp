@@ -1,11 +1,11 @@
 #include "ui/editor/GestureDetails.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <algorithm>
 
 #include "support/Translation.h"
 #include "ui/models/GestureSentence.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -66,8 +66,7 @@ void GestureDetails::show(const RuleEditorContent& content) {
     }
     if (waits != hasWaited) {
         // It began to wait, or a gesture came: neither moves the focus.
-        QAccessibleEvent alert(m_title, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
+        Announcer::announce(*this, title);
     }
 }
 

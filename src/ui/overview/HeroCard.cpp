@@ -1,11 +1,11 @@
 #include "ui/overview/HeroCard.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <algorithm>
 #include <utility>
 
 #include "recognition/MultitouchService.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Row.h"
 #include "ui/widgets/Unit.h"
 
@@ -112,10 +112,8 @@ void HeroCard::show(const OverviewContent& content) {
     m_switch->setChecked(content.isGestureEnabled);
     m_stage->show(content);
     showLastGesture(content.lastGesture);
-    if (hasOtherGesture && content.lastGesture) {
-        QAccessibleEvent alert(m_last, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    if (hasOtherGesture && content.lastGesture && isVisible())
+        Announcer::announce(*this, m_last->accessibleName());
     if (hasOtherNotices)
         showNotices();
 }

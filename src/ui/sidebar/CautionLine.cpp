@@ -12,6 +12,7 @@
 #include "platform/qt/ThemePalette.h"
 #include "ui/pictures/WindowSymbol.h"
 #include "ui/sidebar/RowPainter.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -59,8 +60,7 @@ void CautionLine::tell(const QString& sentence) {
     if (WindowTheme::reducesMotion())
         m_motion.setCurrentTime(kMotion);
     Q_EMIT roomChanged();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Announcer::announce(*this, sentence);
 }
 
 void CautionLine::dismiss() {

@@ -1,6 +1,5 @@
 #include "ui/trying/DetectionColumn.h"
 
-#include <QAccessible>
 #include <QPainter>
 #include <cmath>
 
@@ -8,6 +7,7 @@
 #include "platform/qt/ThemePalette.h"
 #include "ui/pictures/WindowSymbol.h"
 #include "ui/trying/LivePadPainter.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -89,8 +89,9 @@ void DetectionColumn::setContent(const TestSheetContent& content) {
     update();
     if (!isNews || !isVisible())
         return;
-    QAccessibleEvent alert(m_result, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Announcer::announce(*this, qstring(content.result));
+    if (isDetected)
+        Announcer::announce(*this, qstring(content.repetition));
 }
 
 void DetectionColumn::paintEvent(QPaintEvent* /*event*/) {

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/ChoiceGroup.h"
 #include "ui/widgets/Notice.h"
 #include "ui/widgets/PadPicture.h"
@@ -19,6 +20,8 @@ QAccessibleInterface* make(const QString& name, QObject* object) {
         return new QAccessibleWidget(static_cast<PadPicture*>(object), QAccessible::Graphic);
     if (is(Notice::staticMetaObject))
         return new QAccessibleWidget(static_cast<Notice*>(object), QAccessible::AlertMessage);
+    if (is(Announcer::staticMetaObject))
+        return new QAccessibleWidget(static_cast<Announcer*>(object), QAccessible::Notification);
     // Otherwise it would be a mere container.
     if (name == QLatin1String("kinesta::KinestaWindow"))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);

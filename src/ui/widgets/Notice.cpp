@@ -1,6 +1,5 @@
 #include "ui/widgets/Notice.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
@@ -8,6 +7,7 @@
 #include "platform/qt/PicturePainter.h"
 #include "platform/qt/ThemePalette.h"
 #include "ui/widgets/AccessibleParts.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -159,8 +159,7 @@ void Notice::hideEvent(QHideEvent* event) {
 }
 
 void Notice::announce() {
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Announcer::announce(*this, (accessibleName() + u' ' + accessibleDescription()).trimmed());
 }
 
 void Notice::paintEvent(QPaintEvent* /*event*/) {

@@ -1,6 +1,5 @@
 #include "ui/window/Toast.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
@@ -9,6 +8,7 @@
 #include <utility>
 
 #include "platform/qt/ThemePalette.h"
+#include "ui/widgets/Announcer.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -83,8 +83,7 @@ void Toast::tell(const QString& text, const QString& action, std::function<void(
     fade(true);
     raise();
     wait();
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    Announcer::announce(*this, text);
 }
 
 void Toast::dismiss() {

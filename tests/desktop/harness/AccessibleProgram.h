@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <systemd/sd-bus.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -51,7 +53,10 @@ class AccessibleProgram {
             return !m_program.bus.empty();
         }));
     }
-    ~AccessibleProgram() { sd_bus_flush_close_unref(m_bus); }
+    ~AccessibleProgram() {
+        sd_bus_slot_unref(m_listening);
+        sd_bus_flush_close_unref(m_bus);
+    }
     AccessibleProgram(const AccessibleProgram&) = delete;
     AccessibleProgram& operator=(const AccessibleProgram&) = delete;
 
@@ -115,6 +120,31 @@ class AccessibleProgram {
                 return ::testing::AssertionFailure() << "stays in " << passed;
         }
         return ::testing::AssertionFailure() << role << " " << name << " not among\n" << passed;
+    }
+
+    /// Begins to note the notifications that appear: screen readers say them wherever the focus is.
+    void listen() {
+        EXPECT_GE(sd_bus_match_signal(m_bus, &m_listening, m_program.bus.c_str(), nullptr,
+                                      "org.a11y.atspi.Event.Object", "StateChanged", &noteNotification, this),
+                  0);
+        EXPECT_GE(sd_bus_call_method(m_bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
+                                     "org.a11y.atspi.Registry", "RegisterEvent", nullptr, nullptr, "sass",
+                                     "object:state-changed:showing", 0, ""),
+                  0);
+    }
+    /// Waits until a notification with this text appears. Those before it are forgotten.
+    ::testing::AssertionResult says(const std::string& text) {
+        auto said = m_said.end();
+        const bool isSaid = eventually([&] {
+            while (sd_bus_process(m_bus, nullptr) > 0) {
+            }
+            said = std::ranges::find(m_said, text);
+            return said != m_said.end();
+        });
+        if (!isSaid)
+            return ::testing::AssertionFailure() << ::testing::PrintToString(m_said) << " without " << text;
+        m_said.erase(m_said.begin(), said + 1);
+        return ::testing::AssertionSuccess();
     }
 
     /// Every part that is on the screen, an indented line each.
@@ -235,6 +265,18 @@ class AccessibleProgram {
         const std::unique_ptr<char, decltype(&::free)> owned(text, &::free);
         return text == nullptr ? "" : text;
     }
+    static int noteNotification(sd_bus_message* signal, void* self, sd_bus_error* /*error*/) {
+        const char* state = "";
+        int isSo = 0;
+        sd_bus_message_read(signal, "si", &state, &isSo);
+        if (std::string_view(state) != "showing" || isSo == 0)
+            return 0;
+        auto& program = *static_cast<AccessibleProgram*>(self);
+        const Node node = program.read(sd_bus_message_get_sender(signal), sd_bus_message_get_path(signal));
+        if (node.role == "notification")
+            program.m_said.push_back(node.name);
+        return 0;
+    }
     Node read(const std::string& bus, const std::string& path) const {
         Node node{bus, path, {}, property(bus, path, "Name")};
         const char* role = "";
@@ -272,6 +314,8 @@ class AccessibleProgram {
     }
 
     sd_bus* m_bus = nullptr;
+    sd_bus_slot* m_listening = nullptr;
+    std::vector<std::string> m_said;
     Node m_program;
 };
 

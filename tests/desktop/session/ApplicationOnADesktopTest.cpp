@@ -109,7 +109,10 @@ TEST_F(ApplicationOnADesktop, ShowsItsStateInTheMenuAndDoesWhatIsChosen) {
     const json on = picture();
     choose(0);
     EXPECT_TRUE(showsMenu("-Gestures enabled|-Launch at Login|(Gesture recognition is off||Show"));
-    EXPECT_EQ(json::parse(readText(settingsFile()))["gesturesEnabled"], false);
+    EXPECT_TRUE(eventually([] {
+        return std::filesystem::exists(settingsFile()) &&
+               json::parse(readText(settingsFile()))["gesturesEnabled"] == false;
+    }));
     EXPECT_NE(picture(), on);
     choose(0);
     EXPECT_TRUE(showsMenu("+Gestures enabled|-Launch at Login|(Trackpad listening||Show"));
@@ -151,7 +154,6 @@ TEST_F(ApplicationOnADesktop, ShowsItsWindowWhenThePersonWantsIt) {
     click();
     ASSERT_TRUE(shows("Kinesta"));
     ASSERT_TRUE(becomesActive());
-    eventually([] { return false; }, std::chrono::milliseconds(300));  // it makes several attempts to show the window
     desktop.minimize(visible("Kinesta"));
     ASSERT_TRUE(eventually([] { return !status()["windowVisible"]; }));
     click();
@@ -180,7 +182,7 @@ TEST_F(ApplicationOnADesktop, ActsOnGesturesAndShowsTheCue) {
     EXPECT_TRUE(shows("Kinesta Cue", false));
     tapThreeTimes(2);
     EXPECT_TRUE(shows("Kinesta"));
-    tapThreeTimes(2);
+    EXPECT_EQ(run("perform 6513270E-269E-4D37-B2A7-4DE452E6B432"), "Done: Show or hide Kinesta|0|");
     EXPECT_TRUE(shows("Kinesta", false));
     tapThreeTimes(4);
     EXPECT_TRUE(eventually([] { return status()["enabledRules"] == 0; }));

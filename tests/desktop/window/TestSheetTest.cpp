@@ -25,9 +25,11 @@ struct TestSheet : OpenWindow {
 };
 
 TEST_F(TestSheet, ShowsWhatIsDetectedAndRunsNothing) {
+    program->listen();
     openSheet();
     program->await("label", "Waiting for a gesture…");
     tapThreeTimes(3);
+    EXPECT_TRUE(program->says("3-finger triple tap\nDetected once"));
     program->await("label", "3-finger triple tap");
     program->await("label", "All off");
     tapThreeTimes(3);

@@ -53,21 +53,13 @@ bool refusesMonitors = false;
 + (id)addLocalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(NSEvent* (^)(NSEvent*))block {
     return refusesMonitors ? nil : add({[FakeToken new], mask, nil, block});
 }
++ (NSPoint)mouseLocation {
+    return kinesta::fakes::pointer;
+}
 + (void)removeMonitor:(id)monitor {
     if (std::erase_if(monitors(), [&](const Monitor& each) { return each.token == monitor; }) == 0)
         fail("removeMonitor: of what is no monitor");
     kinesta::fakes::unregistered("monitor");
-}
-+ (NSEvent*)otherEventWithType:(NSEventType)type
-                      location:(NSPoint)location
-                 modifierFlags:(NSEventModifierFlags)flags
-                     timestamp:(NSTimeInterval)time
-                  windowNumber:(NSInteger)window
-                       context:(NSGraphicsContext*)unused
-                       subtype:(short)subtype
-                         data1:(NSInteger)data1
-                         data2:(NSInteger)data2 {
-    return kinesta::fakes::event(type, time, flags, 0);
 }
 - (NSInteger)stage {
     if (self.type != NSEventTypePressure)
@@ -77,6 +69,8 @@ bool refusesMonitors = false;
 @end
 
 namespace kinesta::fakes {
+
+NSPoint pointer;
 
 NSEvent* event(NSEventType type, NSTimeInterval timestamp, NSEventModifierFlags flags, NSInteger stage) {
     NSEvent* const event = [NSEvent new];

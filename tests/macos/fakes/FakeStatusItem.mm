@@ -28,17 +28,6 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
 
 }  // namespace
 
-@implementation NSImage
-+ (NSImage*)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(NSString*)text {
-    return [NSImage new];
-}
-@end
-@implementation NSResponder
-@end
-@implementation NSView
-- (void)setAccessibilityLabel:(NSString*)label {
-}
-@end
 @implementation NSControl
 - (NSInteger)sendActionOn:(NSEventMask)mask {
     return 0;

@@ -9,7 +9,26 @@ const NSNotificationName NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeK
 @interface NSWindow ()
 @property(readwrite) NSRect frame;
 @end
+
+/// Changes of it take time: the window itself already has the new value.
+@interface FakeAnimator : NSPanel
+- (instancetype)initWithWindow:(NSWindow*)window;
+@end
+@implementation FakeAnimator {
+    NSWindow* _window;
+}
+- (instancetype)initWithWindow:(NSWindow*)window {
+    if ((self = [super init]))
+        _window = window;
+    return self;
+}
+- (void)setAlphaValue:(CGFloat)alpha {
+    _window.alphaValue = alpha;
+}
+@end
+
 @implementation NSWindow
+@synthesize appearance, effectiveAppearance;
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backing
@@ -25,8 +44,13 @@ const NSNotificationName NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeK
     return button == NSWindowCloseButton ? self.closeButton : nil;
 }
 - (void)orderFrontRegardless {
+    self.visible = YES;
 }
 - (void)orderOut:(id)sender {
+    self.visible = NO;
+}
+- (instancetype)animator {
+    return static_cast<NSWindow*>([[FakeAnimator alloc] initWithWindow:self]);
 }
 - (void)makeKeyAndOrderFront:(id)sender {
 }

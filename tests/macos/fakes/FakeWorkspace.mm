@@ -2,6 +2,8 @@
 
 #include "Registrations.h"
 
+const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
+    @"NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification";
 const NSNotificationName NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
 const NSNotificationName NSWorkspaceDidWakeNotification = @"NSWorkspaceDidWakeNotification";
@@ -9,6 +11,11 @@ const NSNotificationName NSWorkspaceDidWakeNotification = @"NSWorkspaceDidWakeNo
 @implementation NSRunningApplication
 @end
 
+@interface NSWorkspace ()
+@property(readwrite) BOOL accessibilityDisplayShouldIncreaseContrast;
+@property(readwrite) BOOL accessibilityDisplayShouldReduceMotion;
+@property(readwrite) BOOL accessibilityDisplayShouldReduceTransparency;
+@end
 @implementation NSWorkspace
 @synthesize notificationCenter = _notificationCenter;
 + (NSWorkspace*)sharedWorkspace {

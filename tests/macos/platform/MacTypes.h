@@ -1,6 +1,8 @@
 #pragma once
+
 #include <stdint.h>
 #include <sys/types.h>
+
 typedef unsigned char Boolean;
 typedef uint8_t UInt8;
 typedef uint16_t UInt16;

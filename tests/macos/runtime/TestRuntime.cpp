@@ -408,6 +408,12 @@ std::string liveObjects() {
     return text;
 }
 
+std::string kindOf(const void* object) {
+    const Lock lock(world().mutex);
+    const Entry* const entry = livingEntry(object, "use");
+    return entry ? entry->kind : className(static_cast<const Object*>(object)->isa);
+}
+
 long retainCount(const void* object) {
     const Lock lock(world().mutex);
     const auto found = world().entries.find(object);

@@ -34,6 +34,9 @@ extern "C" const NSNotificationName NSApplicationDidUnhideNotification;
 - (void)stop:(nullable id)sender;
 @end
 
+@interface NSApplication (NSAppearanceCustomization) <NSAppearanceCustomization>
+@end
+
 extern "C" NSApplication* _Null_unspecified NSApp;
 
 #pragma clang assume_nonnull end

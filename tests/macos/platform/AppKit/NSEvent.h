@@ -43,20 +43,24 @@ typedef CF_OPTIONS(NSUInteger, NSEventModifierFlags) {
 + (nullable id)addLocalMonitorForEventsMatchingMask:(NSEventMask)mask
                                             handler:(NSEvent* _Nullable (^)(NSEvent* event))block;
 + (void)removeMonitor:(id)monitor;
-+ (nullable NSEvent*)otherEventWithType:(NSEventType)type
-                               location:(NSPoint)location
-                          modifierFlags:(NSEventModifierFlags)flags
-                              timestamp:(NSTimeInterval)time
-                           windowNumber:(NSInteger)window
-                                context:(nullable NSGraphicsContext*)unused
-                                subtype:(short)subtype
-                                  data1:(NSInteger)data1
-                                  data2:(NSInteger)data2;
 @property(nullable, readonly) CGEventRef CGEvent;
+@property(class, readonly) NSPoint mouseLocation;
 @property(readonly) NSEventType type;
 @property(readonly) NSTimeInterval timestamp;
 @property(readonly) NSEventModifierFlags modifierFlags;
 @property(readonly) NSInteger stage;
+@end
+
+@interface NSEvent (Making)
++ (nullable NSEvent*)otherEventWithType:(NSEventType)type
+                               location:(NSPoint)location
+                          modifierFlags:(NSEventModifierFlags)flags
+                              timestamp:(NSTimeInterval)time
+                           windowNumber:(NSInteger)windowNumber
+                                context:(nullable NSGraphicsContext*)context
+                                subtype:(short)subtype
+                                  data1:(NSInteger)data1
+                                  data2:(NSInteger)data2;
 @end
 
 #pragma clang assume_nonnull end

@@ -8,9 +8,15 @@
 
 static const CGFloat NSVariableStatusItemLength = -1.0;  // a constant of the header, no exported symbol
 
+@class NSFont;
+typedef CF_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByTruncatingTail = 4 };
 typedef CF_ENUM(NSUInteger, NSCellImagePosition) { NSNoImage = 0, NSImageOnly = 1 };
 
 @interface NSControl : NSView
+@property(copy) NSString* stringValue;
+@property(nullable, strong) NSFont* font;
+@property NSLineBreakMode lineBreakMode;
+@property BOOL usesSingleLineMode;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
 @property(getter=isEnabled) BOOL enabled;

@@ -4,6 +4,7 @@
 
 #pragma clang assume_nonnull begin
 
+extern "C" const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 extern "C" const NSNotificationName NSWorkspaceDidActivateApplicationNotification;
 extern "C" const NSNotificationName NSWorkspaceDidWakeNotification;
 
@@ -15,6 +16,9 @@ extern "C" const NSNotificationName NSWorkspaceDidWakeNotification;
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
 @property(nullable, readonly, strong) NSRunningApplication* frontmostApplication;
 @property(readonly, strong) NSNotificationCenter* notificationCenter;
+@property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
+@property(readonly) BOOL accessibilityDisplayShouldReduceTransparency;
 @end
 
 #pragma clang assume_nonnull end

@@ -6,6 +6,7 @@
 #pragma clang assume_nonnull begin
 
 typedef double NSTimeInterval;
+typedef unsigned short unichar;
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
@@ -16,6 +17,7 @@ typedef CGRect NSRect;
 @property(readonly) NSUInteger length;
 @property(nullable, readonly) const char* UTF8String;
 + (nullable instancetype)stringWithUTF8String:(const char*)text;
++ (instancetype)stringWithCharacters:(const unichar*)units length:(NSUInteger)count;
 - (BOOL)isEqualToString:(NSString*)other;
 @end
 

@@ -1,0 +1,131 @@
+// Trust, and elements of other applications: each request goes on to the applications that the test shows.
+#include <ApplicationServices/ApplicationServices.h>
+#include <Foundation/Foundation.h>
+
+#include <cmath>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "CFakes.h"
+#include "Registrations.h"
+#include "TestRuntime.h"
+
+using namespace kinesta;
+using namespace kinesta::fakes;
+
+namespace {
+
+struct Far {
+    bool isTrusted = false;
+    AccessibilityElements* applications = nullptr;
+    std::map<const void*, AccessibilityElementHandle> elements;
+};
+
+Far& far() {
+    static auto& side = *new Far;
+    return side;
+}
+
+const OnReset accessibility([] { far() = {}; });
+
+AXUIElementRef makeElement(AccessibilityElementHandle handle) {
+    if (!handle)
+        return nullptr;
+    const void* const element = objc::makeCObject("AXUIElement");
+    far().elements[element] = std::move(handle);
+    return static_cast<AXUIElementRef>(element);
+}
+
+AccessibilityElement& behind(AXUIElementRef element) {
+    objc::kindOf(element);
+    return *far().elements.at(element);
+}
+
+/// What is no element is null or a number, by turns.
+CFTypeRef makeArray(AccessibilityList& list) {
+    std::vector<id> items;
+    for (AccessibilityElementHandle& item : list.items) {
+        if (item)
+            items.push_back((__bridge_transfer id)makeElement(std::move(item)));
+        else
+            items.push_back(items.size() % 2 > 0 ? nil : [NSNumber numberWithInt:1]);
+    }
+    const void* const first = items.data();
+    return (__bridge_retained CFTypeRef)[NSArray arrayWithObjects:static_cast<const id __unsafe_unretained*>(first)
+                                                            count:items.size()];
+}
+
+/// Null is a failure.
+CFTypeRef makeValue(AccessibilityValue value) {
+    if (auto* const element = std::get_if<AccessibilityElementHandle>(&value))
+        return makeElement(std::move(*element));
+    if (auto* const list = std::get_if<AccessibilityList>(&value))
+        return makeArray(*list);
+    if (const auto* const text = std::get_if<std::string>(&value))
+        return (__bridge_retained CFTypeRef)[NSString stringWithUTF8String:text->c_str()];
+    if (const auto* const boolean = std::get_if<bool>(&value))
+        return CFRetain(*boolean ? kCFBooleanTrue : kCFBooleanFalse);
+    if (std::holds_alternative<OtherAccessibilityValue>(value))
+        return (__bridge_retained CFTypeRef)[NSNumber numberWithInt:1];
+    return nullptr;
+}
+
+std::string textOf(CFStringRef string) { return ((__bridge NSString*)string).UTF8String; }
+
+}  // namespace
+
+namespace kinesta::fakes {
+
+void setTrusted(bool isTrusted) { far().isTrusted = isTrusted; }
+void showApplications(AccessibilityElements* applications) { far().applications = applications; }
+
+}  // namespace kinesta::fakes
+
+extern "C" {
+
+CFStringRef kAXTrustedCheckOptionPrompt = CFSTR("AXTrustedCheckOptionPrompt");
+
+Boolean AXIsProcessTrusted() {
+    RECORD_CALL("AXIsProcessTrusted");
+    return far().isTrusted ? 0x80 : 0;
+}
+
+Boolean AXIsProcessTrustedWithOptions(CFDictionaryRef options) {
+    NSDictionary* const dictionary = (__bridge NSDictionary*)options;
+    RECORD_CALL("AXIsProcessTrustedWithOptions " +
+                (dictionary ? std::to_string(dictionary.count) + " " +
+                                  objc::describe((__bridge void*)dictionary[@"AXTrustedCheckOptionPrompt"])
+                            : "nil"));
+    return far().isTrusted ? 0x80 : 0;
+}
+
+CFTypeID AXUIElementGetTypeID() { return typeNamed("AXUIElement"); }
+
+AXUIElementRef AXUIElementCreateApplication(pid_t pid) {
+    return isToFail("AXUIElementCreateApplication") ? nullptr
+                                                    : makeElement(far().applications->applicationElement(pid));
+}
+
+AXError AXUIElementSetMessagingTimeout(AXUIElementRef element, float seconds) {
+    return behind(element).setMessagingTimeout(std::round(seconds * 1e6) / 1e6) ? kAXErrorSuccess
+                                                                                : kAXErrorInvalidUIElement;
+}
+
+AXError AXUIElementCopyAttributeValue(AXUIElementRef element, CFStringRef attribute, CFTypeRef* value) {
+    @autoreleasepool {
+        *value = makeValue(behind(element).copyAttribute(textOf(attribute)));
+        if (*value)
+            return kAXErrorSuccess;
+        if (isToFail("AXUIElementCopyAttributeValue"))
+            return kAXErrorSuccess;  // with null
+        *value = kCFBooleanTrue;     // means nothing beside an error, and is not the caller's
+        return kAXErrorCannotComplete;
+    }
+}
+
+AXError AXUIElementPerformAction(AXUIElementRef element, CFStringRef action) {
+    return behind(element).performAction(textOf(action)) ? kAXErrorSuccess : kAXErrorCannotComplete;
+}
+
+}  // extern "C"
