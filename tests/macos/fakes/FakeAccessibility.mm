@@ -16,30 +16,30 @@ using namespace kinesta::fakes;
 
 namespace {
 
-struct Far {
+struct OtherSide {
     bool isTrusted = false;
     AccessibilityElements* applications = nullptr;
     std::map<const void*, AccessibilityElementHandle> elements;
 };
 
-Far& far() {
-    static auto& side = *new Far;
+OtherSide& other() {
+    static auto& side = *new OtherSide;
     return side;
 }
 
-const OnReset accessibility([] { far() = {}; });
+const OnReset accessibility([] { other() = {}; });
 
 AXUIElementRef makeElement(AccessibilityElementHandle handle) {
     if (!handle)
         return nullptr;
     const void* const element = objc::makeCObject("AXUIElement");
-    far().elements[element] = std::move(handle);
+    other().elements[element] = std::move(handle);
     return static_cast<AXUIElementRef>(element);
 }
 
 AccessibilityElement& behind(AXUIElementRef element) {
     objc::kindOf(element);
-    return *far().elements.at(element);
+    return *other().elements.at(element);
 }
 
 /// What is no element is null or a number, by turns.
@@ -56,7 +56,7 @@ CFTypeRef makeArray(AccessibilityList& list) {
                                                             count:items.size()];
 }
 
-/// Null is a failure.
+/// Null for a failure.
 CFTypeRef makeValue(AccessibilityValue value) {
     if (auto* const element = std::get_if<AccessibilityElementHandle>(&value))
         return makeElement(std::move(*element));
@@ -66,21 +66,17 @@ CFTypeRef makeValue(AccessibilityValue value) {
         return (__bridge_retained CFTypeRef)[NSString stringWithUTF8String:text->c_str()];
     if (const auto* const boolean = std::get_if<bool>(&value))
         return CFRetain(*boolean ? kCFBooleanTrue : kCFBooleanFalse);
-    if (std::holds_alternative<OtherAccessibilityValue>(value))
-        return (__bridge_retained CFTypeRef)[NSNumber numberWithInt:1];
-    return nullptr;
+    return std::holds_alternative<AccessibilityFailure>(value)
+               ? nullptr
+               : (__bridge_retained CFTypeRef)[NSNumber numberWithInt:1];
 }
 
 std::string textOf(CFStringRef string) { return ((__bridge NSString*)string).UTF8String; }
 
 }  // namespace
 
-namespace kinesta::fakes {
-
-void setTrusted(bool isTrusted) { far().isTrusted = isTrusted; }
-void showApplications(AccessibilityElements* applications) { far().applications = applications; }
-
-}  // namespace kinesta::fakes
+void kinesta::fakes::setTrusted(bool isTrusted) { other().isTrusted = isTrusted; }
+void kinesta::fakes::showApplications(AccessibilityElements* applications) { other().applications = applications; }
 
 extern "C" {
 
@@ -88,42 +84,32 @@ CFStringRef kAXTrustedCheckOptionPrompt = CFSTR("AXTrustedCheckOptionPrompt");
 
 Boolean AXIsProcessTrusted() {
     RECORD_CALL("AXIsProcessTrusted");
-    return far().isTrusted ? 0x80 : 0;
+    return other().isTrusted ? 0x80 : 0;
 }
-
 Boolean AXIsProcessTrustedWithOptions(CFDictionaryRef options) {
-    NSDictionary* const dictionary = (__bridge NSDictionary*)options;
-    RECORD_CALL("AXIsProcessTrustedWithOptions " +
-                (dictionary ? std::to_string(dictionary.count) + " " +
-                                  objc::describe((__bridge void*)dictionary[@"AXTrustedCheckOptionPrompt"])
-                            : "nil"));
-    return far().isTrusted ? 0x80 : 0;
+    id const prompt = ((__bridge NSDictionary*)options)[@"AXTrustedCheckOptionPrompt"];
+    RECORD_CALL("AXIsProcessTrustedWithOptions " + objc::describe((__bridge void*)prompt));
+    return other().isTrusted ? 0x80 : 0;
 }
 
 CFTypeID AXUIElementGetTypeID() { return typeNamed("AXUIElement"); }
-
 AXUIElementRef AXUIElementCreateApplication(pid_t pid) {
     return isToFail("AXUIElementCreateApplication") ? nullptr
-                                                    : makeElement(far().applications->applicationElement(pid));
+                                                    : makeElement(other().applications->applicationElement(pid));
 }
-
 AXError AXUIElementSetMessagingTimeout(AXUIElementRef element, float seconds) {
-    return behind(element).setMessagingTimeout(std::round(seconds * 1e6) / 1e6) ? kAXErrorSuccess
-                                                                                : kAXErrorInvalidUIElement;
+    const bool isSet = behind(element).setMessagingTimeout(std::round(seconds * 1e6) / 1e6);
+    return isSet ? kAXErrorSuccess : kAXErrorInvalidUIElement;
 }
-
 AXError AXUIElementCopyAttributeValue(AXUIElementRef element, CFStringRef attribute, CFTypeRef* value) {
     @autoreleasepool {
         *value = makeValue(behind(element).copyAttribute(textOf(attribute)));
-        if (*value)
+        if (*value || isToFail("AXUIElementCopyAttributeValue"))
             return kAXErrorSuccess;
-        if (isToFail("AXUIElementCopyAttributeValue"))
-            return kAXErrorSuccess;  // with null
-        *value = kCFBooleanTrue;     // means nothing beside an error, and is not the caller's
+        *value = kCFBooleanTrue;  // means nothing beside an error, and is not the caller's
         return kAXErrorCannotComplete;
     }
 }
-
 AXError AXUIElementPerformAction(AXUIElementRef element, CFStringRef action) {
     return behind(element).performAction(textOf(action)) ? kAXErrorSuccess : kAXErrorCannotComplete;
 }

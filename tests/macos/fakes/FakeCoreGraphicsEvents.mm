@@ -9,23 +9,19 @@ using namespace kinesta::objc;
 using kinesta::numberText;
 using kinesta::fakes::isToFail;
 
-namespace {
+/// Gives a new object, or null if the call is to fail, and records "CGEvent#1 = call".
+#define MAKE(type, kind, text)                                                         \
+    const std::string call = text;                                                     \
+    const type made = isToFail(call) ? nullptr : static_cast<type>(makeCObject(kind)); \
+    RECORD_CALL(describe(made) + " = " + call);                                        \
+    return made
 
-/// "CGEvent#1 = call"; null if the call is to fail.
-template <typename Reference>
-std::string make(Reference& result, const char* kind, const std::string& call) {
-    result = isToFail(call) ? nullptr : static_cast<Reference>(makeCObject(kind));
-    return describe(result) + " = " + call;
+/// Stops the test if the object is gone.
+static std::string living(const void* object) {
+    if (object)
+        kindOf(object);
+    return describe(object);
 }
-
-/// Stops the test if the event is gone.
-std::string living(const void* event) {
-    if (event)
-        kindOf(event);
-    return describe(event);
-}
-
-}  // namespace
 
 /// An event around a CGEvent, which goes with it.
 @interface FakeSystemDefinedEvent : NSEvent
@@ -61,53 +57,29 @@ std::string living(const void* event) {
 extern "C" {
 
 CGEventSourceRef CGEventSourceCreate(CGEventSourceStateID state) {
-    CGEventSourceRef source;
-    const std::string line = make(source, "CGEventSource", "CGEventSourceCreate " + std::to_string(state));
-    RECORD_CALL(line);
-    return source;
+    MAKE(CGEventSourceRef, "CGEventSource", "CGEventSourceCreate " + std::to_string(state));
 }
-
-CGEventRef CGEventCreate(CGEventSourceRef source) {
-    CGEventRef event;
-    const std::string line = make(event, "CGEvent", "CGEventCreate " + living(source));
-    RECORD_CALL(line);
-    return event;
-}
-
+CGEventRef CGEventCreate(CGEventSourceRef source) { MAKE(CGEventRef, "CGEvent", "CGEventCreate " + living(source)); }
 CGEventRef CGEventCreateKeyboardEvent(CGEventSourceRef source, CGKeyCode key, bool isDown) {
-    CGEventRef event;
-    const std::string line =
-        make(event, "CGEvent",
-             "CGEventCreateKeyboardEvent " + living(source) + " " + std::to_string(key) + (isDown ? " down" : " up"));
-    RECORD_CALL(line);
-    return event;
+    MAKE(CGEventRef, "CGEvent",
+         "CGEventCreateKeyboardEvent " + living(source) + " " + std::to_string(key) + (isDown ? " down" : " up"));
 }
-
 CGEventRef CGEventCreateMouseEvent(CGEventSourceRef source, CGEventType type, CGPoint at, CGMouseButton button) {
-    CGEventRef event;
-    const std::string line = make(event, "CGEvent",
-                                  "CGEventCreateMouseEvent " + living(source) + " " + std::to_string(type) + " at " +
-                                      numberText(at.x) + " " + numberText(at.y) + " button " + std::to_string(button));
-    RECORD_CALL(line);
-    return event;
+    MAKE(CGEventRef, "CGEvent",
+         "CGEventCreateMouseEvent " + living(source) + " " + std::to_string(type) + " at " + numberText(at.x) + " " +
+             numberText(at.y) + " button " + std::to_string(button));
 }
-
 CGPoint CGEventGetLocation(CGEventRef event) {
     RECORD_CALL("CGEventGetLocation " + living(event));
     return {640, 400.5};
 }
-
 void CGEventSetFlags(CGEventRef event, CGEventFlags flags) {
-    char text[32];
-    std::snprintf(text, sizeof text, " 0x%lX", static_cast<unsigned long>(flags));
-    RECORD_CALL("CGEventSetFlags " + living(event) + text);
+    RECORD_CALL("CGEventSetFlags " + living(event) + " " + std::to_string(flags));
 }
-
 void CGEventSetIntegerValueField(CGEventRef event, CGEventField field, int64_t value) {
     RECORD_CALL("CGEventSetIntegerValueField " + living(event) + " " + std::to_string(field) + " " +
                 std::to_string(value));
 }
-
 void CGEventPost(CGEventTapLocation tap, CGEventRef event) {
     RECORD_CALL("CGEventPost " + std::to_string(tap) + " " + living(event));
 }

@@ -9,33 +9,18 @@
 #include "Registrations.h"
 #include "TestRuntime.h"
 
-using namespace kinesta;
+using namespace kinesta::objc;
 using namespace kinesta::fakes;
 
-namespace {
+using Characters = std::map<int, std::u16string>;
 
-std::map<int, std::u16string>& keys() {
-    static auto& characters = *new std::map<int, std::u16string>;
-    return characters;
-}
+static Characters* const keys = new Characters;
+static void* const layoutData = makeCObject("NSData");
+static void* source = nullptr;
 
-const void* source = nullptr;
-void* layoutData = nullptr;
+static const OnReset textInput([] { keys->clear(); });
 
-const OnReset textInput([] {
-    keys().clear();
-    source = nullptr;
-    if (!layoutData)
-        layoutData = objc::makeCObject("NSData");
-});
-
-}  // namespace
-
-namespace kinesta::fakes {
-
-void setKeyboardLayout(std::map<int, std::u16string> characters) { keys() = std::move(characters); }
-
-}  // namespace kinesta::fakes
+void kinesta::fakes::setKeyboardLayout(std::map<int, std::u16string> characters) { *keys = std::move(characters); }
 
 extern "C" {
 
@@ -43,22 +28,18 @@ const CFStringRef kTISPropertyUnicodeKeyLayoutData = CFSTR("TISPropertyUnicodeKe
 
 TISInputSourceRef TISCopyCurrentKeyboardLayoutInputSource() {
     RECORD_CALL("TISCopyCurrentKeyboardLayoutInputSource");
-    if (isToFail("TISCopyCurrentKeyboardLayoutInputSource"))
-        return nullptr;
-    void* const made = objc::makeCObject("TISInputSource");
-    source = made;
-    return static_cast<TISInputSourceRef>(made);
+    source = isToFail("TISCopyCurrentKeyboardLayoutInputSource") ? nullptr : makeCObject("TISInputSource");
+    return static_cast<TISInputSourceRef>(source);
 }
 
 void* TISGetInputSourceProperty(TISInputSourceRef asked, CFStringRef key) {
-    RECORD_CALL("TISGetInputSourceProperty " + objc::kindOf(asked) + " " + objc::describe(key));
+    RECORD_CALL("TISGetInputSourceProperty " + kindOf(asked) + " " + describe(key));
     return isToFail("TISGetInputSourceProperty") ? nullptr : layoutData;
 }
 
 const UInt8* CFDataGetBytePtr(CFDataRef data) {
-    objc::kindOf(data);
-    objc::kindOf(source);
-    const void* const bytes = &keys();
+    kindOf(data);
+    const void* const bytes = keys;
     return isToFail("CFDataGetBytePtr") ? nullptr : static_cast<const UInt8*>(bytes);
 }
 
@@ -66,15 +47,14 @@ UInt8 LMGetKbdType() { return 91; }
 
 OSStatus UCKeyTranslate(const UCKeyboardLayout* layout, UInt16 key, UInt16 action, UInt32 modifiers, UInt32 keyboard,
                         OptionBits options, UInt32* deadKeys, UniCharCount room, UniCharCount* count, UniChar* buffer) {
-    objc::kindOf(source);
+    kindOf(source);  // the layout is gone with it
     std::string line = "UCKeyTranslate";
     for (const unsigned long value :
          {0UL + key, 0UL + action, 0UL + modifiers, 0UL + keyboard, 0UL + options, 0UL + *deadKeys, room})
         line += " " + std::to_string(value);
     RECORD_CALL(line);
-    const auto& characters = *reinterpret_cast<const std::map<int, std::u16string>*>(layout);
-    const auto typed = characters.find(key);
-    if (isToFail(line) || typed == characters.end())
+    const auto typed = reinterpret_cast<const Characters*>(layout)->find(key);
+    if (isToFail(line) || typed == keys->end())
         return -50;
     *deadKeys = typed->second.empty() ? 7 : 0;
     *count = typed->second.size();
