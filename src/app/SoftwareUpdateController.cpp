@@ -29,7 +29,10 @@ SoftwareUpdateController::SoftwareUpdateController(const BundleInformation& bund
         return;
     }
     m_updater = makeUpdater(*valid);
-    m_isAvailable.set(true);
+    if (m_updater)
+        m_isAvailable.set(true);
+    else
+        m_configurationMessage.set(translated("The part that updates Kinesta is missing. Install Kinesta again."));
 }
 
 void SoftwareUpdateController::start() {

@@ -34,7 +34,8 @@ class SoftwareUpdateController {
 
     using MakeUpdater = std::function<std::unique_ptr<SoftwareUpdater>(const UpdateConfiguration&)>;
 
-    /// Checks the configuration in `bundle`, and calls `makeUpdater` only if it is valid.
+    /// Checks the configuration in `bundle`, and calls `makeUpdater` only if it is valid. It may give null if the build
+    /// lacks an updater.
     SoftwareUpdateController(const BundleInformation& bundle, const MakeUpdater& makeUpdater);
 
     const Published<bool>& isAvailable() const { return m_isAvailable; }

@@ -131,7 +131,7 @@ void MacDesktop::surviveClosedPipes() { surviveBrokenPipes(); }
 Error MacDesktop::becomeApplication(const std::vector<std::string>& arguments) {
     if (m_files.bundle.empty())
         return {
-            "This program is not part of Kinesta.app, so it cannot start the application. Use its subcommands; see: "
+            "This program is no part of Kinesta.app, so it cannot start the application. Use its subcommands; see: "
             "kinesta --help"};
     std::vector<std::string> words = MacRunningApplication::opening(m_files.bundle);
     if (!arguments.empty())

@@ -43,7 +43,7 @@ bool MacRunningApplication::isRunning() { return static_cast<bool>(process()); }
 
 Outcome MacRunningApplication::show() const {
     if (m_bundle.empty())
-        return Error{"This program is not part of Kinesta.app, so it cannot find the application."};
+        return Error{"This program is no part of Kinesta.app, so it cannot find the application."};
     std::vector<std::string> words = opening(m_bundle);
     std::vector<char*> pointers;
     for (std::string& word : words)

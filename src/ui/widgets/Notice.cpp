@@ -158,9 +158,7 @@ void Notice::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
 }
 
-void Notice::announce() {
-    Announcer::announce(*this, (accessibleName() + u' ' + accessibleDescription()).trimmed());
-}
+void Notice::announce() { Announcer::announce(*this, (accessibleName() + u' ' + accessibleDescription()).trimmed()); }
 
 void Notice::paintEvent(QPaintEvent* /*event*/) {
     const AppTheme& theme = WindowTheme::current();

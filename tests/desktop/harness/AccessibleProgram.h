@@ -127,10 +127,10 @@ class AccessibleProgram {
         EXPECT_GE(sd_bus_match_signal(m_bus, &m_listening, m_program.bus.c_str(), nullptr,
                                       "org.a11y.atspi.Event.Object", "StateChanged", &noteNotification, this),
                   0);
-        EXPECT_GE(sd_bus_call_method(m_bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
-                                     "org.a11y.atspi.Registry", "RegisterEvent", nullptr, nullptr, "sass",
-                                     "object:state-changed:showing", 0, ""),
-                  0);
+        EXPECT_GE(
+            sd_bus_call_method(m_bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry",
+                               "RegisterEvent", nullptr, nullptr, "sass", "object:state-changed:showing", 0, ""),
+            0);
     }
     /// Waits until a notification with this text appears. Those before it are forgotten.
     ::testing::AssertionResult says(const std::string& text) {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <deque>
 #include <mutex>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -95,6 +96,12 @@ const struct dispatch_source_type_s _dispatch_source_type_timer = {true};
 const struct dispatch_source_type_s _dispatch_source_type_signal = {false};
 
 dispatch_queue_t dispatch_get_main_queue(void) {
+    static FakeQueue* const queue = [FakeQueue new];
+    return queue;
+}
+
+dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t) {
+    RECORD_CALL("dispatch_get_global_queue " + std::to_string(identifier));
     static FakeQueue* const queue = [FakeQueue new];
     return queue;
 }
@@ -204,6 +211,7 @@ void signalArrives(int number) {
 
 static const OnReset dispatch([] {
     (void)dispatch_get_main_queue();
+    (void)dispatch_get_global_queue(0, 0);
     mainQueue().blocks.clear();
     mainQueue().sources.clear();
 });

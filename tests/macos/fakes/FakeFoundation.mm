@@ -23,33 +23,9 @@ struct Observer {
     void (^block)(NSNotification*);
 };
 
-std::vector<std::pair<std::string, BOOL>>& settings() {
-    static auto& values = *new std::vector<std::pair<std::string, BOOL>>;
-    return values;
-}
-
 }  // namespace
 
 @implementation FakeToken
-@end
-
-@implementation NSUserDefaults
-+ (NSUserDefaults*)standardUserDefaults {
-    static NSUserDefaults* const defaults = [NSUserDefaults new];
-    return defaults;
-}
-- (void)registerDefaults:(NSDictionary*)values {
-}
-- (BOOL)boolForKey:(NSString*)key {
-    for (const auto& [name, value] : settings())
-        if (name == key.UTF8String)
-            return value;
-    return NO;
-}
-- (void)setBool:(BOOL)value forKey:(NSString*)key {
-    std::erase_if(settings(), [&](const auto& item) { return item.first == key.UTF8String; });
-    settings().emplace_back(key.UTF8String, value);
-}
 @end
 
 @implementation NSOperationQueue
@@ -116,9 +92,6 @@ void post(NSNotificationCenter* center, NSNotificationName name) {
 }
 
 // Shared objects are made now, so that they count as there from the start.
-static const OnReset foundation([] {
-    (void)@[ NSUserDefaults.standardUserDefaults, NSNotificationCenter.defaultCenter, NSOperationQueue.mainQueue ];
-    settings().clear();
-});
+static const OnReset foundation([] { (void)@[ NSNotificationCenter.defaultCenter, NSOperationQueue.mainQueue ]; });
 
 }  // namespace kinesta::fakes

@@ -71,7 +71,7 @@ void changed(NSObject* object, NSString* key) {
     @autoreleasepool {
         const auto told = observations();
         for (const Observation& each : told)
-            if (each.object == object && [each.key isEqual:key])
+            if ((!object || each.object == object) && [each.key isEqual:key])
                 tell(each);
     }
 }

@@ -17,7 +17,7 @@ typedef struct {
                                     count:(NSUInteger)count;
 @end
 
-@interface NSArray<__covariant T> : NSObject <NSFastEnumeration>
+@interface NSArray<__covariant T> : NSObject <NSCopying, NSFastEnumeration>
 @property(readonly) NSUInteger count;
 - (T)objectAtIndexedSubscript:(NSUInteger)index;
 + (instancetype)arrayWithObjects:(const T _Nonnull[_Nonnull])objects count:(NSUInteger)count;

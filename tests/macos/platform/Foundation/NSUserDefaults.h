@@ -1,14 +1,17 @@
 #pragma once
 
-#include <Foundation/NSCollections.h>
+#include <Foundation/NSNotification.h>
 
 #pragma clang assume_nonnull begin
 
+extern "C" const NSNotificationName NSUserDefaultsDidChangeNotification;
+
 @interface NSUserDefaults : NSObject
 @property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
-- (void)registerDefaults:(NSDictionary<NSString*, id>*)values;
-- (BOOL)boolForKey:(NSString*)key;
-- (void)setBool:(BOOL)value forKey:(NSString*)key;
+- (nullable instancetype)initWithSuiteName:(nullable NSString*)suiteName;
+- (nullable id)objectForKey:(NSString*)key;
+- (void)setObject:(nullable id)value forKey:(NSString*)key;
+- (BOOL)synchronize;
 @end
 
 #pragma clang assume_nonnull end

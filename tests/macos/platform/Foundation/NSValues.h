@@ -18,7 +18,12 @@ typedef CGRect NSRect;
 @property(nullable, readonly) const char* UTF8String;
 + (nullable instancetype)stringWithUTF8String:(const char*)text;
 + (instancetype)stringWithCharacters:(const unichar*)units length:(NSUInteger)count;
+@property(readonly, copy) NSString* lowercaseString;
 - (BOOL)isEqualToString:(NSString*)other;
+@end
+
+@interface NSObject (Description)
+- (NSString*)description;
 @end
 
 extern "C" NSString* NSStringFromSelector(SEL selector);
@@ -27,6 +32,10 @@ extern "C" NSString* NSStringFromSelector(SEL selector);
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
 + (NSNumber*)numberWithDouble:(double)value;
++ (NSNumber*)numberWithLongLong:(long long)value;
++ (NSNumber*)numberWithUnsignedLongLong:(unsigned long long)value;
+@property(readonly) const char* objCType;
+@property(readonly) long long longLongValue;
 @property(readonly) double doubleValue;
 @property(readonly) BOOL boolValue;
 @property(readonly) NSInteger integerValue;

@@ -23,6 +23,7 @@ __attribute__((objc_root_class))
 + (instancetype)alloc;
 + (instancetype)new;
 + (Class)class;
++ (BOOL)instancesRespondToSelector:(SEL)selector;
 - (instancetype)init;
 - (void)dealloc;
 - (id)copy;
