@@ -68,6 +68,7 @@ class Application {
             m_statusItem.setPanelIsDark(m_settings.appearance() == NamedAppearance::darkAqua);
             showTheme();
         });
+        m_statusItem.beforeMenu = [this] { takeStyle(); };
         m_controller.configureWindowOpening([this] {
             m_window.open();
             showNotices();
@@ -162,6 +163,10 @@ class Application {
     UserDefaults& defaultsThatTell() {
         m_desktop.onSettingsProblem(teller());
         m_desktop.saveInBackground();
+        m_desktop.onSettingsProblemSolved([this](const std::string& problem) {
+            std::erase(m_problems, problem);
+            showNotices();
+        });
         return m_desktop.defaults();
     }
 
@@ -172,9 +177,15 @@ class Application {
 
     KinestaWindow* configurationWindow() const { return static_cast<KinestaWindow*>(m_window.widget()); }
 
+    /// Not at the start: an icon alone needs no style.
+    void takeStyle() {
+        if (!std::exchange(m_hasStyle, true))
+            QApplication::setStyle(new KinestaStyle(CompositorWatch::blendsWindows));
+    }
+
     std::unique_ptr<QWidget> makeWindow() {
         ActionExecutor& actions = m_app.executor();
-        QApplication::setStyle(new KinestaStyle(CompositorWatch::blendsWindows));
+        takeStyle();
         return std::make_unique<KinestaWindow>(
             WindowParts{.desktop = m_desktop,
                         .store = m_app.store(),
@@ -255,6 +266,7 @@ class Application {
     std::string m_loginProblem;
     std::string m_trackpadProblem;
     bool m_isTrayDue = false;
+    bool m_hasStyle = false;
     ProgramFiles m_files = ProgramFiles::ofThisProcess();
     JsonBundleInformation m_bundle{m_files.bundle()};
     ApplicationEvents m_events;

@@ -49,11 +49,11 @@
     </message>
     <message>
         <source>Trackpad listening</source>
-        <translation>Trackpad wird gelesen</translation>
+        <translation>Touchpad wird gelesen</translation>
     </message>
     <message>
         <source>Trackpad stopped</source>
-        <translation>Trackpad angehalten</translation>
+        <translation>Touchpad angehalten</translation>
     </message>
     <message>
         <source>Gestures enabled</source>
@@ -305,15 +305,15 @@
     </message>
     <message>
         <source>The trackpad recording %1 cannot be opened: %2.</source>
-        <translation>Die Trackpad-Aufzeichnung %1 kann nicht geöffnet werden: %2.</translation>
+        <translation>Die Touchpad-Aufzeichnung %1 kann nicht geöffnet werden: %2.</translation>
     </message>
     <message>
         <source>The trackpad recording cannot be read: %1.</source>
-        <translation>Die Trackpad-Aufzeichnung kann nicht gelesen werden: %1.</translation>
+        <translation>Die Touchpad-Aufzeichnung kann nicht gelesen werden: %1.</translation>
     </message>
     <message>
         <source>The trackpad recording %1 has ended.</source>
-        <translation>Die Trackpad-Aufzeichnung %1 ist zu Ende.</translation>
+        <translation>Die Touchpad-Aufzeichnung %1 ist zu Ende.</translation>
     </message>
     <message>
         <source>The shortcut tiles windows, and that was not possible.</source>
@@ -709,31 +709,31 @@
     </message>
     <message>
         <source>The trackpad &quot;%1&quot; (%2) may not be read</source>
-        <translation>Das Trackpad „%1“ (%2) darf nicht gelesen werden</translation>
+        <translation>Das Touchpad „%1“ (%2) darf nicht gelesen werden</translation>
     </message>
     <message>
         <source>The trackpad &quot;%1&quot; (%2) cannot be read: %3.</source>
-        <translation>Das Trackpad „%1“ (%2) kann nicht gelesen werden: %3.</translation>
+        <translation>Das Touchpad „%1“ (%2) kann nicht gelesen werden: %3.</translation>
     </message>
     <message>
         <source>No built-in trackpad was found.</source>
-        <translation>Es wurde kein eingebautes Trackpad gefunden.</translation>
+        <translation>Es wurde kein eingebautes Touchpad gefunden.</translation>
     </message>
     <message>
         <source>There is no trackpad at %1.</source>
-        <translation>Unter %1 gibt es kein Trackpad.</translation>
+        <translation>Unter %1 gibt es kein Touchpad.</translation>
     </message>
     <message>
         <source>No trackpad named &quot;%1&quot; was found.</source>
-        <translation>Es wurde kein Trackpad mit dem Namen „%1“ gefunden.</translation>
+        <translation>Es wurde kein Touchpad mit dem Namen „%1“ gefunden.</translation>
     </message>
     <message>
         <source>The trackpad is switched off in the desktop&apos;s settings.</source>
-        <translation>Das Trackpad ist in den Einstellungen der Arbeitsumgebung ausgeschaltet.</translation>
+        <translation>Das Touchpad ist in den Einstellungen der Arbeitsumgebung ausgeschaltet.</translation>
     </message>
     <message>
         <source>The trackpad is switched off in the desktop&apos;s settings while an external mouse is connected.</source>
-        <translation>Das Trackpad ist laut den Einstellungen der Arbeitsumgebung ausgeschaltet, solange eine externe Maus angeschlossen ist.</translation>
+        <translation>Das Touchpad ist laut den Einstellungen der Arbeitsumgebung ausgeschaltet, solange eine externe Maus angeschlossen ist.</translation>
     </message>
     <message>
         <source>%1 cannot be started: %2.</source>
@@ -1981,11 +1981,11 @@
     </message>
     <message>
         <source>The trackpad is not being read</source>
-        <translation>Das Trackpad wird nicht gelesen</translation>
+        <translation>Das Touchpad wird nicht gelesen</translation>
     </message>
     <message>
         <source>The trackpad cannot be read</source>
-        <translation>Das Trackpad kann nicht gelesen werden</translation>
+        <translation>Das Touchpad kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Welcome to Kinesta</source>
@@ -2197,7 +2197,7 @@
     </message>
     <message>
         <source>The trackpad is not being read.</source>
-        <translation>Das Trackpad wird nicht gelesen.</translation>
+        <translation>Das Touchpad wird nicht gelesen.</translation>
     </message>
     <message>
         <source>Looking for an update…</source>
@@ -2306,6 +2306,150 @@
     <message>
         <source>Option</source>
         <translation>Wahl</translation>
+    </message>
+    <message>
+        <source>the file cannot be written: %1</source>
+        <translation>die Datei kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>this is larger than 64 MiB, so it is no rule list</source>
+        <translation>die Datei ist größer als 64 MiB, also keine Regelliste</translation>
+    </message>
+    <message>
+        <source>reading failed: %1</source>
+        <translation>das Lesen ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a rule file</source>
+        <translation>das ist ein Ordner, keine Regeldatei</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened: %1</source>
+        <translation>die Datei kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>it holds zero bytes</source>
+        <translation>sie enthält Nullbytes</translation>
+    </message>
+    <message>
+        <source>it is nested too deep</source>
+        <translation>sie ist zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>sie ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>line %1 is not JSON</source>
+        <translation>Zeile %1 ist kein JSON</translation>
+    </message>
+    <message>
+        <source>it holds a number that is too large</source>
+        <translation>sie enthält eine zu große Zahl</translation>
+    </message>
+    <message>
+        <source>the value of %1 has no known form</source>
+        <translation>der Wert von %1 hat keine bekannte Form</translation>
+    </message>
+    <message>
+        <source>another program has been writing it for too long</source>
+        <translation>ein anderes Programm schreibt sie schon zu lange</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a whole number of 64 bits</source>
+        <translation>eine ganze Zahl mit 64 Bit</translation>
+    </message>
+    <message>
+        <source>a UUID</source>
+        <translation>eine UUID</translation>
+    </message>
+    <message>
+        <source>a gesture</source>
+        <translation>eine Geste</translation>
+    </message>
+    <message>
+        <source>left, right or both</source>
+        <translation>left, right oder both</translation>
+    </message>
+    <message>
+        <source>topLeft, topRight, bottomLeft or bottomRight</source>
+        <translation>topLeft, topRight, bottomLeft oder bottomRight</translation>
+    </message>
+    <message>
+        <source>a pattern to draw</source>
+        <translation>ein Muster zum Zeichnen</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>a kind of action</source>
+        <translation>eine Art von Aktion</translation>
+    </message>
+    <message>
+        <source>a whole number from 0 to 65535</source>
+        <translation>eine ganze Zahl von 0 bis 65535</translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation>eine Liste von Texten</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>a NUL byte, which JSON text cannot hold</source>
+        <translation>ein Nullbyte, das in JSON nicht vorkommen darf</translation>
+    </message>
+    <message>
+        <source>a number that is too large</source>
+        <translation>eine zu große Zahl</translation>
+    </message>
+    <message>
+        <source>not valid JSON at column %1: %2</source>
+        <translation>kein gültiges JSON in Spalte %1: %2</translation>
+    </message>
+    <message>
+        <source>the text is %1, which is not a list of rules</source>
+        <translation>der Text ist %1, erwartet wird eine Liste von Regeln</translation>
+    </message>
+    <message>
+        <source>rule %1 is %2, which is not an object</source>
+        <translation>Regel %1 ist %2, erwartet wird ein Objekt</translation>
+    </message>
+    <message>
+        <source>entry %1 of %2 is %3, which is not text</source>
+        <translation>Eintrag %1 von %2 ist %3, erwartet wird Text</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is not %3</source>
+        <translation>%1 ist %2, erwartet wird %3</translation>
+    </message>
+    <message>
+        <source>%1 is missing; expected %2</source>
+        <translation>%1 fehlt, erwartet wird %2</translation>
+    </message>
+    <message>
+        <source>line %1: rule %2: %3</source>
+        <translation>Zeile %1: Regel %2: %3</translation>
+    </message>
+    <message>
+        <source>line %1: rule %2 %3: %4</source>
+        <translation>Zeile %1: Regel %2 %3: %4</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s portal did not open %1.</source>
+        <translation>Das Portal der Arbeitsumgebung hat %1 nicht geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -2517,6 +2661,17 @@
     </message>
 </context>
 <context>
+    <name>kinesta::CountdownRing</name>
+    <message>
+        <source>1 second left</source>
+        <translation>Noch 1 Sekunde</translation>
+    </message>
+    <message>
+        <source>%1 seconds left</source>
+        <translation>Noch %1 Sekunden</translation>
+    </message>
+</context>
+<context>
     <name>kinesta::CueCard</name>
     <message>
         <source>Show what was done</source>
@@ -2658,7 +2813,7 @@
     </message>
     <message>
         <source>The trackpad is not being read. Turn gesture recognition on in Settings.</source>
-        <translation>Das Trackpad wird nicht gelesen. Die Gestenerkennung in den Einstellungen einschalten.</translation>
+        <translation>Das Touchpad wird nicht gelesen. Die Gestenerkennung in den Einstellungen einschalten.</translation>
     </message>
 </context>
 <context>
@@ -2695,7 +2850,7 @@
     <name>kinesta::HeroStage</name>
     <message>
         <source>Trackpad</source>
-        <translation>Trackpad</translation>
+        <translation>Touchpad</translation>
     </message>
     <message>
         <source>Cannot be read</source>
@@ -2715,6 +2870,10 @@
     <message>
         <source>The rules before the import are kept in %1</source>
         <translation>Die Regeln vor dem Import liegen in %1</translation>
+    </message>
+    <message>
+        <source>Only the versions were copied. %1</source>
+        <translation>Nur die Versionen wurden kopiert. %1</translation>
     </message>
 </context>
 <context>
@@ -2861,11 +3020,11 @@
     </message>
     <message>
         <source>Trackpad</source>
-        <translation>Trackpad</translation>
+        <translation>Touchpad</translation>
     </message>
     <message>
         <source>Reads the trackpad and runs your rules.</source>
-        <translation>Liest das Trackpad und führt die Regeln aus.</translation>
+        <translation>Liest das Touchpad und führt die Regeln aus.</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -2959,6 +3118,10 @@
     <message>
         <source>Imported %1 rules; %2 of them stay off until they are complete</source>
         <translation>%1 Regeln importiert; %2 davon bleiben aus, bis sie vollständig sind</translation>
+    </message>
+    <message>
+        <source>this is a pipe or a device, not a rule file</source>
+        <translation>das ist eine Pipe oder ein Gerät, keine Regeldatei</translation>
     </message>
 </context>
 <context>
@@ -3249,11 +3412,11 @@
     </message>
     <message>
         <source>Trackpad</source>
-        <translation>Trackpad</translation>
+        <translation>Touchpad</translation>
     </message>
     <message>
         <source>The fingers on the trackpad as they move.</source>
-        <translation>Die Finger auf dem Trackpad in ihrer Bewegung.</translation>
+        <translation>Die Finger auf dem Touchpad in ihrer Bewegung.</translation>
     </message>
     <message>
         <source>Try a gesture and check what Kinesta detects.</source>

@@ -4,12 +4,14 @@
 #include <system_error>
 
 #include "support/SystemError.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
 Error failure(const std::filesystem::path& file, int reason) {
-    return {file.string() + ": the file cannot be written: " + systemErrorText(reason != 0 ? reason : EIO)};
+    return {file.string() + ": " +
+            translated("the file cannot be written: %1", {systemErrorText(reason != 0 ? reason : EIO)})};
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <set>
 #include <utility>
@@ -119,19 +120,17 @@ std::optional<Uuid> RuleHistory::redo() { return move(m_undone, m_done, Directio
 void RuleHistory::dropWhatCancelsOut() {
     if (m_done.empty() || !m_done.back().isSingleEdit())
         return;
-    const Edit& last = m_done.back().edits.front();
-    if (last.before == last.after) {
-        m_done.pop_back();
-        endTyping();
-        return;
-    }
-    if (m_done.size() < 2 || !m_done[m_done.size() - 2].isSingleEdit())
-        return;
-    const Edit& previous = m_done[m_done.size() - 2].edits.front();
-    if (previous.before == last.after && previous.after == last.before) {
-        m_done.pop_back();
-        m_done.pop_back();
-        endTyping();
+    // It may take back at once what was typed in several steps.
+    const GestureRule now = m_done.back().edits.front().after;
+    for (auto step = m_done.end(); step != m_done.begin() && std::prev(step)->isSingleEdit();) {
+        --step;
+        if (step->edits.front().after.id != now.id)
+            return;
+        if (step->edits.front().before == now) {
+            m_done.erase(step, m_done.end());
+            endTyping();
+            return;
+        }
     }
 }
 

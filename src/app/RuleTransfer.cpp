@@ -18,7 +18,9 @@ namespace {
 // Enough for a hundred thousand long rules.
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
 
-Error tooLarge(const std::string& name) { return {name + ": this is larger than 64 MiB, so it is no rule list"}; }
+Error tooLarge(const std::string& name) {
+    return {name + ": " + translated("this is larger than 64 MiB, so it is no rule list")};
+}
 
 Result<std::string> readWhole(std::istream& input, const std::string& name) {
     std::string content;
@@ -30,7 +32,7 @@ Result<std::string> readWhole(std::istream& input, const std::string& name) {
         content += read;
     }
     if (input.bad())
-        return Error{name + ": reading failed: " + std::generic_category().message(errno)};
+        return Error{name + ": " + translated("reading failed: %1", {std::generic_category().message(errno)})};
     return content;
 }
 
@@ -57,14 +59,15 @@ Result<std::vector<GestureRule>> readRuleFile(const std::string& file, std::istr
     std::ifstream stream;
     if (!isStandardInput) {
         if (std::error_code ignored; std::filesystem::is_directory(file, ignored))
-            return Error{name + ": this is a folder, not a rule file"};
+            return Error{name + ": " + translated("this is a folder, not a rule file")};
         std::error_code unknown;
         if (const auto size = std::filesystem::file_size(file, unknown); !unknown && size > kLargestFile)
             return tooLarge(name);
         errno = 0;
         stream.open(file, std::ios::binary);
         if (!stream)
-            return Error{name + ": the file cannot be opened: " + std::generic_category().message(errno)};
+            return Error{name + ": " +
+                         translated("the file cannot be opened: %1", {std::generic_category().message(errno)})};
     }
     const Result<std::string> content = readWhole(isStandardInput ? standardInput : stream, name);
     if (!content)

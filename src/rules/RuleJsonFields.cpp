@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/Json.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -66,9 +67,9 @@ bool assignMember(Record& record, const JsonValue& value) {
     return read(value, record.*member);
 }
 
-constexpr std::string_view kText = "text";
-constexpr std::string_view kTruth = "true or false";
-constexpr std::string_view kInteger = "a whole number of 64 bits";
+constexpr std::string_view kText = TRANSLATABLE("text");
+constexpr std::string_view kTruth = TRANSLATABLE("true or false");
+constexpr std::string_view kInteger = TRANSLATABLE("a whole number of 64 bits");
 
 constexpr Requirement kRequired = Requirement::required;
 constexpr Requirement kOptional = Requirement::optional;
@@ -89,16 +90,16 @@ std::string shortened(std::string_view text) {
 template <>
 std::span<const JsonField<GestureRule>> jsonFields() {
     static constexpr std::array<JsonField<GestureRule>, 10> kFields{{
-        {"id", kRequired, "a UUID", assignMember<&GestureRule::id>},
+        {"id", kRequired, TRANSLATABLE("a UUID"), assignMember<&GestureRule::id>},
         {"name", kRequired, kText, assignMember<&GestureRule::name>},
         {"isEnabled", kRequired, kTruth, assignMember<&GestureRule::isEnabled>},
         {"fingerCount", kOptional, kInteger, assignMember<&GestureRule::fingerCount>},
-        {"gesture", kRequired, "a gesture", assignMember<&GestureRule::gesture>},
-        {"edgeSlideSide", kOptional, "left, right or both", assignMember<&GestureRule::edgeSlideSide>},
-        {"anchorCorner", kOptional, "topLeft, topRight, bottomLeft or bottomRight",
+        {"gesture", kRequired, TRANSLATABLE("a gesture"), assignMember<&GestureRule::gesture>},
+        {"edgeSlideSide", kOptional, TRANSLATABLE("left, right or both"), assignMember<&GestureRule::edgeSlideSide>},
+        {"anchorCorner", kOptional, TRANSLATABLE("topLeft, topRight, bottomLeft or bottomRight"),
          assignMember<&GestureRule::anchorCorner>},
-        {"drawPattern", kOptional, "a pattern to draw", assignMember<&GestureRule::drawPattern>},
-        {"action", kRequired, "an object", assignMember<&GestureRule::action>},
+        {"drawPattern", kOptional, TRANSLATABLE("a pattern to draw"), assignMember<&GestureRule::drawPattern>},
+        {"action", kRequired, TRANSLATABLE("an object"), assignMember<&GestureRule::action>},
         {"showsActionCue", kOptional, kTruth, assignMember<&GestureRule::showsActionCue>},
     }};
     return kFields;
@@ -107,11 +108,12 @@ std::span<const JsonField<GestureRule>> jsonFields() {
 template <>
 std::span<const JsonField<GestureAction>> jsonFields() {
     static constexpr std::array<JsonField<GestureAction>, 7> kFields{{
-        {"kind", kRequired, "a kind of action", assignMember<&GestureAction::kind>},
-        {"keyCode", kOptional, "a whole number from 0 to 65535", assignMember<&GestureAction::keyCode>},
+        {"kind", kRequired, TRANSLATABLE("a kind of action"), assignMember<&GestureAction::kind>},
+        {"keyCode", kOptional, TRANSLATABLE("a whole number from 0 to 65535"), assignMember<&GestureAction::keyCode>},
         {"modifiers", kRequired, kInteger, assignMember<&GestureAction::modifiers>},
         {"value", kRequired, kText, assignMember<&GestureAction::value>},
-        {"applicationArguments", kOptional, "a list of texts", assignMember<&GestureAction::applicationArguments>},
+        {"applicationArguments", kOptional, TRANSLATABLE("a list of texts"),
+         assignMember<&GestureAction::applicationArguments>},
         {"customCueLabel", kOptional, kText, assignMember<&GestureAction::customCueLabel>},
         {"shellCommandAcknowledged", kOptional, kTruth, assignMember<&GestureAction::shellCommandAcknowledged>},
     }};
@@ -133,9 +135,9 @@ std::string describe(const JsonValue& value) {
         case Type::text:
             return inQuotes(*value.text);
         case Type::list:
-            return "a list";
+            return translated("a list");
         case Type::object:
-            return "an object";
+            return translated("an object");
     }
     return {};
 }

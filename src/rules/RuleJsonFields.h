@@ -33,7 +33,7 @@ template <typename Record>
 struct JsonField {
     std::string_view key;
     Requirement requirement;
-    /// The expected value; completes "which is not …" and "expected …".
+    /// The expected value, to be translated; completes "which is not …" and "expected …".
     std::string_view meaning;
     /// Stores the value. False if the field cannot hold it.
     bool (*assign)(Record& record, const JsonValue& value);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "rules/GestureRuleCoding.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -44,10 +45,6 @@ std::string path(const JsonField<Record>& field) {
     return std::string("\"").append(prefix).append(field.key).append("\"");
 }
 
-std::string isNot(const JsonValue& value, std::string_view meaning) {
-    return " is " + describe(value) + ", which is not " + std::string(meaning);
-}
-
 // The message of the parser without its name, the position (reported separately) and the text read (unlimited).
 std::string reason(std::string_view what) {
     constexpr std::string_view kIntroduction = " - ";
@@ -61,7 +58,7 @@ std::string reason(std::string_view what) {
 Result<std::vector<GestureRule>> RuleListDecoder::decode() {
     // The parser would take it as the end of the text.
     if (const std::size_t zero = m_json.find('\0'); zero != std::string_view::npos) {
-        report(zero, "a NUL byte, which JSON text cannot hold", false);
+        report(zero, translated("a NUL byte, which JSON text cannot hold"), false);
         return error();
     }
     const char* const end = m_json.data() + m_json.size();
@@ -167,8 +164,9 @@ bool RuleListDecoder::parse_error(std::size_t position, const std::string&,
     const auto column = 1 + std::count_if(m_json.begin() + static_cast<std::ptrdiff_t>(lineStart),
                                           m_json.begin() + static_cast<std::ptrdiff_t>(place), isCharacterStart);
     constexpr int kNumberOverflow = 406;
-    const std::string what = exception.id == kNumberOverflow ? "a number that is too large" : reason(exception.what());
-    report(place, "not valid JSON at column " + std::to_string(column) + ": " + what, false);
+    const std::string what =
+        exception.id == kNumberOverflow ? translated("a number that is too large") : reason(exception.what());
+    report(place, translated("not valid JSON at column %1: %2", {std::to_string(column), what}), false);
     return false;
 }
 
@@ -177,10 +175,13 @@ bool RuleListDecoder::accept(const JsonValue& value) {
         return true;
     switch (m_level) {
         case Level::document:
-            report(offset(), "the text" + isNot(value, "a list of rules"), false);
+            report(offset(), translated("the text is %1, which is not a list of rules", {describe(value)}), false);
             return false;
         case Level::list:
-            report(offset(), "rule " + std::to_string(m_rules.size() + 1) + isNot(value, "an object"), false);
+            report(offset(),
+                   translated("rule %1 is %2, which is not an object",
+                              {std::to_string(m_rules.size() + 1), describe(value)}),
+                   false);
             return false;
         case Level::rule:
             assign(m_rules.back(), m_rule, value);
@@ -194,10 +195,11 @@ bool RuleListDecoder::accept(const JsonValue& value) {
             if (value.type == Type::text)
                 argument = std::move(*value.text);
             else
-                report(offset(),
-                       "entry " + std::to_string(arguments.size()) + " of \"action.applicationArguments\"" +
-                           isNot(value, "text"),
-                       true);
+                report(
+                    offset(),
+                    translated("entry %1 of %2 is %3, which is not text",
+                               {std::to_string(arguments.size()), "\"action.applicationArguments\"", describe(value)}),
+                    true);
             return true;
         }
     }
@@ -210,7 +212,9 @@ void RuleListDecoder::assign(Record& record, const Object& object, const JsonVal
         return;
     const JsonField<Record>& field = jsonFields<Record>()[*object.field];
     if (!field.assign(record, value))
-        report(offset(), path(field) + isNot(value, field.meaning), true);
+        report(offset(),
+               translated("%1 is %2, which is not %3", {path(field), describe(value), translated(field.meaning)}),
+               true);
 }
 
 // Remembers the key of the next value. Ignores unknown keys.
@@ -230,7 +234,8 @@ void RuleListDecoder::close(const Object& object) {
     for (std::size_t i = 0; i < jsonFields<Record>().size(); ++i) {
         const JsonField<Record>& field = jsonFields<Record>()[i];
         if (field.requirement == Requirement::required && (object.seenFields >> i & 1U) == 0)
-            report(object.offset, path(field) + " is missing; expected " + std::string(field.meaning), true);
+            report(object.offset, translated("%1 is missing; expected %2", {path(field), translated(field.meaning)}),
+                   true);
     }
 }
 
@@ -254,14 +259,13 @@ std::size_t RuleListDecoder::offset() const {
 
 Error RuleListDecoder::error() const {
     const std::string_view before = m_json.substr(0, m_problem->offset);
-    std::string message = "line " + std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + ": ";
-    if (m_problem->isInRule) {
-        message += "rule " + std::to_string(m_rules.size());
-        if (!m_rules.back().name.empty())
-            message.append(" ").append(inQuotes(m_rules.back().name));
-        message += ": ";
-    }
-    return {message + m_problem->text};
+    const std::string line = std::to_string(1 + std::count(before.begin(), before.end(), '\n'));
+    if (!m_problem->isInRule)
+        return {translated("line %1: %2", {line, m_problem->text})};
+    const std::string number = std::to_string(m_rules.size());
+    if (m_rules.back().name.empty())
+        return {translated("line %1: rule %2: %3", {line, number, m_problem->text})};
+    return {translated("line %1: rule %2 %3: %4", {line, number, inQuotes(m_rules.back().name), m_problem->text})};
 }
 
 // Here rather than beside encodeRules(), so that the parser is compiled once.

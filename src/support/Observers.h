@@ -41,7 +41,7 @@ class Observers {
             if (place == m_entries.end() || (*place)->number != number)
                 return;
             // Destroyed last, when the list is consistent again: the observer may own other subscriptions.
-            const auto ended = *place;
+            const auto ended = *place;  // NOLINT(performance-unnecessary-copy-initialization)
             ended->isActive = false;
             if (m_depth == 0)
                 m_entries.erase(place);

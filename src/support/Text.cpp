@@ -1,9 +1,11 @@
 #include "support/Text.h"
 
 #include <array>
+#include <cerrno>
 #include <charconv>
-#include <locale>
-#include <sstream>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
 
 namespace kinesta {
 namespace {
@@ -83,19 +85,26 @@ void appendUtf8(std::string& text, std::uint32_t codePoint) {
 }
 
 std::optional<double> parsedNumber(std::string_view text) {
-    double value = 0;
+    if (text.find_first_not_of("0123456789+-.eE") != std::string_view::npos || text.starts_with('+'))
+        return std::nullopt;  // also "inf", which some of the functions below would take
 #if defined(__cpp_lib_to_chars)
+    double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size())
         return std::nullopt;
-#else  // libc++ has no from_chars for doubles
-    std::istringstream stream{std::string(text)};
-    stream.imbue(std::locale::classic());
-    if (text.find_first_not_of("0123456789+-.eE") != std::string_view::npos || text.starts_with('+') ||
-        !(stream >> value) || stream.peek() != std::istringstream::traits_type::eof())
-        return std::nullopt;
-#endif
     return value;
+#else  // this libc++ has no from_chars for doubles, and its streams cut long numbers
+    std::string local;
+    for (const char c : text)
+        local += c == '.' ? std::string(std::localeconv()->decimal_point) : std::string(1, c);
+    errno = 0;
+    char* end = nullptr;
+    const double value = std::strtod(local.c_str(), &end);
+    const bool isOutOfRange = errno == ERANGE && (value == 0 || std::isinf(value));  // not if it is only very small
+    if (local.empty() || end != local.c_str() + local.size() || isOutOfRange)
+        return std::nullopt;
+    return value;
+#endif
 }
 
 std::string numberText(double value) {

@@ -138,5 +138,17 @@ TEST(RuleHistory, TakesAReplacedListBackWithTheStepsAroundIt) {
     EXPECT_EQ(settings, 1);
 }
 
+TEST(RuleHistory, ForgetsWhatAFieldTakesBackAtOnce) {
+    Fixture rules;
+    rules.type(rules.a, "A1");
+    rules.type(rules.a, "A12", 600);
+    rules.type(rules.a, "A", 600);
+    EXPECT_EQ(rules.text(), "A B C ") << "nothing to bring back by undo";
+    rules.type(rules.a, "A1", 600);
+    rules.type(rules.b, "B1", 600);
+    rules.type(rules.a, "A", 600);
+    EXPECT_EQ(rules.undo(2), "A1 B C <>") << "the step of another rule stays";
+}
+
 }  // namespace
 }  // namespace kinesta::testing

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "cli/CommandLine.h"
-#include "platform/linux/LinuxDesktop.h"
 #include "support/RunLoop.h"
 #include "support/TemporaryFolder.h"
 
@@ -16,6 +16,9 @@ struct Ran {
     std::string out;
     std::string err;
 };
+
+/// A desktop whose settings are in `folder`.
+std::unique_ptr<Desktop> desktopIn(const std::filesystem::path& folder, MainLoop& mainLoop);
 
 /// Runs subcommands as main() does, with settings and files in a temporary folder.
 class CommandRunner {
@@ -28,13 +31,12 @@ class CommandRunner {
         std::ostringstream err;
         const Console console{.in = in, .out = out, .err = err};
         RunLoop mainLoop;
-        LinuxDesktop desktop(mainLoop, {.settings = folder.path() / "settings" / "defaults.json",
-                                        .examples = std::filesystem::path(KINESTA_SOURCE_DIR) / "examples"});
+        const auto desktop = desktopIn(folder.path() / "settings", mainLoop);
         arguments.insert(arguments.begin(), "kinesta");
         std::vector<const char*> pointers;
         for (const std::string& argument : arguments)
             pointers.push_back(argument.c_str());
-        const ExitStatus status = runCommandLine(console, desktop, static_cast<int>(pointers.size()), pointers.data());
+        const ExitStatus status = runCommandLine(console, *desktop, static_cast<int>(pointers.size()), pointers.data());
         return {static_cast<int>(status), out.str(), err.str()};
     }
 };
@@ -49,5 +51,10 @@ inline std::string rule(const std::string& last, const std::string& fields, cons
     return R"({"id":"00000000-0000-4000-8000-0000000000)" + last + R"(","isEnabled":true,)" + fields +
            R"(,"action":{"modifiers":0,"value":"",)" + action + "}}";
 }
+
+inline const std::string kTap =
+    rule("0a", R"("name":"Paste","fingerCount":2,"gesture":"doubleTap")",
+         R"("kind":"keyboardShortcut","keyCode":9,"modifiers":1,"customCueLabel":" Insert ")");
+inline const std::string kIncomplete = rule("0b", R"("name":"","gesture":"tipTapLeft")", R"("kind":"openURL")");
 
 }  // namespace kinesta::testing

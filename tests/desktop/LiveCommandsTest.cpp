@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/CommandRunner.h"
+#include "desktop/harness/BusPeer.h"
 #include "desktop/harness/ProcessFigures.h"
 #include "desktop/harness/TestWindow.h"
 #include "platform/linux/settings/FileUserDefaults.h"
@@ -123,6 +124,14 @@ TEST_F(LiveCommands, ReplaysAndPerformsWhatItRecognizesIfAsked) {
     EXPECT_NE(refused.err.find("Only the application has a window."), std::string::npos) << refused.err;
 }
 
+TEST_F(LiveCommands, WaitForWhatThePortalSays) {
+    import({{ "web", action("openURL", "http://kinesta.test/") }});
+    setenv("PATH", kinesta.folder.path().c_str(), 1);  // no xdg-open
+    EXPECT_EQ(perform("web"), "refused: Nothing here opens addresses; install xdg-utils.\n");
+    const BusServices services(BusServices::Manner::refusing);
+    EXPECT_EQ(perform("web"), "refused: The desktop's portal did not open http://kinesta.test/.\n");
+}
+
 TEST_F(LiveCommandsOnWindows, LoseNothingOfTwoHundredPerforms) {
     import({{"left", kTileLeft}, { "right", shortcut(124, 20) }});
     TestWindow window(desktop, {200, 150, 400, 300});
@@ -139,6 +148,11 @@ TEST_F(LiveCommandsOnWindows, SayWhatBecameOfTheWindow) {
     import({{"left", kTileLeft}, {"untile", shortcut(15, 20)}, { "close", action("closeWindow") }});
     for (const char* name : {"left", "untile", "close"})
         EXPECT_EQ(perform(name), "refused: No window is active.\n");
+    settings().setString("linux.inputRoute.v1", "x11");
+    setenv("WAYLAND_DISPLAY", ("/tmp/.X11-unix/X" + desktop.display().substr(1)).c_str(), 1);  // any server will do
+    EXPECT_EQ(perform("left"),
+              "refused: No window of a program that uses XWayland is active; Wayland hides all others.\n");
+    unsetenv("WAYLAND_DISPLAY");
     const auto connection = TestWindow::connect(desktop);
     TestWindow window(desktop, {200, 150, 400, 300}, connection);
     window.show();

@@ -50,16 +50,25 @@ TEST_F(AccessibilityOnTheMac, LeavesAWindowAloneWhenAnAnswerIsOfAnotherType) {
 }
 
 TEST_F(AccessibilityOnTheMac, SurvivesEveryCallThatGivesNothing) {
-    for (const char* const failing :
-         {"CFStringCreateWithCString", "CFStringGetCString", "CFStringGetMaximumSizeForEncoding",
-          "AXUIElementCreateApplication", "AXUIElementCopyAttributeValue"}) {
+    const auto read = [&](const char* failing) {
         becomeAsAfterLogin();
+        const auto element = application("AXRole=AXWindow");
         fakes::makeFail(failing);
-        EXPECT_FALSE(closes("AXFocusedWindow=!")) << failing;
-        EXPECT_FALSE(tilesLeft("AXIdentifier=_zoomRight:")) << failing;
-    }
+        EXPECT_EQ(element->performAction("AXPress"), std::string(failing) != "CFStringCreateWithCString");
+        return element->copyAttribute("AXRole");
+    };
+    for (const char* const failing : {"CFStringCreateWithCString", "AXUIElementCopyAttributeValue"})
+        EXPECT_TRUE(std::holds_alternative<AccessibilityFailure>(read(failing))) << failing;
+    for (const char* const failing : {"CFStringGetCString", "CFStringGetMaximumSizeForEncoding"})
+        EXPECT_TRUE(std::holds_alternative<OtherAccessibilityValue>(read(failing))) << failing;
+    fakes::makeFail("AXUIElementCreateApplication");
+    EXPECT_EQ(elements.applicationElement(7), nullptr);
+}
+
+TEST_F(AccessibilityOnTheMac, AsksNobodyForWhatCannotBeAProcess) {
     for (const ProcessIdentifier nobody : {0L, -7L, (1L << 32) + 7})
         EXPECT_EQ(elements.applicationElement(nobody), nullptr) << nobody;
+    EXPECT_EQ(desktop.log.take(), Calls{});
 }
 
 TEST_F(AccessibilityOnTheMac, ReadsTextsInAllLanguages) {
@@ -75,6 +84,7 @@ TEST_F(AccessibilityOnTheMac, NeverAsksForTheLongTimeoutOfTheSystem) {
         EXPECT_FALSE(element->setMessagingTimeout(timeout));
     EXPECT_EQ(desktop.log.take(), Calls{});
     EXPECT_TRUE(element->setMessagingTimeout(0.01));
+    EXPECT_FALSE(application("timeout=no")->setMessagingTimeout(0.01));
 }
 
 TEST_F(AccessibilityOnTheMac, SpendsNoMoreOnASearchThanItMay) {

@@ -45,24 +45,35 @@ TEST_F(ApplicationOnTheMac, TellsWhatTheSystemDoesToItUntilItEnds) {
          {ApplicationEvent::windowWillClose, ApplicationEvent::windowDidBecomeKey,
           ApplicationEvent::windowDidChangeVisibility, ApplicationEvent::didBecomeActive, ApplicationEvent::didWake})
         subscriptions.push_back(events.observe(event, [&, event] { log += std::to_string(static_cast<int>(event)); }));
+    NSNotificationCenter* const workspace = NSWorkspace.sharedWorkspace.notificationCenter;
+    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
     std::optional<MacSessionEvents> session;
-    const auto postAll = [] {
-        NSNotificationCenter* const workspace = NSWorkspace.sharedWorkspace.notificationCenter;
-        for (NSNotificationName name in @[
-                 NSWorkspaceDidWakeNotification, NSApplicationDidBecomeActiveNotification,
-                 NSApplicationDidHideNotification, NSApplicationDidUnhideNotification, NSWindowDidBecomeKeyNotification,
-                 NSWindowWillCloseNotification
-             ])
-            fakes::post(name == NSWorkspaceDidWakeNotification ? workspace : NSNotificationCenter.defaultCenter, name);
-    };
     @autoreleasepool {
+        // Ends it while the platform tells its observers of the second waking.
+        __block int wakings = 0;
+        auto* const ending = &session;
+        id const first = [workspace addObserverForName:NSWorkspaceDidWakeNotification
+                                                object:nil
+                                                 queue:nil
+                                            usingBlock:^(NSNotification*) {
+                                              if (++wakings == 2)
+                                                  ending->reset();
+                                            }];
         session.emplace(events);
-        postAll();
-        EXPECT_EQ(log, "432210");
-        // One observer may end all while the platform calls them.
-        subscriptions.push_back(events.observe(ApplicationEvent::didWake, [&] { session.reset(); }));
-        postAll();
-        EXPECT_EQ(log, "4322104");
+        fakes::post(workspace, NSWorkspaceDidWakeNotification);
+        for (NSNotificationName name in @[
+                 NSApplicationDidBecomeActiveNotification, NSApplicationDidHideNotification,
+                 NSApplicationDidUnhideNotification, NSWindowDidBecomeKeyNotification, NSWindowWillCloseNotification
+             ])
+            fakes::post(center, name);
+        NSWindow* const tip = window();
+        tip.canBecomeMainWindow = NO;
+        for (NSWindow* closing in @[ tip, window() ])
+            [center postNotificationName:NSWindowWillCloseNotification object:closing];
+        EXPECT_EQ(std::exchange(log, {}), "4322100");
+        fakes::post(workspace, NSWorkspaceDidWakeNotification);
+        EXPECT_EQ(log, "");
+        [workspace removeObserver:first];
     }
 }
 
@@ -120,7 +131,7 @@ TEST_F(ApplicationOnTheMac, FindsItsWindowAmongAllAndBringsItToTheFront) {
         NSWindow* const sheet = window();
         WindowMaker maker(@[ other, panel, wanted ]);
         MacConfigurationWindow configuration(maker);
-        EXPECT_FALSE(configuration.isVisible() || configuration.isKey() || configuration.isMiniaturized());
+        EXPECT_FALSE(configuration.isVisible() || configuration.isKey());
         objc::takeCalls();
         configuration.makeKeyAndOrderFront();
         EXPECT_EQ(objc::takeCalls(), Calls{objc::describe((__bridge void*)wanted) + " makeKeyAndOrderFront:nil"});
@@ -191,6 +202,7 @@ TEST_F(ApplicationOnTheMac, SendsTheActionsOfItsOwnMenus) {
 
         const auto main = menus.mainMenu();
         main->update();
+        EXPECT_EQ(objc::takeCalls(), Calls{"NSMenu#1 update"});
         const auto top = main->items();
         ASSERT_EQ(top.size(), 1U);
         EXPECT_EQ(top[0]->identifier(), std::nullopt);

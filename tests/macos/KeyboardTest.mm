@@ -22,7 +22,9 @@ class KeyboardOnTheMac : public MacActionsTest {
     }
 };
 
-const std::map<int, std::u16string> kAzerty{{0, u"q"}, {12, u"a"}, {18, u"&"}, {33, u""}, {36, u"\r"}, {115, u"\x1"}};
+/// With the digits of the keypad.
+const std::map<int, std::u16string> kFrench{{0, u"q"}, {12, u"a"},  {18, u"1"},   {83, u"1"},
+                                            {33, u""}, {36, u"\r"}, {115, u"\x1"}};
 
 TEST_F(KeyboardOnTheMac, AsksWhatEveryKeyTypes) {
     fakes::setKeyboardLayout({{0, u"q"}, {1, u""}, {2, u"ß"}, {3, u"😀"}, {4, u"\xD83D"}, {5, u"12345"}, {127, u"z"}});
@@ -42,21 +44,21 @@ TEST_F(KeyboardOnTheMac, AsksWhatEveryKeyTypes) {
 }
 
 TEST_F(KeyboardOnTheMac, PostsTheKeyThatTypesTheStoredCharacterNow) {
-    fakes::setKeyboardLayout(kAzerty);
+    fakes::setKeyboardLayout(kFrench);
     EXPECT_EQ(postedForA(), 12);
     fakes::setKeyboardLayout({{0, u"A"}, {12, u"a"}});
     EXPECT_EQ(postedForA(), 0) << "no layout is kept";
     for (const char* const failing : {"TISCopyCurrentKeyboardLayoutInputSource", "TISGetInputSourceProperty",
                                       "CFDataGetBytePtr", "CFStringCreateWithCharacters", "UCKeyTranslate"}) {
         becomeAsAfterLogin();
-        fakes::setKeyboardLayout(kAzerty);
+        fakes::setKeyboardLayout(kFrench);
         fakes::makeFail(failing);
         EXPECT_EQ(postedForA(), 0) << failing;
     }
 }
 
 TEST_F(KeyboardOnTheMac, RecordsThePressedKeyAndItsModifiers) {
-    fakes::setKeyboardLayout(kAzerty);
+    fakes::setKeyboardLayout(kFrench);
     MacKeyRecording keyboard(layout);
     ShortcutRecording recording(keyboard);
     constexpr std::uint32_t kCommand = 0x100108, kShift = 0x20102, kFn = 0x800100, kArrow = 0xA00100;
@@ -71,9 +73,12 @@ TEST_F(KeyboardOnTheMac, RecordsThePressedKeyAndItsModifiers) {
     EXPECT_EQ(recorded(0, kFn), "fn Q");
     EXPECT_EQ(recorded(123, kArrow | 0x40000), "⌃Left") << "arrows always have the flag of fn";
     EXPECT_EQ(recorded(115, kFn | 0x80000), "⌥Key 115");
+    EXPECT_EQ(recorded(83, 0x200100), "Key 83") << "not the digit above the letters";
     EXPECT_EQ(recorded(90, kFn), "Key 90");
     EXPECT_EQ(recorded(57, 0x10000), "Keys that lock others cannot be part of a shortcut. Press another key.");
     EXPECT_EQ(recorded(128, 0), "A shortcut cannot hold this key. Press another one.");
+
+    EXPECT_FALSE(keyboard.presses(12, 0x20000, {0, 12, kCommand}, keyboard.inForce({0, 12, kCommand})));
 
     // Modifiers one by one, with the flags of before, as Qt reports them.
     recording.start();

@@ -18,19 +18,21 @@ const StatusMenu kMenu{
 
 struct StatusItemOnTheMac : MacTest {
     void create() {
-        item.emplace();
-        item->create({.clicked =
-                          [this](StatusItemClick click) {
-                              log.push_back(click.button == StatusItemClick::Button::right ? "right" : "left");
-                              if (click.isControlHeld)
-                                  log.back() += "+control";
-                          },
-                      .chosen =
-                          [this](Command command) {
-                              log.push_back("command " + std::to_string(static_cast<int>(command)));
-                              if (command == Command::quitApplication)
-                                  item.reset();
-                          }});
+        @autoreleasepool {
+            item.emplace();
+            item->create({.clicked =
+                              [this](StatusItemClick click) {
+                                  log.push_back(click.button == StatusItemClick::Button::right ? "right" : "left");
+                                  if (click.isControlHeld)
+                                      log.back() += "+control";
+                              },
+                          .chosen =
+                              [this, text = std::string("chosen: command ")](Command command) {
+                                  if (command == Command::quitApplication)
+                                      item.reset();
+                                  log.push_back(text + std::to_string(static_cast<int>(command)));
+                              }});
+        }
     }
 
     Calls log;
@@ -102,7 +104,7 @@ TEST_F(StatusItemOnTheMac, HasItsMenuOnlyWhileThatIsOpen) {
         item->openMenu();
         EXPECT_EQ(log.at(log.size() - 3), "NSStatusItem#1 setMenu:NSMenu#1");
         EXPECT_EQ(log.at(log.size() - 2), "NSStatusBarButton#1 performClick:nil");
-        EXPECT_EQ(log.back(), "command 1");
+        EXPECT_EQ(log.back(), "chosen: command 1");
         EXPECT_EQ(objc::takeCalls().back(), "NSStatusItem#1 setMenu:nil");
         EXPECT_EQ(bar.menu, nil);
         item.reset();
@@ -113,11 +115,13 @@ TEST_F(StatusItemOnTheMac, MayEndWhileItsMenuIsOpen) {
     @autoreleasepool {
         create();
         item->setMenu(kMenu);
-        NSStatusItem* const bar = fakes::statusItem();
-        fakes::whileMenuIsOpen([&] { fakes::choose(bar.menu.itemArray[3]); });
+        fakes::whileMenuIsOpen([&] {
+            @autoreleasepool {
+                fakes::choose(fakes::statusItem().menu.itemArray[3]);
+            }
+        });
         item->openMenu();
-        EXPECT_EQ(log, Calls{"command 5"});
-        EXPECT_EQ(bar.menu, nil);
+        EXPECT_EQ(log, Calls{"chosen: command 5"});
     }
 }
 

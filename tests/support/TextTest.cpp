@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
 #include <sstream>
+
+#include "support/TemporaryFolder.h"
 
 using namespace kinesta;
 
@@ -38,4 +43,32 @@ TEST(Text, RecognizesWellFormedUtf8) {
     for (std::string text; bad >> text; ++count)
         EXPECT_FALSE(isUtf8(text) || isUtf8("a" + text + "z")) << testing::PrintToString(text);
     EXPECT_EQ(count, 9 + 15);
+}
+
+TEST(Text, ReadsAndWritesExactNumbersInAnyLocale) {
+    const TemporaryFolder locales;
+    if (std::setlocale(LC_NUMERIC, "de_DE.UTF-8") == nullptr) {
+        ASSERT_EQ(std::system(("localedef -f UTF-8 -i de_DE " + locales / "de_DE.UTF-8").c_str()), 0);
+        ASSERT_EQ(setenv("LOCPATH", locales.path().c_str(), 1), 0);
+        ASSERT_NE(std::setlocale(LC_NUMERIC, "de_DE.UTF-8"), nullptr);
+    }
+    ASSERT_EQ(std::string(std::localeconv()->decimal_point), ",");
+    const std::string halfway = "1.00000000000000011102230246251565404236316680908203125";
+    for (const auto& [text, value] : {std::pair<std::string, std::optional<double>>{"0.1", 0.1},
+                                      {"-12.5e-1", -1.25},
+                                      {"-0", -0.0},
+                                      {halfway, 1.0},
+                                      {halfway + "0000000000000000000001", 1.0000000000000002},
+                                      {"9007199254740993", 9007199254740992},
+                                      {"2.2250738585072011e-308", 2.2250738585072011e-308},
+                                      {"5e-324", 5e-324},
+                                      {"1.7976931348623157e+308", 1.7976931348623157e308}}) {
+        EXPECT_EQ(parsedNumber(text), value) << text;
+        EXPECT_EQ(std::signbit(*parsedNumber(text)), std::signbit(*value)) << text;
+        EXPECT_EQ(parsedNumber(numberText(*value)), value) << numberText(*value);
+    }
+    for (const char* text :
+         {"", "-", "+1", " 1", "1 ", "1,5", "1.5.2", "1e", "0x1", "inf", "nan", "1e309", "-1e400", "1e-400", "1-2"})
+        EXPECT_EQ(parsedNumber(text), std::nullopt) << text;
+    std::setlocale(LC_NUMERIC, "C");
 }

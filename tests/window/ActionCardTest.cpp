@@ -1,5 +1,6 @@
 #include "ui/action/ActionCard.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 
@@ -176,6 +177,33 @@ TEST_F(ActionCardTest, KeepsArgumentsInTheirOrder) {
     history->undo();
     EXPECT_EQ(list->count(), 4);
     EXPECT_EQ(list->item(1)->text(), "--one");
+}
+
+TEST_F(ActionCardTest, ShowsScreenReadersTheOrderOfTheScreenAndTheFieldOfAnArgument) {
+    const std::function<QStringList(QAccessibleInterface*)> namesIn = [&](QAccessibleInterface* part) {
+        QStringList names;
+        if (part->role() != QAccessible::StaticText)
+            names += part->text(QAccessible::Name);
+        for (int i = 0; i < part->childCount(); ++i)
+            if (QAccessibleInterface* child = part->child(i); child != nullptr && !child->state().invisible)
+                names += namesIn(child);
+        return names;
+    };
+    const auto places = [&](std::initializer_list<const char*> wanted) {
+        const QStringList names = namesIn(QAccessible::queryAccessibleInterface(card.get()));
+        std::vector<qsizetype> found;
+        for (const char* name : wanted)
+            found.push_back(names.indexOf(QLatin1String(name)));
+        EXPECT_TRUE(std::ranges::is_sorted(found)) << names.join(QStringLiteral(", ")).toStdString();
+        return found.front() >= 0 ? std::string() : names.join(QStringLiteral(", ")).toStdString();
+    };
+    edit(makeRule(GestureKind::tipTapLeft, {}, ActionKind::keyboardShortcut));
+    EXPECT_EQ("", places({"Common shortcuts", "Show a cue", "Run action now"}));
+    store_([](GestureRule& rule) { rule.action.kind = ActionKind::launchApplication; });
+    EXPECT_EQ("", places({"Add argument", "Show a cue", "Run action now"}));
+    EXPECT_NE("", places({"Argument"}));
+    card->findChild<ArgumentList*>()->addOne();
+    EXPECT_EQ("", places({"Argument", "Add argument", "Run action now"}));
 }
 
 }  // namespace

@@ -5,12 +5,17 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTranslator>
 
 #include "app/RuleTransfer.h"
 #include "rules/RuleMaking.h"
+#include "support/Translation.h"
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sidebar/Sidebar.h"
+#include "ui/widgets/Page.h"
+#include "ui/widgets/Switch.h"
+#include "ui/widgets/Tile.h"
 #include "ui/widgets/Unit.h"
 #include "ui/window/Toast.h"
 #include "window/WindowRig.h"
@@ -128,19 +133,74 @@ TEST_F(KinestaWindows, UndoesImportsAndResetsAndTellsWhatWasDone) {
     EXPECT_EQ(app.store().rules().value().size(), 1U);
 }
 
-TEST_F(KinestaWindows, LeavesUndoToAFieldThatHasStepsOfItsOwn) {
-    GestureRule rule = makeRule(GestureKind::tipTapLeft);
-    rule.name = "A";
-    app.store().setRules({rule});
+TEST_F(KinestaWindows, KeepsOneHistoryForFieldsAndTheWindow) {
+    GestureRule stored = makeRule(GestureKind::tipTapLeft);
+    stored.name = "A";
+    app.store().setRules({stored});
     open();
-    window->select(WindowSelection::rule(app.store().rules().value()[0].id));
-    window->findChild<RuleEditorPage*>()->focusName();
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("BC"));
-    EXPECT_EQ(app.store().rules().value()[0].name, "BC");
-    key(Qt::Key_Z, Qt::ControlModifier);
-    key(Qt::Key_Z, Qt::ControlModifier);
-    key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(app.store().rules().value()[0].name, "A");
+    window->select(WindowSelection::rule(stored.id));
+    auto* editor = window->findChild<RuleEditorPage*>();
+    const auto type = [&](const char* name) {
+        editor->focusName();
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(name));
+    };
+    /// What the field and the store have.
+    const auto state = [&] {
+        const auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        const GestureRule& rule = app.store().rules().value()[0];
+        return (field != nullptr ? field->text().toStdString() : "no field") + " " + rule.name +
+               (rule.isEnabled ? " on" : " off");
+    };
+    type("BC");
+    QTest::mouseClick(editor->findChild<Switch*>(), Qt::LeftButton);
+    type("D");
+    using Steps = std::vector<std::string>;
+    Steps steps{state()};
+    for (int i = 0; i < 4; ++i) {
+        key(Qt::Key_Z, Qt::ControlModifier);
+        steps.push_back(state());
+    }
+    EXPECT_EQ(steps, (Steps{"D D off", "BC BC off", "BC BC on", "A A on", "A A on"}));
+    steps.clear();
+    for (int i = 0; i < 4; ++i) {
+        key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        steps.push_back(state());
+    }
+    EXPECT_EQ(steps, (Steps{"BC BC on", "BC BC off", "D D off", "D D off"}));
+}
+
+/// Every text twice, as long translations are.
+class Doubling final : public QTranslator {
+    QString translate(const char* /*context*/, const char* text, const char* /*hint*/, int /*count*/) const override {
+        return QString::fromUtf8(text) + QLatin1Char(' ') + QString::fromUtf8(text);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(KinestaWindows, CutsNoPageAndNoTileWhereWordsAreLong) {
+    Doubling doubling;
+    QCoreApplication::installTranslator(&doubling);
+    setTranslator([](std::string_view text) { return std::string(text) + " " + std::string(text); });
+    const GestureRule stored = makeRule(GestureKind::tipTapLeft);
+    app.store().setRules({stored});
+    open();
+    window->resize(Unit::of(420, 700));
+    const auto fits = [&] {
+        return std::ranges::none_of(window->findChildren<Page*>(),
+                                    [](const Page* page) {
+                                        return page->isVisible() && page->widget()->width() > page->viewport()->width();
+                                    }) &&
+               std::ranges::none_of(window->findChildren<Tile*>(), [](const Tile* tile) {
+                   const QSize least = tile->minimumSizeHint();
+                   return tile->isVisible() && (tile->width() < least.width() || tile->height() < least.height());
+               });
+    };
+    for (const auto& page :
+         {WindowSelection::rule(stored.id), WindowSelection::settings(), WindowSelection::overview()}) {
+        window->select(page);
+        EXPECT_TRUE(eventually(fits));
+    }
+    setTranslator({});
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "rules/GestureTypeChoice.h"
 #include "rules/RuleMaking.h"
 #include "ui/editor/GestureStage.h"
 #include "ui/widgets/Notice.h"
@@ -112,6 +113,17 @@ TEST_F(RuleEditorTest, ShowsWhatIsPointedAtAndReturns) {
     point(find<QLineEdit>("Name"));
     EXPECT_TRUE(eventually([&] { return !picture->isPerforming(); }));
     EXPECT_EQ(rule().fingerCount, 3);
+}
+
+TEST_F(RuleEditorTest, ChoosesByLetterFromTheFirstTileWhileNoneIsChosen) {
+    open(makeRule(GestureKind::unconfigured));
+    QWidget* focus = find<Tile>("Tap");
+    focus->setFocus();
+    for (const GestureTypeChoice expected : {GestureTypeChoice::tap, GestureTypeChoice::tipTapLeft,
+                                             GestureTypeChoice::tipTapRight, GestureTypeChoice::tap}) {
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("t"));
+        EXPECT_EQ(gestureTypeChoice(rule().gesture), expected);
+    }
 }
 
 TEST_F(RuleEditorTest, TakesThePerformedGesture) {

@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "support/Text.h"
+
 namespace kinesta {
 namespace {
 
@@ -88,8 +90,8 @@ void drop(Stage& stage, const std::string& file) {
 void hold(Stage& stage) {
     for (int i = 0; i <= 40; ++i) {
         const double x = 0.01 * i;
-        stage.touch(1 + 0.02 * i, "[1," + std::to_string(0.2 + x) + ",0.4],[2," + std::to_string(0.4 + x) +
-                                      ",0.55],[3,0.95,0.05]");
+        stage.touch(1 + 0.02 * i,
+                    "[1," + numberText(0.2 + x) + ",0.4],[2," + numberText(0.4 + x) + ",0.55],[3,0.95,0.05]");
         QTest::qWait(20);
     }
 }

@@ -43,6 +43,7 @@ struct LinuxActions::Parts {
     Parts(const Clock& clockPort, const UserDefaults& defaultsPort, const Log& log, Output output)
         : clock(clockPort),
           defaults(defaultsPort),
+          portal(bus, log),
           launcher({.zsh = "/bin/zsh", .loginShell = {}, .log = log, .output = output}),
           poster(connection, keyboard, defaults, log),
           events(poster, defaults, log),
@@ -60,7 +61,7 @@ struct LinuxActions::Parts {
     XkbKeyboardLayout layout{keyboard};
     LinuxKeyRecording keyRecording{layout, defaults};
     MessageBus bus;
-    DesktopPortal portal{bus};
+    DesktopPortal portal;
     PosixProcessLauncher launcher;
     SessionInputPoster poster;
     PostingEventSynthesizer events;

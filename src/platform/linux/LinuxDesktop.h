@@ -67,6 +67,8 @@ class LinuxDesktop final : public Desktop {
     Outcome lastSaving() override { return fileDefaults().lastSaving(); }
     /// Changes of settings no longer wait for the disk: for the window, where each keystroke is one.
     void saveInBackground();
+    /// `tell` receives a problem with the settings again as soon as it is over.
+    void onSettingsProblemSolved(Tell tell) { fileDefaults().onProblemSolved(std::move(tell)); }
     bool watchDefaults(std::function<void()> onChange) override;
     std::string howToSet(std::string_view key, const std::string& value) const override;
     Result<std::filesystem::path> settingsFolder() override;

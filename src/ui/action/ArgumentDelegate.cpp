@@ -8,6 +8,7 @@
 #include "platform/qt/ThemePalette.h"
 #include "ui/action/TextField.h"
 #include "ui/pictures/WindowSymbol.h"
+#include "ui/widgets/FieldUndo.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -81,6 +82,7 @@ QWidget* ArgumentDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     auto* field = new TextField(tr("Argument"), TextField::Form::code, parent);
     field->setFont(mono());
     field->setFrame(false);
+    FieldUndo::setRecorded(*field, false);  // the list does not follow while it is typed in
     // Each keystroke is saved.
     connect(field, &TextField::typed, this,
             [self = const_cast<ArgumentDelegate*>(this), field] { Q_EMIT self->commitData(field); });

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "ui/action/CleanText.h"
+#include "ui/widgets/FieldUndo.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -25,6 +26,7 @@ constexpr qsizetype kShownOfTooLong = 2'000;
 
 CommandField::CommandField(const QString& name, QWidget* parent) : QPlainTextEdit(parent) {
     setAccessibleName(name);
+    FieldUndo::setRecorded(*this, true);
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/ThemePalette.h"
+#include "ui/widgets/AccessibleParts.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -18,6 +19,7 @@ constexpr int kEdge = 2;
 }  // namespace
 
 FieldFrame::FieldFrame(QWidget* field, QWidget* parent) : QWidget(parent), m_field(field) {
+    AccessibleParts::install();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
     layout->addWidget(field);

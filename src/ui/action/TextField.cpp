@@ -4,6 +4,7 @@
 #include <QValidator>
 
 #include "ui/action/CleanText.h"
+#include "ui/widgets/FieldUndo.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -26,6 +27,7 @@ class Cleaning final : public QValidator {
 
 TextField::TextField(const QString& name, Form form, QWidget* parent) : QLineEdit(parent) {
     setAccessibleName(name);
+    FieldUndo::setRecorded(*this, true);
     setValidator(new Cleaning(this));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     if (form == Form::code) {

@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "ui/pictures/WindowSymbol.h"
+#include "ui/widgets/FieldUndo.h"
 #include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
@@ -54,6 +55,7 @@ RuleHeader::RuleHeader(const Uuid& rule, RuleEditorModel& model, RuleListModel& 
     m_name->setPlaceholderText(tr("Untitled gesture"));
     m_name->setAccessibleName(tr("Name"));
     m_name->installEventFilter(this);
+    FieldUndo::setRecorded(*m_name, true);
     connect(m_name, &QLineEdit::textEdited, this, [this](const QString& text) { m_model.setName(text.toStdString()); });
     connect(m_switch, &Switch::clicked, this, &RuleHeader::turn);
     makeMenu();
@@ -107,12 +109,13 @@ void RuleHeader::focusName() {
 
 void RuleHeader::setBackButton(QWidget* button) {
     m_line->insertWidget(0, button);
+    button->lower();  // first for screen readers, too
     setTabOrder(button, m_name);
 }
 
 void RuleHeader::follow() {
     const RuleEditorContent& content = m_model.content().value();
-    // A name that is being typed stays, with its cursor and its own undo.
+    // A name that is being typed stays, with its cursor.
     if (!(m_name->hasFocus() && m_name->isUndoAvailable()))
         showName();
     m_state->setText(content.rule.isEnabled ? tr("On") : tr("Off"));

@@ -96,13 +96,13 @@ bool RuleListModel::canMoveDown(const Uuid& id) const {
 }
 
 void RuleListModel::moveUp(const Uuid& id) {
-    if (canMoveUp(id))
-        move({id}, *placeOf(id) - 1);
+    if (const auto place = placeOf(id); place && canMoveUp(id))
+        move({id}, *place - 1);
 }
 
 void RuleListModel::moveDown(const Uuid& id) {
-    if (canMoveDown(id))
-        move({id}, *placeOf(id) + 2);
+    if (const auto place = placeOf(id); place && canMoveDown(id))
+        move({id}, *place + 2);
 }
 
 void RuleListModel::moveMarkedUp() {

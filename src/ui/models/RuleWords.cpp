@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "rules/ActionTarget.h"
 #include "rules/GestureTypeChoice.h"
@@ -43,10 +44,35 @@ constexpr std::array<std::string_view, 9> kPatterns{TRANSLATABLE("line up"),
                                                     TRANSLATABLE("clockwise circle"),
                                                     TRANSLATABLE("counterclockwise circle")};
 
+/// Line ends outside ASCII: next line, line separator, paragraph separator.
+constexpr std::array<std::string_view, 3> kLineEnds{"\u0085", "\u2028", "\u2029"};
+/// What cannot be seen, and what lets words look other than they are. Joiners stay: emoji and many scripts need them.
+constexpr std::array<std::string_view, 17> kUnseen{"\u00AD", "\u200B", "\u200E", "\u200F", "\u202A", "\u202B",
+                                                   "\u202C", "\u202D", "\u202E", "\u2060", "\u2061", "\u2062",
+                                                   "\u2066", "\u2067", "\u2068", "\u2069", "\uFEFF"};
+
+/// With single spaces in place of white space.
 std::string onOneLine(std::string_view original) {
-    std::string text(original);
-    std::ranges::replace_if(
-        text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, ' ');
+    std::string text;
+    bool isBetween = false;
+    while (!original.empty()) {
+        const auto startsIt = [&](std::string_view mark) { return original.starts_with(mark); };
+        const auto first = static_cast<unsigned char>(original.front());
+        std::size_t length = 1;
+        if (first <= ' ' || first == 0x7F) {
+            isBetween = true;
+        } else if (const auto end = std::ranges::find_if(kLineEnds, startsIt); end != kLineEnds.end()) {
+            isBetween = true;
+            length = end->size();
+        } else if (const auto unseen = std::ranges::find_if(kUnseen, startsIt); unseen != kUnseen.end()) {
+            length = unseen->size();
+        } else {
+            if (std::exchange(isBetween, false) && !text.empty())
+                text += ' ';
+            text += original.front();
+        }
+        original.remove_prefix(length);
+    }
     return text;
 }
 
@@ -88,7 +114,8 @@ std::string capitalized(std::string text) {
 }
 
 std::string displayName(const GestureRule& rule) {
-    return rule.name.empty() ? translated("Untitled gesture") : rule.name;
+    std::string name = onOneLine(rule.name);
+    return name.empty() ? translated("Untitled gesture") : name;
 }
 
 std::string shortGesture(const GestureRule& rule) {

@@ -13,7 +13,7 @@ namespace kinesta {
 inline constexpr std::string_view kClashReason =
     TRANSLATABLE("Another enabled rule uses this gesture. Only the first matching rule will run.");
 
-/// The name of a rule as it is shown: "Untitled gesture" if it has none.
+/// The name of a rule on one line, without characters that cannot be seen: "Untitled gesture" if nothing is left.
 std::string displayName(const GestureRule& rule);
 
 /// With a first letter a–z as a capital.

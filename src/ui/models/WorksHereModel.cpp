@@ -121,6 +121,13 @@ std::optional<FindingRow> WorksHereModel::rowOf(const SystemFinding& finding) co
         row.tag.clear();
         return row;
     }
+    // It may have gone since, or Kinesta reads something else than the report knows.
+    if (finding.subject == FindingSubject::touchpad && finding.works &&
+        m_parts.service.status().value().kind == TrackpadContactProviderStatus::Kind::unavailable) {
+        row.mark = Mark::missing;
+        row.why = m_parts.service.status().value().message;
+        return row;
+    }
     // The settings are in this window.
     if (finding.isSetting) {
         row.button = Button::openSettings;

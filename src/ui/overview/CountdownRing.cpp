@@ -25,6 +25,7 @@ void CountdownRing::setSeconds(std::optional<int> seconds) {
     if (seconds == m_seconds)
         return;
     m_seconds = seconds;
+    setAccessibleName(!seconds ? QString() : *seconds == 1 ? tr("1 second left") : tr("%1 seconds left").arg(*seconds));
     update();
 }
 
@@ -38,7 +39,7 @@ void CountdownRing::paintEvent(QPaintEvent* /*event*/) {
     // As in the design, the ring ends 3 before the edge.
     const double inset = 3 * Unit::pixels();
     const QRectF ring = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
-    painter.setPen(QPen(asQColor(theme.border), stroke));
+    painter.setPen(QPen(asQColor(theme.lip), stroke));
     painter.drawEllipse(ring);
     if (!m_seconds)
         return;

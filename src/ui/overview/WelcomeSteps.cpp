@@ -16,7 +16,6 @@ constexpr double kHeight = 52;
 WelcomeSteps::WelcomeSteps(const WindowParts& parts, WindowCommands& commands, QWidget* parent)
     : Card(parent),
       m_commands(commands),
-      m_numbers{new StepNumber(1), new StepNumber(2), new StepNumber(3)},
       m_read(new MarkedRow(m_numbers[0], kHeight)),
       m_allow(new QPushButton(tr("Allow…"))),
       m_try(new QPushButton(tr("Try a gesture"))) {

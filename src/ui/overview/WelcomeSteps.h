@@ -26,7 +26,7 @@ class WelcomeSteps final : public Card {
     void showReading(const FindingRow& touchpad);
 
     WindowCommands& m_commands;
-    StepNumber* m_numbers[3];
+    StepNumber* m_numbers[3]{new StepNumber(1), new StepNumber(2), new StepNumber(3)};
     MarkedRow* m_read;
     TerminalCommand* m_command = nullptr;
     QPushButton* m_allow;

@@ -32,7 +32,10 @@ class SettingsPage final : public Page {
     /// Reads what cannot be observed: the stored settings have changed behind the page.
     void refresh() { m_model.refresh(); }
 
-    void setBackButton(QWidget* button) override { m_heading->insertWidget(0, button); }
+    void setBackButton(QWidget* button) override {
+        m_heading->insertWidget(0, button);
+        button->lower();  // first for screen readers, too
+    }
 
   protected:
     void showEvent(QShowEvent* event) override;

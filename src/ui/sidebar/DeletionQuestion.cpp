@@ -34,7 +34,7 @@ void DeletionQuestion::make() {
     m_box->setTextFormat(Qt::PlainText);
     m_box->setInformativeText(QString::fromStdString(GestureDeletionRequest::message()));
     QPushButton* cancel = m_box->addButton(tr("Cancel"), QMessageBox::RejectRole);
-    m_delete = m_box->addButton(tr("Delete"), QMessageBox::DestructiveRole);
+    m_delete = m_box->addButton(tr("Delete"), QMessageBox::AcceptRole);
     m_delete->setProperty("destructive", true);
     m_delete->setAutoDefault(false);
     m_box->setDefaultButton(cancel);

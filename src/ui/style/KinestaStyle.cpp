@@ -63,10 +63,11 @@ void KinestaStyle::polish(QWidget* widget) {
     if ((qobject_cast<QMenu*>(widget) != nullptr || StockWidgets::isComboList(widget) || StockWidgets::isTip(widget)) &&
         m_blends())
         widget->setAttribute(Qt::WA_TranslucentBackground);
-    if (widget->objectName() == QLatin1String("qt_msgbox_label")) {
+    if (widget->objectName() == QLatin1String("qt_msgbox_label"))
         widget->setFont(Unit::font(1, QFont::DemiBold));
+    // Its words wrap. The question above them does so only if no width is set.
+    if (widget->objectName() == QLatin1String("qt_msgbox_informativelabel"))
         widget->setMinimumWidth(Unit::of(kQuestionWidth));
-    }
     if (isFollowed(widget) || widget->isWindow() || qobject_cast<QLineEdit*>(widget) != nullptr)
         widget->installEventFilter(this);
 }

@@ -7,6 +7,11 @@
 #include "platform/qt/PicturePainter.h"
 
 namespace kinesta::Shapes {
+namespace {
+
+constexpr char16_t kFirstStrongIsolate = 0x2068;
+
+}  // namespace
 
 bool has(const QWidget* widget, const char* property) {
     return widget != nullptr && widget->property(property).toBool();
@@ -63,7 +68,8 @@ void text(QPainter& painter, const QRect& box, Qt::Alignment align, const QStrin
     const QFontMetrics metrics = painter.fontMetrics();
     const bool fits = metrics.size(Qt::TextShowMnemonic, text).width() <= box.width();
     const QString fitting = fits ? text : metrics.elidedText(text, Qt::ElideRight, box.width(), Qt::TextShowMnemonic);
-    painter.drawText(box, flags, fitting);
+    // Words keep their own direction, also of the ellipsis at their end.
+    painter.drawText(box, flags, QChar(kFirstStrongIsolate) + fitting);
 }
 
 QRect placed(const QStyleOption& option, const QRect& part) {

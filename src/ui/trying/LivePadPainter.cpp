@@ -233,7 +233,8 @@ void LivePadPainter::paintPill(QPainter& painter, const QRectF& box, const QStri
     painter.drawRoundedRect(box, box.height() / 2, box.height() / 2);
     painter.setFont(pillFont());
     painter.setPen(ink);
-    painter.drawText(box, Qt::AlignCenter, text);
+    constexpr char16_t kFirstStrongIsolate = 0x2068;  // words keep their own direction
+    painter.drawText(box, Qt::AlignCenter, QChar(kFirstStrongIsolate) + text);
 }
 
 QRectF LivePadPainter::bounds(const LiveTouch& touch) const {

@@ -1,7 +1,9 @@
 #include "ui/widgets/AccessibleParts.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QLineEdit>
 
 #include "ui/widgets/Announcer.h"
 #include "ui/widgets/ChoiceGroup.h"
@@ -10,6 +12,39 @@
 
 namespace kinesta::AccessibleParts {
 namespace {
+
+/// The frame of a list has the field in which an entry is typed as a child, too: lists of Qt have their entries alone.
+class FrameOfList final : public QAccessibleWidget {
+  public:
+    explicit FrameOfList(QWidget* frame) : QAccessibleWidget(frame, QAccessible::Grouping) {}
+
+    int childCount() const override { return QAccessibleWidget::childCount() + static_cast<int>(fields().size()); }
+
+    QAccessibleInterface* child(int index) const override {
+        const int usual = QAccessibleWidget::childCount();
+        const auto open = fields();
+        const int field = index - usual;
+        if (field < 0 || field >= open.size())
+            return QAccessibleWidget::child(index);
+        return QAccessible::queryAccessibleInterface(open.at(field));
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        const auto open = fields();
+        for (int i = 0; child != nullptr && i < open.size(); ++i)
+            if (open.at(i) == child->object())
+                return QAccessibleWidget::childCount() + i;
+        return QAccessibleWidget::indexOfChild(child);
+    }
+
+  private:
+    QList<QLineEdit*> fields() const {
+        QList<QLineEdit*> open;
+        for (const auto* list : widget()->findChildren<QAbstractItemView*>())
+            open += list->viewport()->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+        return open;
+    }
+};
 
 /// Asked for each class of an object, the most derived first.
 QAccessibleInterface* make(const QString& name, QObject* object) {
@@ -22,6 +57,10 @@ QAccessibleInterface* make(const QString& name, QObject* object) {
         return new QAccessibleWidget(static_cast<Notice*>(object), QAccessible::AlertMessage);
     if (is(Announcer::staticMetaObject))
         return new QAccessibleWidget(static_cast<Announcer*>(object), QAccessible::Notification);
+    if (name == QLatin1String("kinesta::CountdownRing"))
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
+    if (name == QLatin1String("kinesta::FieldFrame"))
+        return new FrameOfList(static_cast<QWidget*>(object));
     // Otherwise it would be a mere container.
     if (name == QLatin1String("kinesta::KinestaWindow"))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);

@@ -23,6 +23,10 @@ Card::Card(QWidget* parent) : QWidget(parent), m_column(new QVBoxLayout(this)) {
 
 void Card::insert(int index, QWidget* part) {
     m_column->insertWidget(index, part);
+    // Screen readers go through the parts in the order of their stacking.
+    for (int i = index + 1; i < m_column->count(); ++i)
+        if (QWidget* below = m_column->itemAt(i)->widget())
+            below->raise();
     part->installEventFilter(this);
 }
 

@@ -15,6 +15,11 @@ namespace {
 /// So long the pointer rests on a choice before it is meant.
 constexpr std::chrono::milliseconds kPointing{300};
 
+/// What people read on it, or hear of it.
+QString wordOf(const QAbstractButton& button) {
+    return button.text().isEmpty() ? button.accessibleName() : button.text();
+}
+
 }  // namespace
 
 ChoiceGroup::ChoiceGroup(const QString& name, QWidget* parent) : QWidget(parent) {
@@ -97,9 +102,11 @@ bool ChoiceGroup::takeKey(std::size_t from, const QKeyEvent& event) {
         return false;
     std::optional<std::size_t> target = next(from, event.key());
     const QString letter = event.text();
-    for (std::size_t i = 1; !target && !letter.trimmed().isEmpty() && i <= m_buttons.size(); ++i) {
-        const std::size_t index = (from + i) % m_buttons.size();
-        if (m_buttons[index]->text().startsWith(letter, Qt::CaseInsensitive))
+    // The focus may be on a button that is not chosen: then it is the first that the letter can mean.
+    const std::size_t first = m_buttons[from]->isChecked() ? from + 1 : from;
+    for (std::size_t i = 0; !target && !letter.trimmed().isEmpty() && i < m_buttons.size(); ++i) {
+        const std::size_t index = (first + i) % m_buttons.size();
+        if (wordOf(*m_buttons[index]).startsWith(letter, Qt::CaseInsensitive))
             target = index;
     }
     if (!target)

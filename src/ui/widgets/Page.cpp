@@ -26,6 +26,8 @@ Page::Page(QWidget* parent) : QScrollArea(parent), m_ground(new QWidget), m_colu
     setFocusPolicy(Qt::NoFocus);
     m_column->setSpacing(0);
     m_column->addStretch(1);
+    // Nothing scrolls sideways: parts get the width that there is, and arrange themselves in it.
+    m_ground->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setWidget(m_ground);
     measure();
     // A scroll area follows Tab only inside itself, and not the focus that comes from the sidebar or from a key of the
@@ -54,6 +56,7 @@ void Page::addHeading(const QString& text, QWidget* atEnd) {
 void Page::setBackButton(QWidget* button) {
     m_belowBack = new QSpacerItem(0, 0);
     m_column->insertWidget(0, button, 0, Qt::AlignLeading);
+    button->lower();  // first for screen readers, too
     m_column->insertItem(1, m_belowBack);
     button->installEventFilter(this);
 }

@@ -17,6 +17,8 @@ constexpr double kRadius = 8;
 constexpr double kInset = 2;
 constexpr double kHeight = 28;
 constexpr double kPadding = 8;
+/// "250 ms" keeps its order in a mirrored window.
+constexpr char16_t kFirstStrongIsolate = 0x2068;
 
 class Segment final : public QAbstractButton {
   public:
@@ -62,7 +64,7 @@ class Segment final : public QAbstractButton {
         painter.setFont(Unit::font(1, isChecked() ? QFont::DemiBold : QFont::Medium));
         const Rgb words = !isEnabled() ? theme.line : isChecked() ? theme.accent : theme.text;
         painter.setPen(asQColor(words));
-        painter.drawText(rect(), Qt::AlignCenter, text());
+        painter.drawText(rect(), Qt::AlignCenter, QChar(kFirstStrongIsolate) + text());
         m_ring.paint(painter, box.adjusted(3, 3, -3, -3), radius - 3);
     }
 

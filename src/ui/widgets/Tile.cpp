@@ -62,8 +62,9 @@ QFont Tile::wordFont(bool isChosen) const {
 
 bool Tile::isPictureAbove() const { return m_form != Form::flat || (m_isAbove && !text().isEmpty()); }
 
-void Tile::setPictureAbove(bool isAbove) {
+void Tile::setPictureAbove(bool isAbove, int lines) {
     m_isAbove = isAbove;
+    m_lines = lines;
     updateGeometry();
     update();
 }
@@ -73,18 +74,25 @@ int Tile::widthBeside() const {
     return pictureSize().width() + words + 2 * Unit::of(kGap);
 }
 
+int Tile::linesIn(int width) const {
+    // The bold words, so that choosing moves nothing.
+    const QFontMetrics metrics(wordFont(true));
+    const QRect room(0, 0, width - 2 * side(), QWIDGETSIZE_MAX);
+    return std::max(1, metrics.boundingRect(room, Qt::TextWordWrap, text()).height() / metrics.lineSpacing());
+}
+
 QSize Tile::minimumSizeHint() const {
     const QFontMetrics metrics(wordFont(true));
     const QSize picture = pictureSize();
     // Words break between lines, never inside.
     int widest = picture.width();
-    const auto words = m_form == Form::card ? QStringList(text()) : text().split(QLatin1Char(' '));
+    const QStringList words = text().split(QLatin1Char(' '));
     for (const QString& word : words)
         widest = std::max(widest, metrics.horizontalAdvance(word));
     const int width = widest + 2 * side();
     if (!isPictureAbove())
         return {width, std::max(Unit::of(kFlatHeight), picture.height() + Unit::of(kGap))};
-    const int lines = m_form == Form::tall ? 2 : 1;
+    const int lines = std::max(m_lines, m_form == Form::tall ? 2 : 1);
     const int above = Unit::of(kTop) + picture.height() + Unit::of(kSmallGap);
     const int height = above + lines * metrics.lineSpacing() + Unit::of(kSide);
     return {width, m_form == Form::tall ? std::max(Unit::of(kTallHeight), height) : height};
@@ -92,8 +100,10 @@ QSize Tile::minimumSizeHint() const {
 
 QSize Tile::sizeHint() const {
     const QSize smallest = minimumSizeHint();
-    if (m_form == Form::card)
-        return {std::max(Unit::of(kCardWidth), smallest.width()), smallest.height()};
+    if (m_form == Form::card) {
+        const int word = QFontMetrics(wordFont(true)).horizontalAdvance(text()) + 2 * side();
+        return {std::max({Unit::of(kCardWidth), smallest.width(), word}), smallest.height()};
+    }
     return m_form == Form::tall ? smallest : QSize(widthBeside(), smallest.height());
 }
 

@@ -18,7 +18,7 @@ class Tile final : public QAbstractButton {
     using Paint = std::function<void(QPainter&, QPointF, const AppTheme&)>;
 
     enum class Form {
-        /// The picture above two lines of small words.
+        /// The picture above at least two lines of small words.
         tall,
         /// The picture above one word, as wide as a card of its own.
         card,
@@ -37,8 +37,10 @@ class Tile final : public QAbstractButton {
 
     /// How wide a flat tile must be for its picture beside the word.
     int widthBeside() const;
-    /// Puts the picture of a flat tile above the word.
-    void setPictureAbove(bool isAbove);
+    /// Lines of words below the picture of a tile of this width.
+    int linesIn(int width) const;
+    /// Room for so many lines below the picture, which a flat tile has beside its word otherwise.
+    void setPictureAbove(bool isAbove, int lines);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -57,6 +59,7 @@ class Tile final : public QAbstractButton {
     QSizeF m_picture;
     Paint m_paint;
     bool m_isAbove = false;
+    int m_lines = 1;
     FocusRing m_ring;
 };
 

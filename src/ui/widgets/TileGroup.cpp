@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <algorithm>
+#include <utility>
 
 #include "ui/widgets/Unit.h"
 
@@ -54,7 +55,7 @@ QSize TileGroup::sizeHint() const {
     return {m_columns * widest + (m_columns - 1) * m_grid->spacing(), m_grid->sizeHint().height()};
 }
 
-QSize TileGroup::minimumSizeHint() const { return {widthFor((m_columns + 1) / 2), m_grid->minimumSize().height()}; }
+QSize TileGroup::minimumSizeHint() const { return {widthFor(1), m_grid->minimumSize().height()}; }
 
 void TileGroup::changeEvent(QEvent* event) {
     ChoiceGroup::changeEvent(event);
@@ -70,18 +71,23 @@ void TileGroup::resizeEvent(QResizeEvent* event) {
 }
 
 void TileGroup::fit() {
-    const int columns = width() < widthFor(m_columns) ? (m_columns + 1) / 2 : m_columns;
+    int columns = m_columns;
+    while (columns > 1 && width() < widthFor(columns))
+        columns = (columns + 1) / 2;
     if (columns != m_arranged)
         arrange(columns);
     const int each = (width() - (columns - 1) * m_grid->spacing()) / columns;
     bool isAbove = false;
-    for (std::size_t i = 0; i < buttons().size(); ++i)
+    int lines = 1;
+    for (std::size_t i = 0; i < buttons().size(); ++i) {
         isAbove = isAbove || tile(i)->widthBeside() > each;
-    if (isAbove == m_isAbove)
+        lines = std::max(lines, tile(i)->linesIn(each));
+    }
+    if (std::exchange(m_isAbove, isAbove) == isAbove && m_lines == lines)
         return;
-    m_isAbove = isAbove;
+    m_lines = lines;
     for (std::size_t i = 0; i < buttons().size(); ++i)
-        tile(i)->setPictureAbove(isAbove);
+        tile(i)->setPictureAbove(isAbove, lines);
     updateGeometry();
 }
 

@@ -13,7 +13,7 @@ class TileGroup final : public ChoiceGroup {
     Q_OBJECT
 
   public:
-    /// `columns` in a row; half as many as soon as a tile would be narrower than its word.
+    /// `columns` in a row; half as many, and half of that, as soon as a tile would be narrower than its longest word.
     TileGroup(const QString& name, int columns, QWidget* parent = nullptr);
 
     void addTile(int value, Tile* tile);
@@ -34,6 +34,7 @@ class TileGroup final : public ChoiceGroup {
     int m_columns;
     int m_arranged;
     bool m_isAbove = false;
+    int m_lines = 1;
     QGridLayout* m_grid;
 };
 

@@ -24,9 +24,9 @@
 #include "ui/sidebar/Sidebar.h"
 #include "ui/trying/TestSheet.h"
 #include "ui/widgets/AccessibleParts.h"
+#include "ui/widgets/FieldUndo.h"
 #include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
-#include "ui/window/FieldUndo.h"
 #include "ui/window/Panes.h"
 #include "ui/window/ResetQuestion.h"
 #include "ui/window/RuleFiles.h"
@@ -126,7 +126,7 @@ void KinestaWindow::addKeys() {
     close->setShortcut(QKeySequence::Close);
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
-    qApp->installEventFilter(new FieldUndo(this));
+    qApp->installEventFilter(new FieldUndo([this] { return m_history.possibilities().value().redo; }, this));
 }
 
 void KinestaWindow::addKey(const QKeySequence& keys, void (KinestaWindow::*act)()) {
@@ -237,14 +237,29 @@ void KinestaWindow::copyReport() {
     m_parts.report.request([this, still = QPointer<KinestaWindow>(this)](const SystemReport::Result& result) {
         if (!still)
             return;
-        if (result.problem.empty())
+        // Without findings it still has the versions.
+        if (!result.text.empty())
             QGuiApplication::clipboard()->setText(QString::fromStdString(result.text));
-        showToast(result.problem.empty() ? tr("Report copied") : QString::fromStdString(result.problem), {}, {});
+        const QString problem = QString::fromStdString(result.problem);
+        if (problem.isEmpty())
+            showToast(tr("Report copied"), {}, {});
+        else
+            showToast(result.text.empty() ? problem : tr("Only the versions were copied. %1").arg(problem), {}, {});
     });
 }
 
 void KinestaWindow::showToast(const QString& text, const QString& action, std::function<void()> onAction) {
     m_toast->tell(text, action, std::move(onAction));
+}
+
+void KinestaWindow::undo() {
+    FieldUndo::forgetSteps(QApplication::focusWidget());
+    showChanged(m_history.undo());
+}
+
+void KinestaWindow::redo() {
+    FieldUndo::forgetSteps(QApplication::focusWidget());
+    showChanged(m_history.redo());
 }
 
 void KinestaWindow::showChanged(const std::optional<Uuid>& rule) {

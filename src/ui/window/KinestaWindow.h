@@ -64,8 +64,8 @@ class KinestaWindow final : public QWidget, public WindowCommands {
   private:
     void addKeys();
     void addKey(const QKeySequence& keys, void (KinestaWindow::*act)());
-    void undo() { showChanged(m_history.undo()); }
-    void redo() { showChanged(m_history.redo()); }
+    void undo();
+    void redo();
     void showChanged(const std::optional<Uuid>& rule);
     void duplicate();
     void filter();

@@ -27,7 +27,7 @@ void ResetQuestion::ask() {
     m_box->setText(tr("Put all settings back as they were at first?"));
     m_box->setInformativeText(tr("Rules and the start at login stay. This can be undone."));
     QPushButton* cancel = m_box->addButton(tr("Cancel"), QMessageBox::RejectRole);
-    QPushButton* confirm = m_box->addButton(tr("Reset"), QMessageBox::DestructiveRole);
+    QPushButton* confirm = m_box->addButton(tr("Reset"), QMessageBox::AcceptRole);
     confirm->setProperty("destructive", true);
     confirm->setAutoDefault(false);
     m_box->setDefaultButton(cancel);

@@ -48,7 +48,7 @@ void RuleFiles::importFile(const QString& file) {
     const QFileInfo info(file);
     // Reading a pipe would hang the window until somebody writes to it.
     auto rules = info.exists() && !info.isFile() && !info.isDir()
-                     ? Error{path + ": this is a pipe or a device, not a rule file"}
+                     ? Error{path + ": " + tr("this is a pipe or a device, not a rule file").toStdString()}
                      : readRuleFile(path, none);
     std::string problem;
     ImportedRules imported;

@@ -92,6 +92,8 @@ TEST_F(Opening, AsksThePortalWhereThereIsNoXdgOpen) {
     EXPECT_EQ(actions.lastMessage(),
               (folder.path() / "missing").string() +
                   " could not be opened: it is missing, or nothing here opens files; install xdg-utils.");
+    workspace.openURL("http://kinesta.test/");
+    EXPECT_EQ(actions.lastMessage(), "Nothing here opens addresses; install xdg-utils.");
     BusServices services;
     workspace.openURL("http://kinesta.test/");
     workspace.openFile(file);

@@ -41,12 +41,11 @@ this is not an axis of the form "A: code minimum maximum …" => A: 35 0 | A: 35
 )");
     expectErrors(kSlots, "\n", "8: ", R"(
 this is not an event of the form "E: time type code value" => E: 1 3
-the time inf is not within 9.2e9 seconds => E: inf 0 0 0
+the time 1e+300 is not within 9.2e9 seconds => E: 1e+300 0 0 0
 )");
     expectErrors(kSlots + kTouch, "\n", "14: ", R"(
 this is not an event of the form "E: time type code value" => E: nil 0 0 0 | E: 1 10000 0 0 | E: 1 0 0 2147483648
-this is not an event of the form "E: time type code value" => E: 1 0 0 0 0 | A: 35 0 1
-the time nan is not within 9.2e9 seconds => E: nan 0 0 0
+this is not an event of the form "E: time type code value" => E: 1 0 0 0 0 | A: 35 0 1 | E: nan 0 0 0
 the time 9200000001 is not within 9.2e9 seconds => E: 9200000001 0 0 0
 the time 0.25 is before 0.5, that of the event before => E: 0.25 0 0 0
 )");

@@ -179,7 +179,7 @@ TEST(Recordings, EndWithTheirStreamAndAtWhatIsTooLong) {
                                             {"version: 1\nname: ", '[', "2: values are nested too deeply"}}) {
         std::istringstream stream(text + std::string(3 * kLimit, rest));
         EXPECT_EQ(read(stream).error, "x:" + error) << text;
-        EXPECT_TRUE(stream && stream.tellg() - std::ssize(text) <= std::streamoff{2 * kLimit}) << text;
+        EXPECT_TRUE(stream && std::streamoff{stream.tellg()} - std::ssize(text) <= std::streamoff{2 * kLimit}) << text;
     }
 }
 

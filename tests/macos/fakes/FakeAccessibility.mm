@@ -103,8 +103,9 @@ AXError AXUIElementSetMessagingTimeout(AXUIElementRef element, float seconds) {
 }
 AXError AXUIElementCopyAttributeValue(AXUIElementRef element, CFStringRef attribute, CFTypeRef* value) {
     @autoreleasepool {
-        *value = makeValue(behind(element).copyAttribute(textOf(attribute)));
-        if (*value || isToFail("AXUIElementCopyAttributeValue"))
+        const bool isNull = isToFail("AXUIElementCopyAttributeValue");
+        *value = isNull ? nullptr : makeValue(behind(element).copyAttribute(textOf(attribute)));
+        if (*value || isNull)
             return kAXErrorSuccess;
         *value = kCFBooleanTrue;  // means nothing beside an error, and is not the caller's
         return kAXErrorCannotComplete;

@@ -1,5 +1,7 @@
 #include <AppKit/NSApplication.h>
 
+#include <cstdlib>
+
 #include "Fakes.h"
 #include "Registrations.h"
 
@@ -40,6 +42,8 @@ static NSApplication* theApplication() {
 - (void)activateIgnoringOtherApps:(BOOL)ignoringOthers {
 }
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender {
+    if (!action)
+        std::abort();
     return target != nil;
 }
 - (void)postEvent:(NSEvent*)event atStart:(BOOL)atStart {

@@ -110,20 +110,30 @@ namespace kinesta::fakes {
 
 NSStatusItem* statusItem() { return statusItems().at(0); }
 
-void click(NSControl* control) {
+/// The target is not kept while it acts.
+static void send(id sender, SEL action, id (^target)()) {
     @autoreleasepool {
-        if (id const target = control.target)
-            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(target, control.action, control);
+        __unsafe_unretained id receiver = nil;
+        @autoreleasepool {
+            receiver = target();
+        }
+        if (receiver)
+            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(receiver, action, sender);
     }
+}
+
+void click(NSControl* control) {
+    send(control, control.action, ^{
+      return control.target;
+    });
 }
 
 void whileMenuIsOpen(std::function<void()> use) { menuUse() = std::move(use); }
 
 void choose(NSMenuItem* item) {
-    @autoreleasepool {
-        if (id const target = item.target)
-            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(target, item.action, item);
-    }
+    send(item, item.action, ^{
+      return item.target;
+    });
 }
 
 static const OnReset statusBar([] {

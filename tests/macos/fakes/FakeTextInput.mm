@@ -54,14 +54,14 @@ OSStatus UCKeyTranslate(const UCKeyboardLayout* layout, UInt16 key, UInt16 actio
         line += " " + std::to_string(value);
     RECORD_CALL(line);
     const auto typed = reinterpret_cast<const Characters*>(layout)->find(key);
-    if (isToFail(line) || typed == keys->end())
+    if (typed == keys->end())
         return -50;
     *deadKeys = typed->second.empty() ? 7 : 0;
     *count = typed->second.size();
     if (*count > room)
         return -25340;
     std::copy(typed->second.begin(), typed->second.end(), buffer);
-    return 0;
+    return isToFail(line) ? -50 : 0;
 }
 
 }  // extern "C"

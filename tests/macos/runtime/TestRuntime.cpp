@@ -711,7 +711,11 @@ void _Block_object_dispose(const void* value, int flags) {
 
 // --- C objects, which may be objects as well
 
-const void* CFRetain(const void* object) { return objc_retain(static_cast<Object*>(const_cast<void*>(object))); }
+const void* CFRetain(const void* object) {
+    if (!object)
+        fail("CFRetain of null");
+    return objc_retain(static_cast<Object*>(const_cast<void*>(object)));
+}
 void CFRelease(const void* object) {
     if (!object)
         fail("CFRelease of null");

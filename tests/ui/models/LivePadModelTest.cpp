@@ -20,7 +20,7 @@ struct LivePad : ::testing::Test {
         constexpr std::array kForms{"moving", "still", "palm", "lifted"};
         std::ostringstream text;
         for (const LiveTouch& touch : model.touches(now)) {
-            text << (text.view().empty() ? "" : ", ") << touch.id << ' '
+            text << (text.tellp() == 0 ? "" : ", ") << touch.id << ' '
                  << kForms.at(static_cast<std::size_t>(touch.form));
             if (touch.trail.size() > 1)
                 text << ' ' << touch.trail.size();

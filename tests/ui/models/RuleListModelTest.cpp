@@ -116,5 +116,12 @@ TEST(RuleListModel, FiltersLongLists) {
     EXPECT_EQ(f.model.rows().value().size(), 8);  // nothing stays hidden by a filter that is no longer offered
 }
 
+TEST(RuleListModel, ShowsNamesOnOneLineAsTheyRead) {
+    Fixture list({named("a\r\n\tb \u2028 c\u202Ed", makeRule(GestureKind::tipTapLeft)),
+                  named("\u200B\uFEFF \n", makeRule(GestureKind::tipTapRight)),
+                  named("\u00A0é👩\u200D🔬 ", makeRule(GestureKind::singleTap, 3))});
+    EXPECT_EQ(list.text(), "a b cd Untitled gesture \u00A0é👩\u200D🔬");
+}
+
 }  // namespace
 }  // namespace kinesta::testing

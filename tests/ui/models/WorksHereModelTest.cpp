@@ -44,6 +44,14 @@ TEST(WorksHereModel, AsksWhenTheWindowComesBackAndBelievesTheServiceAboutTheTouc
     report.waiting[2](noTouchpad);
     EXPECT_EQ(model->content().value().state, WorksHereContent::State::missing);
     EXPECT_EQ(model->content().value().rows.at(0).tag, "1 rule needs this");
+
+    rig.provider.statusAfterStart = TrackpadContactProviderStatus::unavailable("The recording has ended.");
+    service.start();
+    SystemReport::Result touchpad = noTouchpad;
+    touchpad.findings[0].works = true;
+    report.waiting.back()(touchpad);
+    EXPECT_EQ(model->content().value().rows.at(0).why, "The recording has ended.");
+    EXPECT_EQ(model->content().value().state, WorksHereContent::State::missing);
     model.reset();
     report.waiting[1](noTouchpad);
 }

@@ -116,7 +116,7 @@ KeyRecording::Held LinuxKeyRecording::read(HeldModifiers held) const {
         return {*modifiers, words(*modifiers), ""};
     const auto expressible = static_cast<HeldModifiers>(held & ~kOtherModifier);
     // Super alone is shown as what it is.
-    const auto shown = *storedModifiers(expressible, CommandKey::super);
+    const auto shown = storedModifiers(expressible, CommandKey::super).value_or(ShortcutModifiers());
     KeyWords names = words(shown);
     names.command = translated("Super");
     return {shown, names,

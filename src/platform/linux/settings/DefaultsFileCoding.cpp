@@ -7,6 +7,8 @@
 #include <utility>
 #include <variant>
 
+#include "support/Translation.h"
+
 namespace kinesta {
 namespace {
 
@@ -57,7 +59,7 @@ std::optional<StoredValue> decodeValue(const json& value) {
 Result<json> parse(std::string_view content) {
     // The parser stops at a zero byte and ignores the rest. A crash of the system can leave a file full of zero bytes.
     if (content.find('\0') != std::string_view::npos)
-        return Error{"it holds zero bytes"};
+        return Error{translated("it holds zero bytes")};
     bool isTooDeep = false;
     const auto limitDepth = [&](int depth, json::parse_event_t, const json&) {
         isTooDeep = isTooDeep || depth > kMostNesting;
@@ -66,15 +68,16 @@ Result<json> parse(std::string_view content) {
     try {
         json document = json::parse(content, limitDepth);
         if (isTooDeep)
-            return Error{"it is nested too deep"};
+            return Error{translated("it is nested too deep")};
         if (!document.is_object())
-            return Error{"it is not a JSON object"};
+            return Error{translated("it is not a JSON object")};
         return document;
     } catch (const json::parse_error& error) {
         const auto before = content.substr(0, error.byte);
-        return Error{"line " + std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + " is not JSON"};
+        return Error{
+            translated("line %1 is not JSON", {std::to_string(1 + std::count(before.begin(), before.end(), '\n'))})};
     } catch (const json::exception&) {
-        return Error{"it holds a number that is too large"};
+        return Error{translated("it holds a number that is too large")};
     }
 }
 
@@ -101,7 +104,7 @@ Result<StoredValues> decodeDefaults(std::string_view content) {
     for (const auto& [key, value] : document->items()) {
         auto decoded = decodeValue(value);
         if (!decoded)
-            return Error{"the value of \"" + key + "\" has no known form"};
+            return Error{translated("the value of %1 has no known form", {"\"" + key + "\""})};
         values.emplace(key, std::move(*decoded));
     }
     return values;

@@ -13,7 +13,7 @@ std::optional<Outcome> DeferredCommit::join(std::string_view content) {
     const std::lock_guard guard(m_mutex);  // the other thread holds it for moments only
     if (!m_isRunning)
         return std::nullopt;
-    const Outcome staged = m_file->stage(content);
+    Outcome staged = m_file->stage(content);
     m_hasMore = m_hasMore || staged;
     return staged;
 }

@@ -11,6 +11,7 @@
 #include <climits>
 
 #include "support/SystemError.h"
+#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
@@ -141,7 +142,7 @@ Result<FileDescriptor> DurableFile::lock() const {
     static_cast<void>(waitForLock(turn, deadline));
     const int reason = waitForLock(file, deadline);
     if (reason == EWOULDBLOCK)
-        return Error{m_path + ": another program has been writing it for too long"};
+        return Error{m_path + ": " + translated("another program has been writing it for too long")};
     if (reason != 0)
         return failure(path, reason);
     return file;

@@ -203,10 +203,16 @@ Outcome FileUserDefaults::merge(const std::optional<std::string>& content) {
 }
 
 void FileUserDefaults::settle(const Outcome& outcome, std::string_view consequence) {
+    const std::string problem = outcome ? "" : translated(consequence, {outcome.error().message});
     if (outcome)
         m_lastProblem.clear();
     else
-        report(translated(consequence, {outcome.error().message}));
+        report(problem);
+    if (outcome && !m_unsaved.empty())
+        return;  // only reading went well
+    const std::string solved = std::exchange(m_unsolved, problem);
+    if (!solved.empty() && solved != problem && m_solvedHandler)
+        m_solvedHandler(solved);
 }
 
 void FileUserDefaults::report(const std::string& problem) {

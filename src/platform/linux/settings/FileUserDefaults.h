@@ -29,6 +29,9 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     /// Loads the file at `path`; it need not exist, nor its folder.
     FileUserDefaults(std::string path, ProblemHandler problemHandler);
 
+    /// `handler` receives a problem again as soon as it is over.
+    void onProblemSolved(ProblemHandler handler) { m_solvedHandler = std::move(handler); }
+
     /// From now on a change does not wait for the disk: it survives the end of this process at once, and reaches the
     /// disk soon after. A person who types does not feel it. `onReloadDue` is called when a reload() came during that
     /// time and must be repeated. `mainThread` must outlive this.
@@ -76,6 +79,9 @@ class FileUserDefaults final : public InMemoryUserDefaults {
     bool m_isReloadDue = false;            // reload() was called while the file was older than the values
     std::function<void()> m_onReloadDue;
     std::string m_lastProblem;
+    /// Why the last reading or storing failed.
+    std::string m_unsolved;
+    ProblemHandler m_solvedHandler;
     Outcome m_lastSaving = success();
     MainThread* m_mainThread = nullptr;
     std::shared_ptr<FileUserDefaults*> m_self = std::make_shared<FileUserDefaults*>(this);

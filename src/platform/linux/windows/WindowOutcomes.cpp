@@ -4,6 +4,7 @@
 #include <chrono>
 #include <thread>
 
+#include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/windows/TilingPlan.h"
 
 namespace kinesta {
@@ -80,7 +81,8 @@ std::string WindowOutcomes::obstacle(Kind kind) {
                " windows for others. See: kinesta doctor";
     const EwmhWindow* active = desktop->window(desktop->activeWindow);
     if (active == nullptr)
-        return "No window is active.";
+        return answersWayland() ? "No window of a program that uses XWayland is active; Wayland hides all others."
+                                : "No window is active.";
     const bool waits = active->isModal || !desktop->modalDialogsOf(*active).empty() ||
                        (kind == Kind::close && m_programs.hasDialogInside(active->process));
     if (waits)

@@ -48,6 +48,8 @@ void LinuxStatusItem::setMenu(const StatusMenu& menu) {
 }
 
 void LinuxStatusItem::openMenu() {
+    if (beforeMenu)
+        beforeMenu();
     // Some panels name no place, or one in units of their own.
     const bool isKnown = QGuiApplication::screenAt(m_place.topLeft()) != nullptr;
     m_popup.open(isKnown ? m_place : QRect(QCursor::pos(), kPoint));

@@ -4,6 +4,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QString>
+#include <functional>
 #include <memory>
 
 #include "app/ApplicationState.h"
@@ -33,6 +34,9 @@ class LinuxStatusItem final : public StatusItem {
     /// Whether to draw for a dark panel where its colour cannot be seen: as a rule, whether the desktop prefers dark
     /// colours. True until this is called.
     void setPanelIsDark(bool isDark);
+
+    /// Called before a menu of our own opens: until then nothing needs a style.
+    std::function<void()> beforeMenu;
 
     /// Set only when it changes.
     const Published<TrayKind>& kind() const { return m_kind; }

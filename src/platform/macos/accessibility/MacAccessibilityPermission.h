@@ -4,8 +4,8 @@
 
 namespace kinesta {
 
-/// The permission under Privacy & Security › Accessibility. The system shows its prompt at most once at a time, and
-/// on its own: prompt() returns at once. Main thread only.
+/// The permission under Privacy & Security › Accessibility. prompt() returns at once; that the system shows one prompt
+/// for any number of calls is not tried yet. Main thread only.
 class MacAccessibilityPermission final : public AccessibilityPermission {
   public:
     bool isTrusted() override;

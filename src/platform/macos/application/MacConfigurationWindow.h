@@ -13,7 +13,7 @@ class MacConfigurationWindow final : public ConfigurationWindow {
 
     bool exists() const override { return m_maker.exists(); }
     bool isVisible() const override;
-    bool isMiniaturized() const override;
+    bool isMiniaturized() const override { return m_maker.isMiniaturized(); }
     /// Also while a sheet of the window has the keyboard focus.
     bool isKey() const override;
     void makeKeyAndOrderFront() override;

@@ -15,9 +15,8 @@ NSWindow* configurationWindow() {
 
 }  // namespace
 
+// Not visible either while the whole application is hidden, which the maker does not know (from memory).
 bool MacConfigurationWindow::isVisible() const { return configurationWindow().isVisible; }
-
-bool MacConfigurationWindow::isMiniaturized() const { return configurationWindow().isMiniaturized; }
 
 bool MacConfigurationWindow::isKey() const {
     NSWindow* const window = configurationWindow();

@@ -10,8 +10,12 @@ namespace kinesta {
 struct MacSessionEvents::Observations : std::enable_shared_from_this<Observations> {
     explicit Observations(const ApplicationEvents& applicationEvents) : events(applicationEvents) {}
 
-    void post(ApplicationEvent event) const {
-        if (!tokens.empty())
+    void receive(NSNotification* notification, ApplicationEvent event) const {
+        // Panels, menus and tool tips come and go without any effect on the application.
+        id const object = notification.object;
+        const bool isMinor =
+            [object isKindOfClass:[NSWindow class]] && !static_cast<NSWindow*>(object).canBecomeMainWindow;
+        if (!isMinor)
             events.post(event);
     }
 
@@ -20,18 +24,17 @@ struct MacSessionEvents::Observations : std::enable_shared_from_this<Observation
         id<NSObject> const token = [center addObserverForName:name
                                                        object:nil
                                                         queue:NSOperationQueue.mainQueue
-                                                   usingBlock:^(NSNotification*) {
+                                                   usingBlock:^(NSNotification* notification) {
                                                      if (const auto self = weakSelf.lock())
-                                                         self->post(event);
+                                                         self->receive(notification, event);
                                                    }];
         tokens.emplace_back(center, token);
     }
 
-    void end() {
+    void end() const {
         // Each from its own center: another would not know the token, and say nothing.
         for (const auto& [center, token] : tokens)
             [center removeObserver:token];
-        tokens.clear();
     }
 
     const ApplicationEvents& events;

@@ -9,8 +9,6 @@ CfReference<CFStringRef> cfString(const std::string& text) {
 
 std::optional<std::string> utf8Text(CFStringRef string) {
     const CFIndex size = CFStringGetMaximumSizeForEncoding(CFStringGetLength(string), kCFStringEncodingUTF8);
-    if (size < 0)  // more than a CFIndex can count
-        return std::nullopt;
     std::string text(static_cast<std::size_t>(size) + 1, '\0');
     if (CFStringGetCString(string, text.data(), size + 1, kCFStringEncodingUTF8) == 0)
         return std::nullopt;

@@ -36,33 +36,21 @@ std::optional<PointerEvent> pointerEvent(NSEvent* event) {
 }  // namespace
 
 struct MacPointerEventMonitoring::Monitor {
-    void end() {
-        isActive = false;
-        if (token)
-            [NSEvent removeMonitor:token];
-        token = nil;
-    }
-
     /// The platform may be in the middle of an event when the monitor ends.
     static void deliver(const std::weak_ptr<Monitor>& monitor, NSEvent* event) {
         const auto living = monitor.lock();
-        if (!living || !living->isActive)
-            return;
-        if (const auto pointer = pointerEvent(event))
+        const auto pointer = living ? pointerEvent(event) : std::nullopt;
+        if (pointer)
             living->handler(*pointer);
     }
 
     Handler handler;
-    bool isActive = true;
     id token = nil;
 };
 
 MacPointerEventMonitoring::MacPointerEventMonitoring() = default;
 
-MacPointerEventMonitoring::~MacPointerEventMonitoring() {
-    for (const auto& [id, monitor] : m_monitors)
-        monitor->end();
-}
+MacPointerEventMonitoring::~MacPointerEventMonitoring() = default;
 
 PointerEventMonitor MacPointerEventMonitoring::monitor(PointerEventScope scope, Handler handler) {
     const auto monitor = std::make_shared<Monitor>();
@@ -90,8 +78,8 @@ PointerEventMonitor MacPointerEventMonitoring::monitor(PointerEventScope scope, 
 void MacPointerEventMonitoring::cancel(std::uint64_t id) {
     // A handler may cancel its own monitor, and may own what ends others: it is destroyed last.
     const auto cancelled = m_monitors.extract(id);
-    if (cancelled)
-        cancelled.mapped()->end();
+    if (cancelled && cancelled.mapped()->token)
+        [NSEvent removeMonitor:cancelled.mapped()->token];
 }
 
 }  // namespace kinesta

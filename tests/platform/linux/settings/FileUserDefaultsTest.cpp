@@ -136,6 +136,8 @@ TEST_F(FileUserDefaultsTest, AFullDiskLosesNothing) {
     open().setInteger("old", 1);
     const std::string before = readText(path), text(1000, 'x');
     auto defaults = open();
+    std::vector<std::string> solved;
+    defaults.onProblemSolved([&solved](const std::string& problem) { solved.push_back(problem); });
     ::signal(SIGXFSZ, SIG_IGN);
     rlimit limit{};
     ::getrlimit(RLIMIT_FSIZE, &limit);
@@ -149,8 +151,11 @@ TEST_F(FileUserDefaultsTest, AFullDiskLosesNothing) {
     EXPECT_EQ(defaults.string("long"), text);
     limit.rlim_cur = unlimited;
     ::setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_EQ(solved, std::vector<std::string>()) << "reading is no saving";
+    const auto reported = problems;
     EXPECT_TRUE(onlyProblem("File too large"));
     defaults.remove("old");
+    EXPECT_EQ(solved, reported);
     EXPECT_EQ(open().values(), (StoredValues{{"long", text}, {"short", std::int64_t{2}}}));
 }
 

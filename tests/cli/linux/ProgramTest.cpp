@@ -105,6 +105,13 @@ TEST(Program, RestoresTheTerminalWhenInterrupted) {
         EXPECT_GT(demo.output.find("\x1b[?1049l"), demo.output.find("\x1b[?1049h"));
         EXPECT_NE(demo.output.find("\x1b[?25h"), std::string::npos);
     }
+    Program deaf("trap '' HUP; exec " + kKinesta + "demo");
+    ASSERT_TRUE(deaf.waitFor("●"));
+    deaf.signal(SIGHUP);
+    deaf.output.clear();
+    ASSERT_TRUE(deaf.waitFor("●"));
+    deaf.signal(SIGTERM);
+    EXPECT_EQ(WTERMSIG(deaf.wait()), SIGTERM);
 }
 
 TEST(Program, RestoresTheTerminalWhileStopped) {
