@@ -2292,6 +2292,14 @@
         <translation>Die Taste mit dem Code %1 gibt es auf Tastaturen hier nicht.</translation>
     </message>
     <message>
+        <source>The part that updates Kinesta is missing. Install Kinesta again.</source>
+        <translation>Der Teil, der Kinesta aktualisiert, fehlt. Bitte Kinesta neu installieren.</translation>
+    </message>
+    <message>
+        <source>macOS did not store the changed settings. Change them again.</source>
+        <translation>macOS hat die geänderten Einstellungen nicht gespeichert. Bitte noch einmal ändern.</translation>
+    </message>
+    <message>
         <source>MultitouchSupport is unavailable on this macOS version.</source>
         <translation>MultitouchSupport gibt es in dieser macOS-Version nicht.</translation>
     </message>

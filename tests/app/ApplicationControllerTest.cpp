@@ -238,6 +238,9 @@ TEST(SoftwareUpdateController, AcceptsOnlyASecureFeedWithAKey) {
         controller.checkForUpdates();
         EXPECT_EQ(joined(shell.log.take()), message.empty() ? "start updater; check" : "");
         EXPECT_EQ(controller.canCheckForUpdates().value(), message.empty());
+        SoftwareUpdateController without(shell, [](const UpdateConfiguration&) { return nullptr; });
+        without.start();
+        EXPECT_TRUE(!without.isAvailable().value() && without.configurationMessage().value());
         if (message.empty()) {
             EXPECT_EQ(keyBytes.size() * 100 + static_cast<std::size_t>(keyBytes.back()), 3231U);
         }

@@ -35,8 +35,8 @@ TEST_F(CuePanelOnTheMac, IsAPanelThatNeverComesInTheWay) {
         const Calls first(calls.begin(), calls.begin() + 11);
         EXPECT_EQ(first, (Calls{"NSPanel#1 initWithContentRect:{0 0 220 44} styleMask:128 backing:2 defer:NO",
                                 "NSPanel#1 setOpaque:NO", "NSPanel#1 setBackgroundColor:clearColor",
-                                "NSAppearance appearanceNamed:\"NSAppearanceNameVibrantDark\"",
-                                "NSPanel#1 setAppearance:NSAppearanceNameVibrantDark", "NSPanel#1 setHasShadow:NO",
+                                "NSAppearance appearanceNamed:\"NSAppearanceNameDarkAqua\"",
+                                "NSPanel#1 setAppearance:NSAppearanceNameDarkAqua", "NSPanel#1 setHasShadow:NO",
                                 "NSPanel#1 setLevel:25", "NSPanel#1 setIgnoresMouseEvents:YES",
                                 "NSPanel#1 setHidesOnDeactivate:NO", "NSPanel#1 setCollectionBehavior:329",
                                 "NSPanel#1 setReleasedWhenClosed:NO"}));
@@ -49,6 +49,8 @@ TEST_F(CuePanelOnTheMac, IsAPanelThatNeverComesInTheWay) {
               "NSVisualEffectView#1.trailing constraintEqualToAnchor:NSView#2.trailing",
               "NSVisualEffectView#1.bottom constraintEqualToAnchor:NSView#2.bottom",
               "NSView#1.leading constraintEqualToAnchor:NSView#2.leading", "NSTextField#1 setLineBreakMode:4",
+              "NSTextField#1 setUsesSingleLineMode:YES",
+              "NSTextField#1 setTranslatesAutoresizingMaskIntoConstraints:NO",
               "NSTextField#1.trailing constraintEqualToAnchor:NSView#1.trailing constant:-16"})
             EXPECT_EQ(count(line), 1) << line;
         EXPECT_EQ(count("NSLayoutConstraint activateConstraints:[object, object, object, object]"), 2);

@@ -4,11 +4,25 @@
 
 // The update framework, whole and with parts missing.
 
+@class FrameworkController;
+
+namespace {
+
+__weak FrameworkController* current = nil;
+std::vector<std::string> received;
+SEL missing = nullptr;
+bool hasUpdater = true;
+
+}  // namespace
+
 @interface FrameworkUpdater : NSObject
 @property BOOL canCheckForUpdates;
 @property BOOL automaticallyChecksForUpdates;
 @end
 @implementation FrameworkUpdater
+- (BOOL)respondsToSelector:(SEL)selector {
+    return selector != missing && [super respondsToSelector:selector];
+}
 @end
 
 @interface FrameworkController : NSObject
@@ -16,31 +30,21 @@
 @property(strong) FrameworkUpdater* updater;
 @end
 
-namespace {
-
-__weak FrameworkController* current = nil;
-std::vector<std::string> received;
-
-}  // namespace
-
-@interface OldUpdater : NSObject
-@property(readonly) BOOL canCheckForUpdates;
-@end
-@implementation OldUpdater
-@end
-
 @interface NSObject (UpdaterDelegate)
 - (NSArray*)allowedSystemProfileKeysForUpdater:(id)updater;
 @end
 
 @implementation FrameworkController
++ (BOOL)instancesRespondToSelector:(SEL)selector {
+    return selector != missing && [super instancesRespondToSelector:selector];
+}
 - (instancetype)initWithStartingUpdater:(BOOL)isStarting
                         updaterDelegate:(id)delegate
                      userDriverDelegate:(id)userDriverDelegate {
     if ((self = [super init])) {
         received.push_back(isStarting || userDriverDelegate ? "wrong init" : "init");
         self.delegate = delegate;
-        self.updater = [FrameworkUpdater new];
+        self.updater = hasUpdater ? [FrameworkUpdater new] : nil;
         current = self;
     }
     return self;
@@ -54,28 +58,16 @@ std::vector<std::string> received;
 }
 @end
 
-@interface ControllerOfOldUpdater : FrameworkController
-@end
-@implementation ControllerOfOldUpdater
-- (id)updater {
-    return [OldUpdater new];
-}
-@end
-
-@interface ControllerWithoutUpdater : FrameworkController
-@end
-@implementation ControllerWithoutUpdater
-- (FrameworkUpdater*)updater {
-    return nil;
-}
-@end
-
 namespace kinesta {
 namespace {
 
 class UpdatesOnTheMac : public MacTest {
   protected:
-    UpdatesOnTheMac() { received.clear(); }
+    UpdatesOnTheMac() {
+        received.clear();
+        missing = nullptr;
+        hasUpdater = true;
+    }
     ~UpdatesOnTheMac() override { fakes::forgetValues(); }
 
     static std::unique_ptr<SoftwareUpdater> updaterOf(Class controller,
@@ -117,12 +109,27 @@ TEST_F(UpdatesOnTheMac, DriveTheFrameworkAndFollowIt) {
 TEST_F(UpdatesOnTheMac, DoWithoutAFrameworkThatLacksAnything) {
     @autoreleasepool {
         EXPECT_FALSE(MacSoftwareUpdater::make());
-        EXPECT_FALSE(updaterOf(nil));
+        fakes::installFramework(@"Sparkle.framework", @"SPUStandardUpdaterController", [FrameworkController class],
+                                false);
+        EXPECT_FALSE(MacSoftwareUpdater::make());
         EXPECT_FALSE(updaterOf([FrameworkController class], @"Other"));
-        EXPECT_FALSE(updaterOf([NSObject class]));
-        EXPECT_EQ(received, Calls{});
-        EXPECT_FALSE(updaterOf([ControllerOfOldUpdater class]));
-        EXPECT_FALSE(updaterOf([ControllerWithoutUpdater class]));
+        const SEL needed[] = {
+            @selector(initWithStartingUpdater:updaterDelegate:userDriverDelegate:),
+            @selector(startUpdater),
+            @selector(checkForUpdates:),
+            @selector(updater),
+            @selector(canCheckForUpdates),
+            @selector(automaticallyChecksForUpdates),
+            @selector(setAutomaticallyChecksForUpdates:)
+        };
+        for (const SEL selector : needed) {
+            missing = selector;
+            EXPECT_FALSE(updaterOf([FrameworkController class]));
+        }
+        EXPECT_EQ(received, (Calls{"init", "init", "init"}));
+        missing = nullptr;
+        hasUpdater = false;
+        EXPECT_FALSE(updaterOf([FrameworkController class]));
     }
 }
 

@@ -6,7 +6,6 @@
 
 const NSAppearanceName NSAppearanceNameAqua = @"NSAppearanceNameAqua";
 const NSAppearanceName NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
-const NSAppearanceName NSAppearanceNameVibrantDark = @"NSAppearanceNameVibrantDark";
 
 namespace {
 

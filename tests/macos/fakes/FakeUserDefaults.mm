@@ -28,8 +28,15 @@ std::map<std::string, Values>& information() {
     return all;
 }
 
-std::map<std::string, std::pair<std::string, Class>>& frameworks() {
-    static auto& all = *new std::map<std::string, std::pair<std::string, Class>>;
+struct Framework {
+    std::string className;
+    Class type;
+    bool loads;
+};
+
+/// By path.
+std::map<std::string, Framework>& frameworks() {
+    static auto& all = *new std::map<std::string, Framework>;
     return all;
 }
 
@@ -180,6 +187,8 @@ int uuids = 0;
     return bundle;
 }
 + (instancetype)bundleWithURL:(NSURL*)url {
+    if (!url)
+        std::abort();
     const std::string path = [url recordedText];
     if (!information().contains(path) && !frameworks().contains(path))
         return nil;
@@ -188,7 +197,7 @@ int uuids = 0;
     return bundle;
 }
 - (NSURL*)privateFrameworksURL {
-    return [NSURL fileURLWithPath:@"/Frameworks"];
+    return frameworks().empty() ? nil : [NSURL fileURLWithPath:@"/Frameworks"];
 }
 - (NSString*)executablePath {
     return @"/Applications/Kinesta.app/Contents/MacOS/Kinesta";
@@ -200,11 +209,11 @@ int uuids = 0;
     return information()[_path][key.UTF8String];
 }
 - (BOOL)loadAndReturnError:(NSError**)error {
-    return frameworks()[_path].second != nil;
+    return frameworks()[_path].loads;
 }
 - (Class)classNamed:(NSString*)name {
-    const auto& [className, type] = frameworks()[_path];
-    return className == name.UTF8String ? type : nil;
+    const Framework& framework = frameworks()[_path];
+    return framework.className == name.UTF8String ? framework.type : nil;
 }
 @end
 
@@ -216,8 +225,8 @@ bool canStore = true;
 void setInformation(NSString* key, id value) { setInformation(@"", key, value); }
 void setInformation(NSString* path, NSString* key, id value) { information()[path.UTF8String][key.UTF8String] = value; }
 
-void installFramework(NSString* path, NSString* className, Class type) {
-    frameworks()[std::string("/Frameworks/") + path.UTF8String] = {className.UTF8String, type};
+void installFramework(NSString* path, NSString* className, Class type, bool loads) {
+    frameworks()[std::string("/Frameworks/") + path.UTF8String] = {className.UTF8String, type, loads};
 }
 
 void storeElsewhere(NSString* key, id value) {

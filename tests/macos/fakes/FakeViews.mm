@@ -44,6 +44,11 @@ const NSFontWeight NSFontWeightSemibold = 0.3;
 @implementation NSResponder
 @end
 
+#define ANCHOR(type, side)                                  \
+    -(type*)side##Anchor {                                  \
+        return [[type alloc] initWithView:self name:#side]; \
+    }
+
 @interface NSView ()
 @property(nullable, readwrite, unsafe_unretained) NSWindow* window;
 @end
@@ -89,21 +94,11 @@ const NSFontWeight NSFontWeightSemibold = 0.3;
     for (NSView* each : _subviews)
         [each moveToWindow:window];
 }
-- (NSLayoutXAxisAnchor*)leadingAnchor {
-    return [[NSLayoutXAxisAnchor alloc] initWithView:self name:"leading"];
-}
-- (NSLayoutXAxisAnchor*)trailingAnchor {
-    return [[NSLayoutXAxisAnchor alloc] initWithView:self name:"trailing"];
-}
-- (NSLayoutYAxisAnchor*)topAnchor {
-    return [[NSLayoutYAxisAnchor alloc] initWithView:self name:"top"];
-}
-- (NSLayoutYAxisAnchor*)bottomAnchor {
-    return [[NSLayoutYAxisAnchor alloc] initWithView:self name:"bottom"];
-}
-- (NSLayoutYAxisAnchor*)centerYAnchor {
-    return [[NSLayoutYAxisAnchor alloc] initWithView:self name:"centerY"];
-}
+ANCHOR(NSLayoutXAxisAnchor, leading)
+ANCHOR(NSLayoutXAxisAnchor, trailing)
+ANCHOR(NSLayoutYAxisAnchor, top)
+ANCHOR(NSLayoutYAxisAnchor, bottom)
+ANCHOR(NSLayoutYAxisAnchor, centerY)
 @end
 
 @implementation CALayer

@@ -27,7 +27,7 @@ NSPanel* makePanel() {
                                                           defer:NO];
     panel.opaque = NO;
     panel.backgroundColor = NSColor.clearColor;
-    panel.appearance = [NSAppearance appearanceNamed:NSAppearanceNameVibrantDark];
+    panel.appearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
     panel.hasShadow = NO;
     panel.level = NSStatusWindowLevel;
     panel.ignoresMouseEvents = YES;

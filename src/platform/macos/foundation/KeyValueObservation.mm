@@ -31,9 +31,8 @@ void* ourContext = &ourContext;
         [self tell];
         return;
     }
-    __weak KinestaPropertyObserver* const weakSelf = self;
     dispatch_async(dispatch_get_main_queue(), ^{
-      [weakSelf tell];
+      [self tell];
     });
 }
 @end

@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kinesta {
 
@@ -18,13 +17,6 @@ inline std::string textOf(NSString* _Nullable string) {
 inline NSString* _Nonnull nsText(std::string_view text) {
     NSString* const string = [NSString stringWithUTF8String:std::string(text).c_str()];
     return string ? string : @"";
-}
-
-inline NSArray<NSString*>* _Nonnull nsTexts(const std::vector<std::string>& texts) {
-    std::vector<NSString*> all;
-    for (const std::string& each : texts)
-        all.push_back(nsText(each));
-    return [NSArray arrayWithObjects:all.data() count:all.size()];
 }
 
 }  // namespace kinesta

@@ -7,7 +7,7 @@
 
 #include "app/SoftwareUpdateController.h"
 #include "platform/macos/foundation/KeyValueObservation.h"
-#include "platform/macos/foundation/NsText.h"
+#include "platform/macos/foundation/NsTexts.h"
 
 // What we use of the framework, from memory: every method is asked for before its first use.
 

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "platform/macos/foundation/NsText.h"
+#include "platform/macos/foundation/NsTexts.h"
 #include "support/Translation.h"
 
 namespace kinesta {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/macos/foundation/NsText.h"
+#include "platform/macos/foundation/NsTexts.h"
 #include "support/Text.h"
 
 namespace kinesta {

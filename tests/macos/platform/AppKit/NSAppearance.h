@@ -7,7 +7,6 @@
 typedef NSString* NSAppearanceName;
 extern "C" const NSAppearanceName NSAppearanceNameAqua;
 extern "C" const NSAppearanceName NSAppearanceNameDarkAqua;
-extern "C" const NSAppearanceName NSAppearanceNameVibrantDark;
 
 @interface NSAppearance : NSObject
 + (nullable NSAppearance*)appearanceNamed:(NSAppearanceName)name;
