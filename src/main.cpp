@@ -6,11 +6,16 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
-#include "platform/linux/LinuxDesktop.h"
-#include "platform/linux/process/BrokenPipes.h"
-#include "platform/linux/process/Terminal.h"
-#include "support/RunLoop.h"
+#include "platform/posix/BrokenPipes.h"
+#include "platform/posix/Terminal.h"
 #include "support/SystemError.h"
+#ifdef __APPLE__
+#include "platform/macos/MacDesktop.h"
+#include "platform/macos/application/MacMainLoop.h"
+#else
+#include "platform/linux/LinuxDesktop.h"
+#include "support/RunLoop.h"
+#endif
 
 int main(int argc, char** argv) {
     using namespace kinesta;
@@ -29,8 +34,13 @@ int main(int argc, char** argv) {
                           .columns = size.columns,
                           .rows = size.rows};
     try {
+#ifdef __APPLE__
+        MacMainLoop mainLoop;
+        MacDesktop desktop(mainLoop, MacProgramFiles::ofThisProcess());
+#else
         RunLoop mainLoop;
         LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());
+#endif
         const ExitStatus status = runCommandLine(console, desktop, argc, argv);
         errno = 0;
         std::cout.flush();

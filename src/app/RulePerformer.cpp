@@ -100,6 +100,8 @@ RulePerformer::Report RulePerformer::windowReport(WindowActionOutcomes::Kind kin
                                         : "The window moved, but not to the place asked for."};
         case WindowActionOutcomes::Outcome::ignored:
             return {Outcome::failed, "The window manager was asked, and left the window as it was."};
+        case WindowActionOutcomes::Outcome::unknown:
+            return {Outcome::asked, ""};
         case WindowActionOutcomes::Outcome::nothingAsked:
             break;
     }

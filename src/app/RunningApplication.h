@@ -21,6 +21,7 @@ class RunningApplication {
     /// Returns when it has been done; `quit` when the process has ended.
     virtual Outcome ask(ApplicationRequest request) = 0;
     virtual Result<Report> report() = 0;
+    virtual bool isRunning() { return static_cast<bool>(report()); }
 };
 
 }  // namespace kinesta

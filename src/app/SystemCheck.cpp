@@ -185,7 +185,7 @@ std::optional<Obstacle> obstacleToLetter(const GestureAction& action, Desktop& d
 }
 
 std::optional<Obstacle> obstacleToWindow(Desktop& desktop) {
-    if (desktop.runningApplication().report())
+    if (desktop.runningApplication().isRunning())
         return std::nullopt;
     return Obstacle{translated("Only the application has a window, and it does not run."),
                     translated("Start Kinesta without a subcommand.")};

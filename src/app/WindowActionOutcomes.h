@@ -18,6 +18,8 @@ class WindowActionOutcomes {
         /// elsewhere than requested.
         asked,
         done,
+        /// The system does not tell.
+        unknown,
     };
     enum class Kind { close, tile, untile };
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <optional>
 
-#include "platform/linux/process/SingleInstance.h"
 #include "platform/linux/session/SessionApplication.h"
+#include "platform/posix/SingleInstance.h"
 
 namespace kinesta {
 

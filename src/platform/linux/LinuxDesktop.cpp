@@ -6,16 +6,16 @@
 #include <csignal>
 #include <cstdlib>
 
-#include "platform/linux/StreamTrackpad.h"
 #include "platform/linux/keyboard/AnsiKeyCodes.h"
 #include "platform/linux/launching/DesktopEntry.h"
-#include "platform/linux/process/BrokenPipes.h"
 #include "platform/linux/process/ProgramFiles.h"
 #include "platform/linux/process/SessionEnvironment.h"
 #include "platform/linux/session/DesktopFacts.h"
 #include "platform/linux/settings/LinuxActionSettings.h"
 #include "platform/linux/x11/X11Connection.h"
+#include "platform/posix/BrokenPipes.h"
 #include "platform/posix/MultitouchTrackpad.h"
+#include "platform/posix/StreamTrackpad.h"
 #include "support/SystemError.h"
 #include "support/Translation.h"
 

@@ -10,9 +10,9 @@
 #include "platform/linux/LinuxTrackpad.h"
 #include "platform/linux/process/PosixHomeFolders.h"
 #include "platform/linux/process/SignalListener.h"
-#include "platform/linux/process/Terminal.h"
 #include "platform/linux/settings/FileUserDefaults.h"
 #include "platform/linux/settings/FileWatcher.h"
+#include "platform/posix/Terminal.h"
 #include "support/SteadyClock.h"
 
 namespace kinesta {

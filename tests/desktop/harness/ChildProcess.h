@@ -15,7 +15,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta::testing {
 

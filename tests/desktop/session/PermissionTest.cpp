@@ -8,7 +8,7 @@
 
 #include "desktop/harness/BusPeer.h"
 #include "desktop/harness/DesktopActions.h"
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta::testing {
 namespace {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <deque>
 #include <mutex>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -209,7 +210,8 @@ void signalArrives(int number) {
 }
 
 static const OnReset dispatch([] {
-    (void)@[ dispatch_get_main_queue(), dispatch_get_global_queue(0, 0) ];
+    (void)dispatch_get_main_queue();
+    (void)dispatch_get_global_queue(0, 0);
     mainQueue().blocks.clear();
     mainQueue().sources.clear();
 });

@@ -28,6 +28,9 @@
     static NSProcessInfo* const info = [NSProcessInfo new];
     return info;
 }
+- (NSTimeInterval)systemUptime {
+    return 100;
+}
 - (int)processIdentifier {
     return 42;
 }

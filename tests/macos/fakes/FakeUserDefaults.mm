@@ -199,6 +199,9 @@ int uuids = 0;
 - (NSURL*)privateFrameworksURL {
     return frameworks().empty() ? nil : [NSURL fileURLWithPath:@"/Frameworks"];
 }
+- (NSString*)executablePath {
+    return @"/Applications/Kinesta.app/Contents/MacOS/Kinesta";
+}
 - (NSString*)bundleIdentifier {
     return kinesta::fakes::bundleIdentifier;
 }

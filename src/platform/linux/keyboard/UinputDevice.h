@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "support/Result.h"
 
 struct input_event;

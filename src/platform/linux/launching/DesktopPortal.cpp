@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "support/Translation.h"
 
 namespace kinesta {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "actions/ProcessLauncher.h"
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 

@@ -5,7 +5,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "support/MainThread.h"
 
 namespace kinesta {

@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "platform/linux/process/FileDescriptor.h"
 #include "platform/linux/process/SessionEnvironment.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 namespace {

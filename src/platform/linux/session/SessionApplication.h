@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "app/RunningApplication.h"
-#include "platform/linux/process/SingleInstance.h"
 #include "platform/linux/session/MessageBus.h"
+#include "platform/posix/SingleInstance.h"
 
 namespace kinesta {
 

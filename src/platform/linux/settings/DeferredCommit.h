@@ -6,8 +6,8 @@
 #include <string_view>
 #include <thread>
 
-#include "platform/linux/process/FileDescriptor.h"
 #include "platform/linux/settings/DurableFile.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 

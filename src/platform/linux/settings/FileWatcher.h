@@ -5,7 +5,7 @@
 #include <string>
 #include <thread>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "support/MainThread.h"
 
 namespace kinesta {

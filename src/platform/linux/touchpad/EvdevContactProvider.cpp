@@ -9,7 +9,7 @@
 #include <thread>
 #include <utility>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 

@@ -8,8 +8,8 @@
 #include "input/PadEvent.h"
 #include "input/evdev/EvdevFrameAssembler.h"
 #include "input/evdev/PressureStageTracker.h"
-#include "platform/linux/process/FileDescriptor.h"
 #include "platform/linux/touchpad/TouchpadCandidate.h"
+#include "platform/posix/FileDescriptor.h"
 #include "support/Result.h"
 
 struct input_event;

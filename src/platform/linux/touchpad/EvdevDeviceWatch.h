@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 struct udev;
 struct udev_monitor;

@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/process/FileDescriptor.h"
 #include "platform/linux/touchpad/TouchpadScanner.h"
 #include "platform/linux/touchpad/X11TouchpadProperties.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace kinesta {
 namespace {

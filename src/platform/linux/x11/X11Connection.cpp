@@ -9,8 +9,8 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/linux/process/BrokenPipes.h"
 #include "platform/linux/x11/X11Socket.h"
+#include "platform/posix/BrokenPipes.h"
 
 namespace kinesta {
 namespace {

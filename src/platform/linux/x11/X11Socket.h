@@ -5,8 +5,8 @@
 #include <string>
 #include <thread>
 
-#include "platform/linux/process/FileDescriptor.h"
 #include "platform/linux/x11/Deadline.h"
+#include "platform/posix/FileDescriptor.h"
 
 struct xcb_connection_t;
 

@@ -10,6 +10,7 @@
 + (nullable instancetype)bundleWithURL:(NSURL*)url;
 @property(nullable, readonly, copy) NSURL* privateFrameworksURL;
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
+@property(nullable, readonly, copy) NSString* executablePath;
 - (nullable id)objectForInfoDictionaryKey:(NSString*)key;
 - (BOOL)loadAndReturnError:(NSError* _Nullable* _Nullable)error;
 - (nullable Class)classNamed:(NSString*)name;

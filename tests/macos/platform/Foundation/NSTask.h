@@ -19,6 +19,7 @@ typedef struct {
 
 @interface NSProcessInfo : NSObject
 @property(class, readonly, strong) NSProcessInfo* processInfo;
+@property(readonly) NSTimeInterval systemUptime;
 @property(readonly) int processIdentifier;
 @property(readonly) NSOperatingSystemVersion operatingSystemVersion;
 @end

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>
-#include <objc/NSObject.h>
+#include <Foundation/NSObject.h>
 
 #pragma clang assume_nonnull begin
 
@@ -17,8 +17,8 @@ typedef CGRect NSRect;
 @property(readonly) NSUInteger length;
 @property(nullable, readonly) const char* UTF8String;
 + (nullable instancetype)stringWithUTF8String:(const char*)text;
-@property(readonly, copy) NSString* lowercaseString;
 + (instancetype)stringWithCharacters:(const unichar*)units length:(NSUInteger)count;
+@property(readonly, copy) NSString* lowercaseString;
 - (BOOL)isEqualToString:(NSString*)other;
 @end
 

@@ -29,8 +29,4 @@ __attribute__((objc_root_class))
 - (id)copy;
 @end
 
-@protocol NSCopying
-- (id)copyWithZone:(nullable NSZone*)zone;
-@end
-
 #pragma clang assume_nonnull end

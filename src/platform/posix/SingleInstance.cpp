@@ -1,4 +1,4 @@
-#include "platform/linux/process/SingleInstance.h"
+#include "platform/posix/SingleInstance.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -36,6 +36,11 @@ FileDescriptor openOwn(const std::filesystem::path& path, int creation) {
     return file;
 }
 
+/// Another file than the one that is locked as a whole: on macOS the two kinds of locks see each other.
+FileDescriptor openRoles(const std::filesystem::path& place, int creation) {
+    return openOwn(std::filesystem::path(place).replace_extension(".role"), creation);
+}
+
 /// The holder marks its role by locking one byte: any process can then ask the system for its number, which is never
 /// that of an earlier holder.
 struct flock mark(SingleInstance::Role role) {
@@ -47,17 +52,20 @@ struct flock mark(SingleInstance::Role role) {
     return byte;
 }
 
-std::optional<SingleInstance::Holder> markedHolder(const FileDescriptor& file) {
+std::optional<SingleInstance::Holder> markedHolder(const std::filesystem::path& place) {
+    const FileDescriptor file = openRoles(place, 0);
+    if (!file)
+        return std::nullopt;
     for (const auto role : {SingleInstance::Role::daemon, SingleInstance::Role::application})
         if (struct flock byte = mark(role); ::fcntl(file.number(), F_GETLK, &byte) == 0 && byte.l_type != F_UNLCK)
             return SingleInstance::Holder{byte.l_pid, role};
     return std::nullopt;
 }
 
-Error runningAlready(const FileDescriptor& file) {
+Error runningAlready(const std::filesystem::path& place) {
     // The holder has locked the file a moment before it marks its role.
     for (int attempt = 0; attempt < 20; ++attempt, ::poll(nullptr, 0, 1))
-        if (const auto holder = markedHolder(file))
+        if (const auto holder = markedHolder(place))
             return holder->error();
     return {"Kinesta is running already."};
 }
@@ -81,22 +89,22 @@ Result<SingleInstance> SingleInstance::claim(const std::filesystem::path& settin
             continue;
         if (::flock(lock.number(), LOCK_EX | LOCK_NB) != 0) {
             if (errno == EWOULDBLOCK)
-                return runningAlready(lock);
+                return runningAlready(place);
             continue;  // a file system without locks
         }
+        FileDescriptor roles = openRoles(place, O_CREAT);
         const struct flock byte = mark(role);
         // Only so that others can tell who runs; the other lock works without it.
-        static_cast<void>(::fcntl(lock.number(), F_SETLK, &byte));
-        return SingleInstance(std::move(lock));
+        static_cast<void>(::fcntl(roles.number(), F_SETLK, &byte));
+        return SingleInstance(std::move(lock), std::move(roles));
     }
-    return SingleInstance(FileDescriptor());
+    return SingleInstance({}, {});
 }
 
 std::optional<SingleInstance::Holder> SingleInstance::holder(const std::filesystem::path& settings) {
     for (const std::filesystem::path& place : places(settings))
-        if (const FileDescriptor file = openOwn(place, 0))
-            if (const auto holder = markedHolder(file))
-                return holder;
+        if (const auto holder = markedHolder(place))
+            return holder;
     return std::nullopt;
 }
 

@@ -1,18 +1,14 @@
-#include "platform/linux/touchpad/InterruptibleStream.h"
+#include "platform/posix/InterruptibleStream.h"
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/eventfd.h>
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <cstdint>
 
 #include "support/SystemError.h"
 
 namespace kinesta {
-
-InterruptibleStream::InterruptibleStream() : m_ending(eventfd(0, EFD_CLOEXEC)) {}
 
 Outcome InterruptibleStream::open(const std::string& path) {
     m_file = FileDescriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
@@ -25,12 +21,6 @@ Outcome InterruptibleStream::open(const std::string& path) {
     return success();
 }
 
-void InterruptibleStream::interrupt() const {
-    const std::uint64_t one = 1;
-    // Cannot fail: the counter is far from full.
-    [[maybe_unused]] const ssize_t written = ::write(m_ending.number(), &one, sizeof one);
-}
-
 std::streambuf::int_type InterruptibleStream::underflow() {
     for (;;) {
         std::array<pollfd, 2> sources{pollfd{.fd = m_ending.number(), .events = POLLIN, .revents = 0},
@@ -40,7 +30,7 @@ std::streambuf::int_type InterruptibleStream::underflow() {
         if (sources[0].revents != 0)
             return traits_type::eof();
         // Linux reports the hang-up of a FIFO only after a writer has been there. So poll() sleeps until the first one
-        // comes, and a read of nothing is the end.
+        // comes, and a read of nothing is the end. Other systems may report it before; then the stream ends at once.
         const ssize_t size = ::read(m_file.number(), m_buffer.data(), m_buffer.size());
         if (size > 0) {
             setg(m_buffer.data(), m_buffer.data(), m_buffer.data() + size);

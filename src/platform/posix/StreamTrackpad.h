@@ -9,7 +9,7 @@
 
 #include "app/LiveTrackpad.h"
 #include "input/recording/RecordedPad.h"
-#include "platform/linux/touchpad/InterruptibleStream.h"
+#include "platform/posix/InterruptibleStream.h"
 
 namespace kinesta {
 

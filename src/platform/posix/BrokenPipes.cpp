@@ -1,4 +1,4 @@
-#include "platform/linux/process/BrokenPipes.h"
+#include "platform/posix/BrokenPipes.h"
 
 #include <csignal>
 

@@ -5,7 +5,8 @@
 #include <streambuf>
 #include <string>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
+#include "platform/posix/WakePipe.h"
 #include "support/Result.h"
 
 namespace kinesta {
@@ -13,7 +14,7 @@ namespace kinesta {
 /// The bytes of a file or a FIFO, as they arrive. Waits asleep, and another thread can end the wait.
 class InterruptibleStream final : private std::streambuf {
   public:
-    InterruptibleStream();
+    InterruptibleStream() = default;
 
     /// Opens `path` without waiting for a writer. The error is the reason, without the path.
     Outcome open(const std::string& path);
@@ -28,13 +29,13 @@ class InterruptibleStream final : private std::streambuf {
     std::istream& stream() { return m_stream; }
 
     /// Ends the stream, too. Any thread.
-    void interrupt() const;
+    void interrupt() const { m_ending.wake(); }
 
   private:
     int_type underflow() override;
 
     FileDescriptor m_file;
-    FileDescriptor m_ending;  // becomes readable at interrupt()
+    WakePipe m_ending;
     bool m_isComplete = false;
     std::array<char, std::size_t{1} << 14> m_buffer{};
     std::istream m_stream{this};

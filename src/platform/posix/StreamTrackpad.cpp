@@ -1,4 +1,4 @@
-#include "platform/linux/StreamTrackpad.h"
+#include "platform/posix/StreamTrackpad.h"
 
 #include <filesystem>
 #include <utility>

@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/linux/process/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "support/Result.h"
 
 namespace kinesta {
@@ -38,9 +38,10 @@ class SingleInstance {
     bool isCertain() const { return static_cast<bool>(m_lock); }
 
   private:
-    explicit SingleInstance(FileDescriptor lock) : m_lock(std::move(lock)) {}
+    SingleInstance(FileDescriptor lock, FileDescriptor role) : m_lock(std::move(lock)), m_role(std::move(role)) {}
 
     FileDescriptor m_lock;
+    FileDescriptor m_role;
 };
 
 }  // namespace kinesta

@@ -1,4 +1,4 @@
-#include "platform/linux/process/Terminal.h"
+#include "platform/posix/Terminal.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -84,8 +84,8 @@ void TerminalTakeover::stopUntilContinued() {
 void stopUntilContinued() {
     sigset_t stop;
     sigset_t before;
-    ::sigemptyset(&stop);
-    ::sigaddset(&stop, SIGTSTP);
+    sigemptyset(&stop);
+    sigaddset(&stop, SIGTSTP);
     // Not SIGSTOP: shells treat it unlike Ctrl-Z, and it also stops a program that no shell can continue.
     static_cast<void>(::raise(SIGTSTP));
     ::pthread_sigmask(SIG_UNBLOCK, &stop, &before);

@@ -1,0 +1,4 @@
+// undeclared selector 'statusItemClickd:'
+#include <AppKit/AppKit.h>
+
+SEL actionOfTheStatusItem() { return @selector(statusItemClickd:); }
