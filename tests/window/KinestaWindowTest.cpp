@@ -1,12 +1,14 @@
 #include "ui/window/KinestaWindow.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 
 #include "app/RuleTransfer.h"
+#include "rules/GestureRuleCoding.h"
 #include "rules/RuleMaking.h"
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/settings/SettingsPage.h"
@@ -141,6 +143,23 @@ TEST_F(KinestaWindows, LeavesUndoToAFieldThatHasStepsOfItsOwn) {
     key(Qt::Key_Z, Qt::ControlModifier);
     key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(app.store().rules().value()[0].name, "A");
+}
+
+TEST_F(KinestaWindows, StoreHalvesOfCharactersThatArePastedAsWholeOnes) {
+    app.store().setRules({makeRule(GestureKind::tipTapLeft)});
+    open();
+    window->select(WindowSelection::rule(app.store().rules().value()[0].id));
+    window->findChild<RuleEditorPage*>()->focusName();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(field, nullptr);
+    QGuiApplication::clipboard()->setText(QChar(0xD800) + QStringLiteral("a") + QChar(0xDC00) + QChar(0xD83D));
+    key(Qt::Key_V, Qt::ControlModifier);
+    const auto rules = app.store().rules().value();
+    EXPECT_NE(rules[0].name.find('a'), std::string::npos);
+    const auto decoded = decodeRules(ruleFileText(app.store()));
+    EXPECT_TRUE(decoded && *decoded == rules);
+    key(Qt::Key_Tab);
+    EXPECT_EQ(field->text().toStdString(), rules[0].name);
 }
 
 }  // namespace

@@ -82,11 +82,11 @@ struct OpenWindow : Application, PadStream {
     }
     void launch() {
         application = start("--trackpad pad");
-        processOf();
+        const auto process = static_cast<std::uint32_t>(processOf());
         EXPECT_EQ(run("ctl show"), "0|");
         program.emplace("Kinesta");
         program->await("frame", "Kinesta");
-        EXPECT_TRUE(eventually([&] { return (window = desktop.active()) != XCB_WINDOW_NONE; }));
+        EXPECT_TRUE(eventually([&] { return desktop.has(window = desktop.active(), "_NET_WM_PID", process); }));
         desktop.addState(window, "_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ");
         // It says where its parts are on the screen, which it knows a moment later.
         EXPECT_TRUE(eventually([&] {
