@@ -92,7 +92,7 @@ class AccessibleProgram {
     /// a list wherever the focus is.
     std::optional<Node> focus() const {
         return search(m_program, [](const Node& node) {
-            return node.has(focused) && node.role != "filler" && node.role != "list item";
+            return node.has(focused) && node.role != "filler" && node.role != "panel" && node.role != "list item";
         });
     }
     /// What Tab must reach in there: of a group of radio buttons the chosen one or else the first, of a list the list.

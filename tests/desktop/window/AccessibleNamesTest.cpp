@@ -52,14 +52,14 @@ TEST_F(AccessibleNames, StayAsScreenReadersKnowThem) {
              "Tap, Physical click (any pressure), Soft click (stage 1), Force Click (stage 2), Tip-tap left, Tip-tap "
              "right, Vertical edge slide, Corner hold and draw (prototype)"},
             {"combo box", "What happens", "Choose what the gesture does."},
-            {"check box", "Show a cue"},
-            {"text", "Cue text"},
             {"push button", "Run action now"}});
     const std::map<std::string, std::vector<Row>> editors{
         {"keyboardShortcut",
          {{"graphic", "Tap", "Touch with three fingers together and lift."},
           {"panel", "Repetition", "", "Single, Double, Triple"},
           {"panel", "Fingers", "", "2, 3, 4, 5"},
+          {"check box", "Show a cue"},
+          {"text", "Cue text"},
           {"push button", "Record shortcut", "Shift+Ctrl+T"},
           {"button menu", "Common shortcuts"},
           {"button menu", "Other keys"}}},
