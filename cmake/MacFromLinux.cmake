@@ -5,7 +5,7 @@ set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KINESTA_MACOS_SDK CMAKE_OSX_ARCHITECTUR
 set(CMAKE_OSX_SYSROOT ${KINESTA_MACOS_SDK})
 set(CMAKE_SYSTEM_PROCESSOR ${CMAKE_OSX_ARCHITECTURES})
 
-set(llvm /usr/lib/llvm-19/bin)
+set(llvm /usr/lib/llvm-16/bin)
 foreach(language C CXX OBJCXX)
     set(CMAKE_${language}_COMPILER ${llvm}/clang++)
     set(CMAKE_${language}_COMPILER_TARGET ${CMAKE_OSX_ARCHITECTURES}-apple-macos)

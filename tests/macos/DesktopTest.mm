@@ -38,8 +38,8 @@ TEST_F(DesktopOnTheMac, GivesEveryPortAndLeavesNothing) {
         EXPECT_EQ(pads.chosen()->problem, "/missing cannot be loaded, so no trackpad can be read.");
         desktop.trackpad().contacts().start();
         EXPECT_EQ(desktop.trackpad().contacts().status().kind, TrackpadContactProviderStatus::Kind::unavailable);
-        const PointerEventMonitor monitor =
-            desktop.trackpad().pointerEvents().monitor(PointerEventScope::otherApplications, [](const PointerEvent&) {});
+        const PointerEventMonitor monitor = desktop.trackpad().pointerEvents().monitor(
+            PointerEventScope::otherApplications, [](const PointerEvent&) {});
 
         const ActionPorts ports = desktop.actionPorts(desktop.defaults());
         EXPECT_FALSE(ports.permission.isTrusted());
