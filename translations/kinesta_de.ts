@@ -1949,11 +1949,11 @@
     </message>
     <message>
         <source>Edge slide</source>
-        <translation>Randwischen</translation>
+        <translation>Rand­wischen</translation>
     </message>
     <message>
         <source>Corner draw</source>
-        <translation>Eckenzeichnen</translation>
+        <translation>Ecken­zeichnen</translation>
     </message>
     <message>
         <source>several</source>

@@ -1,6 +1,7 @@
 #include "ui/window/KinestaWindow.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -8,6 +9,7 @@
 #include <QTranslator>
 
 #include "app/RuleTransfer.h"
+#include "rules/GestureRuleCoding.h"
 #include "rules/RuleMaking.h"
 #include "support/Translation.h"
 #include "ui/editor/RuleEditorPage.h"
@@ -201,6 +203,23 @@ TEST_F(KinestaWindows, CutsNoPageAndNoTileWhereWordsAreLong) {
         EXPECT_TRUE(eventually(fits));
     }
     setTranslator({});
+}
+
+TEST_F(KinestaWindows, StoreHalvesOfCharactersThatArePastedAsWholeOnes) {
+    app.store().setRules({makeRule(GestureKind::tipTapLeft)});
+    open();
+    window->select(WindowSelection::rule(app.store().rules().value()[0].id));
+    window->findChild<RuleEditorPage*>()->focusName();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(field, nullptr);
+    QGuiApplication::clipboard()->setText(QChar(0xD800) + QStringLiteral("a") + QChar(0xDC00) + QChar(0xD83D));
+    key(Qt::Key_V, Qt::ControlModifier);
+    const auto rules = app.store().rules().value();
+    EXPECT_NE(rules[0].name.find('a'), std::string::npos);
+    const auto decoded = decodeRules(ruleFileText(app.store()));
+    EXPECT_TRUE(decoded && *decoded == rules);
+    key(Qt::Key_Tab);
+    EXPECT_EQ(field->text().toStdString(), rules[0].name);
 }
 
 }  // namespace

@@ -222,6 +222,8 @@ std::vector<Scene> otherScenes(const Setting& usual, const Setting& every, const
         {"menu-row", usual, then(selecting("Next tab"), openRowMenu)},
         {"one-pane", narrow},
         {"one-pane-rule", narrow, selecting("Close window")},
+        {"one-pane-overview", narrow, [](Stage& stage) { stage.window().select(WindowSelection::overview()); }},
+        {"one-pane-settings", narrow, settings},
         {"smallest", least, selecting("Close window")},
         {"empty-list", {}},
         {"filter-nothing", every, [](Stage& stage) { filterFor(stage, "volime"); }},

@@ -54,6 +54,7 @@ AboutSheet::AboutSheet(const WindowParts& parts, WindowCommands& commands, QWidg
     setWindowTitle(tr("About Kinesta"));
     m_place->setTextFormat(Qt::PlainText);
     m_place->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_place->setFocusPolicy(Qt::StrongFocus);  // those flags leave it to the mouse
     m_place->setWordWrap(true);
     m_place->setLayoutDirection(Qt::LeftToRight);
     m_place->setAlignment(Qt::AlignCenter);

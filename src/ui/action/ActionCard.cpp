@@ -57,6 +57,7 @@ ActionCard::ActionCard(const ActionEditing& editing)
       m_cueRow(new Row(tr("Show a cue"))),
       m_cuePicture(new CuePicture),
       m_showsCue(new Switch(tr("Show a cue"))),
+      m_cueTextRow(new Row(tr("Cue text"))),
       m_cueText(new TextField(tr("Cue text"), TextField::Form::words)),
       m_missing(new Remark(Remark::Kind::caution)),
       m_run(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::run)), tr("Run action now"))) {
@@ -87,9 +88,8 @@ void ActionCard::addCueRows() {
     add(m_cueRow);
     connect(m_showsCue, &Switch::clicked, this, [this](bool isOn) { m_editing.model.setShowsCue(isOn); });
 
-    auto* text = new Row(tr("Cue text"));
-    text->setControl(m_cueText);
-    add(text);
+    m_cueTextRow->setControl(m_cueText);
+    add(m_cueTextRow);
     connect(m_cueText, &TextField::typed, this,
             [this](const QString& label) { m_editing.model.setCueLabel(label.toStdString()); });
     connect(m_cueText, &TextField::left, this, [this] { m_editing.model.endTyping(); });
@@ -155,6 +155,10 @@ void ActionCard::followKinds(const RuleEditorContent& content) {
 }
 
 void ActionCard::followCue(const GestureRule& rule, const std::string& placeholder) {
+    // Without an action there is nothing that a cue could name.
+    const bool hasAction = rule.action.kind != ActionKind::unconfigured;
+    m_cueRow->setVisible(hasAction);
+    m_cueTextRow->setVisible(hasAction);
     const UserDefaults& defaults = m_editing.desktop.defaults();
     const std::int64_t steps = rule.action.kind == ActionKind::adjustVolume ? 1 : 0;
     m_cuePicture->setContent(ActionCueContent::of(rule.action, steps, rule.resolvedVisualCueMessage()),

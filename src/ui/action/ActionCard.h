@@ -48,6 +48,7 @@ class ActionCard final : public Card {
     Row* m_cueRow;
     CuePicture* m_cuePicture;
     Switch* m_showsCue;
+    Row* m_cueTextRow;
     TextField* m_cueText;
     Remark* m_missing;
     QPushButton* m_run;

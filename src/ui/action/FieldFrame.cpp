@@ -23,7 +23,6 @@ FieldFrame::FieldFrame(QWidget* field, QWidget* parent) : QWidget(parent), m_fie
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
     layout->addWidget(field);
-    setFocusProxy(field);
     field->installEventFilter(this);
 }
 

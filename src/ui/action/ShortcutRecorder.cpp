@@ -155,6 +155,7 @@ bool ShortcutRecorder::event(QEvent* event) {
             event->accept();
             return true;
         case QEvent::KeyRelease:
+            m_lastRelease = static_cast<QKeyEvent&>(*event).timestamp();
             if (!isListening() || static_cast<QKeyEvent&>(*event).isAutoRepeat())
                 break;
             m_recording.release(nativeKey(static_cast<QKeyEvent&>(*event)));
@@ -168,7 +169,10 @@ bool ShortcutRecorder::event(QEvent* event) {
 
 /// A key that was pressed while we listened must not go on to move the focus or to reach the window.
 bool ShortcutRecorder::isStillHeld(const QKeyEvent& event) const {
-    return event.isAutoRepeat() && event.nativeScanCode() == m_lastKey;
+    // Qt on X11 knows a repeat by the press that follows a release in its queue, and misses it when the queue ends in
+    // between. Both have one time.
+    const bool isRepeat = event.isAutoRepeat() || event.timestamp() == m_lastRelease;
+    return isRepeat && event.nativeScanCode() == m_lastKey;
 }
 
 /// False if the key is none of ours.

@@ -63,6 +63,7 @@ class ShortcutRecorder final : public QWidget {
     QToolButton* m_clear;
     /// The last pressed key, if we listened then. On macOS Qt gives all keys the same code.
     std::optional<quint32> m_lastKey;
+    quint64 m_lastRelease = 0;  // when a key was released, in milliseconds of the server
     QString m_hint;
     QString m_announcedWords;
 };

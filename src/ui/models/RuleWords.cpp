@@ -46,10 +46,20 @@ constexpr std::array<std::string_view, 9> kPatterns{TRANSLATABLE("line up"),
 
 /// Line ends outside ASCII: next line, line separator, paragraph separator.
 constexpr std::array<std::string_view, 3> kLineEnds{"\u0085", "\u2028", "\u2029"};
-/// What cannot be seen, and what lets words look other than they are. Joiners stay: emoji and many scripts need them.
-constexpr std::array<std::string_view, 17> kUnseen{"\u00AD", "\u200B", "\u200E", "\u200F", "\u202A", "\u202B",
-                                                   "\u202C", "\u202D", "\u202E", "\u2060", "\u2061", "\u2062",
-                                                   "\u2066", "\u2067", "\u2068", "\u2069", "\uFEFF"};
+/// The bytes at the beginning that cannot be seen, or that let words look other than they are: soft hyphen, zero-width
+/// space, marks of direction, invisible operators. Joiners stay: emoji and many scripts need them.
+std::size_t unseenBytes(std::string_view text) {
+    if (text.starts_with("\u00AD"))
+        return 2;
+    if (text.size() < 3)
+        return 0;
+    const auto third = static_cast<unsigned char>(text[2]);
+    const auto isBetween = [third](unsigned first, unsigned last) { return third >= first && third <= last; };
+    const bool isUnseen = text.starts_with("\uFEFF") || text.starts_with("\u200B") ||
+                          (text.starts_with("\xE2\x80") && (isBetween(0x8E, 0x8F) || isBetween(0xAA, 0xAE))) ||
+                          (text.starts_with("\xE2\x81") && isBetween(0xA0, 0xA9));
+    return isUnseen ? 3 : 0;
+}
 
 /// With single spaces in place of white space.
 std::string onOneLine(std::string_view original) {
@@ -64,8 +74,8 @@ std::string onOneLine(std::string_view original) {
         } else if (const auto end = std::ranges::find_if(kLineEnds, startsIt); end != kLineEnds.end()) {
             isBetween = true;
             length = end->size();
-        } else if (const auto unseen = std::ranges::find_if(kUnseen, startsIt); unseen != kUnseen.end()) {
-            length = unseen->size();
+        } else if (const std::size_t unseen = unseenBytes(original); unseen > 0) {
+            length = unseen;
         } else {
             if (std::exchange(isBetween, false) && !text.empty())
                 text += ' ';

@@ -146,9 +146,11 @@ void Notice::resizeEvent(QResizeEvent* event) {
     place();
 }
 
-void Notice::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    if (!event->spontaneous())
+void Notice::setVisible(bool isVisible) {
+    const bool isNew = isVisible && isHidden();
+    QWidget::setVisible(isVisible);
+    // What stands on a page that opens is read with it.
+    if (isNew && this->isVisible())
         announce();
 }
 

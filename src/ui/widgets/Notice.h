@@ -10,8 +10,8 @@
 
 namespace kinesta {
 
-/// A sentence about something wrong or worth knowing, at the end of a card. Screen readers say it when it appears or
-/// changes.
+/// A sentence about something wrong or worth knowing, at the end of a card. Screen readers say it when it appears on
+/// a page that is seen, or changes.
 class Notice final : public QWidget {
     Q_OBJECT
 
@@ -28,11 +28,11 @@ class Notice final : public QWidget {
     /// Shows it, growing from nothing if its card is seen already.
     void slideIn();
     QColor ground(const AppTheme& theme) const;
+    void setVisible(bool isVisible) override;
 
   protected:
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

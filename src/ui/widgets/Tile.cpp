@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QFontMetrics>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 
@@ -84,9 +85,10 @@ int Tile::linesIn(int width) const {
 QSize Tile::minimumSizeHint() const {
     const QFontMetrics metrics(wordFont(true));
     const QSize picture = pictureSize();
-    // Words break between lines, never inside.
+    // Words break between lines, and inside only where a soft hyphen allows it.
     int widest = picture.width();
-    const QStringList words = text().split(QLatin1Char(' '));
+    static const QRegularExpression breaks(QStringLiteral("[ \u00AD]"));
+    const QStringList words = text().split(breaks);
     for (const QString& word : words)
         widest = std::max(widest, metrics.horizontalAdvance(word));
     const int width = widest + 2 * side();

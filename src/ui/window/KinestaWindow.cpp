@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -57,7 +58,7 @@ KinestaWindow::KinestaWindow(WindowParts parts)
       m_sidebar(new Sidebar(m_list, *this)),
       m_pages(new QStackedWidget),
       m_panes(new Panes(m_sidebar, m_pages)),
-      m_toast(new Toast(m_pages)),
+      m_toast(new Toast(m_pages, this)),
       m_files(new RuleFiles(m_parts, m_history, *this, this)),
       m_reset(new ResetQuestion(
           m_parts, m_history, *this,
@@ -96,6 +97,7 @@ KinestaWindow::KinestaWindow(WindowParts parts)
         showTransfer();
     });
     addKeys();
+    connect(qApp, &QApplication::focusChanged, this, &KinestaWindow::keepFocus);
     m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
     m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismissOffer(); }));
     followSelection();
@@ -294,6 +296,16 @@ void KinestaWindow::goBack() {
     m_sidebar->focusList();
 }
 
+/// A list of completions that is still open while its dialog closes keeps Qt from noticing that this window has the
+/// focus again.
+void KinestaWindow::keepFocus(QWidget* /*before*/, QWidget* now) {
+    if (now == nullptr)
+        QTimer::singleShot(0, this, [this] {
+            if (QGuiApplication::focusWindow() == windowHandle() && QApplication::activeWindow() == nullptr)
+                QApplication::setActiveWindow(this);
+        });
+}
+
 void KinestaWindow::focusPage() {
     QWidget* first = m_pages->currentWidget();
     for (QWidget* next = first->nextInFocusChain(); next != first; next = next->nextInFocusChain())
@@ -342,9 +354,9 @@ void KinestaWindow::bringUp(Page* page) {
     if (m_pages->indexOf(page) < 0) {
         giveBackButton(*page);
         m_pages->addWidget(page);
+        m_toast->takeLastTabStop();
     }
     m_pages->setCurrentWidget(page);
-    m_toast->raise();
 }
 
 void KinestaWindow::giveBackButton(Page& page) {

@@ -79,6 +79,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void bringUp(Page* page);
     void giveBackButton(Page& page);
     void focusPage();
+    void keepFocus(QWidget* before, QWidget* now);
     void savePlace();
 
     WindowParts m_parts;

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QTimer>
+#include <QWindow>
 #include <utility>
 
 namespace kinesta {
@@ -18,9 +19,11 @@ constexpr int kAway = 1200;
 void comeBack(QWidget& window) {
     if (window.isVisible())
         return;
-    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    // What Qt::WA_ShowWithoutActivating sets, but for a window that exists already.
+    constexpr const char* kWithoutActivating = "_q_showWithoutActivating";
+    window.windowHandle()->setProperty(kWithoutActivating, true);
     window.show();
-    window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    window.windowHandle()->setProperty(kWithoutActivating, false);
 }
 
 }  // namespace

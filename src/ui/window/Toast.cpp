@@ -39,7 +39,8 @@ QPalette toastPalette() {
 
 }  // namespace
 
-Toast::Toast(QWidget* page) : QWidget(page), m_text(new QLabel), m_button(new QPushButton) {
+Toast::Toast(QWidget* page, QWidget* window)
+    : QWidget(window), m_page(page), m_text(new QLabel), m_button(new QPushButton) {
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(Unit::of(16), Unit::of(4), Unit::of(8), Unit::of(4));
     line->setSpacing(Unit::of(16));
@@ -82,8 +83,14 @@ void Toast::tell(const QString& text, const QString& action, std::function<void(
     place();
     fade(true);
     raise();
+    takeLastTabStop();
     wait();
     Announcer::announce(*this, text);
+}
+
+void Toast::takeLastTabStop() {
+    if (window()->previousInFocusChain() != m_button)
+        setTabOrder(window()->previousInFocusChain(), m_button);
 }
 
 void Toast::dismiss() {
@@ -93,7 +100,8 @@ void Toast::dismiss() {
 }
 
 bool Toast::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == parent() && event->type() == QEvent::Resize)
+    if (watched == m_page &&
+        (event->type() == QEvent::Resize || event->type() == QEvent::Show || event->type() == QEvent::Hide))
         place();
     if (watched == m_button && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
         wait();
@@ -117,16 +125,19 @@ void Toast::wait() {
 }
 
 void Toast::place() {
-    const QWidget* page = parentWidget();
+    const bool isOverPage = m_page->isVisibleTo(window());
+    const QSize area = isOverPage ? m_page->size() : window()->size();
+    const QPoint origin = isOverPage ? m_page->mapTo(window(), QPoint()) : QPoint();
     setMinimumHeight(Unit::of(kHeight));
     m_text->setWordWrap(false);
-    const int room = page->width() - 2 * Unit::of(kFromBottom);
+    const int room = area.width() - 2 * Unit::of(kFromBottom);
     const bool isLong = sizeHint().width() > room;
     m_text->setWordWrap(isLong);
     const int width = isLong ? room : sizeHint().width();  // the hint of text that wraps is narrow
     const int height = layout()->hasHeightForWidth() ? std::max(minimumHeight(), layout()->totalHeightForWidth(width))
                                                      : std::max(minimumHeight(), sizeHint().height());
-    setGeometry((page->width() - width) / 2, page->height() - height - Unit::of(kFromBottom), width, height);
+    setGeometry(origin.x() + (area.width() - width) / 2, origin.y() + area.height() - height - Unit::of(kFromBottom),
+                width, height);
 }
 
 void Toast::fade(bool isAppearing) {

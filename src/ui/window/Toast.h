@@ -17,11 +17,14 @@ class Toast final : public QWidget {
   public:
     static constexpr int lifetime = 6000;  // milliseconds
 
-    /// Lies over the lower edge of `page`.
-    explicit Toast(QWidget* page);
+    /// Lies over the lower edge of `page`, or of the window while that is hidden. Belongs to the window: a stack shows
+    /// screen readers its pages alone.
+    Toast(QWidget* page, QWidget* window);
 
     /// Shows the text in place of the one before. `action` is the word on the button; empty for no button.
     void tell(const QString& text, const QString& action, std::function<void()> onAction);
+    /// For pages that are made later.
+    void takeLastTabStop();
     void dismiss();
     /// Takes back what the button offers: it would do something else by now.
     void dismissOffer() {
@@ -39,6 +42,7 @@ class Toast final : public QWidget {
     void wait();
     void fade(bool isAppearing);
 
+    QWidget* m_page;
     QLabel* m_text;
     QPushButton* m_button;
     std::function<void()> m_onAction;

@@ -22,7 +22,7 @@ namespace kinesta::testing {
 /// A program as screen readers see it, and a hand that points and types. Asks the accessibility bus itself.
 class AccessibleProgram {
   public:
-    enum State { checked = 4, enabled = 8, focusable = 11, focused = 12, selected = 23, showing = 25 };
+    enum State { active = 1, checked = 4, enabled = 8, focusable = 11, focused = 12, selected = 23, showing = 25 };
 
     struct Node {
         std::string bus;
@@ -95,16 +95,39 @@ class AccessibleProgram {
             return node.has(focused) && node.role != "filler" && node.role != "list item";
         });
     }
-    /// What Tab must reach: of a group of radio buttons the chosen one, of a list the list.
-    std::vector<Node> tabStops() const {
+    /// What Tab must reach in there: of a group of radio buttons the chosen one or else the first, of a list the list.
+    std::vector<Node> tabStops(const Node& from) const {
         std::vector<Node> all;
-        search(m_program, [&](const Node& node) {
+        const auto nodes = children(from);
+        const bool isChosen = std::ranges::any_of(nodes, [](const Node& node) { return node.has(checked); });
+        bool hasRadio = false;
+        for (const Node& node : nodes) {
+            if (!node.has(showing))
+                continue;
+            const bool isRadio = node.role == "radio button";
             if (node.has(focusable) && node.has(enabled) && node.role != "list item" &&
-                (node.role != "radio button" || node.has(checked)))
+                (!isRadio || (isChosen ? node.has(checked) : !hasRadio)))
                 all.push_back(node);
-            return false;
-        });
+            hasRadio = hasRadio || isRadio;
+            const auto below = tabStops(node);
+            all.insert(all.end(), below.begin(), below.end());
+        }
         return all;
+    }
+    /// Presses the key and waits until the focus moves away. Returns where it then is. Needs listen().
+    Node moveFocus(const Node& from, const std::string& key) {
+        press(key);
+        Node at = from;
+        if (!eventually([&] {
+                hear();
+                if (!m_focused.empty())
+                    at = read(m_program.bus, std::exchange(m_focused, {}));
+                if (at.role == "list item")
+                    at = focus().value_or(from);
+                return at.path != from.path;
+            }))
+            throw std::runtime_error("the focus stays at " + from.role + " " + from.name);
+        return at;
     }
     /// Presses the key until the focus is there.
     ::testing::AssertionResult tabTo(const std::string& role, const std::string& name,
@@ -122,22 +145,21 @@ class AccessibleProgram {
         return ::testing::AssertionFailure() << role << " " << name << " not among\n" << passed;
     }
 
-    /// Begins to note the notifications that appear: screen readers say them wherever the focus is.
+    /// Begins to note where the focus goes, and the notifications that appear, which screen readers say wherever it is.
     void listen() {
         EXPECT_GE(sd_bus_match_signal(m_bus, &m_listening, m_program.bus.c_str(), nullptr,
-                                      "org.a11y.atspi.Event.Object", "StateChanged", &noteNotification, this),
+                                      "org.a11y.atspi.Event.Object", "StateChanged", &noteState, this),
                   0);
         EXPECT_GE(
             sd_bus_call_method(m_bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry",
-                               "RegisterEvent", nullptr, nullptr, "sass", "object:state-changed:showing", 0, ""),
+                               "RegisterEvent", nullptr, nullptr, "sass", "object:state-changed", 0, ""),
             0);
     }
     /// Waits until a notification with this text appears. Those before it are forgotten.
     ::testing::AssertionResult says(const std::string& text) {
         auto said = m_said.end();
         const bool isSaid = eventually([&] {
-            while (sd_bus_process(m_bus, nullptr) > 0) {
-            }
+            hear();
             said = std::ranges::find(m_said, text);
             return said != m_said.end();
         });
@@ -265,13 +287,20 @@ class AccessibleProgram {
         const std::unique_ptr<char, decltype(&::free)> owned(text, &::free);
         return text == nullptr ? "" : text;
     }
-    static int noteNotification(sd_bus_message* signal, void* self, sd_bus_error* /*error*/) {
-        const char* state = "";
+    void hear() const {
+        while (sd_bus_process(m_bus, nullptr) > 0) {
+        }
+    }
+    static int noteState(sd_bus_message* signal, void* self, sd_bus_error* /*error*/) {
+        const char* name = "";
         int isSo = 0;
-        sd_bus_message_read(signal, "si", &state, &isSo);
-        if (std::string_view(state) != "showing" || isSo == 0)
-            return 0;
+        sd_bus_message_read(signal, "si", &name, &isSo);
         auto& program = *static_cast<AccessibleProgram*>(self);
+        const std::string_view state = isSo != 0 ? name : "";
+        if (state == "focused")
+            program.m_focused = sd_bus_message_get_path(signal);
+        if (state != "showing")
+            return 0;
         const Node node = program.read(sd_bus_message_get_sender(signal), sd_bus_message_get_path(signal));
         if (node.role == "notification")
             program.m_said.push_back(node.name);
@@ -315,6 +344,7 @@ class AccessibleProgram {
 
     sd_bus* m_bus = nullptr;
     sd_bus_slot* m_listening = nullptr;
+    std::string m_focused;
     std::vector<std::string> m_said;
     Node m_program;
 };

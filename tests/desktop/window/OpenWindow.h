@@ -43,6 +43,30 @@ struct OpenWindow : Application, PadStream {
         made["action"].update(action);
         return made;
     }
+    /// A rule of every type of gesture and of every kind of action, named by its action.
+    static std::vector<json> everyKind() {
+        std::vector<json> rules{
+            rule("unconfigured", "unconfigured"),
+            rule("keyboardShortcut"),
+            rule("middleClick", "doubleClick"),
+            rule("closeWindow", "singleSoftClick"),
+            rule("openURL", "singleForceClick"),
+            rule("openFileOrFolder", "tipTapLeft"),
+            rule("launchApplication", "doubleTipTapRight"),
+            rule("shellCommand", "anchorDraw"),
+            rule("toggleConfigurationWindow", "tripleTap"),
+            rule("disableAllRules", "singleTap", 4),
+            rule("adjustVolume", "edgeSlide"),
+        };
+        for (json& each : rules) {
+            each["isEnabled"] = false;
+            each["action"]["kind"] = each["name"];
+        }
+        rules[1]["action"].update({{"keyCode", 17}, {"modifiers", 9}});
+        rules[6]["action"]["applicationArguments"] = {"--one", "two"};
+        rules[7]["action"]["value"] = "true";
+        return rules;
+    }
     /// Has the application show its window with these rules, the first of them selected if there are any.
     void open(const std::vector<json>& rules = {}) {
         import(rules);
@@ -58,11 +82,11 @@ struct OpenWindow : Application, PadStream {
     }
     void launch() {
         application = start("--trackpad pad");
-        processOf();
+        const auto process = static_cast<std::uint32_t>(processOf());
         EXPECT_EQ(run("ctl show"), "0|");
         program.emplace("Kinesta");
         program->await("frame", "Kinesta");
-        EXPECT_TRUE(eventually([&] { return (window = desktop.active()) != XCB_WINDOW_NONE; }));
+        EXPECT_TRUE(eventually([&] { return desktop.has(window = desktop.active(), "_NET_WM_PID", process); }));
         desktop.addState(window, "_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ");
         // It says where its parts are on the screen, which it knows a moment later.
         EXPECT_TRUE(eventually([&] {

@@ -168,7 +168,7 @@ SessionApplication::Answer SessionApplication::call(const char* interface, const
     if ((text != nullptr && sd_bus_message_append(question.get(), "s", text) < 0) ||
         (flag && sd_bus_message_append(question.get(), "b", *flag ? 1 : 0) < 0))
         return std::nullopt;
-    sd_bus_error error = SD_BUS_ERROR_NULL;
+    sd_bus_error error{};
     made = nullptr;
     const auto began = Clock::now();
     const int outcome = sd_bus_call(bus, question.get(), kMicroseconds, &error, &made);

@@ -12,9 +12,6 @@ namespace kinesta {
 /// MacMainLoop runs. Main thread only.
 class MacPointerEventMonitoring final : public PointerEventMonitoring {
   public:
-    MacPointerEventMonitoring();
-    ~MacPointerEventMonitoring() override;
-
     [[nodiscard]] PointerEventMonitor monitor(PointerEventScope scope, Handler handler) override;
 
   protected:

@@ -48,10 +48,6 @@ struct MacPointerEventMonitoring::Monitor {
     id token = nil;
 };
 
-MacPointerEventMonitoring::MacPointerEventMonitoring() = default;
-
-MacPointerEventMonitoring::~MacPointerEventMonitoring() = default;
-
 PointerEventMonitor MacPointerEventMonitoring::monitor(PointerEventScope scope, Handler handler) {
     const auto monitor = std::make_shared<Monitor>();
     monitor->handler = std::move(handler);

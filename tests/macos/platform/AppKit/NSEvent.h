@@ -21,9 +21,6 @@ typedef CF_OPTIONS(unsigned long long, NSEventMask) {
     NSEventMaskLeftMouseUp = 1ULL << NSEventTypeLeftMouseUp,
     NSEventMaskRightMouseDown = 1ULL << NSEventTypeRightMouseDown,
     NSEventMaskRightMouseUp = 1ULL << NSEventTypeRightMouseUp,
-    NSEventMaskKeyDown = 1ULL << NSEventTypeKeyDown,
-    NSEventMaskKeyUp = 1ULL << NSEventTypeKeyUp,
-    NSEventMaskFlagsChanged = 1ULL << NSEventTypeFlagsChanged,
     NSEventMaskPressure = 1ULL << NSEventTypePressure
 };
 typedef CF_OPTIONS(NSUInteger, NSEventModifierFlags) {
