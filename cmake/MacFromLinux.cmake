@@ -5,7 +5,7 @@ set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KINESTA_MACOS_SDK CMAKE_OSX_ARCHITECTUR
 set(CMAKE_OSX_SYSROOT ${KINESTA_MACOS_SDK})
 set(CMAKE_SYSTEM_PROCESSOR ${CMAKE_OSX_ARCHITECTURES})
 
-set(llvm /usr/lib/llvm-19/bin)
+set(llvm /usr/lib/llvm-16/bin)
 foreach(language C CXX OBJCXX)
     set(CMAKE_${language}_COMPILER ${llvm}/clang++)
     set(CMAKE_${language}_COMPILER_TARGET ${CMAKE_OSX_ARCHITECTURES}-apple-macos)
@@ -20,7 +20,7 @@ set(CMAKE_INSTALL_NAME_TOOL ${llvm}/llvm-install-name-tool)
 set(standard_library "-nostdinc++ -isystem ${KINESTA_MACOS_SDK}/usr/include/c++/v1")
 set(CMAKE_CXX_FLAGS_INIT ${standard_library})
 set(CMAKE_OBJCXX_FLAGS_INIT ${standard_library})
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld -mlinker-version=1115 -Wl,-adhoc_codesign -Wl,-dead_strip")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld -mlinker-version=1115 -Wl,-adhoc_codesign -Wl,-dead_strip -Wno-unused-command-line-argument")
 
 # Packages come only from the folder: the headers of Linux must stay out.
 set(CMAKE_FIND_ROOT_PATH ${KINESTA_MACOS_SDK})

@@ -2459,6 +2459,70 @@
         <source>The desktop&apos;s portal did not open %1.</source>
         <translation>Das Portal der Arbeitsumgebung hat %1 nicht geöffnet.</translation>
     </message>
+    <message>
+        <source>%1 cannot be loaded, so no trackpad can be read.</source>
+        <translation>%1 lässt sich nicht laden, deshalb kann kein Trackpad gelesen werden.</translation>
+    </message>
+    <message>
+        <source>No multi-touch trackpad was found.</source>
+        <translation>Es wurde kein Multi-Touch-Trackpad gefunden.</translation>
+    </message>
+    <message>
+        <source>set it in a terminal: %1</source>
+        <translation>im Terminal eingeben: %1</translation>
+    </message>
+    <message>
+        <source>Trackpad</source>
+        <translation>Touchpad</translation>
+    </message>
+    <message>
+        <source>%1 is no application.</source>
+        <translation>%1 ist kein Programm.</translation>
+    </message>
+    <message>
+        <source>Choose an application: a folder whose name ends in .app.</source>
+        <translation>Wählen Sie ein Programm: einen Ordner, dessen Name auf .app endet.</translation>
+    </message>
+    <message>
+        <source>Switch Kinesta on under System Settings › Privacy &amp; Security › Accessibility; for the command line, the terminal that it runs in.</source>
+        <translation>Schalten Sie Kinesta unter Systemeinstellungen › Datenschutz &amp; Sicherheit › Bedienungshilfen ein; für die Befehlszeile das Terminal, in dem sie läuft.</translation>
+    </message>
+    <message>
+        <source>macOS has not given this program the accessibility permission.</source>
+        <translation>macOS hat diesem Programm die Bedienungshilfen nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>macOS lets this program post them.</source>
+        <translation>macOS lässt dieses Programm sie senden.</translation>
+    </message>
+    <message>
+        <source>macOS tells no keyboard layout.</source>
+        <translation>macOS nennt keine Tastaturbelegung.</translation>
+    </message>
+    <message>
+        <source>Choose an input source with a keyboard layout in System Settings.</source>
+        <translation>Wählen Sie in den Systemeinstellungen eine Eingabequelle mit Tastaturbelegung.</translation>
+    </message>
+    <message>
+        <source>Closed and tiled through the accessibility interface.</source>
+        <translation>Sie werden über die Bedienungshilfen geschlossen und angeordnet.</translation>
+    </message>
+    <message>
+        <source>Closed through the accessibility interface. Tiling needs macOS 15.</source>
+        <translation>Sie werden über die Bedienungshilfen geschlossen. Das Anordnen braucht macOS 15.</translation>
+    </message>
+    <message>
+        <source>macOS opens them.</source>
+        <translation>macOS öffnet sie.</translation>
+    </message>
+    <message>
+        <source>Kinesta tells problems in its window.</source>
+        <translation>Kinesta zeigt Probleme in seinem Fenster.</translation>
+    </message>
+    <message>
+        <source>Shown over all windows.</source>
+        <translation>Sie erscheint über allen Fenstern.</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>

@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/linuxdesktop/ReportText.h"
+#include "platform/qt/ReportText.h"
 #include "support/Translation.h"
 
 namespace kinesta {

@@ -1,6 +1,7 @@
 #include "platform/macos/application/MacSignalListener.h"
 
 #include <dispatch/dispatch.h>
+#include <objc/objc.h>
 
 #include <csignal>
 #include <utility>

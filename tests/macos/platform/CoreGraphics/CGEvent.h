@@ -1,6 +1,7 @@
 #pragma once
 
 #include <CoreGraphics/CGGeometry.h>
+#include <stdint.h>
 
 #ifdef __cplusplus
 extern "C" {

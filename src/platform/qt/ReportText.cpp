@@ -1,4 +1,4 @@
-#include "platform/linuxdesktop/ReportText.h"
+#include "platform/qt/ReportText.h"
 
 #include <QDir>
 #include <QString>
