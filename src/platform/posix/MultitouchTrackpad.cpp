@@ -37,16 +37,12 @@ void MultitouchTrackpad::watch(std::function<void(const PadEvent&)> watcher) {
 }
 
 void MultitouchTrackpad::offerClick(const PointerEvent& event) {
-    switch (event.kind) {
-        case PointerEvent::Kind::leftDown:
-        case PointerEvent::Kind::rightDown:
-            return m_watching.offer({event.timestamp, PadButton::down});
-        case PointerEvent::Kind::leftUp:
-        case PointerEvent::Kind::rightUp:
-            return m_watching.offer({event.timestamp, PadButton::up});
-        case PointerEvent::Kind::pressure:
-            return m_watching.offer({event.timestamp, PadPressure{event.stage}});
-    }
+    PadEvent seen{event.timestamp, PadButton::down};
+    if (event.kind == PointerEvent::Kind::pressure)
+        seen.content = PadPressure{event.stage};
+    else if (event.kind == PointerEvent::Kind::leftUp || event.kind == PointerEvent::Kind::rightUp)
+        seen.content = PadButton::up;
+    m_watching.offer(seen);
 }
 
 }  // namespace kinesta

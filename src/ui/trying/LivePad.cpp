@@ -15,8 +15,6 @@
 namespace kinesta {
 namespace {
 
-constexpr double kUsualProportions = 4.0 / 3;
-
 QAccessibleInterface* makeAccessible(const QString& name, QObject* object) {
     if (name != QLatin1String(LivePad::staticMetaObject.className()))
         return nullptr;
@@ -33,7 +31,7 @@ void letScreenReadersKnow() {
 
 }  // namespace
 
-LivePad::LivePad(const Clock& clock, int width) : m_clock(clock), m_width(width), m_proportions(kUsualProportions) {
+LivePad::LivePad(const Clock& clock, int width) : m_clock(clock), m_width(width) {
     letScreenReadersKnow();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_timer.setSingleShot(true);

@@ -53,9 +53,11 @@ class LivePad final : public QWidget {
     /// The pad without its lower edge.
     QRectF pad() const;
 
+    static constexpr double kUsualProportions = 4.0 / 3;
+
     const Clock& m_clock;
     int m_width;
-    double m_proportions;
+    double m_proportions = kUsualProportions;
     bool m_isReading = true;
     CornerPalmRejectionSettings m_palms;
     LivePadModel m_model;

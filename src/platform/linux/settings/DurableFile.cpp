@@ -19,7 +19,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds kLongestWait(2);
-constexpr int kMostLinks = 40;  // as many as the kernel follows
+constexpr off_t kLargestFile = off_t{64} << 20;  // settings and rules take kilobytes
+constexpr int kMostLinks = 40;                   // as many as the kernel follows
 
 // Names of the content on its way into the file.
 constexpr const char* kBeingWritten = ".new";
@@ -110,6 +111,8 @@ Result<std::optional<std::string>> DurableFile::read() const {
         return failure(m_path, EISDIR);
     if (!S_ISREG(status.st_mode))
         return Error{m_path + ": Not a regular file"};
+    if (status.st_size > kLargestFile)
+        return Error{m_path + ": Larger than 64 MiB"};
 
     std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');  // one more, to see the end at once
     std::size_t size = 0;

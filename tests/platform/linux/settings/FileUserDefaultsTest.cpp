@@ -126,6 +126,11 @@ TEST_F(FileUserDefaultsTest, LeavesAloneWhatItCannotRead) {
     defaults.setInteger("c", 3);
     EXPECT_TRUE(onlyProblem("Not a regular file"));
     fs::remove(path);
+    writeText(path, "{");
+    fs::resize_file(path, std::uintmax_t{2} << 30);
+    defaults.setInteger("c", 4);
+    EXPECT_TRUE(onlyProblem("Larger than 64 MiB"));
+    fs::remove(path);
     writeText(path, R"({"a":9,"theirs":true})");
     defaults.remove("c");
     EXPECT_EQ(readText(path), "{\n  \"a\": 1,\n  \"b\": 2,\n  \"theirs\": true\n}\n");
