@@ -20,7 +20,8 @@ set(CMAKE_INSTALL_NAME_TOOL ${llvm}/llvm-install-name-tool)
 set(standard_library "-nostdinc++ -isystem ${KINESTA_MACOS_SDK}/usr/include/c++/v1")
 set(CMAKE_CXX_FLAGS_INIT ${standard_library})
 set(CMAKE_OBJCXX_FLAGS_INIT ${standard_library})
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld -mlinker-version=1115 -Wl,-adhoc_codesign -Wl,-dead_strip -Wno-unused-command-line-argument")
+# The whole layer, not only what the command line uses of it.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld -mlinker-version=1115 -Wl,-adhoc_codesign -Wl,-all_load -Wno-unused-command-line-argument")
 
 # Packages come only from the folder: the headers of Linux must stay out.
 set(CMAKE_FIND_ROOT_PATH ${KINESTA_MACOS_SDK})
