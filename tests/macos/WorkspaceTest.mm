@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
@@ -25,7 +26,8 @@ class WorkspaceOnTheMac : public MacTest {
 
 TEST_F(WorkspaceOnTheMac, OpensPagesFilesAndApplications) {
     @autoreleasepool {
-        MacWorkspace workspace;
+        HandOvers handOvers;
+        MacWorkspace workspace(handOvers);
         for (const char* address : {"HTTPS://a.example/?q=%20", "http://b.example", "file:///etc", "mailto:a@b",
                                     "https://a.example/with blank", "\xff", ""})
             workspace.openURL(address);
@@ -44,6 +46,7 @@ TEST_F(WorkspaceOnTheMac, OpensPagesFilesAndApplications) {
                    "NSURL fileURLWithPath:\"/a/../b.app\"",
                    "NSWorkspace#1 openApplicationAtURL:/a/../b.app configuration:NSWorkspaceOpenConfiguration#1 "
                    "completionHandler:block"}));
+        EXPECT_TRUE(handOvers.wait(std::chrono::milliseconds(0)));
         EXPECT_EQ(workspace.frontmostApplication(), std::nullopt);
         fakes::bringToFront(77);
         EXPECT_EQ(workspace.frontmostApplication(), 77);
@@ -61,14 +64,17 @@ TEST_F(WorkspaceOnTheMac, OpensPagesFilesAndApplications) {
 TEST_F(WorkspaceOnTheMac, StartsProgramsFromTheGlobalQueue) {
     @autoreleasepool {
         std::vector<std::string> problems;
+        HandOvers handOvers;
         {
-            MacProcessLauncher launcher([&](const std::string& problem) { problems.push_back(problem); });
+            MacProcessLauncher launcher([&](const std::string& problem) { problems.push_back(problem); }, handOvers);
             launcher.launch("/bin/zsh", {"-lc", " echo  'two words' "});
             launcher.launch("/missing/program", {});
         }
         EXPECT_EQ(objc::takeCalls(), (Calls{"dispatch_get_global_queue 25", "dispatch_async FakeQueue#1",
                                             "dispatch_get_global_queue 25", "dispatch_async FakeQueue#1"}));
+        EXPECT_FALSE(handOvers.wait(std::chrono::milliseconds(0)));
         fakes::drainMainQueue();
+        EXPECT_TRUE(handOvers.wait(std::chrono::milliseconds(0)));
         const Calls calls = objc::takeCalls();
         EXPECT_EQ(Calls(calls.begin(), calls.begin() + 4),
                   (Calls{"NSURL fileURLWithPath:\"/bin/zsh\"", "NSTask#1 setExecutableURL:/bin/zsh",

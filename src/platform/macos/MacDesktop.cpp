@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 
 #include "platform/macos/MacFindings.h"
@@ -31,6 +32,8 @@
 
 namespace kinesta {
 namespace {
+
+constexpr std::chrono::seconds kLongestHandOver(3);  // the system answers within tenths of a second
 
 std::filesystem::path settingsFolderIn(const HomeFolders& homes) {
     return std::filesystem::path(homes.homeFolder("").value_or("")) / "Library" / "Application Support" / "Kinesta";
@@ -90,14 +93,15 @@ std::string problemOfTrackpad(const std::string& path) {
 
 /// Everything that actions need.
 struct MacDesktop::Actions {
-    explicit Actions(std::function<void(const std::string&)> tell) : launcher(std::move(tell)) {}
+    explicit Actions(std::function<void(const std::string&)> tell) : launcher(std::move(tell), handOvers) {}
 
     MacSystemVersion systemVersion;
     MacAccessibilityPermission permission;
     MacEventSynthesizer events;
     MacKeyboardLayout layout;
     MacKeyRecording keyRecording{layout};
-    MacWorkspace workspace;
+    HandOvers handOvers;
+    MacWorkspace workspace{handOvers};
     MacProcessLauncher launcher;
     MacAccessibilityElements accessibility;
     MacOwnWindows ownWindows;
@@ -270,7 +274,11 @@ ApplicationNotifications& MacDesktop::notifications() { return actions().notific
 
 WindowActionOutcomes& MacDesktop::windowOutcomes() { return actions().outcomes; }
 
-void MacDesktop::finishActions() { m_actions.reset(); }
+void MacDesktop::finishActions() {
+    if (m_actions)
+        m_actions->handOvers.wait(kLongestHandOver);
+    m_actions.reset();
+}
 
 std::vector<DesktopFinding> MacDesktop::findings() {
     Actions& a = actions();

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "actions/ProcessLauncher.h"
+#include "platform/macos/workspace/HandOvers.h"
 
 namespace kinesta {
 
@@ -11,13 +12,14 @@ namespace kinesta {
 class MacProcessLauncher final : public ProcessLauncher {
   public:
     /// `tell` receives one sentence, on another thread and perhaps after this has gone, when a program cannot be
-    /// started.
-    explicit MacProcessLauncher(std::function<void(const std::string&)> tell);
+    /// started. Starts are under way in `handOvers`, which must outlive this.
+    MacProcessLauncher(std::function<void(const std::string&)> tell, HandOvers& handOvers);
 
     void launch(std::string executable, std::vector<std::string> arguments) override;
 
   private:
     std::function<void(const std::string&)> m_tell;
+    HandOvers& m_handOvers;
 };
 
 }  // namespace kinesta

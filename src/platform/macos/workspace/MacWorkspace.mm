@@ -36,10 +36,12 @@ void MacWorkspace::launchApplication(const std::string& path, const std::vector<
         return;
     NSWorkspaceOpenConfiguration* const configuration = [NSWorkspaceOpenConfiguration configuration];
     configuration.arguments = nsTexts(arguments);
-    // The handler would be called on a queue of its own.
+    const HandOvers::Request request = m_handOvers.begin();
+    // The handler is called on a queue of its own, and given up afterwards.
     [NSWorkspace.sharedWorkspace openApplicationAtURL:fileURL(path)
                                         configuration:configuration
-                                    completionHandler:^(NSRunningApplication*, NSError*){
+                                    completionHandler:^(NSRunningApplication*, NSError*) {
+                                      (void)request;
                                     }];
 }
 
