@@ -71,6 +71,8 @@ void TileGroup::resizeEvent(QResizeEvent* event) {
 }
 
 void TileGroup::fit() {
+    if (width() == 0)
+        return;  // not laid out yet: one column would be seen for a moment
     int columns = m_columns;
     while (columns > 1 && width() < widthFor(columns))
         columns = (columns + 1) / 2;
