@@ -138,7 +138,7 @@ TEST(Program, MonitorsAMultitouchLibrary) {
     const TemporaryFolder settings;
     const std::string environment = "KINESTA_TEST_TAP=1 XDG_CONFIG_HOME=" + settings.path().string() + " ";
     const std::string arguments = "monitor --multitouch-library multitouch_library.so";
-    Program monitor("cd " KINESTA_MULTITOUCH_LIBRARIES " && " + environment + "exec " + kKinesta + arguments);
+    Program monitor("cd '" KINESTA_MULTITOUCH_LIBRARIES "' && " + environment + "exec " + kKinesta + arguments);
     EXPECT_TRUE(monitor.waitFor("2-finger single tap")) << monitor.output;
     EXPECT_NE(monitor.output.find("multitouch_library.so"), std::string::npos);
     EXPECT_NE(monitor.output.find("●"), std::string::npos) << "the fingers on the pad";
