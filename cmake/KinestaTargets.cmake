@@ -48,6 +48,11 @@ set(KINESTA_COMMON_HEADERS
     <algorithm> <array> <chrono> <cmath> <cstdint> <cstdlib> <filesystem> <functional> <map> <memory> <optional> <set>
     <span> <string> <string_view> <system_error> <utility> <variant> <vector>)
 
+# A few of Qt's: all of them take longer to load for each file than what they save.
+set(KINESTA_QT_HEADERS
+    <QAbstractButton> <QAccessible> <QBoxLayout> <QEvent> <QGuiApplication> <QLabel> <QPainter> <QPushButton> <QString>
+    <QWidget>)
+
 # kinesta_module(NAME [PUBLIC libs...] [PRIVATE libs...]): the static library of src/NAME.
 # The macOS layer's Objective-C++ files are compiled with ARC.
 function(kinesta_module name)
@@ -89,7 +94,7 @@ function(kinesta_qt_module name)
     target_link_libraries(${target} PUBLIC kinesta_options Threads::Threads Qt6::Widgets ${ARG_PUBLIC}
         PRIVATE ${ARG_PRIVATE})
     if(name STREQUAL "platform/qt")
-        target_precompile_headers(${target} PRIVATE <QtWidgets> ${KINESTA_COMMON_HEADERS})
+        target_precompile_headers(${target} PRIVATE ${KINESTA_QT_HEADERS} ${KINESTA_COMMON_HEADERS})
     else()
         target_precompile_headers(${target} REUSE_FROM kinesta_platform_qt)
     endif()
@@ -110,7 +115,7 @@ function(kinesta_test name)
     target_link_libraries(test_${name} PRIVATE kinesta_test_support kinesta_test_main ${ARG_LIBRARIES})
     if(ARG_QT)  # compiled as Qt demands, so the precompiled headers of the other tests do not fit
         set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
-        target_precompile_headers(test_${name} PRIVATE <gtest/gtest.h> <QtWidgets> ${KINESTA_COMMON_HEADERS})
+        target_precompile_headers(test_${name} PRIVATE <gtest/gtest.h> ${KINESTA_QT_HEADERS} ${KINESTA_COMMON_HEADERS})
     else()
         target_precompile_headers(test_${name} REUSE_FROM kinesta_test_main)
     endif()
