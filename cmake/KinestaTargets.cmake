@@ -8,7 +8,7 @@ set(CMAKE_OBJCXX_STANDARD 20)
 set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
 set(CMAKE_OBJCXX_EXTENSIONS OFF)
 if(APPLE)
-    # The SDK there may warn of what the checks on Linux cannot know; nobody's first build should stop at that.
+    # The SDK there may warn of what the checks on Linux cannot know; the first build there should not stop at that.
     set(CMAKE_COMPILE_WARNING_AS_ERROR OFF)
 endif()
 find_package(Threads REQUIRED)

@@ -192,7 +192,7 @@ class Application {
 
     void applyAppearance() { m_appearance.force(AppAppearances::ns(AppAppearances::stored(m_defaults))); }
 
-    /// Qt, which is the application's delegate, tells in this way that the person has opened the application again.
+    /// Qt, which is the application's delegate, reports in this way that the person has opened the application again.
     void followReopening() {
         QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &m_window,
                          [this](Qt::ApplicationState state) {

@@ -2496,7 +2496,7 @@
         <translation>macOS lässt dieses Programm sie senden.</translation>
     </message>
     <message>
-        <source>macOS tells no keyboard layout.</source>
+        <source>macOS gives no keyboard layout.</source>
         <translation>macOS nennt keine Tastaturbelegung.</translation>
     </message>
     <message>
@@ -2516,7 +2516,7 @@
         <translation>macOS öffnet sie.</translation>
     </message>
     <message>
-        <source>Kinesta tells problems in its window.</source>
+        <source>Kinesta shows problems in its window.</source>
         <translation>Kinesta zeigt Probleme in seinem Fenster.</translation>
     </message>
     <message>

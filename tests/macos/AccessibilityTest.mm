@@ -66,8 +66,8 @@ TEST_F(AccessibilityOnTheMac, SurvivesEveryCallThatGivesNothing) {
 }
 
 TEST_F(AccessibilityOnTheMac, AsksNobodyForWhatCannotBeAProcess) {
-    for (const ProcessIdentifier nobody : {0L, -7L, (1L << 32) + 7})
-        EXPECT_EQ(elements.applicationElement(nobody), nullptr) << nobody;
+    for (const ProcessIdentifier invalid : {0L, -7L, (1L << 32) + 7})
+        EXPECT_EQ(elements.applicationElement(invalid), nullptr) << invalid;
     EXPECT_EQ(desktop.log.take(), Calls{});
 }
 

@@ -49,7 +49,7 @@ TEST_F(ApplicationOnTheMac, TellsWhatTheSystemDoesToItUntilItEnds) {
     NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
     std::optional<MacSessionEvents> session;
     @autoreleasepool {
-        // Ends it while the platform tells its observers of the second waking.
+        // Ends it while the platform calls its observers for the second waking.
         __block int wakings = 0;
         auto* const ending = &session;
         id const first = [workspace addObserverForName:NSWorkspaceDidWakeNotification

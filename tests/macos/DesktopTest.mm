@@ -56,14 +56,14 @@ TEST_F(DesktopOnTheMac, GivesEveryPortAndLeavesNothing) {
         static_cast<void>(desktop.keyRecording());
         EXPECT_EQ(desktop.windowOutcomes().settle(0), WindowActionOutcomes::Outcome::unknown);
     }
-    fakes::drainMainQueue();  // what was on its way finds nobody
+    fakes::drainMainQueue();  // what was on its way finds no receiver
 }
 
 TEST_F(DesktopOnTheMac, SaysWhatATerminalCannotAskFor) {
     @autoreleasepool {
-        MacRunningApplication nobody("/nowhere/kinesta", {});
-        EXPECT_EQ(nobody.ask(ApplicationRequest::quit).error().message, "Kinesta does not run.");
-        EXPECT_FALSE(nobody.report());
+        MacRunningApplication none("/nowhere/kinesta", {});
+        EXPECT_EQ(none.ask(ApplicationRequest::quit).error().message, "Kinesta does not run.");
+        EXPECT_FALSE(none.report());
         MacMainLoop mainLoop;
         MacDesktop outsideOfABundle(mainLoop, MacProgramFiles::of("/usr/local/bin/kinesta"));
         EXPECT_EQ(outsideOfABundle.examplesFolder(), "/usr/local/share/kinesta/examples");

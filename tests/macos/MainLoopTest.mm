@@ -33,7 +33,7 @@ using MainLoopOnTheMac = LoggedThread<MacMainLoop, MacLoopBase>;
 
 std::vector<int> heard;
 
-/// In the place of the system, which stops the program, and tells whoever watches the signal.
+/// In the place of the system, which stops the program, and calls the watchers of the signal.
 extern "C" void stop(int) { fakes::signalArrives(SIGTSTP); }
 
 TEST_F(MainLoopOnTheMac, HasATimerOnlyWhileSomethingWaits) {

@@ -9,7 +9,7 @@
 
 namespace kinesta::testing {
 
-/// Touch records as the trackpad framework lays them out; bytes that nobody may read are all ones.
+/// Touch records as the trackpad framework lays them out; bytes that must not be read are all ones.
 class TouchRecords {
   public:
     TouchRecords& add(std::int32_t id, std::int32_t state, float x, float y) {
@@ -51,7 +51,7 @@ class MultitouchControls {
         return MultitouchControls(path);
     }
 
-    /// The library tells its calls from now on.
+    /// The library reports its calls from now on.
     void setNote(void (*note)(const char*)) const { function<void (*)(void (*)(const char*))>("setNote")(note); }
     /// The device that was made last.
     void* device() const { return function<void* (*)()>("lastDevice")(); }

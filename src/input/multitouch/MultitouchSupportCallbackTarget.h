@@ -29,8 +29,8 @@ class MultitouchSupportCallbackTarget {
     void receive(const void* touches, std::size_t count, Seconds timestamp);
 
     /// Closes a library whose device is stopped, so that no thread is in its code any more, unless in a callback. If
-    /// one runs at this moment, the library stays loaded for good: nobody can tell when the thread has returned into it
-    /// and left it.
+    /// one runs at this moment, the library stays loaded for good: it cannot be known when the thread has returned into
+    /// it and left it.
     void close(std::unique_ptr<DynamicLibrary> library);
 
     /// Waits until no callback runs.

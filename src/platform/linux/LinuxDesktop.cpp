@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstdlib>
 
 #include "platform/linux/keyboard/AnsiKeyCodes.h"
@@ -15,6 +14,7 @@
 #include "platform/linux/x11/X11Connection.h"
 #include "platform/posix/BrokenPipes.h"
 #include "platform/posix/MultitouchTrackpad.h"
+#include "platform/posix/SignalMeaning.h"
 #include "platform/posix/StreamTrackpad.h"
 #include "support/SystemError.h"
 #include "support/Translation.h"
@@ -46,19 +46,6 @@ std::optional<Error> whyNoDisplay() {
                  "kinesta daemon"};
 }
 
-ProgramSignal meaningOf(int signal) {
-    switch (signal) {
-        case SIGHUP:
-            return ProgramSignal::reload;
-        case SIGTSTP:
-            return ProgramSignal::stop;
-        case SIGUSR1:
-            return ProgramSignal::yield;
-        default:
-            return ProgramSignal::end;
-    }
-}
-
 }  // namespace
 
 LinuxDesktop::Places LinuxDesktop::Places::current() {
@@ -66,24 +53,8 @@ LinuxDesktop::Places LinuxDesktop::Places::current() {
 }
 
 void LinuxDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) {
-    std::vector<int> numbers;
-    for (const ProgramSignal signal : signals) {
-        switch (signal) {
-            case ProgramSignal::end:
-                numbers.insert(numbers.end(), {SIGINT, SIGTERM});
-                break;
-            case ProgramSignal::stop:
-                numbers.push_back(SIGTSTP);
-                break;
-            case ProgramSignal::reload:
-                numbers.push_back(SIGHUP);
-                break;
-            case ProgramSignal::yield:
-                numbers.push_back(SIGUSR1);
-                break;
-        }
-    }
-    m_signals.emplace(m_mainLoop, numbers, [handler = std::move(handler)](int signal) { handler(meaningOf(signal)); });
+    m_signals.emplace(m_mainLoop, signalNumbers(signals),
+                      [handler = std::move(handler)](int signal) { handler(meaningOfSignal(signal)); });
 }
 
 void LinuxDesktop::surviveClosedPipes() { surviveBrokenPipes(); }

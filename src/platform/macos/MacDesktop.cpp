@@ -26,6 +26,7 @@
 #include "platform/posix/BrokenPipes.h"
 #include "platform/posix/MultitouchTrackpad.h"
 #include "platform/posix/PosixDynamicLibrary.h"
+#include "platform/posix/SignalMeaning.h"
 #include "platform/posix/StreamTrackpad.h"
 #include "support/SystemError.h"
 #include "support/Translation.h"
@@ -43,34 +44,7 @@ SingleInstanceClaim certaintyOf(const SingleInstance& instance) {
     return instance.isCertain() ? SingleInstanceClaim::certain : SingleInstanceClaim::uncertain;
 }
 
-ProgramSignal meaningOf(int signal) {
-    switch (signal) {
-        case SIGHUP:
-            return ProgramSignal::reload;
-        case SIGTSTP:
-            return ProgramSignal::stop;
-        case SIGUSR1:
-            return ProgramSignal::yield;
-        default:
-            return ProgramSignal::end;
-    }
-}
-
-std::vector<int> numbersOf(ProgramSignal signal) {
-    switch (signal) {
-        case ProgramSignal::end:
-            return {SIGINT, SIGTERM};
-        case ProgramSignal::stop:
-            return {SIGTSTP};
-        case ProgramSignal::reload:
-            return {SIGHUP};
-        case ProgramSignal::yield:
-            return {SIGUSR1};
-    }
-    return {};
-}
-
-/// The accessibility interface tells what was asked for, not what a window makes of it.
+/// The accessibility interface confirms a request, not what a window does with it.
 class UntoldOutcomes final : public WindowActionOutcomes {
   public:
     void begin() override {}
@@ -85,7 +59,7 @@ std::string problemOfTrackpad(const std::string& path) {
     void* const create = library ? library->symbol("MTDeviceCreateDefault") : nullptr;
     if (create == nullptr)
         return translated("%1 cannot be loaded, so no trackpad can be read.", {path});
-    // The device is not given back: nobody knows how.
+    // The device is not released: whether it may be is unknown.
     return reinterpret_cast<void* (*)()>(create)() != nullptr ? "" : translated("No multi-touch trackpad was found.");
 }
 
@@ -122,12 +96,9 @@ MacDesktop::MacDesktop(MainLoop& mainLoop, MacProgramFiles files)
 MacDesktop::~MacDesktop() = default;
 
 void MacDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) {
-    std::vector<int> numbers;
-    for (const ProgramSignal signal : signals)
-        for (const int number : numbersOf(signal))
-            numbers.push_back(number);
     m_signals = std::make_unique<MacSignalListener>(
-        m_mainLoop, numbers, [handler = std::move(handler)](int signal) { handler(meaningOf(signal)); });
+        m_mainLoop, signalNumbers(signals),
+        [handler = std::move(handler)](int signal) { handler(meaningOfSignal(signal)); });
 }
 
 void MacDesktop::surviveClosedPipes() { surviveBrokenPipes(); }
@@ -249,7 +220,7 @@ ConnectedTrackpads MacDesktop::connectedTrackpads() {
 }
 
 void MacDesktop::onActionProblem(Tell tell, ProgramOutput) {
-    // Programs that are started have our own output, whatever that is.
+    // Started programs inherit our own output.
     m_onActionProblem = std::move(tell);
 }
 

@@ -35,14 +35,14 @@ std::vector<DesktopFinding> macFindings(AccessibilityPermission& permission, Key
                 translated("macOS lets this program post them.")),
         {keyboardLayout, translated("Following the keyboard layout"), hasLayout,
          hasLayout ? translated("Shortcuts follow the layout in force.")
-                   : translated("macOS tells no keyboard layout."),
+                   : translated("macOS gives no keyboard layout."),
          hasLayout ? "" : translated("Choose an input source with a keyboard layout in System Settings.")},
         allowed(windows, translated("Closing and tiling windows"), isTrusted,
                 version.majorVersion() >= kFirstVersionThatTiles
                     ? translated("Closed and tiled through the accessibility interface.")
                     : translated("Closed through the accessibility interface. Tiling needs macOS 15.")),
         {open, translated("Opening addresses and files"), true, translated("macOS opens them."), ""},
-        {notify, translated("Showing notifications"), true, translated("Kinesta tells problems in its window."), ""},
+        {notify, translated("Showing notifications"), true, translated("Kinesta shows problems in its window."), ""},
         {cue, translated("Showing the cue of an action"), true, translated("Shown over all windows."), ""},
     };
 }

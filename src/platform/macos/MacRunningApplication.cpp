@@ -19,7 +19,7 @@ bool endProcess(pid_t process, int signal, std::chrono::milliseconds patience) {
     constexpr int kPause = 5;  // milliseconds
     using Clock = std::chrono::steady_clock;
     bool isThere = ::kill(process, signal) == 0;
-    // The system tells only a parent when a process ends.
+    // Only a parent learns from the system when a process ends.
     for (const auto deadline = Clock::now() + patience; isThere && Clock::now() < deadline;) {
         ::poll(nullptr, 0, kPause);
         isThere = ::kill(process, 0) == 0;

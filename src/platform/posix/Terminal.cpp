@@ -62,7 +62,7 @@ TerminalTakeover::TerminalTakeover() {
     action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);
     for (std::size_t i = 0; i < kEndingSignals.size(); ++i) {
         ::sigaction(kEndingSignals[i], nullptr, &previousActions[i]);
-        // Whoever already handles a signal ends the program in order.
+        // A handler that is there already ends the program in order.
         if (previousActions[i].sa_handler == SIG_DFL)
             ::sigaction(kEndingSignals[i], &action, nullptr);
     }

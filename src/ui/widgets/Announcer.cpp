@@ -34,7 +34,7 @@ void Announcer::add(const QString& text) {
         m_texts.append(text);
 }
 
-// Qt 6.4 tells screen readers on Linux nothing of QAccessible::Alert. They do say notifications that appear.
+// Qt 6.4 sends no QAccessible::Alert to screen readers on Linux. They do speak notifications that appear.
 void Announcer::speak() {
     setAccessibleName(std::exchange(m_texts, {}).join(u'\n'));
     QAccessibleEvent appearance(this, QAccessible::ObjectShow);

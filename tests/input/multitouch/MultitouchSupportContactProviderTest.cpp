@@ -26,7 +26,7 @@ const std::string kKeptLibrary = KINESTA_MULTITOUCH_LIBRARIES "/multitouch_kept.
 Calls calls;
 void note(const char* call) { calls.emplace_back(call); }
 
-/// A library of the system that tells its calls.
+/// A library of the system that reports its calls.
 class NotingLibrary final : public DynamicLibrary {
   public:
     static std::unique_ptr<DynamicLibrary> open(const std::string& path) {

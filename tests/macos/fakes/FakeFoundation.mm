@@ -1,4 +1,4 @@
-// Notifications and settings. Whatever the code under test says to these classes is recorded by the
+// Notifications and settings. Every message from the code under test to these classes is recorded by the
 // runtime, properties included; what stands here is only the behaviour that it needs.
 #include <Foundation/Foundation.h>
 
@@ -71,8 +71,8 @@ struct Observer {
     NSNotification* const notification = [NSNotification new];
     notification.name = name;
     notification.object = object;
-    const std::vector<Observer> told = _observers;
-    for (const Observer& each : told) {
+    const std::vector<Observer> present = _observers;
+    for (const Observer& each : present) {
         if (each.name && ![each.name isEqual:name])
             continue;
         if (each.block)

@@ -69,8 +69,8 @@ bool isOnAnotherThread = false;
 
 void changed(NSObject* object, NSString* key) {
     @autoreleasepool {
-        const auto told = observations();
-        for (const Observation& each : told)
+        const auto present = observations();
+        for (const Observation& each : present)
             if ((!object || each.object == object) && [each.key isEqual:key])
                 tell(each);
     }

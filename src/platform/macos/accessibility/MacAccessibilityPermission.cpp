@@ -13,7 +13,7 @@ bool MacAccessibilityPermission::prompt() {
     const void* value = kCFBooleanTrue;
     const CfReference<CFDictionaryRef> options(CFDictionaryCreate(
         kCFAllocatorDefault, &key, &value, 1, &kCFTypeDictionaryKeyCallBacks, &kCFTypeDictionaryValueCallBacks));
-    return AXIsProcessTrustedWithOptions(options.get()) != 0;  // without options it asks nobody
+    return AXIsProcessTrustedWithOptions(options.get()) != 0;  // without options it shows no prompt
 }
 
 }  // namespace kinesta

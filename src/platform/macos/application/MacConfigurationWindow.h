@@ -4,8 +4,8 @@
 
 namespace kinesta {
 
-/// The configuration window as the platform knows it: whoever makes it also shows and hides it, but only the platform
-/// can tell that the application is hidden with it, and brings it to the front of all applications. Main thread only.
+/// The configuration window as the platform knows it. Its maker shows and hides it, but only the platform
+/// knows that the application is hidden with it, and brings it to the front of all applications. Main thread only.
 class MacConfigurationWindow final : public ConfigurationWindow {
   public:
     /// `maker` must outlive this. Its window has the title "Kinesta".

@@ -45,7 +45,7 @@ struct MacMainLoop::State : std::enable_shared_from_this<State> {
     /// Makes runDue() run soon. Any thread.
     void wake();
 
-    /// Removes the first task if it is due at `time` and nobody has asked to quit.
+    /// Removes the first task if it is due at `time` and the loop has not been asked to quit.
     Task takeDue(std::chrono::nanoseconds time) {
         const std::lock_guard guard(lock);
         const auto due = tasks.nextDue();

@@ -4,7 +4,8 @@
 
 namespace kinesta {
 
-/// The menu bar of this process, whoever made it. None in a program without an application object. Main thread only.
+/// The menu bar of this process, also one made by Qt. None in a program without an application object. Main thread
+/// only.
 class MacOwnMenus final : public OwnMenus {
   public:
     std::unique_ptr<OwnMenu> mainMenu() override;

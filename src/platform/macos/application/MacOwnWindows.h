@@ -4,7 +4,7 @@
 
 namespace kinesta {
 
-/// The windows of this process, whoever made them. None in a program without an application object. Main thread only.
+/// The windows of this process, also those of Qt. None in a program without an application object. Main thread only.
 class MacOwnWindows final : public OwnWindows {
   public:
     std::unique_ptr<OwnWindow> keyWindow() override;

@@ -7,7 +7,8 @@
 namespace kinesta {
 
 /// What the machine and the system do to the application: waking up, activation, hiding, and windows that come to the
-/// front or close, also those that are not of Qt. What Qt's window tells as well does no harm twice. Main thread only.
+/// front or close, also those that are not of Qt. Events that Qt's window reports too do no harm twice. Main thread
+/// only.
 ///
 /// `reopened` comes from the main: only the application's delegate hears that the person has started the application
 /// again, and that delegate belongs to Qt. Qt passes it on as QGuiApplication::applicationStateChanged with

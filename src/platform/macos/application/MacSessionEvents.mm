@@ -49,7 +49,7 @@ MacSessionEvents::MacSessionEvents(const ApplicationEvents& events)
     m_observations->observe(center, NSApplicationDidBecomeActiveNotification, ApplicationEvent::didBecomeActive);
     m_observations->observe(center, NSApplicationDidHideNotification, ApplicationEvent::windowDidChangeVisibility);
     m_observations->observe(center, NSApplicationDidUnhideNotification, ApplicationEvent::windowDidChangeVisibility);
-    // The workspace has a center of its own; the default one never tells of it.
+    // The workspace has a center of its own; the default one never posts it.
     m_observations->observe(NSWorkspace.sharedWorkspace.notificationCenter, NSWorkspaceDidWakeNotification,
                             ApplicationEvent::didWake);
 }

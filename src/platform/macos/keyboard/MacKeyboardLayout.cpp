@@ -14,7 +14,7 @@ namespace {
 std::string characters(const UCKeyboardLayout& layout, UInt16 keyCode, UInt32 keyboard) {
     std::array<UniChar, 4> units{};
     UniCharCount count = 0;
-    UInt32 deadKeys = 0;  // none pending, whatever the key before did
+    UInt32 deadKeys = 0;  // none pending from an earlier key
     if (UCKeyTranslate(&layout, keyCode, kUCKeyActionDown, 0, keyboard, 0, &deadKeys, units.size(), &count,
                        units.data()) != 0)
         return {};

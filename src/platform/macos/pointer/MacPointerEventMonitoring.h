@@ -8,7 +8,7 @@
 
 namespace kinesta {
 
-/// Mouse buttons and pressure as the window server tells them. In a program without a window they arrive only while a
+/// Mouse buttons and pressure as the window server reports them. In a program without a window they arrive only while a
 /// MacMainLoop runs. Main thread only.
 class MacPointerEventMonitoring final : public PointerEventMonitoring {
   public:

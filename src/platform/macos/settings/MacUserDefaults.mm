@@ -15,7 +15,7 @@
 namespace kinesta {
 namespace {
 
-/// Written anew with every change. The system tells other processes of changes only by key-value observing (from
+/// Changes with every write. Other processes hear of changes only by key-value observing (from
 /// memory), and the dots in all our other keys would make paths of them.
 NSString* const kRevisionKey = @"settingsRevision";
 
@@ -186,7 +186,7 @@ bool MacUserDefaults::reload() { return m_impl->takeChanges(); }
 void MacUserDefaults::watch(std::function<void()> onChange) {
     const std::weak_ptr<Impl> weak = m_impl;
     m_impl->onChange = std::move(onChange);
-    // On the thread of whoever made the change, and only for changes of this process (from memory).
+    // On the thread that made the change, and only for changes of this process (from memory).
     m_impl->ownProcess = std::make_unique<NotificationObservation>(
         NSNotificationCenter.defaultCenter, NSUserDefaultsDidChangeNotification, [weak] { Impl::tellSoon(weak); });
     m_impl->otherProcesses =

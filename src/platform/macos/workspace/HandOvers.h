@@ -11,7 +11,7 @@ namespace kinesta {
 /// wait for them.
 class HandOvers {
   public:
-    /// A request is under way until the last copy has gone, on whatever thread that is.
+    /// A request is under way until the last copy has gone. Any thread may drop it.
     using Request = std::shared_ptr<const void>;
 
     Request begin() {
