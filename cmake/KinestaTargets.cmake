@@ -53,6 +53,13 @@ set(KINESTA_QT_HEADERS
     <QAbstractButton> <QAccessible> <QBoxLayout> <QEvent> <QGuiApplication> <QLabel> <QPainter> <QPushButton> <QString>
     <QWidget>)
 
+# For the first build of a configuration, or for its only one: joins sources to fewer and larger ones, which takes a third
+# of the time. A change then compiles more than its file.
+option(KINESTA_UNITY_BUILD "Compile several sources of a module at once" OFF)
+function(kinesta_join_sources target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ${KINESTA_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 6)
+endfunction()
+
 # kinesta_module(NAME [PUBLIC libs...] [PRIVATE libs...]): the static library of src/NAME.
 # The macOS layer's Objective-C++ files are compiled with ARC.
 function(kinesta_module name)
@@ -62,6 +69,7 @@ function(kinesta_module name)
     string(REPLACE "/" "_" target ${name})
     if(sources)
         add_library(kinesta_${target} STATIC ${sources})
+        kinesta_join_sources(kinesta_${target})
         if(target STREQUAL "support")
             target_precompile_headers(kinesta_support PRIVATE ${KINESTA_COMMON_HEADERS})
         else()
@@ -86,6 +94,7 @@ function(kinesta_qt_module name)
     list(FILTER sources EXCLUDE REGEX "/ui/models/")  # a module of its own, without Qt
     string(REPLACE "/" "_" target kinesta_${name})
     add_library(${target} STATIC ${sources})
+    kinesta_join_sources(${target})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     # CMake 3.25 does not look for Qt objects in a header that was added after the first build.
     file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)

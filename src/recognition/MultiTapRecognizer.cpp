@@ -8,7 +8,7 @@
 namespace kinesta {
 namespace {
 
-constexpr int kLeastFingers = 2;  // a tap of one finger belongs to the system
+constexpr int kLeastTapFingers = 2;  // a tap of one finger belongs to the system
 constexpr int kMostTaps = 3;
 
 /// A contact of more fingers is no tap. Bounds the memory for a driver that gives every finger a new id in every frame
@@ -66,7 +66,7 @@ std::optional<TapSequence> MultiTapRecognizer::endContact(Seconds timestamp) {
     const int fingers = m_contact->maximumFingerCount;
     const bool movedTooFar = m_contact->movedTooFar;
     m_contact.reset();
-    if (duration > m_limits.maximumTapDuration || movedTooFar || fingers < kLeastFingers) {
+    if (duration > m_limits.maximumTapDuration || movedTooFar || fingers < kLeastTapFingers) {
         m_counted.reset();
         return std::nullopt;
     }

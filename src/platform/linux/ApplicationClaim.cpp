@@ -11,7 +11,7 @@ namespace kinesta {
 namespace {
 
 using Claim = std::optional<SingleInstance>;
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 
 /// Asks a daemon to end. Returns whether it ended.
 bool replace(const SingleInstance::Holder& daemon, const std::filesystem::path& settings) {
@@ -31,7 +31,7 @@ Result<Claim> claimForApplication(const std::filesystem::path& settings, Session
     constexpr int kPause = 5;  // milliseconds
     Error inTheWay;
     // Others start, end and are killed while this asks, so each round looks afresh.
-    for (const auto deadline = Clock::now() + 2 * SessionApplication::kPatience; Clock::now() < deadline;) {
+    for (const auto deadline = Steady::now() + 2 * SessionApplication::kPatience; Steady::now() < deadline;) {
         auto claimed = SingleInstance::claim(settings, SingleInstance::Role::application);
         if (claimed)
             return Claim(std::move(*claimed));

@@ -7,7 +7,7 @@
 namespace kinesta {
 namespace {
 
-constexpr std::uint16_t kLastKey = 255;  // of the virtual device
+constexpr std::uint16_t kLastCode = 255;  // of the virtual device
 
 }  // namespace
 
@@ -26,7 +26,7 @@ bool UinputInputPoster::isAvailable() {
 }
 
 std::optional<ModifierSituation> UinputInputPoster::modifiersFor(std::uint16_t code) {
-    if (code < KEY_ESC || code > kLastKey || !isAvailable())
+    if (code < KEY_ESC || code > kLastCode || !isAvailable())
         return std::nullopt;
     return ModifierSituation{{{KEY_LEFTSHIFT, kShiftModifier},
                               {KEY_LEFTCTRL, kControlModifier},

@@ -10,7 +10,7 @@
 namespace kinesta {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 
 constexpr const char* kService = "org.freedesktop.portal.Desktop";
 constexpr const char* kObject = "/org/freedesktop/portal/desktop";
@@ -22,8 +22,8 @@ constexpr std::chrono::seconds kPatience{3};
 }  // namespace
 
 DesktopPortal::~DesktopPortal() {
-    const auto deadline = Clock::now() + kPatience;
-    while (!m_unanswered.empty() && Clock::now() < deadline) {
+    const auto deadline = Steady::now() + kPatience;
+    while (!m_unanswered.empty() && Steady::now() < deadline) {
         sd_bus* bus = m_bus.open();
         if (bus == nullptr || m_bus.generation() != m_generation)
             return;

@@ -3,10 +3,10 @@
 namespace kinesta {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 
-std::uint64_t microsecondsUntil(Clock::time_point deadline) {
-    const auto left = std::chrono::duration_cast<std::chrono::microseconds>(deadline - Clock::now()).count();
+std::uint64_t microsecondsUntil(Steady::time_point deadline) {
+    const auto left = std::chrono::duration_cast<std::chrono::microseconds>(deadline - Steady::now()).count();
     return left > 0 ? static_cast<std::uint64_t>(left) : 0;
 }
 
@@ -42,7 +42,7 @@ int MessageBus::connect(sd_bus** bus) const {
 }
 
 bool MessageBus::flush() {
-    const auto deadline = Clock::now() + kPatience;
+    const auto deadline = Steady::now() + kPatience;
     for (;;) {
         if (!m_bus || !handleAnswers())
             return false;

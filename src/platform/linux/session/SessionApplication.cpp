@@ -11,7 +11,7 @@
 namespace kinesta {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 
 constexpr std::uint64_t kMicroseconds = std::chrono::microseconds(SessionApplication::kPatience).count();
 
@@ -170,7 +170,7 @@ SessionApplication::Answer SessionApplication::call(const char* interface, const
         return std::nullopt;
     sd_bus_error error{};
     made = nullptr;
-    const auto began = Clock::now();
+    const auto began = Steady::now();
     const int outcome = sd_bus_call(bus, question.get(), kMicroseconds, &error, &made);
     const std::string name = error.name != nullptr ? error.name : "";
     const std::string message = error.message != nullptr ? error.message : "";
@@ -178,7 +178,7 @@ SessionApplication::Answer SessionApplication::call(const char* interface, const
     if (outcome >= 0)
         return Result<BusMessagePointer>(BusMessagePointer(made));
     // By the clock: a program that leaves the bus gives the same error as one that does not answer in time.
-    if (Clock::now() - began >= kPatience)
+    if (Steady::now() - began >= kPatience)
         return Result<BusMessagePointer>(hangs(process()));
     if (meansAbsence(name) || sd_bus_is_open(bus) <= 0)
         return std::nullopt;
@@ -188,7 +188,7 @@ SessionApplication::Answer SessionApplication::call(const char* interface, const
 template <typename Call>
 Result<BusMessagePointer> SessionApplication::callPatiently(const Call& call) {
     constexpr int kPause = 10;  // milliseconds
-    for (const auto deadline = Clock::now() + kPatience;; ::poll(nullptr, 0, kPause)) {
+    for (const auto deadline = Steady::now() + kPatience;; ::poll(nullptr, 0, kPause)) {
         if (Answer answer = call())
             return std::move(*answer);
         const auto holder = SingleInstance::holder(m_settings);
@@ -200,7 +200,7 @@ Result<BusMessagePointer> SessionApplication::callPatiently(const Call& call) {
         if (!hasBus())
             return Error{"Kinesta runs as process " + std::to_string(holder->process) +
                          ", but there is no session bus to reach it."};
-        if (Clock::now() > deadline)
+        if (Steady::now() > deadline)
             return hangs(holder->process);
     }
 }

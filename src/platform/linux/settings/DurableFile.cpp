@@ -16,7 +16,7 @@
 namespace kinesta {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds kLongestWait(2);
 constexpr off_t kLargestFile = off_t{64} << 20;  // settings and rules take kilobytes
@@ -72,9 +72,9 @@ int writeAll(int file, std::string_view content) {
 }
 
 /// Locks an open file. Returns 0 or the reason why not.
-int waitForLock(const FileDescriptor& file, Clock::time_point deadline) {
+int waitForLock(const FileDescriptor& file, Steady::time_point deadline) {
     while (::flock(file.number(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EINTR && (errno != EWOULDBLOCK || Clock::now() >= deadline))
+        if (errno != EINTR && (errno != EWOULDBLOCK || Steady::now() >= deadline))
             return errno;
         ::poll(nullptr, 0, 1);
     }
@@ -138,7 +138,7 @@ Result<FileDescriptor> DurableFile::lock() const {
     if (!file)
         return failure(path, errno);
     // Others hold the lock for milliseconds. A process that was stopped while holding it must not block this one.
-    const auto deadline = Clock::now() + kLongestWait;
+    const auto deadline = Steady::now() + kLongestWait;
     // While waiting for the file's lock, this process holds the folder's lock. A process that saves again and again
     // then has to queue too. Folders of some network file systems cannot be locked; then there is no queue.
     const FileDescriptor turn(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

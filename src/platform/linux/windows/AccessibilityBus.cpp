@@ -8,7 +8,7 @@
 namespace kinesta {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 using FloatingSeconds = std::chrono::duration<Seconds>;
 
 constexpr const char* kAccessible = "org.a11y.atspi.Accessible";
@@ -23,7 +23,7 @@ constexpr std::uint64_t kShowing = 1U << 25U;
 /// One search through a program's elements, until a deadline.
 class AccessibilityBus::Walk {
   public:
-    Walk(MessageBus& bus, Clock::time_point deadline) : m_bus(bus), m_deadline(deadline) {}
+    Walk(MessageBus& bus, Steady::time_point deadline) : m_bus(bus), m_deadline(deadline) {}
 
     bool findsDialog(ProcessIdentifier process) {
         for (const BusObject& program : children({"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"}))
@@ -35,7 +35,7 @@ class AccessibilityBus::Walk {
     }
 
   private:
-    Seconds timeLeft() const { return FloatingSeconds(m_deadline - Clock::now()).count(); }
+    Seconds timeLeft() const { return FloatingSeconds(m_deadline - Steady::now()).count(); }
 
     /// Searches level by level, because a dialog lies near the top of the tree.
     bool hasDialogBelow(const BusObject& window) {
@@ -90,11 +90,11 @@ class AccessibilityBus::Walk {
     }
 
     MessageBus& m_bus;
-    Clock::time_point m_deadline;
+    Steady::time_point m_deadline;
 };
 
 bool AccessibilityBus::hasDialogInside(ProcessIdentifier process, Seconds timeout) {
-    const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(FloatingSeconds(timeout));
+    const auto deadline = Steady::now() + std::chrono::duration_cast<Steady::duration>(FloatingSeconds(timeout));
     return process > 0 && open(timeout) && Walk(*m_bus, deadline).findsDialog(process);
 }
 

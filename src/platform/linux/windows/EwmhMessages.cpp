@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/linux/x11/XcbEvent.h"
+
 namespace kinesta {
 namespace {
 
@@ -86,12 +88,12 @@ void EwmhMessages::restore(std::span<const EwmhWindow> windows, Deadline deadlin
     const auto isStep = [&](const xcb_generic_event_t& event) {
         const auto type = event.response_type & 0x7F;
         if (type == XCB_DESTROY_NOTIFY)
-            std::erase(waitingFor, reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
+            std::erase(waitingFor, eventAs<xcb_destroy_notify_event_t>(event).window);
         if (type == XCB_CONFIGURE_NOTIFY || type == XCB_DESTROY_NOTIFY)
             return true;
         if (type != XCB_PROPERTY_NOTIFY)
             return false;
-        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+        const auto& change = eventAs<xcb_property_notify_event_t>(event);
         if (change.atom == atoms._NET_WM_STATE)
             std::erase(waitingFor, change.window);
         // Shadows vanish with maximization and return a moment after it ends.

@@ -1,4 +1,5 @@
 #include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/XcbEvent.h"
 
 #include <poll.h>
 #include <xcb/randr.h>
@@ -210,7 +211,7 @@ XcbPointer<xcb_generic_event_t> X11Connection::nextEvent() {
     if (!event)
         return event;
     ++m_eventCounts[event->response_type & 0x7FU];
-    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(*event);
+    const auto& change = eventAs<xcb_property_notify_event_t>(*event);
     if ((event->response_type & 0x7F) == XCB_PROPERTY_NOTIFY && change.window == m_ownWindow)
         m_serverTime = change.time;
     return event;

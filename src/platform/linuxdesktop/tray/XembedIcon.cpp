@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/linux/x11/XcbEvent.h"
 #include "platform/linux/x11/XcbPointer.h"
 #include "platform/linuxdesktop/tray/StatusGlyph.h"
 
@@ -22,27 +23,22 @@ constexpr int kUsualSide = 22;
 constexpr int kLargestSide = 512;
 constexpr auto kHoverTime = std::chrono::milliseconds(700);
 
-template <typename Event>
-const Event& as(const xcb_generic_event_t& event) {
-    return reinterpret_cast<const Event&>(event);
-}
-
 /// The window that an event was delivered to. Nothing for other kinds of events than those of windows of ours.
 xcb_window_t windowOf(const xcb_generic_event_t& event) {
     switch (event.response_type & 0x7FU) {
         case XCB_EXPOSE:
-            return as<xcb_expose_event_t>(event).window;
+            return eventAs<xcb_expose_event_t>(event).window;
         case XCB_CONFIGURE_NOTIFY:
-            return as<xcb_configure_notify_event_t>(event).event;
+            return eventAs<xcb_configure_notify_event_t>(event).event;
         case XCB_REPARENT_NOTIFY:
-            return as<xcb_reparent_notify_event_t>(event).event;
+            return eventAs<xcb_reparent_notify_event_t>(event).event;
         case XCB_DESTROY_NOTIFY:
-            return as<xcb_destroy_notify_event_t>(event).event;
+            return eventAs<xcb_destroy_notify_event_t>(event).event;
         case XCB_BUTTON_RELEASE:
-            return as<xcb_button_release_event_t>(event).event;
+            return eventAs<xcb_button_release_event_t>(event).event;
         case XCB_ENTER_NOTIFY:
         case XCB_LEAVE_NOTIFY:
-            return as<xcb_enter_notify_event_t>(event).event;
+            return eventAs<xcb_enter_notify_event_t>(event).event;
         default:
             return XCB_WINDOW_NONE;
     }
@@ -158,18 +154,18 @@ void XembedIcon::handleTrayEvent(const xcb_generic_event_t& event) {
 void XembedIcon::handleWindowEvent(const xcb_generic_event_t& event) {
     switch (event.response_type & 0x7FU) {
         case XCB_EXPOSE:
-            if (as<xcb_expose_event_t>(event).count == 0)
+            if (eventAs<xcb_expose_event_t>(event).count == 0)
                 paint();
             return;
         case XCB_CONFIGURE_NOTIFY: {
-            const auto& place = as<xcb_configure_notify_event_t>(event);
+            const auto& place = eventAs<xcb_configure_notify_event_t>(event);
             if (std::exchange(m_size, QSize(place.width, place.height)) != m_size)
                 paint();
             return;
         }
         case XCB_REPARENT_NOTIFY:
             // Of a tray that ends the server gives us the window back, and it would stand alone on the screen.
-            if (as<xcb_reparent_notify_event_t>(event).parent == m_screen->root)
+            if (eventAs<xcb_reparent_notify_event_t>(event).parent == m_screen->root)
                 return undock();
             return setDocked(true);
         case XCB_DESTROY_NOTIFY:
@@ -181,7 +177,7 @@ void XembedIcon::handleWindowEvent(const xcb_generic_event_t& event) {
             m_hover.stop();
             return QToolTip::hideText();
         case XCB_BUTTON_RELEASE: {
-            const auto& click = as<xcb_button_release_event_t>(event);
+            const auto& click = eventAs<xcb_button_release_event_t>(event);
             m_hover.stop();
             if (!QRect({}, m_size).contains(click.event_x, click.event_y))
                 return;

@@ -4,6 +4,7 @@
 #include <QList>
 #include <cstring>
 
+#include "platform/linux/x11/XcbEvent.h"
 #include "platform/linux/x11/XcbPointer.h"
 
 namespace kinesta {
@@ -12,11 +13,6 @@ namespace {
 constexpr std::uint32_t kRequestDock = 0;
 
 std::uint8_t typeOf(const xcb_generic_event_t& event) { return event.response_type & 0x7FU; }
-
-template <typename Event>
-const Event& as(const xcb_generic_event_t& event) {
-    return reinterpret_cast<const Event&>(event);
-}
 
 }  // namespace
 
@@ -53,18 +49,18 @@ bool XembedTray::find() {
 }
 
 bool XembedTray::isArrival(const xcb_generic_event_t& event) const {
-    const auto& message = as<xcb_client_message_event_t>(event);
+    const auto& message = eventAs<xcb_client_message_event_t>(event);
     return typeOf(event) == XCB_CLIENT_MESSAGE && message.window == m_screen->root && message.type == m_manager &&
            message.format == 32 && message.data.data32[1] == m_selection;
 }
 
 bool XembedTray::isDeparture(const xcb_generic_event_t& event) const {
     return m_owner != XCB_WINDOW_NONE && typeOf(event) == XCB_DESTROY_NOTIFY &&
-           as<xcb_destroy_notify_event_t>(event).window == m_owner;
+           eventAs<xcb_destroy_notify_event_t>(event).window == m_owner;
 }
 
 bool XembedTray::isColourChange(const xcb_generic_event_t& event) const {
-    const auto& change = as<xcb_property_notify_event_t>(event);
+    const auto& change = eventAs<xcb_property_notify_event_t>(event);
     return m_owner != XCB_WINDOW_NONE && typeOf(event) == XCB_PROPERTY_NOTIFY && change.window == m_owner &&
            change.atom == m_colours;
 }
