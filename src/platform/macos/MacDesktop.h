@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/ApplicationOpening.h"
 #include "app/Desktop.h"
 #include "app/LoginItemService.h"
 #include "feedback/NoActionCue.h"
@@ -16,9 +17,6 @@ namespace kinesta {
 
 class MacSignalListener;
 class MacUserDefaults;
-
-/// Whether a start of the application shows the window.
-enum class ApplicationOpening { withWindow, inBackground };
 
 /// A Mac: it reads the trackpad through the system's private framework and settings from the user defaults, and reaches
 /// other programs through events and the accessibility interface.
