@@ -99,7 +99,7 @@ void WindowedApplication::forget(const std::string& problem) {
         showNotices();
 }
 
-void WindowedApplication::setRemark(std::string remark) {
+void WindowedApplication::setRemark(const std::string& remark) {
     if (remark != std::exchange(m_remark, remark))
         showNotices();
 }

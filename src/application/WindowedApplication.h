@@ -83,7 +83,7 @@ class WindowedApplication {
     /// Takes a problem that is solved out of the window.
     void forget(const std::string& problem);
     /// One more sentence in the window, which is no problem; empty for none.
-    void setRemark(std::string remark);
+    void setRemark(const std::string& remark);
 
     /// Gives this program's widgets their style, once. Not at the start: an icon alone needs none.
     void takeStyle();
