@@ -29,7 +29,7 @@
     return info;
 }
 - (NSTimeInterval)systemUptime {
-    return 100;
+    return kinesta::fakes::uptime;
 }
 - (int)processIdentifier {
     return 42;
@@ -63,7 +63,10 @@ namespace kinesta::fakes {
 
 FakeLoginItem loginItem;
 
+double uptime = 100;
+
 static const OnReset services([] {
+    uptime = 100;
     (void)NSProcessInfo.processInfo;
     loginItem = {};
 });

@@ -164,7 +164,7 @@ int uuids = 0;
     const std::string text = self.UTF8String;
     if (!text.starts_with("~") || text == "~nobody")
         return self;
-    return [NSString stringWithUTF8String:("/Users/" + (text == "~" ? "ada" : text.substr(1))).c_str()];
+    return [NSString stringWithUTF8String:(text == "~" ? kinesta::fakes::home : "/Users/" + text.substr(1)).c_str()];
 }
 @end
 
@@ -233,6 +233,8 @@ void storeElsewhere(NSString* key, id value) {
     settings()["com.orvane.kinesta"][key.UTF8String] = value;
     changed(nil, key);
 }
+
+std::string home = "/Users/ada";
 
 void forgetValues() {
     settings().clear();
