@@ -144,9 +144,9 @@ class Parser {
                 ->type_name("PATH");
         live->add_option_function<std::string>(
                 "--multitouch-library",
-                // A path without a slash would be searched for among the libraries of the system.
+                // A path without a slash would be searched for among the libraries of the system; none is this program.
                 [this](const std::string& path) {
-                    m_desktop.useMultitouchLibrary(std::filesystem::absolute(path).string());
+                    m_desktop.useMultitouchLibrary(std::filesystem::absolute(path.empty() ? "." : path).string());
                 },
                 kMultitouchLibrary)
             ->type_name("PATH")

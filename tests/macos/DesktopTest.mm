@@ -1,9 +1,17 @@
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
 
 #include "MacTest.h"
 #include "platform/macos/MacDesktop.h"
 #include "platform/macos/application/MacMainLoop.h"
 #include "platform/macos/settings/MacUserDefaults.h"
+#include "platform/posix/BrokenPipes.h"
+#include "support/TemporaryFolder.h"
 
 namespace kinesta {
 namespace {
@@ -69,6 +77,92 @@ TEST_F(DesktopOnTheMac, SaysWhatATerminalCannotAskFor) {
         EXPECT_EQ(outsideOfABundle.examplesFolder(), "/usr/local/share/kinesta/examples");
         EXPECT_NE(outsideOfABundle.becomeApplication({}).message.find("no part of Kinesta.app"), std::string::npos);
     }
+}
+
+/// Where other processes of the person may be the one instance. They leave no trace when they end.
+class OtherInstances : public DesktopOnTheMac {
+  protected:
+    OtherInstances() {
+        ::setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1);
+        ::signal(SIGCHLD, SIG_IGN);
+    }
+    ~OtherInstances() override {
+        ::signal(SIGCHLD, SIG_DFL);
+        ::unsetenv("XDG_RUNTIME_DIR");
+    }
+
+    /// A process that `begin` makes what it is, until a signal ends it.
+    static pid_t start(const std::function<void()>& begin) {
+        int ready[2];
+        EXPECT_EQ(::pipe(ready), 0);
+        const pid_t process = ::fork();
+        if (process == 0) {
+            begin();
+            EXPECT_EQ(::write(ready[1], "", 1), 1);
+            for (;;)
+                ::pause();
+        }
+        ::close(ready[1]);
+        char byte = 0;
+        EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+        ::close(ready[0]);
+        return process;
+    }
+    static pid_t start(SingleInstance::Role role) {
+        return start([role] { static auto claimed = SingleInstance::claim("/nowhere/kinesta", role); });
+    }
+    static Result<std::optional<SingleInstanceClaim>> claim(ApplicationOpening opening) {
+        @autoreleasepool {
+            MacMainLoop mainLoop;
+            return MacDesktop(mainLoop, MacProgramFiles::of("/usr/local/bin/kinesta")).claimApplication(opening);
+        }
+    }
+
+    const TemporaryFolder folder;
+    MacRunningApplication application{"/nowhere/kinesta", {}};
+};
+
+TEST_F(OtherInstances, KeepTheirPlaceOrMakeRoom) {
+    const pid_t running = start(SingleInstance::Role::application);
+    EXPECT_EQ(claim(ApplicationOpening::inBackground).value(), std::nullopt);
+    EXPECT_NE(claim(ApplicationOpening::withWindow).error().message.find("cannot find the application"),
+              std::string::npos);
+    EXPECT_NE(application.report().error().message.find("process " + std::to_string(running)), std::string::npos);
+    EXPECT_TRUE(application.ask(ApplicationRequest::quit));
+    EXPECT_FALSE(application.isRunning());
+    EXPECT_EQ(claim(ApplicationOpening::withWindow).value(), SingleInstanceClaim::certain)
+        << "the files are still there";
+
+    start(SingleInstance::Role::daemon);
+    EXPECT_FALSE(application.isRunning());
+    EXPECT_EQ(claim(ApplicationOpening::inBackground).value(), SingleInstanceClaim::certain);
+}
+
+TEST_F(OtherInstances, MayEndWhileTheyAreLookedAt) {
+    const std::string lock = folder / "kinesta.lock";
+    // Holds the place without a role, as at the begin and end of a process.
+    start([&] {
+        ::flock(::open(lock.c_str(), O_RDWR | O_CREAT, 0600), LOCK_EX);
+        ::ualarm(30000, 0);
+    });
+    EXPECT_EQ(claim(ApplicationOpening::withWindow).value(), SingleInstanceClaim::certain);
+}
+
+TEST_F(OtherInstances, AreNotTakenForEnded) {
+    const pid_t stubborn = start([] { ::signal(SIGUSR1, SIG_IGN); });
+    EXPECT_FALSE(endProcess(stubborn, SIGUSR1, std::chrono::milliseconds(20)));
+    EXPECT_TRUE(endProcess(stubborn, SIGKILL, std::chrono::seconds(20)));
+    EXPECT_TRUE(endProcess(stubborn, SIGKILL, std::chrono::seconds(20)));
+    EXPECT_FALSE(endProcess(1, 0, std::chrono::milliseconds(20))) << "it may be another person's";
+}
+
+TEST_F(OtherInstances, StartWithoutWhatThisOneSurvives) {
+    endQuietlyOnClosedPipe();
+    surviveBrokenPipes();
+    ::signal(SIGCHLD, SIG_DFL);
+    EXPECT_EQ(::raise(SIGPIPE), 0);
+    const int status = std::system("kill -PIPE $$");
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGPIPE);
 }
 
 }  // namespace

@@ -73,6 +73,7 @@ TEST_F(KeyboardOnTheMac, RecordsThePressedKeyAndItsModifiers) {
     EXPECT_EQ(recorded(0, kFn), "fn Q");
     EXPECT_EQ(recorded(123, kArrow | 0x40000), "⌃Left") << "arrows always have the flag of fn";
     EXPECT_EQ(recorded(115, kFn | 0x80000), "⌥Key 115");
+    EXPECT_EQ(inWords(recording.caps()), "Option+Home");
     EXPECT_EQ(recorded(83, 0x200100), "Key 83") << "not the digit above the letters";
     EXPECT_EQ(recorded(90, kFn), "Key 90");
     EXPECT_EQ(recorded(57, 0x10000), "Keys that lock others cannot be part of a shortcut. Press another key.");

@@ -40,11 +40,6 @@ class MultitouchControls {
         ::dlclose(m_library);
     }
 
-    static bool isLoaded(const std::string& path) {
-        void* const library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_NOLOAD);
-        return library != nullptr && ::dlclose(library) == 0;
-    }
-
     /// Loads the library for the rest of the process.
     static MultitouchControls loadForGood(const std::string& path) {
         ::dlopen(path.c_str(), RTLD_NOW | RTLD_NODELETE);

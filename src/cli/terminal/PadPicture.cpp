@@ -9,6 +9,7 @@ namespace {
 constexpr Seconds kTrailDuration = 1.5;
 constexpr Seconds kBrightDuration = 0.35;
 constexpr std::size_t kLongestTrail = 4096;
+constexpr std::size_t kMostFingers = 64;  // of a driver that gives every finger a new id in every frame
 // Colours of the 256-colour palette that are easy to tell apart on light and dark backgrounds.
 constexpr std::array<int, 6> kFingerColours{39, 208, 70, 170, 178, 203};
 
@@ -51,15 +52,17 @@ std::size_t PadPicture::fingerOf(ContactId id) {
 }
 
 void PadPicture::show(const TouchSamples& samples, Seconds time) {
-    if (samples.empty())
+    if (samples.empty() || m_fingers.size() >= kMostFingers)
         m_fingers.clear();
-    for (const TouchSample& sample : samples) {
+    m_contacts = samples;
+    if (m_contacts.size() > kMostFingers)
+        m_contacts.truncate(kMostFingers);
+    for (const TouchSample& sample : m_contacts) {
         const std::size_t finger = fingerOf(sample.id);
         if (finger == m_fingers.size())
             m_fingers.push_back(sample.id);
         m_trail.push_back({sample.position, time, finger});
     }
-    m_contacts = samples;
     while (!m_trail.empty() && (m_trail.size() > kLongestTrail || time - m_trail.front().time > kTrailDuration))
         m_trail.pop_front();
 }

@@ -38,7 +38,8 @@ void PadScreen::setTitle(std::string title, std::string detail) {
 void PadScreen::show(const PadEvent& event) {
     m_now = event.time;
     // Movements are drawn at a limited rate. Landing and lifting are drawn at once: the next event may come much later.
-    bool isToBeDrawn = m_now - m_drawnAt >= kDrawingInterval || m_now < m_drawnAt;
+    const Seconds sinceDrawn = m_now - m_drawnAt;
+    bool isToBeDrawn = !(sinceDrawn >= 0 && sinceDrawn < kDrawingInterval);  // also if a time is no number
     if (const auto* frame = std::get_if<PadFrame>(&event.content)) {
         isToBeDrawn |= frame->samples.size() != m_contactCount;
         m_contactCount = frame->samples.size();

@@ -130,23 +130,31 @@ Result<SingleInstanceClaim> MacDesktop::claimSingleInstance() {
 
 Result<std::optional<SingleInstanceClaim>> MacDesktop::claimApplication(ApplicationOpening opening) {
     using Claim = std::optional<SingleInstanceClaim>;
-    auto claimed = SingleInstance::claim(claimPlace(), SingleInstance::Role::application);
-    if (const auto holder = claimed ? std::nullopt : SingleInstance::holder(claimPlace())) {
-        if (holder->role == SingleInstance::Role::application) {
-            const Outcome shown = opening == ApplicationOpening::withWindow
-                                      ? m_runningApplication.ask(ApplicationRequest::show)
-                                      : success();
-            return shown ? Result<Claim>(Claim()) : Result<Claim>(shown.error());
+    constexpr int kAttempts = 20;
+    Error problem;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        auto claimed = SingleInstance::claim(claimPlace(), SingleInstance::Role::application);
+        if (claimed) {
+            m_instance = std::move(*claimed);
+            return Claim(certaintyOf(*m_instance));
         }
-        if (!endProcess(holder->process, SIGUSR1, MacRunningApplication::kPatience))
-            return Error{"The Kinesta daemon was asked to make room but does not end; to end it: kill -9 " +
-                         std::to_string(holder->process)};
-        claimed = SingleInstance::claim(claimPlace(), SingleInstance::Role::application);
+        problem = claimed.error();
+        const auto holder = SingleInstance::holder(claimPlace());
+        if (!holder)
+            continue;  // it has just ended, or not yet told what it is
+        if (holder->role == SingleInstance::Role::daemon) {
+            if (!endProcess(holder->process, SIGUSR1, MacRunningApplication::kPatience))
+                return Error{"The Kinesta daemon was asked to make room but does not end; to end it: kill -9 " +
+                             std::to_string(holder->process)};
+        } else if (opening == ApplicationOpening::inBackground) {
+            return Claim();
+        } else if (const Outcome shown = m_runningApplication.ask(ApplicationRequest::show)) {
+            return Claim();
+        } else if (m_runningApplication.isRunning()) {
+            return shown.error();
+        }
     }
-    if (!claimed)
-        return claimed.error();
-    m_instance = std::move(*claimed);
-    return Claim(certaintyOf(*m_instance));
+    return problem;
 }
 
 void MacDesktop::stopUntilContinued() {

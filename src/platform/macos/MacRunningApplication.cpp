@@ -4,6 +4,7 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include <cerrno>
 #include <csignal>
 #include <string>
 #include <vector>
@@ -18,13 +19,17 @@ namespace kinesta {
 bool endProcess(pid_t process, int signal, std::chrono::milliseconds patience) {
     constexpr int kPause = 5;  // milliseconds
     using Clock = std::chrono::steady_clock;
-    bool isThere = ::kill(process, signal) == 0;
+    if (process <= 0)
+        return false;  // would be a group of processes, or all
+    if (::kill(process, signal) != 0)
+        return errno == ESRCH;
     // Only a parent learns from the system when a process ends.
-    for (const auto deadline = Clock::now() + patience; isThere && Clock::now() < deadline;) {
+    for (const auto deadline = Clock::now() + patience; Clock::now() < deadline;) {
         ::poll(nullptr, 0, kPause);
-        isThere = ::kill(process, 0) == 0;
+        if (::kill(process, 0) != 0)
+            return true;
     }
-    return !isThere;
+    return false;
 }
 
 std::vector<std::string> MacRunningApplication::opening(const std::filesystem::path& bundle) {
@@ -36,6 +41,8 @@ Result<pid_t> MacRunningApplication::process() const {
     const auto holder = SingleInstance::holder(m_settings);
     if (!holder || holder->role != SingleInstance::Role::application)
         return Error{"Kinesta does not run."};
+    if (holder->process <= 0)
+        return holder->error();
     return holder->process;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,9 @@ std::vector<KeyCap> modifierCaps(ShortcutModifiers modifiers, const KeyWords& wo
 
 /// The modifiers, then the key.
 std::vector<KeyCap> shortcutCaps(const RecordedShortcut& shortcut, const KeyRecording& keyboard);
+
+/// What is printed on a key that ShortcutKey has no name for, such as "F5"; empty if that depends on the layout.
+std::string printedName(std::uint16_t keyCode);
 
 /// "Ctrl+Shift+T": for people who hear it.
 std::string inWords(const std::vector<KeyCap>& caps);

@@ -1,5 +1,6 @@
 #include "ui/models/ShortcutRecording.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "rules/ShortcutKey.h"
@@ -9,10 +10,8 @@ namespace kinesta {
 namespace {
 
 bool hasName(std::uint16_t keyCode) {
-    for (const ShortcutKey& key : ShortcutKey::choices())
-        if (key.keyCode == keyCode)
-            return true;
-    return false;
+    return std::ranges::find(ShortcutKey::choices(), keyCode, &ShortcutKey::keyCode) != ShortcutKey::choices().end() ||
+           !printedName(keyCode).empty();
 }
 
 }  // namespace

@@ -144,6 +144,10 @@ TEST(Program, MonitorsAMultitouchLibrary) {
     EXPECT_NE(monitor.output.find("●"), std::string::npos) << "the fingers on the pad";
     monitor.type("\x03");
     EXPECT_EQ(monitor.wait(), 0);
+    Program noPath(environment + "exec " + kKinesta + "monitor --multitouch-library ''");
+    EXPECT_TRUE(noPath.waitFor("MultitouchSupport is unavailable")) << noPath.output;
+    noPath.type("\x03");
+    EXPECT_EQ(noPath.wait(), 0);
 }
 
 TEST(Program, ColoursOnlyOnTerminals) {
