@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -59,7 +60,13 @@ TEST_F(ApplicationOnTheMac, TellsWhatTheSystemDoesToItUntilItEnds) {
                                               if (++wakings == 2)
                                                   ending->reset();
                                             }];
+        objc::takeCalls();
         session.emplace(events);
+        EXPECT_EQ(std::ranges::count_if(objc::takeCalls(),
+                                        [](const std::string& call) {
+                                            return call.find("queue:NSOperationQueue#1") != std::string::npos;
+                                        }),
+                  6);
         fakes::post(workspace, NSWorkspaceDidWakeNotification);
         for (NSNotificationName name in @[
                  NSApplicationDidBecomeActiveNotification, NSApplicationDidHideNotification,

@@ -44,7 +44,9 @@ TEST_F(CuePanelOnTheMac, IsAPanelThatNeverComesInTheWay) {
         for (const char* line :
              {"NSVisualEffectView#1 setMaterial:13", "NSVisualEffectView#1 setBlendingMode:0",
               "NSVisualEffectView#1 setState:1", "CALayer#1 setCornerRadius:13", "CALayer#1 setMasksToBounds:YES",
-              "NSPanel#1 setContentView:NSView#2", "NSView#2 addSubview:NSVisualEffectView#1",
+              "NSView#2 setWantsLayer:YES", "CALayer#2 setBackgroundColor:pointer", "NSPanel#1 setContentView:NSView#2",
+              "NSView#2 addSubview:NSVisualEffectView#1",
+              "NSVisualEffectView#1.top constraintEqualToAnchor:NSView#2.top",
               "NSVisualEffectView#1 setTranslatesAutoresizingMaskIntoConstraints:NO",
               "NSVisualEffectView#1.trailing constraintEqualToAnchor:NSView#2.trailing",
               "NSVisualEffectView#1.bottom constraintEqualToAnchor:NSView#2.bottom",

@@ -80,9 +80,6 @@ static NSColor* named(const char* name) {
     image->_handler = handler;
     return image;
 }
-+ (NSImage*)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(NSString*)text {
-    return [NSImage new];
-}
 @end
 
 void CGContextSaveGState(CGContextRef) { draw("save"); }

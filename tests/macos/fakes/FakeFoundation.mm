@@ -11,14 +11,10 @@
 #include "Registrations.h"
 #include "TestRuntime.h"
 
-extern "C" id objc_msgSend(id receiver, SEL selector, ...);
-
 namespace {
 
 struct Observer {
-    __weak id target;  // the center does not keep its observers
-    id token;          // of an observer by block, which it does keep
-    SEL selector;
+    id token;
     NSString* name;
     void (^block)(NSNotification*);
 };
@@ -49,22 +45,17 @@ struct Observer {
     static NSNotificationCenter* const center = [NSNotificationCenter new];
     return center;
 }
-- (void)addObserver:(id)observer selector:(SEL)selector name:(NSNotificationName)name object:(id)object {
-    _observers.push_back({observer, nil, selector, name, nil});
-    kinesta::fakes::registered("observer");
-}
 - (id<NSObject>)addObserverForName:(NSNotificationName)name
                             object:(id)object
                              queue:(NSOperationQueue*)queue
                         usingBlock:(void (^)(NSNotification*))block {
     id const token = [FakeToken new];
-    _observers.push_back({nil, token, nil, name, block});
+    _observers.push_back({token, name, block});
     kinesta::fakes::registered("observer");
     return token;
 }
 - (void)removeObserver:(id)observer {
-    const auto removed = std::erase_if(
-        _observers, [&](const Observer& each) { return each.target == observer || each.token == observer; });
+    const auto removed = std::erase_if(_observers, [&](const Observer& each) { return each.token == observer; });
     kinesta::fakes::unregistered("observer", removed);
 }
 - (void)postNotificationName:(NSNotificationName)name object:(id)object {
@@ -72,14 +63,9 @@ struct Observer {
     notification.name = name;
     notification.object = object;
     const std::vector<Observer> present = _observers;
-    for (const Observer& each : present) {
-        if (each.name && ![each.name isEqual:name])
-            continue;
-        if (each.block)
+    for (const Observer& each : present)
+        if (!each.name || [each.name isEqual:name])
             each.block(notification);
-        else if (id const target = each.target)
-            reinterpret_cast<void (*)(id, SEL, id)>(objc_msgSend)(target, each.selector, notification);
-    }
 }
 @end
 

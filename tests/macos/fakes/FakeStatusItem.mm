@@ -55,9 +55,6 @@ NSArray* fromVector(const std::vector<NSMenuItem*>& items) {
     }
     return self;
 }
-- (BOOL)isSeparatorItem {
-    return [self.title isEqualToString:@"-"];
-}
 @end
 @implementation NSMenu {
     std::vector<NSMenuItem*> _items;

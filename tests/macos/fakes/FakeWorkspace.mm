@@ -5,8 +5,6 @@
 
 const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
     @"NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification";
-const NSNotificationName NSWorkspaceDidActivateApplicationNotification =
-    @"NSWorkspaceDidActivateApplicationNotification";
 const NSNotificationName NSWorkspaceDidWakeNotification = @"NSWorkspaceDidWakeNotification";
 
 @interface NSRunningApplication ()

@@ -10,6 +10,7 @@ ActivationPolicy::Kind MacActivationPolicy::kind() const {
 }
 
 void MacActivationPolicy::set(Kind kind) {
+    // The menu bar answers only after the next activation, in a later turn of the main loop (from memory).
     [NSApplication.sharedApplication setActivationPolicy:kind == Kind::regular
                                                              ? NSApplicationActivationPolicyRegular
                                                              : NSApplicationActivationPolicyAccessory];

@@ -65,7 +65,7 @@ MacMainLoop::State::State()
     : timer(dispatch_source_create(DISPATCH_SOURCE_TYPE_TIMER, 0, 0, dispatch_get_main_queue())) {}
 
 void MacMainLoop::State::end() {
-    dispatch_source_cancel(timer);
+    dispatch_source_cancel(timer);  // and ARC releases it; one that was never activated would crash there (from memory)
     for (;;) {
         Task dropped;  // outlives the lock: it may own handles of other tasks
         const std::lock_guard guard(lock);

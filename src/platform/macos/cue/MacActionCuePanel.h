@@ -33,7 +33,7 @@ class MacActionCuePanel final : public ActionCuePanel {
     const Clock& m_clock;
     std::unique_ptr<Impl> m_impl;
     /// The animation that counts. Its completion holds it weakly: the system calls that also when the animation was
-    /// replaced, or after this has gone.
+    /// replaced, or after this has gone (from memory).
     std::shared_ptr<const Fade> m_fade;
 };
 

@@ -22,7 +22,7 @@ std::vector<Screen> MacScreens::screens() const {
 }
 
 std::optional<Screen> MacScreens::mainScreen() const {
-    NSScreen* const screen = NSScreen.mainScreen;
+    NSScreen* const screen = NSScreen.mainScreen;  // the one with the key window (from memory)
     return screen ? std::optional(describe(screen)) : std::nullopt;
 }
 

@@ -46,6 +46,7 @@ KeyValueObservation::KeyValueObservation(NSObject* object, NSString* key, std::f
 }
 
 KeyValueObservation::~KeyValueObservation() {
+    // Once for each addition: one more raises an exception, one less leaves the system a dead observer (from memory).
     [m_object removeObserver:m_observer forKeyPath:m_key context:&ourContext];
     m_observer->changed = nullptr;  // a block on the main queue may still hold the observer
 }

@@ -6,8 +6,8 @@
 
 namespace kinesta {
 
-/// Calls a function for each notification of one name until this is destroyed, on the thread that posts it. For
-/// Objective-C++ files only.
+/// Calls a function for each notification of one name until this is destroyed, on the thread that posts it: the center
+/// keeps the block as long (from memory). For Objective-C++ files only.
 class NotificationObservation {
   public:
     /// The function must not own this observation.

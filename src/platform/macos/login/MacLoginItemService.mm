@@ -3,14 +3,12 @@
 #include <ServiceManagement/ServiceManagement.h>
 
 #include "platform/macos/foundation/NsText.h"
-#include "support/Translation.h"
 
 namespace kinesta {
 namespace {
 
-Error failure(NSError* error) {
-    return {translated("The start at login cannot be changed: %1", {textOf(error.localizedDescription)})};
-}
+/// In the system's own words, which may be in the person's language.
+Error failure(NSError* error) { return {textOf(error.localizedDescription)}; }
 
 }  // namespace
 

@@ -74,7 +74,7 @@ NSMenu* menuOf(const StatusMenu& items, id target) {
 }  // namespace
 
 struct MacStatusItem::Parts {
-    NSStatusItem* item;  // it leaves the bar when nothing keeps it
+    NSStatusItem* item;  // it leaves the bar when nothing keeps it (from memory)
     KinestaStatusItemTarget* target;
 };
 

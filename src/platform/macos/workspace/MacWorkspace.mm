@@ -37,7 +37,7 @@ void MacWorkspace::launchApplication(const std::string& path, const std::vector<
     NSWorkspaceOpenConfiguration* const configuration = [NSWorkspaceOpenConfiguration configuration];
     configuration.arguments = nsTexts(arguments);
     const HandOvers::Request request = m_handOvers.begin();
-    // The handler is called on a queue of its own, and given up afterwards.
+    // The handler is called on a queue of its own, and given up afterwards (from memory).
     [NSWorkspace.sharedWorkspace openApplicationAtURL:fileURL(path)
                                         configuration:configuration
                                     completionHandler:^(NSRunningApplication*, NSError*) {

@@ -21,7 +21,6 @@
 + (instancetype)imageWithSize:(NSSize)size
                       flipped:(BOOL)drawingHandlerShouldBeCalledWithFlippedContext
                drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler;
-+ (nullable instancetype)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(nullable NSString*)text;
 @property NSSize size;
 @end
 

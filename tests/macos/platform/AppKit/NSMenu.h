@@ -25,7 +25,6 @@ typedef NSString* NSUserInterfaceItemIdentifier;
 @property NSControlStateValue state;
 @property(nullable, strong) NSMenu* submenu;
 @property(nullable, strong) id representedObject;
-@property(readonly, getter=isSeparatorItem) BOOL separatorItem;
 @end
 
 @interface NSMenu : NSObject

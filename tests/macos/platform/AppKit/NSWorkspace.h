@@ -5,7 +5,6 @@
 #pragma clang assume_nonnull begin
 
 extern "C" const NSNotificationName NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
-extern "C" const NSNotificationName NSWorkspaceDidActivateApplicationNotification;
 extern "C" const NSNotificationName NSWorkspaceDidWakeNotification;
 
 @interface NSRunningApplication : NSObject

@@ -17,10 +17,6 @@ typedef NSString* NSNotificationName;
 
 @interface NSNotificationCenter : NSObject
 @property(class, readonly, strong) NSNotificationCenter* defaultCenter;
-- (void)addObserver:(id)observer
-           selector:(SEL)selector
-               name:(nullable NSNotificationName)name
-             object:(nullable id)object;
 - (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
                             object:(nullable id)object
                              queue:(nullable NSOperationQueue*)queue
