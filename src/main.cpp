@@ -8,6 +8,7 @@
 #include "cli/CommandLine.h"
 #include "platform/posix/BrokenPipes.h"
 #include "platform/posix/Terminal.h"
+#include "support/NotingBuffer.h"
 #include "support/SystemError.h"
 #ifdef __APPLE__
 #include "platform/macos/MacDesktop.h"
@@ -22,11 +23,13 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     endQuietlyOnClosedPipe();
 
+    NotingBuffer written(*std::cout.rdbuf());
+    std::ostream out(&written);
     const bool outIsTerminal = isTerminal(StandardStream::output);
     const char* noColour = std::getenv("NO_COLOR");
     const TerminalSize size = outIsTerminal ? terminalSize(StandardStream::output) : TerminalSize{};
     const Console console{.in = std::cin,
-                          .out = std::cout,
+                          .out = out,
                           .err = std::cerr,
                           .outIsTerminal = outIsTerminal,
                           .errIsTerminal = isTerminal(StandardStream::error),
@@ -42,11 +45,11 @@ int main(int argc, char** argv) {
         LinuxDesktop desktop(mainLoop, LinuxDesktop::Places::current());
 #endif
         const ExitStatus status = runCommandLine(console, desktop, argc, argv);
-        errno = 0;
-        std::cout.flush();
-        if (!std::cout)
-            return static_cast<int>(console.fail("Writing to standard output failed" +
-                                                 (errno != 0 ? ": " + systemErrorText(errno) : std::string()) + "."));
+        out.flush();
+        if (!out)
+            return static_cast<int>(console.fail("Writing to standard output failed: " +
+                                                 systemErrorText(written.failure() != 0 ? written.failure() : EIO) +
+                                                 "."));
         return static_cast<int>(status);
     } catch (const std::exception& error) {
         // Only failures that cannot be handled arrive here, mainly lack of memory.

@@ -2420,14 +2420,6 @@
         <translation>ein Nullbyte, das in JSON nicht vorkommen darf</translation>
     </message>
     <message>
-        <source>a number that is too large</source>
-        <translation>eine zu große Zahl</translation>
-    </message>
-    <message>
-        <source>not valid JSON at column %1: %2</source>
-        <translation>kein gültiges JSON in Spalte %1: %2</translation>
-    </message>
-    <message>
         <source>the text is %1, which is not a list of rules</source>
         <translation>der Text ist %1, erwartet wird eine Liste von Regeln</translation>
     </message>
@@ -2522,6 +2514,34 @@
     <message>
         <source>Shown over all windows.</source>
         <translation>Sie erscheint über allen Fenstern.</translation>
+    </message>
+    <message>
+        <source>column %1 has a number that is too large</source>
+        <translation>Spalte %1 enthält eine zu große Zahl</translation>
+    </message>
+    <message>
+        <source>the JSON text ends too early, at column %1</source>
+        <translation>der JSON-Text endet zu früh, in Spalte %1</translation>
+    </message>
+    <message>
+        <source>not valid JSON from column %1 on</source>
+        <translation>ab Spalte %1 kein gültiges JSON</translation>
+    </message>
+    <message>
+        <source>No gesture will be seen until gesture recognition is on: switch it on above.</source>
+        <translation>Keine Geste wird erkannt, solange die Gestenerkennung aus ist: oben einschalten.</translation>
+    </message>
+    <message>
+        <source>No gesture will be seen while the trackpad is not read. “What works here” says what helps.</source>
+        <translation>Keine Geste wird erkannt, solange das Touchpad nicht gelesen wird. Was hilft, steht unter „Was hier funktioniert“.</translation>
+    </message>
+    <message>
+        <source>Touch the pad with two or more fingers.</source>
+        <translation>Das Touchpad mit zwei oder mehr Fingern berühren.</translation>
+    </message>
+    <message>
+        <source>“What works here” on the overview says what is missing and what helps.</source>
+        <translation>Was fehlt und was hilft, steht in der Übersicht unter „Was hier funktioniert“.</translation>
     </message>
 </context>
 <context>
@@ -2899,10 +2919,6 @@
         <translation>Geste ausprobieren</translation>
     </message>
     <message>
-        <source>Touch the pad with two or more fingers.</source>
-        <translation>Das Touchpad mit zwei oder mehr Fingern berühren.</translation>
-    </message>
-    <message>
         <source>Show rule</source>
         <translation>Regel anzeigen</translation>
     </message>
@@ -2946,6 +2962,30 @@
     <message>
         <source>Only the versions were copied. %1</source>
         <translation>Nur die Versionen wurden kopiert. %1</translation>
+    </message>
+    <message>
+        <source>Order restored</source>
+        <translation>Reihenfolge wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>The rules are as they were before the import</source>
+        <translation>Die Regeln sind wieder wie vor dem Import</translation>
+    </message>
+    <message>
+        <source>The settings are as they were before</source>
+        <translation>Die Einstellungen sind wieder wie zuvor</translation>
+    </message>
+    <message>
+        <source>Order changed again</source>
+        <translation>Reihenfolge erneut geändert</translation>
+    </message>
+    <message>
+        <source>The rules of the file are back</source>
+        <translation>Die Regeln der Datei sind wieder da</translation>
+    </message>
+    <message>
+        <source>The settings are as they were at first</source>
+        <translation>Die Einstellungen sind zurückgesetzt</translation>
     </message>
 </context>
 <context>

@@ -16,32 +16,6 @@ Error failure(const std::filesystem::path& file, int reason) {
 
 }  // namespace
 
-OutputFile::Buffer::int_type OutputFile::Buffer::overflow(int_type character) {
-    errno = 0;
-    const int_type result = std::filebuf::overflow(character);
-    note(traits_type::eq_int_type(result, traits_type::eof()));
-    return result;
-}
-
-std::streamsize OutputFile::Buffer::xsputn(const char* text, std::streamsize length) {
-    errno = 0;
-    const std::streamsize written = std::filebuf::xsputn(text, length);
-    note(written < length);
-    return written;
-}
-
-int OutputFile::Buffer::sync() {
-    errno = 0;
-    const int result = std::filebuf::sync();
-    note(result != 0);
-    return result;
-}
-
-void OutputFile::Buffer::note(bool hasFailed) {
-    if (hasFailed && m_failure == 0)
-        m_failure = errno;
-}
-
 OutputFile::OutputFile(std::filesystem::path target, std::filesystem::path written)
     : m_target(std::move(target)), m_written(std::move(written)) {}
 
@@ -61,7 +35,7 @@ Result<std::unique_ptr<OutputFile>> OutputFile::create(const std::string& file) 
     std::unique_ptr<OutputFile> output(
         new OutputFile(target, isInPlace ? target : std::filesystem::path(target.string() + ".part")));
     errno = 0;
-    if (output->m_buffer.open(output->m_written, std::ios::out | std::ios::binary) == nullptr)
+    if (output->m_file.open(output->m_written, std::ios::out | std::ios::binary) == nullptr)
         return failure(target, errno);
     return output;
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "support/NotingBuffer.h"
 #include "support/Result.h"
 
 namespace kinesta {
@@ -28,26 +29,10 @@ class OutputFile {
   private:
     OutputFile(std::filesystem::path target, std::filesystem::path written);
 
-    /// Remembers why writing failed, which streams do not report.
-    class Buffer final : public std::filebuf {
-      public:
-        /// errno of the first failure; 0 if there was none.
-        int failure() const { return m_failure; }
-
-      protected:
-        int_type overflow(int_type character) override;
-        std::streamsize xsputn(const char* text, std::streamsize length) override;
-        int sync() override;
-
-      private:
-        void note(bool hasFailed);
-
-        int m_failure = 0;
-    };
-
     std::filesystem::path m_target;
     std::filesystem::path m_written;
-    Buffer m_buffer;
+    std::filebuf m_file;
+    NotingBuffer m_buffer{m_file};
     std::ostream m_stream{&m_buffer};
 };
 

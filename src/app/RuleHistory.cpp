@@ -112,9 +112,9 @@ void RuleHistory::recordOther(std::function<void()> back, std::function<void()> 
     keep(std::move(step));
 }
 
-std::optional<Uuid> RuleHistory::undo() { return move(m_done, m_undone, Direction::back); }
+RuleHistory::Moved RuleHistory::undo() { return move(m_done, m_undone, Direction::back); }
 
-std::optional<Uuid> RuleHistory::redo() { return move(m_undone, m_done, Direction::forth); }
+RuleHistory::Moved RuleHistory::redo() { return move(m_undone, m_done, Direction::forth); }
 
 /// A field has an undo of its own, which arrives as typing: it takes back what was typed, so nothing is left to undo.
 void RuleHistory::dropWhatCancelsOut() {
@@ -223,16 +223,23 @@ void RuleHistory::clearMeaningless(std::vector<Step>& steps, const Step& change,
     std::erase_if(steps, [](const Step& step) { return step.isEmpty(); });
 }
 
-std::optional<Uuid> RuleHistory::move(std::vector<Step>& from, std::vector<Step>& to, Direction direction) {
+RuleHistory::Moved RuleHistory::move(std::vector<Step>& from, std::vector<Step>& to, Direction direction) {
     if (from.empty())
-        return std::nullopt;
+        return {};
     endTyping();
     to.push_back(std::move(from.back()));
     from.pop_back();
     const Step step = to.back();  // what is called may change the list of steps
     apply(step, direction == Direction::back);
     publish();
-    return step.edits.empty() ? std::nullopt : std::optional(step.edits.front().after.id);
+    Moved moved;
+    if (!step.edits.empty())
+        moved.rule = step.edits.front().after.id;
+    moved.kind = step.back                  ? Moved::Kind::other
+                 : step.lists               ? Moved::Kind::replacement
+                 : step.orderBefore.empty() ? Moved::Kind::edit
+                                            : Moved::Kind::order;
+    return moved;
 }
 
 void RuleHistory::apply(const Step& step, bool isBack) {

@@ -54,9 +54,17 @@ class RuleHistory {
     /// The next keystroke begins a step: the field has lost the focus.
     void endTyping() { m_typing.reset(); }
 
-    /// Each does nothing if it is not possible. Returns a rule that it changed, if there is one.
-    std::optional<Uuid> undo();
-    std::optional<Uuid> redo();
+    /// What was undone or redone.
+    struct Moved {
+        enum class Kind { nothing, edit, order, replacement, other };
+
+        Kind kind = Kind::nothing;
+        /// A rule that was edited, if there is one.
+        std::optional<Uuid> rule;
+    };
+    /// Each does nothing if it is not possible.
+    Moved undo();
+    Moved redo();
 
   private:
     using Rules = std::vector<GestureRule>;
@@ -94,7 +102,7 @@ class RuleHistory {
     void keep(Step step);
     void dropWhatCancelsOut();
     void follow(const Rules& rules);
-    std::optional<Uuid> move(std::vector<Step>& from, std::vector<Step>& to, Direction direction);
+    Moved move(std::vector<Step>& from, std::vector<Step>& to, Direction direction);
     void apply(const Step& step, bool isBack);
     void publish();
 

@@ -45,14 +45,6 @@ std::string path(const JsonField<Record>& field) {
     return std::string("\"").append(prefix).append(field.key).append("\"");
 }
 
-// The message of the parser without its name, the position (reported separately) and the text read (unlimited).
-std::string reason(std::string_view what) {
-    constexpr std::string_view kIntroduction = " - ";
-    if (const std::size_t start = what.find(kIntroduction); start != std::string_view::npos)
-        what.remove_prefix(start + kIntroduction.size());
-    return std::string(what.substr(0, what.find("; last read: ")));
-}
-
 }  // namespace
 
 Result<std::vector<GestureRule>> RuleListDecoder::decode() {
@@ -164,9 +156,13 @@ bool RuleListDecoder::parse_error(std::size_t position, const std::string&,
     const auto column = 1 + std::count_if(m_json.begin() + static_cast<std::ptrdiff_t>(lineStart),
                                           m_json.begin() + static_cast<std::ptrdiff_t>(place), isCharacterStart);
     constexpr int kNumberOverflow = 406;
-    const std::string what =
-        exception.id == kNumberOverflow ? translated("a number that is too large") : reason(exception.what());
-    report(place, translated("not valid JSON at column %1: %2", {std::to_string(column), what}), false);
+    const std::string at = std::to_string(column);
+    if (exception.id == kNumberOverflow)
+        report(place, translated("column %1 has a number that is too large", {at}), false);
+    else if (place == m_json.size() || position > m_json.size())
+        report(place, translated("the JSON text ends too early, at column %1", {at}), false);
+    else
+        report(place, translated("not valid JSON from column %1 on", {at}), false);
     return false;
 }
 

@@ -28,6 +28,8 @@ class WindowCommands {
     virtual void copyReport() = 0;
     /// Says for a moment what was done. `action` is a word such as “Undo”, or empty.
     virtual void showToast(const QString& text, const QString& action, std::function<void()> onAction) = 0;
+    /// Takes back the last step and says so.
+    virtual void undo() = 0;
 };
 
 }  // namespace kinesta

@@ -2,10 +2,12 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTranslator>
 
 #include "app/RuleTransfer.h"
@@ -15,6 +17,7 @@
 #include "ui/editor/RuleEditorPage.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sidebar/Sidebar.h"
+#include "ui/style/KinestaStyle.h"
 #include "ui/widgets/Page.h"
 #include "ui/widgets/Switch.h"
 #include "ui/widgets/Tile.h"
@@ -129,10 +132,13 @@ TEST_F(KinestaWindows, UndoesImportsAndResetsAndTellsWhatWasDone) {
     ASSERT_TRUE(eventually([this] { return window->isActiveWindow() && button("Undo") != nullptr; }));
     QTest::mouseClick(button("Undo"), Qt::LeftButton);
     EXPECT_EQ(machine.defaults().real("actionCueDuration.v1"), 4);
+    EXPECT_TRUE(says("The settings are as they were before"));
     key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(app.store().rules().value().size(), 2U);
+    EXPECT_TRUE(says("The rules are as they were before the import"));
     key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(app.store().rules().value().size(), 1U);
+    EXPECT_TRUE(says("The rules of the file are back"));
 }
 
 TEST_F(KinestaWindows, KeepsOneHistoryForFieldsAndTheWindow) {
@@ -153,19 +159,29 @@ TEST_F(KinestaWindows, KeepsOneHistoryForFieldsAndTheWindow) {
         return (field != nullptr ? field->text().toStdString() : "no field") + " " + rule.name +
                (rule.isEnabled ? " on" : " off");
     };
+    /// The first entries of the menu of the field.
+    enum Entry { undo, redo };
+    const auto choose = [](Entry entry) {
+        QContextMenuEvent press(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(QApplication::focusWidget(), &press);
+        QWidget* menu = QApplication::activePopupWidget();
+        ASSERT_NE(menu, nullptr);
+        menu->actions().at(entry)->trigger();
+        menu->close();
+    };
     type("BC");
     QTest::mouseClick(editor->findChild<Switch*>(), Qt::LeftButton);
     type("D");
     using Steps = std::vector<std::string>;
     Steps steps{state()};
     for (int i = 0; i < 4; ++i) {
-        key(Qt::Key_Z, Qt::ControlModifier);
+        i % 2 == 0 ? choose(undo) : key(Qt::Key_Z, Qt::ControlModifier);
         steps.push_back(state());
     }
     EXPECT_EQ(steps, (Steps{"D D off", "BC BC off", "BC BC on", "A A on", "A A on"}));
     steps.clear();
     for (int i = 0; i < 4; ++i) {
-        key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        i % 2 == 0 ? choose(redo) : key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         steps.push_back(state());
     }
     EXPECT_EQ(steps, (Steps{"BC BC on", "BC BC off", "D D off", "D D off"}));
@@ -179,29 +195,40 @@ class Doubling final : public QTranslator {
     bool isEmpty() const override { return false; }
 };
 
-TEST_F(KinestaWindows, CutsNoPageAndNoTileWhereWordsAreLong) {
+TEST_F(KinestaWindows, CutsNothingWhereWordsAreLong) {
+    QApplication::setStyle(new KinestaStyle([] { return false; }));
     Doubling doubling;
     QCoreApplication::installTranslator(&doubling);
     setTranslator([](std::string_view text) { return std::string(text) + " " + std::string(text); });
     const GestureRule stored = makeRule(GestureKind::tipTapLeft);
     app.store().setRules({stored});
     open();
-    window->resize(Unit::of(420, 700));
-    const auto fits = [&] {
-        return std::ranges::none_of(window->findChildren<Page*>(),
-                                    [](const Page* page) {
-                                        return page->isVisible() && page->widget()->width() > page->viewport()->width();
-                                    }) &&
-               std::ranges::none_of(window->findChildren<Tile*>(), [](const Tile* tile) {
-                   const QSize least = tile->minimumSizeHint();
-                   return tile->isVisible() && (tile->width() < least.width() || tile->height() < least.height());
-               });
+    const auto cut = [&] {
+        const auto widgets = window->findChildren<QWidget*>();
+        for (const QWidget* widget : widgets) {
+            const auto* page = qobject_cast<const Page*>(widget);
+            const auto* button = qobject_cast<const QPushButton*>(widget);
+            const bool isTile = qobject_cast<const Tile*>(widget) != nullptr;
+            if (!widget->isVisible() ||
+                (page == nullptr && button == nullptr && !isTile && qobject_cast<const QComboBox*>(widget) == nullptr))
+                continue;
+            const QSize whole = isTile ? widget->minimumSizeHint() : widget->sizeHint();
+            const bool wraps = !isTile && whole.height() > 2 * widget->fontMetrics().height();
+            const bool isCut = page != nullptr
+                                   ? page->widget()->width() > page->viewport()->width()
+                                   : widget->height() < whole.height() || (widget->width() < whole.width() && !wraps);
+            if (isCut)
+                return (widget->metaObject()->className() + (' ' + widget->accessibleName())).toStdString();
+        }
+        return std::string();
     };
-    for (const auto& page :
-         {WindowSelection::rule(stored.id), WindowSelection::settings(), WindowSelection::overview()}) {
-        window->select(page);
-        EXPECT_TRUE(eventually(fits));
-    }
+    for (const QSize& size : {Unit::of(420, 700), Unit::of(860, 560)})
+        for (const auto& page :
+             {WindowSelection::rule(stored.id), WindowSelection::settings(), WindowSelection::overview()}) {
+            window->resize(size);
+            window->select(page);
+            EXPECT_TRUE(eventually([&] { return cut().empty(); })) << size.width() << cut();
+        }
     setTranslator({});
 }
 

@@ -18,6 +18,7 @@ struct NoCommands : WindowCommands {
     void showAbout() override {}
     void copyReport() override {}
     void showToast(const QString& /*text*/, const QString& /*action*/, std::function<void()> /*onAction*/) override {}
+    void undo() override {}
 };
 
 }  // namespace kinesta::testing

@@ -93,6 +93,14 @@ TEST_F(TestSheets, ShowTheFingersAndTheGestureAndThenRest) {
     EXPECT_TRUE(says(QStringLiteral("Close this window and start gesture recognition in Settings.")));
 }
 
+TEST_F(TestSheets, ShowWhatCameBeforeTheyWereSeen) {
+    LivePad early(machine.clock(), 300);
+    early.setReading(true);
+    early.take({machine.clock().uptime() - 1, PadFrame{{{4, {.5, .5}}}, {}}});  // it rests by now
+    early.show();
+    EXPECT_TRUE(eventually([&] { return early.shownTouches().size() == 1; }));
+}
+
 TEST_F(TestSheets, EndTheSessionOnceHoweverTheyClose) {
     startPad();
     const std::vector<std::pair<const char*, std::function<void()>>> ways{

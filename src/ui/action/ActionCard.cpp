@@ -25,10 +25,10 @@ namespace {
 
 constexpr double kGap = 6;
 
-/// As wide as the fields below it.
+/// As wide as the fields below it, unless its words need more.
 class KindBox final : public QComboBox {
   public:
-    QSize sizeHint() const override { return {Unit::of(300), QComboBox::sizeHint().height()}; }
+    QSize sizeHint() const override { return QComboBox::sizeHint().expandedTo({Unit::of(300), 0}); }
 };
 
 std::unique_ptr<ActionPart> makePart(ActionKind kind, const ActionEditing& editing) {
@@ -62,7 +62,7 @@ ActionCard::ActionCard(const ActionEditing& editing)
       m_missing(new Remark(Remark::Kind::caution)),
       m_run(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::run)), tr("Run action now"))) {
     m_kind->setAccessibleName(tr("What happens"));
-    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_kind->setMinimumContentsLength(8);
     m_kind->setMaxVisibleItems(static_cast<int>(allCases<ActionKind>().size()));
     m_kind->installEventFilter(this);
@@ -190,20 +190,6 @@ void ActionCard::showPart(ActionKind kind) {
         insert(index++, row);
         row->show();
     }
-    orderTabs();
-}
-
-/// Rows that come later would be reached last.
-void ActionCard::orderTabs() {
-    QWidget* last = m_kind;
-    for (QWidget* row : m_part->rows())
-        for (QWidget* widget : row->findChildren<QWidget*>())
-            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr &&
-                widget->window() == window()) {  // lists that drop down are windows
-                setTabOrder(last, widget);
-                last = widget;
-            }
-    setTabOrder(last, m_showsCue);
 }
 
 }  // namespace kinesta

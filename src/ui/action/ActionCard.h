@@ -37,7 +37,6 @@ class ActionCard final : public Card {
     void followKinds(const RuleEditorContent& content);
     void followCue(const GestureRule& rule, const std::string& placeholder);
     void showPart(ActionKind kind);
-    void orderTabs();
 
     ActionEditing m_editing;
     QComboBox* m_kind;

@@ -31,6 +31,14 @@ std::string headline(State state) {
     return translated("Welcome to Kinesta");
 }
 
+std::string invitation(const OverviewContent& content) {
+    if (!content.isGestureEnabled)
+        return translated("No gesture will be seen until gesture recognition is on: switch it on above.");
+    if (!content.isListening)
+        return translated("No gesture will be seen while the trackpad is not read. “What works here” says what helps.");
+    return translated("Touch the pad with two or more fingers.");
+}
+
 std::string welcome(const std::vector<GestureRule>& rules) {
     const GestureRule& recommended = GestureRule::recommendedDefault();
     if (rules.size() == 1 && rules[0].isEnabled && rules[0].gesture == recommended.gesture &&
@@ -126,6 +134,7 @@ void OverviewModel::describeState(OverviewContent& content) const {
             content.statusLine = translated("The touchpad may not be read yet.");
     }
     content.headline = headline(content.state);
+    content.invitation = invitation(content);
     // A deleted rule cannot be shown.
     if (auto& last = content.lastGesture;
         last && last->rule && std::ranges::find(rules, *last->rule, &GestureRule::id) == rules.end())

@@ -56,6 +56,8 @@ struct OverviewContent {
     bool isListening = false;
     std::vector<OverviewNotice> notices;
     std::optional<LastGesture> lastGesture;
+    /// Stands where the last gesture would: how to make one, or why none will come and what helps.
+    std::string invitation;
 
     friend bool operator==(const OverviewContent&, const OverviewContent&) = default;
 };

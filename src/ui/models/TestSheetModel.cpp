@@ -40,6 +40,9 @@ void TestSheetModel::refresh() {
                            ? translated("Close this window and start gesture recognition in Settings.")
                            : translated("Close this window and turn gesture recognition on in Settings.");
         content.problem = status.message;
+        if (m_parts.service.isGestureEnabled().value())
+            content.problem += (content.problem.empty() ? "" : " ") +
+                               translated("“What works here” on the overview says what is missing and what helps.");
     } else if (m_gesture && m_parts.session.lastDetection().value()) {
         content.state = State::detected;
         describeDetection(content);

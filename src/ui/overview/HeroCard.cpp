@@ -70,7 +70,7 @@ HeroCard::HeroCard(const WindowParts& parts, WindowCommands& commands, QWidget* 
         m_showsAllNotices = true;
         showNotices();
     });
-    showLastGesture({});
+    showLastGesture();
     showNotices();
     measure();
 }
@@ -111,18 +111,19 @@ void HeroCard::show(const OverviewContent& content) {
     m_try->setVisible(content.state != OverviewContent::State::firstLaunch);
     m_switch->setChecked(content.isGestureEnabled);
     m_stage->show(content);
-    showLastGesture(content.lastGesture);
+    showLastGesture();
     if (hasOtherGesture && content.lastGesture && isVisible())
         Announcer::announce(*this, m_last->accessibleName());
     if (hasOtherNotices)
         showNotices();
 }
 
-void HeroCard::showLastGesture(const std::optional<LastGesture>& last) {
+void HeroCard::showLastGesture() {
+    const std::optional<LastGesture>& last = m_content.lastGesture;
     m_lastLink->setVisible(last.has_value());
     if (!last) {
         m_ring->setSeconds({});
-        m_last->setWords(tr("Touch the pad with two or more fingers."), {});
+        m_last->setWords(asQString(m_content.invitation), {});
         m_last->setAccessibleName({});
         return;
     }
@@ -144,7 +145,7 @@ void HeroCard::showNotices() {
         const auto [title, detail] = titleAndDetail(asQString(shown.text));
         const auto kind = shown.kind == OverviewNotice::Kind::problem ? Notice::Kind::caution : Notice::Kind::plain;
         m_notices.push_back(new Notice(kind, title, detail));
-        add(m_notices.back());
+        insert(indexOf(m_moreLine), m_notices.back());
     }
     const auto hidden = static_cast<int>(m_content.notices.size() - count);
     m_moreLine->setVisible(hidden > 0);

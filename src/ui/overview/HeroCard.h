@@ -33,7 +33,7 @@ class HeroCard final : public Card {
 
   private:
     QWidget* makeTop();
-    void showLastGesture(const std::optional<LastGesture>& last);
+    void showLastGesture();
     void showNotices();
     void measure();
 

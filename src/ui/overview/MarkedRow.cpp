@@ -4,6 +4,7 @@
 
 #include "ui/widgets/Card.h"
 #include "ui/widgets/Row.h"
+#include "ui/widgets/TabOrder.h"
 #include "ui/widgets/Unit.h"
 
 namespace kinesta {
@@ -50,6 +51,7 @@ void MarkedRow::setWords(const QString& what, const QString& why, const QString&
 void MarkedRow::addBelow(QWidget* part) {
     m_hasBelow = true;
     m_words->insertWidget(m_words->count() - 1, part);
+    TabOrder::place(*part);
     place();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/style/ButtonLook.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QToolButton>
 #include <algorithm>
 
@@ -15,6 +16,7 @@ namespace kinesta::ButtonLook {
 namespace {
 
 constexpr double kPadding = 14;
+constexpr double kLeastPadding = 4;
 constexpr double kToolSide = 28;
 constexpr double kToolRadius = 7;
 constexpr double kToolPadding = 10;
@@ -62,6 +64,7 @@ struct Label {
     bool showsMnemonic = false;
     /// At the beginning instead of in the middle.
     bool isLeading = false;
+    bool mayWrap = false;
 };
 
 int width(const Label& label, const QFontMetrics& metrics) {
@@ -93,7 +96,18 @@ void paintLabel(QPainter& painter, const QStyleOption& option, QRect box, const 
     }
     painter.setPen(colour);
     const Qt::Alignment align = QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter);
+    if (label.mayWrap && painter.fontMetrics().size(Qt::TextShowMnemonic, label.text).width() > box.width()) {
+        const int mnemonic = label.showsMnemonic ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+        const int across = label.isLeading ? static_cast<int>(align.toInt()) : Qt::AlignCenter;
+        painter.drawText(Shapes::placed(option, box), across | mnemonic | Qt::TextWordWrap, label.text);
+        return;
+    }
     Shapes::text(painter, Shapes::placed(option, box), align, label.text, label.showsMnemonic);
+}
+
+int heightOfWords(const QString& text, int width, const QFontMetrics& metrics) {
+    const QRect room(0, 0, std::max(width, 1), QWIDGETSIZE_MAX);
+    return metrics.boundingRect(room, Qt::TextWordWrap | Qt::TextShowMnemonic, text).height();
 }
 
 Label labelOf(const QStyleOptionButton& option) {
@@ -126,9 +140,16 @@ QSize pushButtonSize(const QStyleOptionButton& option, const QWidget* widget) {
     const QFontMetrics metrics(wordFont(widget));
     const Label label = labelOf(option);
     const int inner = width(label, metrics) + (label.hasChevrons ? chevronsWidth() : 0);
-    if (Shapes::has(widget, "link"))
-        return {inner, std::max(Unit::of(kLinkHeight), metrics.height())};
-    return {inner + 2 * Unit::of(kPadding), controlHeight(metrics)};
+    const bool isLink = Shapes::has(widget, "link");
+    const int padding = isLink ? 0 : Unit::of(kPadding);
+    const int height = isLink ? std::max(Unit::of(kLinkHeight), metrics.height()) : controlHeight(metrics);
+    const int missing = Shapes::has(widget, kIsNarrow) ? inner + 2 * padding - widget->width() : 0;
+    if (missing <= 0)
+        return {inner + 2 * padding, height};
+    // The words wrap in the width that there is, with less room around them.
+    const int words = metrics.size(Qt::TextShowMnemonic, label.text).width();
+    const int room = words - missing + 2 * (padding - std::min(padding, Unit::of(kLeastPadding)));
+    return {inner + 2 * padding, height + heightOfWords(label.text, room, metrics) - metrics.height()};
 }
 
 void paintPushButton(QPainter& painter, const QStyleOptionButton& option, const QWidget* widget) {
@@ -162,10 +183,11 @@ void paintPushButtonLabel(QPainter& painter, const QStyleOptionButton& option, c
     Label label = labelOf(option);
     label.showsMnemonic = showsMnemonic;
     label.isLeading = isLink || label.hasChevrons;
+    label.mayWrap = true;
     // As much as its size hint has; in a narrower button the words come first.
     const int padding = isLink ? 0 : Unit::of(kPadding);
     const int inner = width(label, painter.fontMetrics()) + (label.hasChevrons ? chevronsWidth() : 0);
-    const int side = std::clamp((option.rect.width() - inner) / 2, std::min(padding, Unit::of(4)), padding);
+    const int side = std::clamp((option.rect.width() - inner) / 2, std::min(padding, Unit::of(kLeastPadding)), padding);
     paintLabel(painter, option, option.rect.adjusted(side, 0, -side, 0), label, wordColour(option, widget));
 }
 
@@ -209,11 +231,23 @@ void paintToolButton(QPainter& painter, const QStyleOptionToolButton& option, co
                colour);
 }
 
-QSize comboSize(const QStyleOptionComboBox& option, const QSize& contents) {
+QSize comboSize(const QStyleOptionComboBox& option, const QSize& contents, const QWidget* widget) {
     // The words are a little heavier than those measured, and the list needs room for its tick.
     const int inner = contents.width() + contents.width() / 24 + Unit::of(kBesideTick);
-    return {inner + 2 * Unit::of(kPadding) + chevronsWidth(),
-            std::max(controlHeight(option.fontMetrics), contents.height())};
+    const int around = 2 * Unit::of(kPadding) + chevronsWidth();
+    const int height = std::max(controlHeight(option.fontMetrics), contents.height());
+    const auto* combo = qobject_cast<const QComboBox*>(widget);
+    if (combo == nullptr || !Shapes::has(widget, kIsNarrow))
+        return {inner + around, height};
+    // The longest words wrap in the width that there is, so that choosing moves nothing.
+    const QFontMetrics metrics(Shapes::font(widget, QFont::Medium));
+    const int line = metrics.height();
+    int words = line;
+    for (int i = 0; i < combo->count(); ++i) {
+        const int symbol = combo->itemIcon(i).isNull() ? 0 : Unit::of(Shapes::kSymbol + Shapes::kSymbolGap);
+        words = std::max(words, heightOfWords(combo->itemText(i), combo->width() - around - symbol, metrics));
+    }
+    return {inner + around, height + words - line};
 }
 
 QRect comboPart(const QStyleOptionComboBox& option, QStyle::SubControl part) {
@@ -247,7 +281,11 @@ void paintComboLabel(QPainter& painter, const QStyleOptionComboBox& option, cons
     const int padding = Unit::of(kPadding);
     painter.setFont(Shapes::font(widget, QFont::Medium));
     paintLabel(painter, option, option.rect.adjusted(padding, 0, -padding, 0),
-               {.icon = option.currentIcon, .text = option.currentText, .hasChevrons = true, .isLeading = true},
+               {.icon = option.currentIcon,
+                .text = option.currentText,
+                .hasChevrons = true,
+                .isLeading = true,
+                .mayWrap = true},
                wordColour(option, nullptr));
 }
 

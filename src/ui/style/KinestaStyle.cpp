@@ -87,6 +87,10 @@ bool KinestaStyle::eventFilter(QObject* watched, QEvent* event) {
             if (isFollowed(widget))
                 followFocus(widget, *static_cast<QFocusEvent*>(event));
             break;
+        case QEvent::Resize:
+            if (qobject_cast<QPushButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr)
+                followWidth(*widget);
+            break;
         case QEvent::DynamicPropertyChange:
             widget->updateGeometry();
             widget->update();
@@ -103,6 +107,18 @@ bool KinestaStyle::eventFilter(QObject* watched, QEvent* event) {
             break;
     }
     return false;
+}
+
+/// The words of a control that is narrower than it wants to be wrap.
+void KinestaStyle::followWidth(QWidget& control) {
+    const bool isNarrow = control.width() < control.sizeHint().width();
+    const bool wasNarrow = control.property(ButtonLook::kIsNarrow).toBool();
+    if (!isNarrow && !wasNarrow)
+        return;
+    control.setProperty(ButtonLook::kIsNarrow, isNarrow);
+    // Controls remember their size hint until something of this kind happens.
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&control, &change);
 }
 
 void KinestaStyle::followFocus(QWidget* widget, const QFocusEvent& event) {

@@ -46,6 +46,7 @@ class KinestaStyle final : public QProxyStyle {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    static void followWidth(QWidget& control);
     void followFocus(QWidget* widget, const QFocusEvent& event);
     void showMnemonics(QWidget* window, bool areShown);
 

@@ -63,7 +63,7 @@ QSize KinestaStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
             break;
         case CT_ComboBox:
             if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
-                return ButtonLook::comboSize(*combo, size);
+                return ButtonLook::comboSize(*combo, size, widget);
             break;
         case CT_LineEdit: {
             const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);

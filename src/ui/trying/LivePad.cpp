@@ -120,8 +120,10 @@ void LivePad::refreshSoon() {
 void LivePad::startTimer(double milliseconds) {
     // A window that is not seen catches up when it is painted again.
     const QWindow* shown = window()->windowHandle();
-    if (!isVisible() || shown == nullptr || !shown->isExposed())
+    if (!isVisible() || shown == nullptr || !shown->isExposed()) {
+        m_isBehind = true;
         return;
+    }
     const int wait = static_cast<int>(std::ceil(milliseconds));
     if (!m_timer.isActive() || m_timer.remainingTime() > wait)
         m_timer.start(wait);
@@ -130,6 +132,7 @@ void LivePad::startTimer(double milliseconds) {
 void LivePad::refresh() {
     m_sinceRefresh.start();
     ++m_refreshCount;
+    m_isBehind = false;
     m_model.setReducesMotion(WindowTheme::reducesMotion());
     const Uptime now = m_clock.uptime();
     std::vector<LiveTouch> touches = m_model.touches(now);
@@ -203,7 +206,7 @@ void LivePad::paintEvent(QPaintEvent* /*event*/) {
         drawing.paintGesture(painter, *m_gesture);
     for (const LiveTouch& touch : m_touches)
         drawing.paintTouch(painter, touch);
-    if (!m_timer.isActive() && m_model.nextChange(m_clock.uptime()))
+    if (!m_timer.isActive() && (m_isBehind || m_model.nextChange(m_clock.uptime())))
         refreshSoon();
 }
 

@@ -67,6 +67,8 @@ class LivePad final : public QWidget {
     QPixmap m_ground;
     AppTheme m_groundTheme;
     QTimer m_timer;
+    /// What came while nobody saw it is not shown yet.
+    bool m_isBehind = false;
     QElapsedTimer m_sinceRefresh;
     int m_refreshCount = 0;
 };

@@ -6,6 +6,7 @@
 #include "platform/qt/ThemePalette.h"
 #include "ui/widgets/Notice.h"
 #include "ui/widgets/Row.h"
+#include "ui/widgets/TabOrder.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
 
@@ -27,6 +28,7 @@ void Card::insert(int index, QWidget* part) {
     for (int i = index + 1; i < m_column->count(); ++i)
         if (QWidget* below = m_column->itemAt(i)->widget())
             below->raise();
+    TabOrder::place(*part);
     part->installEventFilter(this);
 }
 

@@ -22,6 +22,7 @@ class Card : public QWidget {
     void add(QWidget* part) { insert(m_column->count(), part); }
     /// Takes it in above the one at `index`.
     void insert(int index, QWidget* part);
+    int indexOf(QWidget* part) const { return m_column->indexOf(part); }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -81,6 +81,12 @@ void Row::setDetail(const QString& detail) {
 
 int Row::inset() { return Unit::of(kInset); }
 
+bool Row::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        place();  // the control may want more or less room than before
+    return QWidget::event(event);
+}
+
 void Row::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     place();

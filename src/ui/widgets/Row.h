@@ -28,6 +28,7 @@ class Row final : public QWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:

@@ -79,7 +79,9 @@ int Tile::linesIn(int width) const {
     // The bold words, so that choosing moves nothing.
     const QFontMetrics metrics(wordFont(true));
     const QRect room(0, 0, width - 2 * side(), QWIDGETSIZE_MAX);
-    return std::max(1, metrics.boundingRect(room, Qt::TextWordWrap, text()).height() / metrics.lineSpacing());
+    // There is no leading below the last line.
+    const int height = metrics.boundingRect(room, Qt::TextWordWrap, text()).height() + metrics.leading();
+    return std::max(1, (height + metrics.lineSpacing() / 2) / metrics.lineSpacing());
 }
 
 QSize Tile::minimumSizeHint() const {

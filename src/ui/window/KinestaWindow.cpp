@@ -37,6 +37,8 @@
 namespace kinesta {
 namespace {
 
+using Moved = RuleHistory::Moved::Kind;
+
 /// The rule file that is dragged; empty if something else is.
 QString draggedFile(const QMimeData& data) {
     const auto urls = data.urls();
@@ -128,7 +130,11 @@ void KinestaWindow::addKeys() {
     close->setShortcut(QKeySequence::Close);
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
-    qApp->installEventFilter(new FieldUndo([this] { return m_history.possibilities().value().redo; }, this));
+    qApp->installEventFilter(new FieldUndo({.canUndo = [this] { return m_history.possibilities().value().undo; },
+                                            .canRedo = [this] { return m_history.possibilities().value().redo; },
+                                            .undo = [this] { undo(); },
+                                            .redo = [this] { redo(); }},
+                                           this));
 }
 
 void KinestaWindow::addKey(const QKeySequence& keys, void (KinestaWindow::*act)()) {
@@ -256,17 +262,31 @@ void KinestaWindow::showToast(const QString& text, const QString& action, std::f
 
 void KinestaWindow::undo() {
     FieldUndo::forgetSteps(QApplication::focusWidget());
-    showChanged(m_history.undo());
+    const RuleHistory::Moved moved = m_history.undo();
+    if (moved.kind == Moved::order)
+        showToast(tr("Order restored"), {}, {});
+    else if (moved.kind == Moved::replacement)
+        showToast(tr("The rules are as they were before the import"), {}, {});
+    else if (moved.kind == Moved::other)
+        showToast(tr("The settings are as they were before"), {}, {});
+    showEdited(moved);
 }
 
 void KinestaWindow::redo() {
     FieldUndo::forgetSteps(QApplication::focusWidget());
-    showChanged(m_history.redo());
+    const RuleHistory::Moved moved = m_history.redo();
+    if (moved.kind == Moved::order)
+        showToast(tr("Order changed again"), {}, {});
+    else if (moved.kind == Moved::replacement)
+        showToast(tr("The rules of the file are back"), {}, {});
+    else if (moved.kind == Moved::other)
+        showToast(tr("The settings are as they were at first"), {}, {});
+    showEdited(moved);
 }
 
-void KinestaWindow::showChanged(const std::optional<Uuid>& rule) {
-    if (rule)
-        select(WindowSelection::rule(*rule));
+void KinestaWindow::showEdited(const RuleHistory::Moved& moved) {
+    if (moved.rule)
+        select(WindowSelection::rule(*moved.rule));
 }
 
 void KinestaWindow::duplicate() {

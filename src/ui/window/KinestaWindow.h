@@ -54,6 +54,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void showAbout() override;
     void copyReport() override;
     void showToast(const QString& text, const QString& action, std::function<void()> onAction) override;
+    void undo() override;
 
   protected:
     bool event(QEvent* event) override;
@@ -64,9 +65,8 @@ class KinestaWindow final : public QWidget, public WindowCommands {
   private:
     void addKeys();
     void addKey(const QKeySequence& keys, void (KinestaWindow::*act)());
-    void undo();
     void redo();
-    void showChanged(const std::optional<Uuid>& rule);
+    void showEdited(const RuleHistory::Moved& moved);
     void duplicate();
     void filter();
     void showOverview() { select(WindowSelection::overview()); }

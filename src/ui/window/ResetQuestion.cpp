@@ -48,7 +48,7 @@ void ResetQuestion::reset() {
             m_onChange();
         },
         again);
-    m_commands.showToast(tr("The settings are as they were at first"), tr("Undo"), [this] { m_history.undo(); });
+    m_commands.showToast(tr("The settings are as they were at first"), tr("Undo"), [this] { m_commands.undo(); });
 }
 
 }  // namespace kinesta

@@ -76,7 +76,7 @@ void RuleFiles::importFile(const QString& file) {
         text = tr("Imported %1 rules; %2 of them stay off until they are complete")
                    .arg(imported.count)
                    .arg(imported.leftOff);
-    m_commands.showToast(text, tr("Undo"), [this] { m_history.undo(); });
+    m_commands.showToast(text, tr("Undo"), [this] { m_commands.undo(); });
 }
 
 void RuleFiles::exportAll() {

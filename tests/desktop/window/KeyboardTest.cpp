@@ -31,15 +31,22 @@ struct KeyboardAlone : OpenWindow {
         auto back = walk("shift+Tab");
         std::ranges::reverse(back.begin() + 1, back.end());
         EXPECT_EQ(forth, back);
-        for (const auto& stop : stops) {
-            const bool isSentence = role == "alert message" && stop.role == "label";  // the mouse can select it
-            EXPECT_EQ(std::ranges::count(forth, stop.path), isSentence ? 0 : 1) << stop.role << " " << stop.name;
-        }
+        // In the order in which they stand, but for the sentences of a question: the mouse can select those.
+        std::vector<std::string> order;
+        for (const auto& stop : stops)
+            if (role != "alert message" || stop.role != "label")
+                order.push_back(stop.path);
+        const auto first = std::ranges::find(order, forth.front());
+        std::rotate(order.begin(), first, order.end());
+        EXPECT_EQ(forth, order);
     }
 };
 
 TEST_F(KeyboardAlone, ReachesEveryControlOnce) {
-    const auto rules = everyKind();
+    auto rules = everyKind();
+    rules[2]["gesture"] = rules[8]["gesture"];
+    for (const std::size_t clash : {2U, 8U})
+        rules[clash]["isEnabled"] = true;
     open(rules);
     program->listen();
     for (const json& rule : rules) {

@@ -23,6 +23,7 @@ TEST_F(RuleList, IsReorderedByDragAndByKeys) {
     Program::press("ctrl+z ctrl+z ctrl+z");
     EXPECT_TRUE(becomesNamed("Two Three One Four "));
     Program::press("ctrl+z");
+    program->await("label", "Order restored");
     EXPECT_TRUE(becomesNamed("One Two Three Four "));
     Program::press("ctrl+shift+z");
     EXPECT_TRUE(becomesNamed("Two Three One Four "));

@@ -12,6 +12,10 @@ TEST_F(WindowInUse, StepsAsideForTheKeysOfAnAction) {
     TestWindow other(desktop, {100, 100, 400, 300});
     other.show();
     open({ruleWith("Keys", {{"kind", "keyboardShortcut"}, {"keyCode", 17}, {"modifiers", 9}})});
+    // The window comes to the front by itself once there is no tray for sure.
+    Program::press("ctrl+1");
+    program->await("label", "This desktop shows no status icons.");
+    program->click("list item", "Keys");
     for (const bool byButton : {true, false}) {
         desktop.activate(window);
         other.events();
@@ -22,7 +26,12 @@ TEST_F(WindowInUse, StepsAsideForTheKeysOfAnAction) {
         std::string seen;
         EXPECT_TRUE(eventually([&] { return (seen += other.events()).find("KEY_T up") != std::string::npos; })) << seen;
         EXPECT_NE(seen.find("Control+KEY_T down"), std::string::npos) << seen;
+        // The window comes back, and that program keeps the keyboard.
         EXPECT_TRUE(eventually([] { return status()["windowVisible"] == true; }));
+        program->await("text", "Name");
+        EXPECT_EQ(desktop.active(), other.id());
+        Program::press("x");
+        EXPECT_TRUE(eventually([&] { return (seen += other.events()).find("KEY_X up") != std::string::npos; })) << seen;
     }
 }
 

@@ -15,10 +15,14 @@ TEST(OverviewModel, WordsEveryStateAndTheLastGesture) {
     MultitouchService& service = rig.launch();
     OverviewModel model({store, service, session, [] { return false; }, /*isFirstLaunch=*/true});
     const auto state = [&] { return model.content().value().headline + " | " + model.content().value().statusLine; };
+    const auto invites = [&](const char* how) {
+        return model.content().value().invitation.find(how) != std::string::npos;
+    };
     const auto last = [&]() -> const LastGesture& { return *model.content().value().lastGesture; };
     EXPECT_EQ(state(), "Welcome to Kinesta | Listening for 1 enabled gesture rule.");
     store.addRule();
     EXPECT_EQ(state(), "Ready for your gestures | Listening for 1 enabled gesture rule.");
+    EXPECT_TRUE(invites("Touch the pad"));
     store.disableAllRules();
     EXPECT_EQ(state(), "Listening, with no rule on | Listening for 0 enabled gesture rules.");
     service.onEveryGesture([&](const DetectedGesture& gesture) {
@@ -40,9 +44,11 @@ TEST(OverviewModel, WordsEveryStateAndTheLastGesture) {
     EXPECT_EQ(last().outcome, "No rule uses it");
     service.setGestureEnabled(false);
     EXPECT_EQ(state(), "Gestures are off | Turn gesture recognition on in Settings to use your rules.");
+    EXPECT_TRUE(invites("switch it on"));
     rig.provider.statusAfterStart = TrackpadContactProviderStatus::unavailable("No trackpad.");
     service.setGestureEnabled(true);
     EXPECT_EQ(state(), "The trackpad cannot be read | No trackpad.");
+    EXPECT_TRUE(invites("says what helps"));
     service.stop();
     EXPECT_EQ(state(), "The trackpad is not being read | Open Settings to review gesture recognition.");
 }

@@ -59,16 +59,17 @@ TEST_F(TestSheet, SaysWhatWasDetectedAndWhatItWouldRun) {
 TEST_F(TestSheet, SaysAtOnceThatRecognitionStoppedAndThatItIsBack) {
     detect(DetectedTap{3, GestureKind::singleTap});
     const std::string off = "Gesture recognition is turned off | Close this window and ";
+    const std::string help = "“What works here” on the overview says what is missing and what helps.";
     service.setGestureEnabled(false);
     EXPECT_EQ(said(), off + "turn gesture recognition on in Settings.");
     rig.provider.statusAfterStart = TrackpadContactProviderStatus::unavailable("No trackpad.");
     service.setGestureEnabled(true);
-    EXPECT_EQ(said(), off + "start gesture recognition in Settings. | No trackpad.");
+    EXPECT_EQ(said(), off + "start gesture recognition in Settings. | No trackpad. " + help);
     rig.provider.becomes(TrackpadContactProviderStatus::listening());
     service.contactProviderDidChangeStatus();
     EXPECT_EQ(said(), "3-finger single tap | Detected once | Middle click");
     service.stop();
-    EXPECT_EQ(said(), off + "start gesture recognition in Settings.");
+    EXPECT_EQ(said(), off + "start gesture recognition in Settings. | " + help);
 }
 
 }  // namespace
