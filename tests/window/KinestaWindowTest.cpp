@@ -85,6 +85,14 @@ TEST_F(KinestaWindows, ComesBackToAPlaceOnAScreenThatExists) {
     }
 }
 
+TEST_F(KinestaWindows, RemembersThePlaceOfAWindowThatIsOpenWhenTheProgramEnds) {
+    open();
+    window->setGeometry(120, 80, 900, 600);
+    ASSERT_TRUE(eventually([this] { return window->geometry() == QRect(120, 80, 900, 600); }));
+    window.reset();
+    EXPECT_EQ(machine.defaults().string(WindowPlace::storageKey).value_or("").rfind("120 80 900 600 ", 0), 0U);
+}
+
 TEST_F(KinestaWindows, ShowsListOrPageWhenItIsNarrow) {
     open();
     window->resize(Unit::of(600, 600));

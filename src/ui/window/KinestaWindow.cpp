@@ -6,11 +6,11 @@
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "app/Desktop.h"
@@ -36,6 +36,8 @@
 
 namespace kinesta {
 namespace {
+
+constexpr std::chrono::milliseconds kSettled{400};
 
 /// The rule file that is dragged; empty if something else is.
 QString draggedFile(const QMimeData& data) {
@@ -98,12 +100,20 @@ KinestaWindow::KinestaWindow(WindowParts parts)
     });
     addKeys();
     connect(qApp, &QApplication::focusChanged, this, &KinestaWindow::keepFocus);
+    // Qt still names the screen while it tells that it goes.
+    connect(
+        qApp, &QGuiApplication::screenRemoved, this, [this] { WindowPlace::bringBack(*this); }, Qt::QueuedConnection);
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(kSettled);
+    connect(&m_settled, &QTimer::timeout, this, &KinestaWindow::savePlace);
     m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
     m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismissOffer(); }));
     followSelection();
 }
 
 KinestaWindow::~KinestaWindow() {
+    if (isVisible())
+        savePlace();
     qApp->removeEventFilter(this);
     // They observe the members.
     while (!children().isEmpty())
@@ -376,12 +386,17 @@ void KinestaWindow::giveBackButton(Page& page) {
 bool KinestaWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
         refresh();
+    else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        m_settled.start();
     else if (event->type() == QEvent::Hide || event->type() == QEvent::Close)
         savePlace();
     return QWidget::event(event);
 }
 
-void KinestaWindow::savePlace() { m_place.save(*this, m_panes->sidebarWidth()); }
+void KinestaWindow::savePlace() {
+    m_settled.stop();
+    m_place.save(*this, m_panes->sidebarWidth());
+}
 
 void KinestaWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier) {

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QWidget>
 #include <string>
 #include <vector>
@@ -87,6 +88,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     RuleListModel m_list;
     OverviewModel m_overviewModel;
     WindowPlace m_place;
+    QTimer m_settled;
     Sidebar* m_sidebar;
     QStackedWidget* m_pages;
     Panes* m_panes;
