@@ -386,11 +386,18 @@ void KinestaWindow::giveBackButton(Page& page) {
 bool KinestaWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
         refresh();
-    else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+    else if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) && isVisible())
         m_settled.start();
     else if (event->type() == QEvent::Hide || event->type() == QEvent::Close)
         savePlace();
     return QWidget::event(event);
+}
+
+/// Some window managers move a window to the corner of the screen while it is hidden.
+void KinestaWindow::setVisible(bool visible) {
+    if (visible && isHidden() && !isMaximized() && !isFullScreen())
+        m_place.restore(*this);
+    QWidget::setVisible(visible);
 }
 
 void KinestaWindow::savePlace() {

@@ -54,6 +54,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void resetSettings() override;
     void showAbout() override;
     void copyReport() override;
+    void setVisible(bool visible) override;
     void showToast(const QString& text, const QString& action, std::function<void()> onAction) override;
 
   protected:
