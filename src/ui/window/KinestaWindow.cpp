@@ -266,11 +266,13 @@ void KinestaWindow::showToast(const QString& text, const QString& action, std::f
 
 void KinestaWindow::undo() {
     FieldUndo::forgetSteps(QApplication::focusWidget());
+    m_toast->dismissOffer();
     showChanged(m_history.undo());
 }
 
 void KinestaWindow::redo() {
     FieldUndo::forgetSteps(QApplication::focusWidget());
+    m_toast->dismissOffer();
     showChanged(m_history.redo());
 }
 
