@@ -1,6 +1,7 @@
 #include "ui/window/KinestaWindow.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
@@ -86,6 +87,27 @@ TEST_F(KinestaWindows, ComesBackToAPlaceOnAScreenThatExists) {
         const bool isPlaced = c.expected.x() >= 0;
         EXPECT_TRUE(!isPlaced || restored.pos() == c.expected.topLeft()) << c.stored;
     }
+}
+
+TEST_F(KinestaWindows, RemembersThePlaceOfAWindowThatIsOpenWhenTheProgramEnds) {
+    open();
+    window->setGeometry(120, 80, 900, 600);
+    ASSERT_TRUE(eventually([this] { return window->geometry() == QRect(120, 80, 900, 600); }));
+    window.reset();
+    EXPECT_EQ(machine.defaults().string(WindowPlace::storageKey).value_or("").rfind("120 80 900 600 ", 0), 0U);
+}
+
+TEST_F(KinestaWindows, ScreenReadersSwitchAndChoose) {
+    open();
+    window->select(WindowSelection::settings());
+    for (const char* name : {"Let rules run shell commands", "400 ms", "Dark"})
+        for (QAbstractButton* part : window->findChildren<QAbstractButton*>())
+            if (auto* accessible = QAccessible::queryAccessibleInterface(part);
+                accessible->text(QAccessible::Name) == QString(name))
+                accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(machine.defaults().boolean("shellCommandActionsEnabled.v1"), true);
+    EXPECT_EQ(machine.defaults().integer("tapWaitingInterval.v1"), 400);
+    EXPECT_EQ(machine.defaults().string("appAppearance.v1"), "dark");
 }
 
 TEST_F(KinestaWindows, ShowsListOrPageWhenItIsNarrow) {

@@ -152,6 +152,8 @@ std::string shortGesture(const GestureRule& rule) {
         case GestureTypeChoice::edgeSlide:
             return translated(kSlide.at(static_cast<std::size_t>(rule.resolvedEdgeSlideSide())), {fingers});
         case GestureTypeChoice::anchorDraw:
+            if (!rule.anchorCorner && !rule.drawPattern)
+                return translated(title(rule.gesture));
             return translated(
                 "%1, %2",
                 {rule.anchorCorner ? translated(title(*rule.anchorCorner)) : "…",

@@ -36,7 +36,6 @@ void DeletionQuestion::make() {
     QPushButton* cancel = m_box->addButton(tr("Cancel"), QMessageBox::RejectRole);
     m_delete = m_box->addButton(tr("Delete"), QMessageBox::AcceptRole);
     m_delete->setProperty("destructive", true);
-    m_delete->setAutoDefault(false);
     m_box->setDefaultButton(cancel);
     m_box->setEscapeButton(cancel);
     connect(m_box, &QDialog::finished, this, &DeletionQuestion::answer);

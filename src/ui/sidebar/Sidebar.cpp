@@ -57,6 +57,7 @@ Sidebar::Sidebar(RuleListModel& model, WindowCommands& commands, QWidget* parent
     m_observers.push_back(model.filter().observe([this](const std::string& filter) {
         if (const QString text = QString::fromStdString(filter); text != m_filter->text())
             m_filter->setText(text);
+        m_empty->setFilter(QString::fromStdString(filter));  // the rows need not change with it
     }));
     followCommands();
     followRows();
@@ -152,7 +153,6 @@ void Sidebar::paintEvent(QPaintEvent* /*event*/) {
 void Sidebar::followRows() {
     const bool isEmpty = m_model.rows().value().empty();
     QWidget* shown = isEmpty ? static_cast<QWidget*>(m_empty) : m_list;
-    m_empty->setFilter(QString::fromStdString(m_model.filter().value()));
     if (m_lists->currentWidget() != shown) {
         const bool hadFocus = m_middle->isAncestorOf(focusWidget());
         m_lists->setCurrentWidget(shown);

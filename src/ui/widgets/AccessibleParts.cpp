@@ -1,8 +1,10 @@
 #include "ui/widgets/AccessibleParts.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QCheckBox>
 #include <QLineEdit>
 
 #include "ui/widgets/Announcer.h"
@@ -46,6 +48,49 @@ class FrameOfList final : public QAccessibleWidget {
     }
 };
 
+/// A screen reader's toggle is a click, which asks for a change; Qt's own would only change the picture.
+class ClickedButton final : public QAccessibleWidget {
+  public:
+    explicit ClickedButton(QAbstractButton* button) : QAccessibleWidget(button) {}
+
+    // Asked before it is in a group, too.
+    QAccessible::Role role() const override {
+        if (!button().isCheckable())
+            return QAccessible::Button;
+        return button().autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = button().isCheckable() ? 1 : 0;
+        state.checked = button().isChecked() ? 1 : 0;
+        state.pressed = button().isDown() ? 1 : 0;
+        return state;
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        const QString text = QAccessibleWidget::text(kind);
+        return text.isEmpty() && kind == QAccessible::Name ? button().text() : text;
+    }
+
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (widget()->isEnabled())
+            names.prepend(button().isCheckable() ? toggleAction() : pressAction());
+        return names;
+    }
+
+    void doAction(const QString& action) override {
+        if (action == toggleAction() || action == pressAction())
+            button().click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+  private:
+    QAbstractButton& button() const { return *static_cast<QAbstractButton*>(widget()); }
+};
+
 /// Asked for each class of an object, the most derived first.
 QAccessibleInterface* make(const QString& name, QObject* object) {
     const auto is = [&name](const QMetaObject& type) { return name == QLatin1String(type.className()); };
@@ -57,6 +102,8 @@ QAccessibleInterface* make(const QString& name, QObject* object) {
         return new QAccessibleWidget(static_cast<Notice*>(object), QAccessible::AlertMessage);
     if (is(Announcer::staticMetaObject))
         return new QAccessibleWidget(static_cast<Announcer*>(object), QAccessible::Notification);
+    if (is(QAbstractButton::staticMetaObject) || is(QCheckBox::staticMetaObject))
+        return new ClickedButton(static_cast<QAbstractButton*>(object));
     if (name == QLatin1String("kinesta::CountdownRing"))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
     if (name == QLatin1String("kinesta::FieldFrame"))

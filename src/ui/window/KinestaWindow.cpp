@@ -6,11 +6,11 @@
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "app/Desktop.h"
@@ -38,6 +38,8 @@ namespace kinesta {
 namespace {
 
 using Moved = RuleHistory::Moved::Kind;
+
+constexpr std::chrono::milliseconds kSettled{400};
 
 /// The rule file that is dragged; empty if something else is.
 QString draggedFile(const QMimeData& data) {
@@ -100,12 +102,20 @@ KinestaWindow::KinestaWindow(WindowParts parts)
     });
     addKeys();
     connect(qApp, &QApplication::focusChanged, this, &KinestaWindow::keepFocus);
+    // Qt still names the screen while it tells that it goes.
+    connect(
+        qApp, &QGuiApplication::screenRemoved, this, [this] { WindowPlace::bringBack(*this); }, Qt::QueuedConnection);
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(kSettled);
+    connect(&m_settled, &QTimer::timeout, this, &KinestaWindow::savePlace);
     m_observers.push_back(m_list.selection().observe([this](const auto&) { followSelection(); }));
     m_observers.push_back(m_parts.store.rules().observe([this](const auto&) { m_toast->dismissOffer(); }));
     followSelection();
 }
 
 KinestaWindow::~KinestaWindow() {
+    if (isVisible())
+        savePlace();
     qApp->removeEventFilter(this);
     // They observe the members.
     while (!children().isEmpty())
@@ -262,6 +272,7 @@ void KinestaWindow::showToast(const QString& text, const QString& action, std::f
 
 void KinestaWindow::undo() {
     FieldUndo::forgetSteps(QApplication::focusWidget());
+    m_toast->dismissOffer();
     const RuleHistory::Moved moved = m_history.undo();
     if (moved.kind == Moved::order)
         showToast(tr("Order restored"), {}, {});
@@ -274,6 +285,7 @@ void KinestaWindow::undo() {
 
 void KinestaWindow::redo() {
     FieldUndo::forgetSteps(QApplication::focusWidget());
+    m_toast->dismissOffer();
     const RuleHistory::Moved moved = m_history.redo();
     if (moved.kind == Moved::order)
         showToast(tr("Order changed again"), {}, {});
@@ -396,12 +408,24 @@ void KinestaWindow::giveBackButton(Page& page) {
 bool KinestaWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
         refresh();
+    else if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) && isVisible())
+        m_settled.start();
     else if (event->type() == QEvent::Hide || event->type() == QEvent::Close)
         savePlace();
     return QWidget::event(event);
 }
 
-void KinestaWindow::savePlace() { m_place.save(*this, m_panes->sidebarWidth()); }
+/// Some window managers move a window to the corner of the screen while it is hidden.
+void KinestaWindow::setVisible(bool visible) {
+    if (visible && isHidden() && !isMaximized() && !isFullScreen())
+        m_place.restore(*this);
+    QWidget::setVisible(visible);
+}
+
+void KinestaWindow::savePlace() {
+    m_settled.stop();
+    m_place.save(*this, m_panes->sidebarWidth());
+}
 
 void KinestaWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier) {

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QWidget>
 #include <string>
 #include <vector>
@@ -53,6 +54,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void resetSettings() override;
     void showAbout() override;
     void copyReport() override;
+    void setVisible(bool visible) override;
     void showToast(const QString& text, const QString& action, std::function<void()> onAction) override;
     void undo() override;
 
@@ -87,6 +89,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     RuleListModel m_list;
     OverviewModel m_overviewModel;
     WindowPlace m_place;
+    QTimer m_settled;
     Sidebar* m_sidebar;
     QStackedWidget* m_pages;
     Panes* m_panes;

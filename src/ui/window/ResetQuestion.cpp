@@ -29,7 +29,6 @@ void ResetQuestion::ask() {
     QPushButton* cancel = m_box->addButton(tr("Cancel"), QMessageBox::RejectRole);
     QPushButton* confirm = m_box->addButton(tr("Reset"), QMessageBox::AcceptRole);
     confirm->setProperty("destructive", true);
-    confirm->setAutoDefault(false);
     m_box->setDefaultButton(cancel);
     m_box->setEscapeButton(cancel);
     connect(confirm, &QPushButton::clicked, this, &ResetQuestion::reset);

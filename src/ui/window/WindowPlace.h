@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -17,12 +18,21 @@ class WindowPlace {
     explicit WindowPlace(UserDefaults& defaults) : m_defaults(defaults) {}
 
     /// Puts the window where it was, moved onto a screen that exists. Returns the width of the sidebar; nothing if
-    /// nothing was remembered.
+    /// nothing was remembered: then the window only shrinks to the screen.
     std::optional<int> restore(QWidget& window) const;
     /// Does nothing if nothing has changed.
     void save(const QWidget& window, int sidebar);
+    /// Moves the window onto a screen if its upper edge is on none: the screen it was on may be gone.
+    static void bringBack(QWidget& window);
 
   private:
+    struct Stored {
+        QRect box;
+        int sidebar = 0;
+        bool isMaximized = false;
+    };
+    std::optional<Stored> stored() const;
+
     UserDefaults& m_defaults;
 };
 
