@@ -26,7 +26,7 @@ test-vm: ## Test with virtual touchpads on a real kernel, in a virtual machine
 	@scripts/build dev vm_tests kinesta
 	@scripts/run-vm-test
 
-check-macos: ## Check the macOS layer on Linux: types, wrong uses, its tests, and linking where that is possible
+check-macos: ## Check the macOS layer on Linux: types, wrong uses, its tests, and making Kinesta.app where that is possible
 	@scripts/install-dependencies macos
 	@scripts/check-macos
 

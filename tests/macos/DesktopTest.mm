@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <thread>
 
 #include "MacTest.h"
 #include "platform/macos/MacDesktop.h"
@@ -66,6 +67,22 @@ TEST_F(DesktopOnTheMac, GivesEveryPortAndLeavesNothing) {
         EXPECT_EQ(desktop.windowOutcomes().settle(0), WindowActionOutcomes::Outcome::unknown);
     }
     fakes::drainMainQueue();  // what was on its way finds no receiver
+}
+
+TEST_F(DesktopOnTheMac, WaitsAtItsEndForWhatItHasHandedOver) {
+    @autoreleasepool {
+        std::string problem;
+        std::thread system;
+        MacMainLoop mainLoop;
+        {
+            MacDesktop desktop(mainLoop, files());
+            desktop.onActionProblem([&](const std::string& text) { problem = text; }, ProgramOutput::nowhere);
+            desktop.actionPorts(desktop.defaults()).processes.launch("/missing/program", {});
+            system = std::thread([] { fakes::drainMainQueue(); });
+        }
+        EXPECT_NE(problem, "");
+        system.join();
+    }
 }
 
 TEST_F(DesktopOnTheMac, SaysWhatATerminalCannotAskFor) {

@@ -93,7 +93,8 @@ MacDesktop::MacDesktop(MainLoop& mainLoop, MacProgramFiles files)
       m_loginItem(std::make_unique<MacLoginItemService>()),
       m_multitouchLibrary(MultitouchSupportContactProvider::kFrameworkPath) {}
 
-MacDesktop::~MacDesktop() = default;
+// A start that is still on its way may report a problem, for which the main loop is needed.
+MacDesktop::~MacDesktop() { finishActions(); }
 
 void MacDesktop::catchSignals(const std::vector<ProgramSignal>& signals, std::function<void(ProgramSignal)> handler) {
     m_signals = std::make_unique<MacSignalListener>(
