@@ -155,6 +155,35 @@ TEST_F(Overview, LeadsFromTheLastGestureToItsRuleOrToANewOne) {
     EXPECT_TRUE(says("Gestures are off"));
 }
 
+TEST_F(Overview, LeadsTabToWhatComesLaterWhereItStands) {
+    OverviewModel welcome{{app.store(), app.recognition().service(), app.testSession(), [] { return false; }, true}};
+    page = std::make_unique<OverviewPage>(welcome, shown, commands);
+    page->show();
+    page->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
+    welcome.setNotices(std::vector<OverviewNotice>(4, {OverviewNotice::Kind::problem, "It is full."}));
+    doctor.answer({.findings = {{.subject = FindingSubject::touchpad,
+                                 .what = "Touchpad",
+                                 .works = false,
+                                 .why = "No.",
+                                 .command = "sudo true"}},
+                   .text = {},
+                   .problem = {}});
+    QApplication::processEvents();
+    QStringList stops;
+    do {
+        QWidget* from = QApplication::focusWidget();
+        QTest::keyClick(from != nullptr ? from : page.get(), Qt::Key_Tab);
+        const QWidget* now = QApplication::focusWidget();
+        const auto* button = qobject_cast<const QAbstractButton*>(now);
+        stops += now->accessibleName().isEmpty() && button != nullptr ? button->text() : now->accessibleName();
+    } while (stops.size() < 2 || stops.back() != stops.front());
+    EXPECT_EQ(stops.join(QLatin1Char('|')).toStdString(),
+              "Gesture recognition|Show 1 more|Command for a terminal|Copy the command|Add a gesture|Copy report|"
+              "Details|Perform the gesture|Gesture recognition");
+    page.reset();
+}
+
 class DoctorReports : public WindowRig {
   protected:
     std::string script(const std::string& name, const std::string& lines) {

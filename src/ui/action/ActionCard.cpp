@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QStyleOption>
 #include <algorithm>
 
 #include "feedback/ActionCueSettings.h"
@@ -23,12 +24,20 @@
 namespace kinesta {
 namespace {
 
-constexpr double kGap = 6;
+constexpr int kGap = 6;
 
-/// As wide as the fields below it, unless its words need more.
+/// As wide as the fields below it, unless the chosen words need more.
 class KindBox final : public QComboBox {
   public:
-    QSize sizeHint() const override { return QComboBox::sizeHint().expandedTo({Unit::of(300), 0}); }
+    KindBox() { connect(this, &QComboBox::currentIndexChanged, this, &QWidget::updateGeometry); }
+
+    QSize sizeHint() const override {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const int words = option.iconSize.width() + fontMetrics().horizontalAdvance(currentText());
+        const QSize wanted = style()->sizeFromContents(QStyle::CT_ComboBox, &option, {words + kGap, 0}, this);
+        return {std::max(Unit::of(300), wanted.width()), QComboBox::sizeHint().height()};
+    }
 };
 
 std::unique_ptr<ActionPart> makePart(ActionKind kind, const ActionEditing& editing) {
@@ -62,7 +71,7 @@ ActionCard::ActionCard(const ActionEditing& editing)
       m_missing(new Remark(Remark::Kind::caution)),
       m_run(new QPushButton(SymbolIcon::of(windowSymbol(WindowSymbol::run)), tr("Run action now"))) {
     m_kind->setAccessibleName(tr("What happens"));
-    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_kind->setMinimumContentsLength(8);
     m_kind->setMaxVisibleItems(static_cast<int>(allCases<ActionKind>().size()));
     m_kind->installEventFilter(this);
