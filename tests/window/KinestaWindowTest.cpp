@@ -261,10 +261,10 @@ TEST_F(KinestaWindows, StoreHalvesOfCharactersThatArePastedAsWholeOnes) {
     window->findChild<RuleEditorPage*>()->focusName();
     auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(field, nullptr);
-    QGuiApplication::clipboard()->setText(QChar(0xD800) + QStringLiteral("a") + QChar(0xDC00) + QChar(0xD83D));
+    QGuiApplication::clipboard()->setText(QChar(0xD800) + QStringLiteral("a\n\x01") + QChar(0xDC00) + QChar(0xD83D));
     key(Qt::Key_V, Qt::ControlModifier);
     const auto rules = app.store().rules().value();
-    EXPECT_NE(rules[0].name.find('a'), std::string::npos);
+    EXPECT_NE(rules[0].name.find("a  "), std::string::npos) << "a name is one line without control characters";
     const auto decoded = decodeRules(ruleFileText(app.store()));
     EXPECT_TRUE(decoded && *decoded == rules);
     key(Qt::Key_Tab);

@@ -1,10 +1,8 @@
 #include "ui/editor/RuleHeader.h"
 
-#include <QFocusEvent>
 #include <chrono>
 
 #include "ui/pictures/WindowSymbol.h"
-#include "ui/widgets/FieldUndo.h"
 #include "ui/widgets/SymbolIcon.h"
 #include "ui/widgets/Unit.h"
 #include "ui/widgets/WindowTheme.h"
@@ -34,7 +32,7 @@ RuleHeader::RuleHeader(const Uuid& rule, RuleEditorModel& model, RuleListModel& 
       m_history(history),
       m_commands(commands),
       m_line(new QHBoxLayout),
-      m_name(new QLineEdit),
+      m_name(new TextField(tr("Name"), TextField::Form::words)),
       m_state(new Words({}, Words::Size::detail)),
       m_switch(new Switch(tr("On"))),
       m_more(new QToolButton),
@@ -53,10 +51,8 @@ RuleHeader::RuleHeader(const Uuid& rule, RuleEditorModel& model, RuleListModel& 
     m_line->addWidget(m_more);
     m_state->setWordWrap(false);
     m_name->setPlaceholderText(tr("Untitled gesture"));
-    m_name->setAccessibleName(tr("Name"));
-    m_name->installEventFilter(this);
-    FieldUndo::setRecorded(*m_name, true);
-    connect(m_name, &QLineEdit::textEdited, this, [this](const QString& text) { m_model.setName(text.toStdString()); });
+    connect(m_name, &TextField::typed, this, [this](const QString& text) { m_model.setName(text.toStdString()); });
+    connect(m_name, &TextField::left, this, [this] { m_history.endTyping(); });
     connect(m_switch, &Switch::clicked, this, &RuleHeader::turn);
     makeMenu();
 
@@ -115,20 +111,12 @@ void RuleHeader::setBackButton(QWidget* button) {
 
 void RuleHeader::follow() {
     const RuleEditorContent& content = m_model.content().value();
-    // A name that is being typed stays, with its cursor.
-    if (!(m_name->hasFocus() && m_name->isUndoAvailable()))
-        showName();
+    m_name->follow(QString::fromStdString(content.rule.name));
     m_state->setText(content.rule.isEnabled ? tr("On") : tr("Off"));
     if (!m_snapping.isActive())
         m_switch->setChecked(content.rule.isEnabled);
     if (!content.missing)
         m_reasonCard->hide();
-}
-
-void RuleHeader::showName() {
-    const QString name = QString::fromStdString(m_model.content().value().rule.name);
-    if (m_name->text() != name)
-        m_name->setText(name);
 }
 
 void RuleHeader::turn(bool isOn) {
@@ -150,16 +138,6 @@ void RuleHeader::snapBack() {
     m_reasonCard->show();
     m_reason->slideIn();
     m_reading.start();
-}
-
-bool RuleHeader::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_name && event->type() == QEvent::FocusOut) {
-        m_history.endTyping();
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-            showName();
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void RuleHeader::hideEvent(QHideEvent* event) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QBoxLayout>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 #include <QToolButton>
@@ -9,6 +8,7 @@
 
 #include "app/RuleHistory.h"
 #include "ui/WindowCommands.h"
+#include "ui/action/TextField.h"
 #include "ui/models/RuleEditorModel.h"
 #include "ui/models/RuleListModel.h"
 #include "ui/widgets/Card.h"
@@ -33,14 +33,12 @@ class RuleHeader final : public QWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
     void makeMenu();
     void follow();
-    void showName();
     void turn(bool isOn);
     void snapBack();
     void measure();
@@ -51,7 +49,7 @@ class RuleHeader final : public QWidget {
     RuleHistory& m_history;
     WindowCommands& m_commands;
     QBoxLayout* m_line;
-    QLineEdit* m_name;
+    TextField* m_name;
     Words* m_state;
     Switch* m_switch;
     QToolButton* m_more;

@@ -354,6 +354,9 @@ void KinestaWindow::followSelection() {
     RuleEditorPage* former = nullptr;
     if (m_editor != nullptr && !(isRule && selection.ruleId == m_editedRule))
         former = std::exchange(m_editor, nullptr);
+    const bool isTypedInAndGone =
+        former != nullptr && former->isAncestorOf(focusWidget()) &&
+        std::ranges::count(m_parts.store.rules().value(), m_editedRule, &GestureRule::id) == 0;
     if (isRule) {
         if (m_editor == nullptr) {
             m_editedRule = selection.ruleId;
@@ -371,6 +374,9 @@ void KinestaWindow::followSelection() {
             m_overview = new OverviewPage(m_overviewModel, m_parts, *this);
         bringUp(m_overview);
     }
+    // Qt has given the focus to the first switch: who types on would turn it.
+    if (isTypedInAndGone)
+        m_pages->currentWidget()->setFocus();
     if (former != nullptr) {
         m_pages->removeWidget(former);
         former->deleteLater();  // one of its own buttons may have changed the selection
