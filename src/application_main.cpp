@@ -77,10 +77,11 @@ class Application {
         m_desktop.onSettingsProblemSolved([this](const std::string& problem) { m_application.forget(problem); });
     }
 
-    /// Someone who has started the program by hand must see something of it.
+    /// Someone who has started the program by hand must see something of it. A window that is there already may have
+    /// stepped aside for an action, and must not take the keyboard.
     void findOutAboutTray() {
         m_isTrayDue = true;
-        if (m_statusItem.kind().value() == TrayKind::none && !m_isInBackground)
+        if (m_statusItem.kind().value() == TrayKind::none && !m_isInBackground && !m_window.exists())
             m_application.controller().showConfigurationWindow();
         showWhetherThereIsATray();
     }

@@ -2543,6 +2543,10 @@
         <source>“What works here” on the overview says what is missing and what helps.</source>
         <translation>Was fehlt und was hilft, steht in der Übersicht unter „Was hier funktioniert“.</translation>
     </message>
+    <message>
+        <source>Launch at login: %1</source>
+        <translation>Start bei der Anmeldung: %1</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>

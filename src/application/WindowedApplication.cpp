@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/RulePerformer.h"
+#include "support/Translation.h"
 #include "ui/style/KinestaStyle.h"
 #include "ui/widgets/WindowTheme.h"
 #include "ui/window/KinestaWindow.h"
@@ -106,7 +107,8 @@ void WindowedApplication::setRemark(const std::string& remark) {
 
 void WindowedApplication::tellLoginProblem() {
     // Each refresh publishes the same problem again.
-    const std::string problem = m_login.errorMessage().value().value_or("");
+    const auto& message = m_login.errorMessage().value();
+    const std::string problem = message ? translated("Launch at login: %1", {*message}) : "";
     if (problem == m_loginProblem)
         return;
     forget(std::exchange(m_loginProblem, problem));
