@@ -146,6 +146,8 @@ class TestDesktop {
     }
     void addState(xcb_window_t window, const std::string& state, const std::string& second = {}) const {
         constexpr std::uint32_t kAdd = 1;
+        if (hasState(window, state))
+            return;
         const auto before = frame(window);
         request(window, "_NET_WM_STATE", {kAdd, atom(state), second.empty() ? 0 : atom(second), 2});
         // The frame changes after the state.
