@@ -6,12 +6,6 @@
 namespace kinesta {
 namespace {
 
-/// Null if the value is no element.
-AccessibilityElementHandle elementOf(AccessibilityValue value) {
-    auto* element = std::get_if<AccessibilityElementHandle>(&value);
-    return element ? std::move(*element) : nullptr;
-}
-
 bool isText(const AccessibilityValue& value, std::string_view expected) {
     const auto* text = std::get_if<std::string>(&value);
     return text && *text == expected;
@@ -33,25 +27,24 @@ bool WindowCloseExecutor::execute() {
     if (*application == m_ports.workspace.ownProcessIdentifier())
         return closeOwnWindow();
 
-    const Uptime deadline = m_ports.clock.uptime() + kMessagingTimeout;
     const auto applicationElement = m_ports.accessibility.applicationElement(*application);
     if (!applicationElement)
         return false;
     applicationElement->setMessagingTimeout(kMessagingTimeout);
-    auto window = elementOf(applicationElement->copyAttribute("AXFocusedWindow"));
+    auto window = elementAttribute("AXFocusedWindow", *applicationElement);
     if (!window)
-        window = elementOf(attribute("AXMainWindow", *applicationElement, deadline));
-    if (!window || !isText(attribute("AXRole", *window, deadline), "AXWindow") ||
-        isTrue(attribute("AXMinimized", *window, deadline)) || hasSheet(*window, deadline))
+        window = elementAttribute("AXMainWindow", *applicationElement);
+    if (!window || !isText(window->copyAttribute("AXRole"), "AXWindow") ||
+        isTrue(window->copyAttribute("AXMinimized")) || hasSheet(*window))
         return false;
-    const auto button = elementOf(attribute("AXCloseButton", *window, deadline));
-    if (!button || !isTrue(attribute("AXEnabled", *button, deadline)))
+    const auto button = elementAttribute("AXCloseButton", *window);
+    if (!button || !isTrue(button->copyAttribute("AXEnabled")))
         return false;
 
     // The user may have switched applications meanwhile.
     if (m_ports.workspace.frontmostApplication() != application)
         return false;
-    return limitRequestTime(*button, deadline) && button->performAction("AXPress");
+    return button->performAction("AXPress");
 }
 
 bool WindowCloseExecutor::closeOwnWindow() {
@@ -65,21 +58,14 @@ bool WindowCloseExecutor::closeOwnWindow() {
     return true;
 }
 
-AccessibilityValue WindowCloseExecutor::attribute(std::string_view name, AccessibilityElement& element,
-                                                  Uptime deadline) {
-    return limitRequestTime(element, deadline) ? element.copyAttribute(name) : AccessibilityFailure{};
+AccessibilityElementHandle WindowCloseExecutor::elementAttribute(std::string_view name, AccessibilityElement& element) {
+    auto value = element.copyAttribute(name);
+    auto* found = std::get_if<AccessibilityElementHandle>(&value);
+    return found ? std::move(*found) : nullptr;
 }
 
-// Each handle has a limit of its own, at first the long one of the system.
-bool WindowCloseExecutor::limitRequestTime(AccessibilityElement& element, Uptime deadline) {
-    const Seconds remaining = deadline - m_ports.clock.uptime();
-    if (remaining > 0)
-        element.setMessagingTimeout(remaining);
-    return remaining > 0;
-}
-
-bool WindowCloseExecutor::hasSheet(AccessibilityElement& window, Uptime deadline) {
-    const auto children = attribute("AXChildren", window, deadline);
+bool WindowCloseExecutor::hasSheet(AccessibilityElement& window) {
+    const auto children = window.copyAttribute("AXChildren");
     if (std::holds_alternative<AccessibilityFailure>(children))
         return false;
     const auto* list = std::get_if<AccessibilityList>(&children);
@@ -87,7 +73,7 @@ bool WindowCloseExecutor::hasSheet(AccessibilityElement& window, Uptime deadline
     if (!list)
         return true;
     for (const auto& child : list->items)
-        if (child && isText(attribute("AXRole", *child, deadline), "AXSheet"))
+        if (child && isText(child->copyAttribute("AXRole"), "AXSheet"))
             return true;
     return false;
 }

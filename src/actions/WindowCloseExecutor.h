@@ -10,7 +10,7 @@ namespace kinesta {
 /// check fails. Posts no key and never prompts. Main thread only.
 class WindowCloseExecutor {
   public:
-    /// Limit of all requests to the application together, in seconds: a hanging one may not block us for longer.
+    /// Limit of each request to the application, in seconds.
     static constexpr Seconds kMessagingTimeout = 0.5;
 
     explicit WindowCloseExecutor(const ActionPorts& ports) : m_ports(ports) {}
@@ -20,10 +20,8 @@ class WindowCloseExecutor {
 
   private:
     bool closeOwnWindow();
-    bool hasSheet(AccessibilityElement& window, Uptime deadline);
-    AccessibilityValue attribute(std::string_view name, AccessibilityElement& element, Uptime deadline);
-    /// Makes the next request to the element end by the deadline. False if there is no time left.
-    bool limitRequestTime(AccessibilityElement& element, Uptime deadline);
+    static AccessibilityElementHandle elementAttribute(std::string_view name, AccessibilityElement& element);
+    static bool hasSheet(AccessibilityElement& window);
 
     ActionPorts m_ports;
 };
