@@ -3224,10 +3224,6 @@
         <translation>Regeln exportieren</translation>
     </message>
     <message>
-        <source>“%1” could not be written: %2.</source>
-        <translation>„%1“ konnte nicht geschrieben werden: %2.</translation>
-    </message>
-    <message>
         <source>Exported to “%1”</source>
         <translation>Nach „%1“ exportiert</translation>
     </message>
@@ -3238,6 +3234,10 @@
     <message>
         <source>this is a pipe or a device, not a rule file</source>
         <translation>das ist eine Pipe oder ein Gerät, keine Regeldatei</translation>
+    </message>
+    <message>
+        <source>“%1”: %2.</source>
+        <translation>„%1“: %2.</translation>
     </message>
 </context>
 <context>

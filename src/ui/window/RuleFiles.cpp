@@ -90,8 +90,8 @@ void RuleFiles::exportAll() {
         const std::string path = QFile::encodeName(file).toStdString();
         if (const Outcome written = exportRules(m_parts.store, path); !written) {
             m_commands.select(WindowSelection::settings());
-            Q_EMIT problemChanged(tr("“%1” could not be written: %2.")
-                                      .arg(QFileInfo(file).fileName(), withoutName(written.error().message, path)));
+            Q_EMIT problemChanged(
+                tr("“%1”: %2.").arg(QFileInfo(file).fileName(), withoutName(written.error().message, path)));
             return;
         }
         Q_EMIT problemChanged({});
