@@ -2950,23 +2950,7 @@
     </message>
 </context>
 <context>
-    <name>kinesta::KinestaWindow</name>
-    <message>
-        <source>Report copied</source>
-        <translation>Bericht kopiert</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
-    </message>
-    <message>
-        <source>The rules before the import are kept in %1</source>
-        <translation>Die Regeln vor dem Import liegen in %1</translation>
-    </message>
-    <message>
-        <source>Only the versions were copied. %1</source>
-        <translation>Nur die Versionen wurden kopiert. %1</translation>
-    </message>
+    <name>kinesta::HistorySteps</name>
     <message>
         <source>Order restored</source>
         <translation>Reihenfolge wiederhergestellt</translation>
@@ -2990,6 +2974,25 @@
     <message>
         <source>The settings are as they were at first</source>
         <translation>Die Einstellungen sind zurückgesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>kinesta::KinestaWindow</name>
+    <message>
+        <source>Report copied</source>
+        <translation>Bericht kopiert</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>The rules before the import are kept in %1</source>
+        <translation>Die Regeln vor dem Import liegen in %1</translation>
+    </message>
+    <message>
+        <source>Only the versions were copied. %1</source>
+        <translation>Nur die Versionen wurden kopiert. %1</translation>
     </message>
 </context>
 <context>

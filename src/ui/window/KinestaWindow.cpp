@@ -5,9 +5,7 @@
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QToolButton>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <chrono>
@@ -37,21 +35,14 @@
 namespace kinesta {
 namespace {
 
-using Moved = RuleHistory::Moved::Kind;
-
 constexpr std::chrono::milliseconds kSettled{400};
-
-/// The rule file that is dragged; empty if something else is.
-QString draggedFile(const QMimeData& data) {
-    const auto urls = data.urls();
-    return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
-}
 
 }  // namespace
 
 KinestaWindow::KinestaWindow(WindowParts parts)
     : m_parts(std::move(parts)),
       m_history(m_parts.store, m_parts.desktop.clock()),
+      m_steps(m_history, *this),
       m_list(m_parts.store, m_history),
       m_overviewModel({.store = m_parts.store,
                        .service = m_parts.service,
@@ -271,34 +262,13 @@ void KinestaWindow::showToast(const QString& text, const QString& action, std::f
 }
 
 void KinestaWindow::undo() {
-    FieldUndo::forgetSteps(QApplication::focusWidget());
     m_toast->dismissOffer();
-    const RuleHistory::Moved moved = m_history.undo();
-    if (moved.kind == Moved::order)
-        showToast(tr("Order restored"), {}, {});
-    else if (moved.kind == Moved::replacement)
-        showToast(tr("The rules are as they were before the import"), {}, {});
-    else if (moved.kind == Moved::other)
-        showToast(tr("The settings are as they were before"), {}, {});
-    showEdited(moved);
+    m_steps.undo();
 }
 
 void KinestaWindow::redo() {
-    FieldUndo::forgetSteps(QApplication::focusWidget());
     m_toast->dismissOffer();
-    const RuleHistory::Moved moved = m_history.redo();
-    if (moved.kind == Moved::order)
-        showToast(tr("Order changed again"), {}, {});
-    else if (moved.kind == Moved::replacement)
-        showToast(tr("The rules of the file are back"), {}, {});
-    else if (moved.kind == Moved::other)
-        showToast(tr("The settings are as they were at first"), {}, {});
-    showEdited(moved);
-}
-
-void KinestaWindow::showEdited(const RuleHistory::Moved& moved) {
-    if (moved.rule)
-        select(WindowSelection::rule(*moved.rule));
+    m_steps.redo();
 }
 
 void KinestaWindow::duplicate() {
@@ -447,18 +417,13 @@ void KinestaWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void KinestaWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedFile(*event->mimeData()).isEmpty())
+    if (RuleFiles::takes(*event->mimeData()))
         event->acceptProposedAction();
 }
 
 void KinestaWindow::dropEvent(QDropEvent* event) {
-    const QString file = draggedFile(*event->mimeData());
-    if (file.isEmpty())
-        return;
-    event->acceptProposedAction();
-    // The program from which the file comes waits until the drop has ended.
-    QMetaObject::invokeMethod(
-        this, [this, file] { m_files->importFile(file); }, Qt::QueuedConnection);
+    if (m_files->drop(*event->mimeData()))
+        event->acceptProposedAction();
 }
 
 }  // namespace kinesta

@@ -12,6 +12,7 @@
 #include "ui/WindowParts.h"
 #include "ui/models/OverviewModel.h"
 #include "ui/models/RuleListModel.h"
+#include "ui/window/HistorySteps.h"
 #include "ui/window/WindowPlace.h"
 
 namespace kinesta {
@@ -68,7 +69,6 @@ class KinestaWindow final : public QWidget, public WindowCommands {
     void addKeys();
     void addKey(const QKeySequence& keys, void (KinestaWindow::*act)());
     void redo();
-    void showEdited(const RuleHistory::Moved& moved);
     void duplicate();
     void filter();
     void showOverview() { select(WindowSelection::overview()); }
@@ -86,6 +86,7 @@ class KinestaWindow final : public QWidget, public WindowCommands {
 
     WindowParts m_parts;
     RuleHistory m_history;
+    HistorySteps m_steps;
     RuleListModel m_list;
     OverviewModel m_overviewModel;
     WindowPlace m_place;

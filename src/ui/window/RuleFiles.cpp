@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QUrl>
 #include <sstream>
 #include <utility>
 
@@ -26,6 +27,12 @@ QString withoutName(const std::string& message, const std::string& file) {
 
 QString withSuffix(const QString& file) {
     return QFileInfo(file).suffix().isEmpty() ? file + QStringLiteral(".json") : file;
+}
+
+/// The file that is dragged; empty if something else is.
+QString draggedFile(const QMimeData& data) {
+    const auto urls = data.urls();
+    return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
 }
 
 }  // namespace
@@ -98,6 +105,17 @@ void RuleFiles::exportAll() {
         m_commands.showToast(tr("Exported to “%1”").arg(QFileInfo(file).fileName()), {}, {});
     });
     dialog->open();
+}
+
+bool RuleFiles::takes(const QMimeData& dragged) { return !draggedFile(dragged).isEmpty(); }
+
+bool RuleFiles::drop(const QMimeData& dropped) {
+    const QString file = draggedFile(dropped);
+    if (file.isEmpty())
+        return false;
+    QMetaObject::invokeMethod(
+        this, [this, file] { importFile(file); }, Qt::QueuedConnection);
+    return true;
 }
 
 }  // namespace kinesta

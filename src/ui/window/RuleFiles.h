@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMimeData>
 #include <QObject>
 #include <QString>
 #include <QWidget>
@@ -23,6 +24,11 @@ class RuleFiles final : public QObject {
     /// Replaces all rules by those of the file. It can be undone, and a copy of the replaced ones is kept.
     void importFile(const QString& file);
     void exportAll();
+
+    /// Whether one file is dragged.
+    static bool takes(const QMimeData& dragged);
+    /// Imports the file soon: the program from which it comes waits until the drop has ended. False if it is none.
+    bool drop(const QMimeData& dropped);
 
   Q_SIGNALS:
     /// Why a file could not be read or written, as sentences; empty if it could.
