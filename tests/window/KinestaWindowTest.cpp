@@ -271,5 +271,39 @@ TEST_F(KinestaWindows, StoreHalvesOfCharactersThatArePastedAsWholeOnes) {
     EXPECT_EQ(field->text().toStdString(), rules[0].name);
 }
 
+TEST_F(KinestaWindows, RestAtEverySizeOnEveryPage) {
+    std::vector<GestureRule> rules;
+    for (const auto& row : enumTable<ActionKind>())
+        rules.push_back(makeRule(GestureKind::doubleClick, 3, row.value));
+    for (const auto& row : enumTable<GestureKind>())
+        rules.push_back(makeRule(row.value, 3, ActionKind::keyboardShortcut));
+    app.store().setRules(rules);
+    std::vector pages{WindowSelection::overview(), WindowSelection::settings()};
+    for (const GestureRule& rule : app.store().rules().value())
+        pages.push_back(WindowSelection::rule(rule.id));
+    open();
+    struct LayoutCount final : QObject {
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+            requests += event->type() == QEvent::LayoutRequest ? 1 : 0;
+            return false;
+        }
+        int requests = 0;
+    } layouts;
+    application.installEventFilter(&layouts);
+    for (const QSize& size : {Unit::of(420, 700), Unit::of(860, 560), Unit::of(980, 700), Unit::of(1240, 760)})
+        for (std::size_t page = 0; page < pages.size(); ++page) {
+            window->resize(size);
+            window->select(pages[page]);
+            int rounds = 0;
+            for (int before = -1; before != layouts.requests && rounds < 50; ++rounds) {
+                before = layouts.requests;
+                QCoreApplication::sendPostedEvents();
+                QCoreApplication::processEvents();
+            }
+            EXPECT_LT(rounds, 50) << "page " << page << " at a width of " << size.width();
+        }
+    application.removeEventFilter(&layouts);
+}
+
 }  // namespace
 }  // namespace kinesta::testing

@@ -97,7 +97,10 @@ void Row::place() {
     const int wanted = m_control != nullptr ? m_control->sizeHint().width() + Unit::of(kGap) : 0;
     const bool isBelow = m_isWide || wanted > inner * (1 - kWordsShare);
     const auto direction = isBelow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
-    m_line->setSpacing(Unit::of(isBelow ? kGapBelow : kGap));
+    const int gap = Unit::of(isBelow ? kGapBelow : kGap);
+    // What stays the same is not set: Qt answers even that with another request for a layout, and so without end.
+    if (m_line->spacing() != gap)
+        m_line->setSpacing(gap);
     if (m_line->direction() == direction)
         return;
     m_line->setDirection(direction);
