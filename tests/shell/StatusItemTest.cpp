@@ -109,8 +109,10 @@ class StatusItemTest : public QtTest {
 
     /// Where our icon is on the screen. Empty if it is not there.
     WindowRectangle iconPlace() {
-        const auto window = ChildProcess("xdotool search --onlyvisible --name '^Kinesta, gestures'").readLine();
-        return window ? desktop.client(static_cast<xcb_window_t>(std::stoul(*window))) : WindowRectangle{};
+        for (const char* title : {"Kinesta, gestures enabled", "Kinesta, gestures disabled"})
+            if (const xcb_window_t window = desktop.visible(title); window != XCB_WINDOW_NONE)
+                return desktop.client(window);
+        return {};
     }
     void click(const std::string& button, const std::string& key = "Shift_L") {
         const auto place = iconPlace();

@@ -133,6 +133,15 @@ class TestDesktop {
         return found;
     }
 
+    /// The window on the screen with this title, managed or not; none if there is none.
+    xcb_window_t visible(const std::string& title) const {
+        xcb_grab_server(m_connection);  // so that no window comes, goes or moves into a frame meanwhile
+        const xcb_window_t found = visibleBelow(root(), title);
+        xcb_ungrab_server(m_connection);
+        xcb_flush(m_connection);
+        return found;
+    }
+
     /// Sends a message to the window manager.
     void request(xcb_window_t window, const std::string& message, const std::vector<std::uint32_t>& numbers) const {
         xcb_ewmh_send_client_message(m_connection, window, root(), atom(message),
@@ -200,6 +209,28 @@ class TestDesktop {
     std::optional<ChildProcess> server, sessionBus, windowManager;
 
   private:
+    xcb_window_t visibleBelow(xcb_window_t parent, const std::string& title) const {
+        const auto tree = answer(xcb_query_tree_reply, xcb_query_tree(m_connection, parent));
+        const auto* children = tree ? xcb_query_tree_children(tree.get()) : nullptr;
+        for (int i = 0; tree && i < xcb_query_tree_children_length(tree.get()); ++i) {
+            const auto state =
+                answer(xcb_get_window_attributes_reply, xcb_get_window_attributes(m_connection, children[i]));
+            if (!state || state->map_state != XCB_MAP_STATE_VIEWABLE)
+                continue;
+            if (text(children[i], XCB_ATOM_WM_NAME) == title)
+                return children[i];
+            if (const xcb_window_t found = visibleBelow(children[i], title); found != XCB_WINDOW_NONE)
+                return found;
+        }
+        return XCB_WINDOW_NONE;
+    }
+    std::string text(xcb_window_t window, xcb_atom_t property) const {
+        const auto reply = answer(xcb_get_property_reply, xcb_get_property(m_connection, 0, window, property,
+                                                                           XCB_GET_PROPERTY_TYPE_ANY, 0, 100));
+        return reply ? std::string(static_cast<const char*>(xcb_get_property_value(reply.get())),
+                                   static_cast<std::size_t>(xcb_get_property_value_length(reply.get())))
+                     : std::string();
+    }
     template <typename Reply, typename Cookie>
     XcbPointer<Reply> answer(Reply* (*wait)(xcb_connection_t*, Cookie, xcb_generic_error_t**), Cookie cookie) const {
         return XcbPointer<Reply>(wait(m_connection, cookie, nullptr));

@@ -73,16 +73,14 @@ struct ApplicationOnADesktop : Application, PadStream {
     }
     static void click() { ask("/StatusNotifierItem org.kde.StatusNotifierItem Activate ii 1 1"); }
 
-    static xcb_window_t visible(const std::string& title) {
-        const auto window = ChildProcess("xdotool search --onlyvisible --name '^" + title + "$'").readLine();
-        return window ? static_cast<xcb_window_t>(std::stoul(*window)) : xcb_window_t{XCB_WINDOW_NONE};
-    }
-    static bool shows(const std::string& title, bool isShown = true) {
-        return eventually([&] { return (visible(title) != XCB_WINDOW_NONE) == isShown; });
+    bool shows(const std::string& title, bool isShown = true) const {
+        return eventually([&] { return (desktop.visible(title) != XCB_WINDOW_NONE) == isShown; });
     }
     bool becomesActive() const {
-        return eventually(
-            [&] { return visible("Kinesta") != XCB_WINDOW_NONE && desktop.active() == visible("Kinesta"); });
+        return eventually([&] {
+            const xcb_window_t window = desktop.visible("Kinesta");
+            return window != XCB_WINDOW_NONE && desktop.active() == window;
+        });
     }
 
     static void importRules(const std::vector<std::pair<int, std::string>>& tripleTaps) {
@@ -154,7 +152,6 @@ TEST_F(ApplicationOnADesktop, ShowsItsWindowWhenThePersonWantsIt) {
     click();
     ASSERT_TRUE(shows("Kinesta"));
     ASSERT_TRUE(becomesActive());
-    // Not visible(): xdotool gives up, and finds nothing, if any window goes while it searches.
     desktop.minimize(desktop.active());
     ASSERT_TRUE(eventually([] { return !status()["windowVisible"]; }));
     click();
@@ -176,7 +173,7 @@ TEST_F(ApplicationOnADesktop, ActsOnGesturesAndShowsTheCue) {
     openPad();
     tapThreeTimes(3);
     ASSERT_TRUE(shows("Kinesta Cue"));
-    EXPECT_EQ(desktop.client(visible("Kinesta Cue")), (WindowRectangle{1280 - 28 - 220, 28, 220, 44}));
+    EXPECT_EQ(desktop.client(desktop.visible("Kinesta Cue")), (WindowRectangle{1280 - 28 - 220, 28, 220, 44}));
     EXPECT_EQ(client.next(), "BTN2 down");
     EXPECT_EQ(client.next(), "BTN2 up");
     EXPECT_EQ(desktop.active(), client.id());
