@@ -297,6 +297,7 @@ TEST_F(KinestaWindows, RestAtEverySizeOnEveryPage) {
             int rounds = 0;
             for (int before = -1; before != layouts.requests && rounds < 50; ++rounds) {
                 before = layouts.requests;
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the page before
                 QCoreApplication::sendPostedEvents();
                 QCoreApplication::processEvents();
             }
