@@ -10,17 +10,12 @@
 
 #include "desktop/harness/DesktopActions.h"
 #include "desktop/harness/ProcessFigures.h"
+#include "support/Sanitized.h"
 
 namespace kinesta::testing {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kIsInstrumented = true;  // the sanitizer is slow and holds on to freed memory
-#else
-constexpr bool kIsInstrumented = false;
-#endif
 
 struct ActionEndurance : DesktopActionsTest {};
 
@@ -60,8 +55,8 @@ TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
         wasQuiet |= worstOfBareKeys <= 1;
         bestMedian = std::min(bestMedian, times[500]);
     }
-    EXPECT_TRUE(kIsInstrumented || bestMedian <= 1) << bestMedian;
-    EXPECT_TRUE(kIsInstrumented || isFast || !wasQuiet);
+    EXPECT_TRUE(kIsSanitized || bestMedian <= 1) << bestMedian;
+    EXPECT_TRUE(kIsSanitized || isFast || !wasQuiet);
 }
 
 TEST_F(ActionEndurance, DoesNotWaitForAServerThatHangs) {
@@ -128,7 +123,7 @@ TEST_F(ActionEndurance, KeepsNothingOverTenThousandActions) {
     const std::size_t heapBefore = mallinfo2().uordblks;
     const long residentBefore = figures().residentKilobytes;
     perform(2000);  // 11,250 in all
-    if (!kIsInstrumented) {
+    if (!kIsSanitized) {
         // On a busy machine the last programs are still being launched.
         EXPECT_TRUE(eventually([&] { return mallinfo2().uordblks <= heapBefore + 65536; }))
             << mallinfo2().uordblks - heapBefore << " bytes more, beyond six an action";

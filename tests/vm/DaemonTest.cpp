@@ -7,6 +7,7 @@
 
 #include "desktop/harness/ProcessFigures.h"
 #include "platform/linux/settings/FileUserDefaults.h"
+#include "support/Sanitized.h"
 #include "vm/DeviceListener.h"
 #include "vm/VirtualTouchpad.h"
 
@@ -14,12 +15,6 @@ namespace kinesta::vm {
 namespace {
 
 using namespace testing;
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kIsInstrumented = true;  // the program too: its sanitizer holds on to freed memory
-#else
-constexpr bool kIsInstrumented = false;
-#endif
 
 constexpr const char* kRules = R"([
   {"id":"00000000-0000-4000-8000-000000000001","name":"","isEnabled":true,"fingerCount":3,"gesture":"singleTap",
@@ -61,7 +56,7 @@ TEST_F(Daemon, PerformsWhatTheFingersMean) {
     const ProcessFigures idle = ProcessFigures(daemon.pid());
     EXPECT_EQ(idle.sleeps, before.sleeps) << "idle, it must not wake at all";
     EXPECT_LE(idle.cpuHundredths, before.cpuHundredths + 1) << "nor spin";
-    EXPECT_TRUE(kIsInstrumented || idle.residentKilobytes < 10240) << idle.residentKilobytes;
+    EXPECT_TRUE(kIsSanitized || idle.residentKilobytes < 10240) << idle.residentKilobytes;
 
     pad->tapWithThree();
     EXPECT_EQ(desktop.take(2), (Lines{"BTN_MIDDLE down", "BTN_MIDDLE up"}));
@@ -146,7 +141,7 @@ TEST_F(Daemon, KeepsNothingOverThousandsOfActions) {
     }
     const ProcessFigures last = ProcessFigures(daemon.pid());
     EXPECT_EQ(last.descriptors, first->descriptors);
-    EXPECT_TRUE(kIsInstrumented || last.residentKilobytes <= first->residentKilobytes + 128) << last.residentKilobytes;
+    EXPECT_TRUE(kIsSanitized || last.residentKilobytes <= first->residentKilobytes + 128) << last.residentKilobytes;
 }
 
 TEST_F(Daemon, FollowsTheChoiceOfThePadAndTheRules) {

@@ -4,16 +4,13 @@
 #include <csignal>
 
 #include "desktop/harness/ApplicationProcess.h"
+#include "support/Sanitized.h"
 
 namespace kinesta::testing {
 namespace {
 
 TEST_F(Application, RunsOnceHoweverManyStartsRace) {
-#if defined(__SANITIZE_ADDRESS__)
-    constexpr int kPairs = 10;
-#else
-    constexpr int kPairs = 50;
-#endif
+    constexpr int kPairs = kIsSanitized ? 10 : 50;
     for (int pair = 0; pair < kPairs; ++pair) {
         const auto background = start("--background");
         const auto shown = start("");

@@ -79,7 +79,7 @@ TEST_F(AccessibleNames, StayAsScreenReadersKnowThem) {
     };
     for (const auto& [name, rows] : editors) {
         program->click("list item", name);
-        EXPECT_TRUE(eventually([&] { return program->text(program->await("text", "Name")) == name; }));
+        EXPECT_TRUE(eventually([&, &rule = name] { return program->text(program->await("text", "Name")) == rule; }));
         expect(name, rows);
     }
     Program::press("ctrl+1");
