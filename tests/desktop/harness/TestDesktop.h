@@ -187,6 +187,34 @@ class TestDesktop {
         }));
     }
 
+    /// Returns once the program of a window has handled all events of the window until now, and the server has all
+    /// that the program sent then: its answer to a ping comes after that.
+    void letProgramCatchUp(xcb_window_t window) const {
+        const std::uint32_t answers = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        xcb_change_window_attributes(m_connection, root(), XCB_CW_EVENT_MASK, &answers);
+        xcb_client_message_event_t ping{.response_type = XCB_CLIENT_MESSAGE,
+                                        .format = 32,
+                                        .sequence = 0,
+                                        .window = window,
+                                        .type = atom("WM_PROTOCOLS"),
+                                        .data = {}};
+        ping.data.data32[0] = atom("_NET_WM_PING");
+        ping.data.data32[2] = window;
+        xcb_send_event(m_connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&ping));
+        xcb_flush(m_connection);
+        EXPECT_TRUE(eventually([&] {
+            while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+                const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(*event);
+                if ((event->response_type & 0x7F) == XCB_CLIENT_MESSAGE && message.type == ping.type &&
+                    message.data.data32[0] == ping.data.data32[0] && message.data.data32[2] == window)
+                    return true;
+            }
+            return false;
+        }));
+        const std::uint32_t none = XCB_EVENT_MASK_NO_EVENT;
+        xcb_change_window_attributes(m_connection, root(), XCB_CW_EVENT_MASK, &none);
+    }
+
     /// The place of a window with its frame, and without it.
     WindowRectangle frame(xcb_window_t window) const {
         const auto tree = answer(xcb_query_tree_reply, xcb_query_tree(m_connection, window));

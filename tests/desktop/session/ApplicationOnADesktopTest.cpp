@@ -77,11 +77,16 @@ struct ApplicationOnADesktop : Application, PadStream {
     bool shows(const std::string& title, bool isShown = true) const {
         return eventually([&] { return (desktop.visible(title) != XCB_WINDOW_NONE) == isShown; });
     }
+    /// Also waits until the program has asked for it: a request that comes later brings back a minimized window.
     bool becomesActive() const {
-        return eventually([&] {
-            const xcb_window_t window = desktop.visible("Kinesta");
+        xcb_window_t window = XCB_WINDOW_NONE;
+        const bool isActive = eventually([&] {
+            window = desktop.visible("Kinesta");
             return window != XCB_WINDOW_NONE && desktop.active() == window;
         });
+        if (isActive)
+            desktop.letProgramCatchUp(window);
+        return isActive;
     }
 
     static void importRules(const std::vector<std::pair<int, std::string>>& tripleTaps) {
