@@ -116,15 +116,7 @@ void PosixProcessLauncher::launch(ProcessDescription process) {
 void PosixProcessLauncher::run() {
     std::vector<pollfd> watched;
     for (;;) {
-        std::vector<ProcessDescription> waiting;
-        bool isEnding = false;
-        {
-            const std::lock_guard lock(m_mutex);
-            waiting.swap(m_waiting);
-            isEnding = m_isEnding;
-        }
-        for (const ProcessDescription& process : waiting)
-            start(process);
+        const bool isEnding = startWaiting();
         reap();
         if (isEnding)
             return;
@@ -135,6 +127,19 @@ void PosixProcessLauncher::run() {
         eventfd_t ignored = 0;
         eventfd_read(m_wake.number(), &ignored);
     }
+}
+
+bool PosixProcessLauncher::startWaiting() {
+    std::vector<ProcessDescription> waiting;
+    bool isEnding = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        waiting.swap(m_waiting);
+        isEnding = m_isEnding;
+    }
+    for (const ProcessDescription& process : waiting)
+        start(process);
+    return isEnding;
 }
 
 void PosixProcessLauncher::start(const ProcessDescription& process) {

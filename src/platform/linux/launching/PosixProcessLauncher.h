@@ -63,6 +63,8 @@ class PosixProcessLauncher final : public ProcessLauncher {
     };
 
     void run();
+    /// True once no more will come.
+    bool startWaiting();
     void start(const ProcessDescription& process);
     void reap();
 
