@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
-#include <xcb/xtest.h>
 
 #include <algorithm>
 #include <chrono>
@@ -22,41 +21,30 @@ struct ActionEndurance : DesktopActionsTest {};
 TEST_F(ActionEndurance, ReachesAClientWithinAMillisecond) {
     TestWindow window(desktop, kWholeScreen);
     window.show();
-    const auto timed = [&](const std::string& last, const std::function<void()>& send) {
+    const auto waits = [this] { return waitForProcessor(getpid()) + waitForProcessor(desktop.server->pid()); };
+    const auto timed = [&] {
+        const double waitsBefore = waits();
         const auto began = Clock::now();
-        send();
+        actions.run(ActionKind::keyboardShortcut);
         std::string event;
-        while ((event = window.next()) != last && !event.empty()) {
+        while ((event = window.next()) != "Control+KEY_LEFTCTRL up" && !event.empty()) {
         }
-        EXPECT_EQ(event, last);
-        return std::chrono::duration<double, std::milli>(Clock::now() - began).count();
+        EXPECT_FALSE(event.empty());
+        const std::chrono::duration<double, std::milli> taken = Clock::now() - began;
+        return taken.count() - (waits() - waitsBefore);
     };
-    const auto bareKey = [this] {
-        constexpr std::uint8_t kD = 40;
-        for (const auto type : {std::uint8_t{XCB_KEY_PRESS}, std::uint8_t{XCB_KEY_RELEASE}})
-            xcb_test_fake_input(desktop.connection(), type, kD, XCB_CURRENT_TIME, desktop.root(), 0, 0, 0);
-        xcb_flush(desktop.connection());
-    };
-    // A round in which even a bare key was late says nothing about the worst case: the machine was busy.
-    bool isFast = false;
-    bool wasQuiet = false;
-    double bestMedian = 1e9;
+    // More than one round, because the machine below a virtual one may be busy, too.
+    bool isFast = kIsSanitized;
     for (int round = 0; round < 10 && !isFast; ++round) {
         std::vector<double> times;
-        double worstOfBareKeys = 0;
-        for (int i = 0; i < 1000; ++i) {
-            times.push_back(timed("Control+KEY_LEFTCTRL up", [this] { actions.run(ActionKind::keyboardShortcut); }));
-            worstOfBareKeys = std::max(worstOfBareKeys, timed("KEY_D up", bareKey));
-        }
+        for (int i = 0; i < 1000; ++i)
+            times.push_back(timed());
         std::ranges::sort(times);
         std::cout << "from the decision to the client: median " << times[500] << " ms, worst " << times.back()
-                  << " ms of 1000; a bare key: worst " << worstOfBareKeys << " ms\n";
+                  << " ms of 1000\n";
         isFast = times[500] <= 1 && times.back() <= 5;
-        wasQuiet |= worstOfBareKeys <= 1;
-        bestMedian = std::min(bestMedian, times[500]);
     }
-    EXPECT_TRUE(kIsSanitized || bestMedian <= 1) << bestMedian;
-    EXPECT_TRUE(kIsSanitized || isFast || !wasQuiet);
+    EXPECT_TRUE(isFast);
 }
 
 TEST_F(ActionEndurance, DoesNotWaitForAServerThatHangs) {

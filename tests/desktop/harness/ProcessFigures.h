@@ -37,4 +37,14 @@ struct ProcessFigures {
     }
 };
 
+/// How long the main thread of a process could have run but had to wait for a processor, in milliseconds. Times without
+/// it say what the code takes, also on a busy machine.
+inline double waitForProcessor(long process) {
+    std::ifstream file("/proc/" + std::to_string(process) + "/schedstat");
+    double running = 0;
+    double waiting = 0;
+    file >> running >> waiting;  // nanoseconds; nothing on kernels that do not count
+    return waiting / 1e6;
+}
+
 }  // namespace kinesta::testing
