@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <set>
 
@@ -224,7 +225,12 @@ TEST_F(FileUserDefaultsTest, ProcessesThatWriteAtOnceLoseNothing) {
             defaults.setInteger(std::to_string(writer) + "." + std::to_string(i), i);
             defaults.setInteger("all", i);
         }
-        ::_exit(problems.empty() ? 0 : 1);
+        // While the disk stands still, the others give up waiting and store all that they hold with a later change.
+        for (int again = 0; again < 10 && !defaults.lastSaving(); ++again)
+            defaults.setInteger("all", kWrites);
+        const bool gaveUpOnly = std::ranges::all_of(
+            problems, [](const std::string& problem) { return problem.find("for too long") != std::string::npos; });
+        ::_exit(defaults.lastSaving() && gaveUpOnly ? 0 : 1);
     }
     auto reader = open();
     for (const pid_t writer : writers) {
