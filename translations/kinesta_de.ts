@@ -2547,6 +2547,14 @@
         <source>Launch at login: %1</source>
         <translation>Start bei der Anmeldung: %1</translation>
     </message>
+    <message>
+        <source>None is closed or tiled as long as keys and clicks cannot be sent.</source>
+        <translation>Keines wird geschlossen oder angeordnet, solange Tasten und Klicks nicht gesendet werden können.</translation>
+    </message>
+    <message>
+        <source>Let Kinesta send keys and clicks first.</source>
+        <translation>Erlauben Sie Kinesta zuerst, Tasten und Klicks zu senden.</translation>
+    </message>
 </context>
 <context>
     <name>kinesta::AboutSheet</name>

@@ -62,13 +62,17 @@ TEST(DesktopSession, SaysWhatTheWindowManagerDoes) {
           {true, false, "closes windows for other programs and does not move them."},
           {false, true, "moves windows for other programs and does not close them."},
           {false, false, "takes no such requests, or does not answer."}}) {
-        DesktopFacts facts{.hasX = true, .hasWindowManager = true};
+        DesktopFacts facts{.hasX = true, .hasXTest = true, .hasWindowManager = true};
         facts.windowManager = "Some";
         facts.closesWindows = closes;
         facts.movesWindows = moves;
         const auto finding = DesktopSession(facts, Route::automatic).finding(Capability::windows);
         EXPECT_EQ(finding.works, closes && moves) << finding.why;
         EXPECT_EQ(finding.why, std::string("The window manager “Some” ") + expected);
+        facts.hasXTest = false;
+        const auto withoutKeys = DesktopSession(facts, Route::automatic).finding(Capability::windows);
+        EXPECT_FALSE(withoutKeys.works) << "it is never asked then";
+        EXPECT_EQ(withoutKeys.why, finding.why + " None is closed or tiled as long as keys and clicks cannot be sent.");
     }
 }
 
