@@ -2548,8 +2548,8 @@
         <translation>Start bei der Anmeldung: %1</translation>
     </message>
     <message>
-        <source>None is closed or tiled as long as keys and clicks cannot be sent.</source>
-        <translation>Keines wird geschlossen oder angeordnet, solange Tasten und Klicks nicht gesendet werden können.</translation>
+        <source>No window is closed or tiled as long as keys and clicks cannot be sent.</source>
+        <translation>Kein Fenster wird geschlossen oder angeordnet, solange Tasten und Klicks nicht gesendet werden können.</translation>
     </message>
     <message>
         <source>Let Kinesta send keys and clicks first.</source>

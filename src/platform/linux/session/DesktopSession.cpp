@@ -111,7 +111,7 @@ DesktopFinding DesktopSession::windows() const {
             break;
     }
     if (m_facts.hasX && !sendInput().works) {  // one permission covers both
-        finding.why += " " + translated("None is closed or tiled as long as keys and clicks cannot be sent.");
+        finding.why += " " + translated("No window is closed or tiled as long as keys and clicks cannot be sent.");
         if (finding.works)
             finding.remedy = translated("Let Kinesta send keys and clicks first.");
         finding.works = false;

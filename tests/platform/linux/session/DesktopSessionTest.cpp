@@ -72,7 +72,8 @@ TEST(DesktopSession, SaysWhatTheWindowManagerDoes) {
         facts.hasXTest = false;
         const auto withoutKeys = DesktopSession(facts, Route::automatic).finding(Capability::windows);
         EXPECT_FALSE(withoutKeys.works) << "it is never asked then";
-        EXPECT_EQ(withoutKeys.why, finding.why + " None is closed or tiled as long as keys and clicks cannot be sent.");
+        EXPECT_EQ(withoutKeys.why,
+                  finding.why + " No window is closed or tiled as long as keys and clicks cannot be sent.");
     }
 }
 

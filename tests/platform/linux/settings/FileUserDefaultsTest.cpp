@@ -5,8 +5,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <set>
 
@@ -214,6 +214,12 @@ TEST_F(FileUserDefaultsTest, SavesThroughSymbolicLinks) {
 }
 
 TEST_F(FileUserDefaultsTest, ProcessesThatWriteAtOnceLoseNothing) {
+    // In memory where there is such a folder: a disk may stand still for longer than a writer waits for the others.
+    if (::access("/dev/shm", W_OK) == 0)
+        ::setenv("TMPDIR", "/dev/shm", 1);
+    const TemporaryFolder inMemory;
+    ::unsetenv("TMPDIR");
+    path = inMemory / "defaults.json";
     constexpr int kWriters = 3, kWrites = 40;
     std::vector<pid_t> writers;
     for (int writer = 0; writer < kWriters; ++writer) {
@@ -225,12 +231,7 @@ TEST_F(FileUserDefaultsTest, ProcessesThatWriteAtOnceLoseNothing) {
             defaults.setInteger(std::to_string(writer) + "." + std::to_string(i), i);
             defaults.setInteger("all", i);
         }
-        // While the disk stands still, the others give up waiting and store all that they hold with a later change.
-        for (int again = 0; again < 10 && !defaults.lastSaving(); ++again)
-            defaults.setInteger("all", kWrites);
-        const bool gaveUpOnly = std::ranges::all_of(
-            problems, [](const std::string& problem) { return problem.find("for too long") != std::string::npos; });
-        ::_exit(defaults.lastSaving() && gaveUpOnly ? 0 : 1);
+        ::_exit(problems.empty() ? 0 : 1);
     }
     auto reader = open();
     for (const pid_t writer : writers) {
